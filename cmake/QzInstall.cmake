@@ -1,0 +1,48 @@
+# What a user of the installed library finds: headers, CMake package, pkg-config file.
+include(CMakePackageConfigHelpers)
+
+set(QZ_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/rQzCommon210)
+set(QZ_INSTALLED_HEADERS ${CMAKE_INSTALL_INCLUDEDIR}/rQzCommon210)
+
+install(DIRECTORY common runtime DESTINATION ${QZ_INSTALLED_HEADERS} FILES_MATCHING PATTERN "*.h")
+install(FILES ${QZ_PLATFORM_HEADERS} DESTINATION ${QZ_INSTALLED_HEADERS}/platform)
+
+# Each form has an export file of its own: a user of the shared one needs none of the libraries underneath.
+install(TARGETS rQzCommon210_static EXPORT rQzCommon210-static)
+install(EXPORT rQzCommon210-static NAMESPACE rQzCommon210:: DESTINATION ${QZ_PACKAGE_DIR})
+if(QZ_BUILD_SHARED)
+    install(TARGETS rQzCommon210 EXPORT rQzCommon210-shared)
+    install(EXPORT rQzCommon210-shared NAMESPACE rQzCommon210:: DESTINATION ${QZ_PACKAGE_DIR})
+endif()
+
+configure_package_config_file(cmake/rQzCommon210Config.cmake.in rQzCommon210Config.cmake
+    INSTALL_DESTINATION ${QZ_PACKAGE_DIR} NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(rQzCommon210ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES
+    ${PROJECT_BINARY_DIR}/rQzCommon210Config.cmake ${PROJECT_BINARY_DIR}/rQzCommon210ConfigVersion.cmake
+    cmake/FindPCRE2.cmake DESTINATION ${QZ_PACKAGE_DIR})
+
+# Libraries that pkg-config knows by a name of their own, and those it is given as flags. The mingw libraries of
+# Debian have no pkg-config files.
+set(QZ_PC_REQUIRES libpcre2-16 zlib)
+set(QZ_PC_LIBS ${QZ_LIBRARIES})
+if(WIN32)
+    set(QZ_PC_REQUIRES)
+    list(TRANSFORM QZ_PC_LIBS REPLACE "^PCRE2::16BIT$" pcre2-16)
+    list(TRANSFORM QZ_PC_LIBS REPLACE "^ZLIB::ZLIB$" z)
+else()
+    list(APPEND QZ_PC_REQUIRES icu-i18n icu-uc)
+    list(APPEND QZ_PC_LIBS stdc++ m)
+endif()
+list(TRANSFORM QZ_PC_LIBS REPLACE "^Threads::Threads$" pthread)
+list(FILTER QZ_PC_LIBS EXCLUDE REGEX "::")
+list(TRANSFORM QZ_PC_LIBS PREPEND -l)
+list(JOIN QZ_PC_LIBS " " QZ_PC_LIBS)
+list(JOIN QZ_PC_REQUIRES " " QZ_PC_REQUIRES)
+
+# The prefix is found from where the file lies, so that the installed tree can be moved.
+cmake_path(SET QZ_PC_DIR /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+cmake_path(RELATIVE_PATH QZ_PC_DIR BASE_DIRECTORY /prefix OUTPUT_VARIABLE QZ_PC_UP)
+string(REGEX REPLACE "[^/]+" ".." QZ_PC_UP ${QZ_PC_UP})
+configure_file(cmake/rQzCommon210.pc.in rQzCommon210.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/rQzCommon210.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,0 +1,11 @@
+#include "common/Version.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(Version, IsTheOneThePackageIsBuiltAs) {
+    EXPECT_EQ(qz::Version(), QZ_PROJECT_VERSION);
+}
+
+} // namespace
