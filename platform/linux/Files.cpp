@@ -1,0 +1,246 @@
+#include "platform/Files.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/linux/NativeEnvironment.h"
+#include "platform/linux/NativeText.h"
+
+namespace qz::platform {
+
+namespace {
+
+constexpr size_t cLargestStep = size_t{1} << 30;
+
+bool Fail(TError& AError, int ACode) {
+    AError.Code = ACode;
+    return false;
+}
+
+bool Outcome(TError& AError, bool AOk) {
+    AError.Code = AOk ? 0 : errno;
+    return AOk;
+}
+
+class TFile {
+public:
+    TFile(const char* APath, int AFlags, mode_t AMode = 0) noexcept {
+        do {
+            FHandle = open(APath, AFlags | O_CLOEXEC, AMode);
+        } while (FHandle < 0 && errno == EINTR);
+    }
+    TFile(const TFile&) = delete;
+    TFile& operator=(const TFile&) = delete;
+    ~TFile() { Close(); }
+
+    bool IsOpen() const noexcept { return FHandle >= 0; }
+    int Handle() const noexcept { return FHandle; }
+
+    // False when what was written didn't arrive.
+    bool Close() noexcept {
+        const int Handle = std::exchange(FHandle, -1);
+        // An interrupted close has closed nevertheless.
+        return Handle < 0 || close(Handle) == 0 || errno == EINTR;
+    }
+
+private:
+    int FHandle = -1;
+};
+
+std::optional<struct stat> StatusOf(std::u16string_view APath) {
+    struct stat Status;
+    const std::optional<std::string> Path = detail::ToNativeArgument(APath);
+    if (!Path || stat(Path->c_str(), &Status) != 0)
+        return std::nullopt;
+    return Status;
+}
+
+// One read that no signal ends: the number of bytes, 0 at the end, less on failure.
+ssize_t ReadSome(int AFile, std::span<std::byte> ATarget) {
+    for (;;) {
+        const ssize_t Got = read(AFile, ATarget.data(), std::min(ATarget.size(), cLargestStep));
+        if (Got >= 0 || errno != EINTR)
+            return Got;
+    }
+}
+
+bool ReadAll(int AFile, size_t AExpected, std::vector<std::byte>& AOut) {
+    size_t Length = 0;
+    // One byte more than expected, so that the end shows without another growth.
+    AOut.resize(AExpected + 1);
+    for (;;) {
+        const ssize_t Got = ReadSome(AFile, std::span(AOut).subspan(Length));
+        if (Got < 0)
+            return false;
+        Length += static_cast<size_t>(Got);
+        if (Got == 0) {
+            AOut.resize(Length);
+            return true;
+        }
+        if (Length == AOut.size())
+            AOut.resize(std::max<size_t>(AOut.size() * 2, 4096));
+    }
+}
+
+bool WriteAll(int AFile, std::span<const std::byte> ABytes) {
+    while (!ABytes.empty()) {
+        const ssize_t Done = write(AFile, ABytes.data(), std::min(ABytes.size(), cLargestStep));
+        if (Done >= 0)
+            ABytes = ABytes.subspan(static_cast<size_t>(Done));
+        else if (errno != EINTR)
+            return false;
+    }
+    return true;
+}
+
+bool WriteInPlace(const char* APath, std::span<const std::byte> ABytes, TError& AError) {
+    TFile File(APath, O_WRONLY | O_TRUNC | O_NOCTTY);
+    return Outcome(AError, File.IsOpen() && WriteAll(File.Handle(), ABytes) && File.Close());
+}
+
+// A name beside APath that no other thread or process uses.
+std::string NameBeside(const std::string& APath) {
+    static std::atomic<unsigned> Counter{0};
+    const size_t Slash = APath.rfind('/');
+    const std::string Directory = Slash == std::string::npos ? std::string() : APath.substr(0, Slash + 1);
+    return Directory + ".qz" + std::to_string(getpid()) + "-" + std::to_string(++Counter) + ".tmp";
+}
+
+// The owner first, as a change of owner takes rights away.
+bool TakeRights(int AFile, const struct stat& AOld) {
+    return fchown(AFile, AOld.st_uid, AOld.st_gid) == 0 && fchmod(AFile, AOld.st_mode & 07777) == 0;
+}
+
+bool WriteBeside(const std::string& APath, const struct stat* AOld, std::span<const std::byte> ABytes,
+                 TError& AError) {
+    std::string Beside;
+    std::optional<TFile> File;
+    do {
+        Beside = NameBeside(APath);
+        File.emplace(Beside.c_str(), O_WRONLY | O_CREAT | O_EXCL, AOld != nullptr ? 0600 : 0666);
+    } while (!File->IsOpen() && errno == EEXIST);
+    if (!File->IsOpen())
+        return Outcome(AError, false);
+    const bool Ok = (AOld == nullptr || TakeRights(File->Handle(), *AOld)) &&
+        WriteAll(File->Handle(), ABytes) && File->Close() && rename(Beside.c_str(), APath.c_str()) == 0;
+    Outcome(AError, Ok);
+    if (!Ok)
+        unlink(Beside.c_str());
+    return Ok;
+}
+
+bool IsDots(const char* AName) {
+    const std::string_view Name(AName);
+    return Name == "." || Name == "..";
+}
+
+TDirEntry EntryOf(int ADirectory, const dirent& AEntry) {
+    struct stat Status;
+    const bool Known = fstatat(ADirectory, AEntry.d_name, &Status, 0) == 0;
+    const bool IsDirectory = Known ? S_ISDIR(Status.st_mode) : AEntry.d_type == DT_DIR;
+    const uint64_t Size = Known && !IsDirectory ? static_cast<uint64_t>(Status.st_size) : 0;
+    return {detail::FromNative(AEntry.d_name), IsDirectory, Size};
+}
+
+} // namespace
+
+bool FileExists(std::u16string_view APath) {
+    const std::optional<struct stat> Status = StatusOf(APath);
+    return Status && !S_ISDIR(Status->st_mode);
+}
+
+bool DirectoryExists(std::u16string_view APath) {
+    const std::optional<struct stat> Status = StatusOf(APath);
+    return Status && S_ISDIR(Status->st_mode);
+}
+
+bool ListDirectory(std::u16string_view APath, std::vector<TDirEntry>& AOut, TError& AError) {
+    AOut.clear();
+    const std::optional<std::string> Path = detail::ToNativeArgument(APath);
+    if (!Path)
+        return Fail(AError, EINVAL);
+    const std::unique_ptr<DIR, int (*)(DIR*)> Directory(opendir(Path->c_str()), closedir);
+    if (!Directory)
+        return Outcome(AError, false);
+    for (;;) {
+        errno = 0;
+        const dirent* Entry = readdir(Directory.get());
+        if (Entry == nullptr)
+            break;
+        if (!IsDots(Entry->d_name))
+            AOut.push_back(EntryOf(dirfd(Directory.get()), *Entry));
+    }
+    if (errno == 0)
+        return Outcome(AError, true);
+    Outcome(AError, false);
+    AOut.clear();
+    return false;
+}
+
+std::u16string TempDirectory() {
+    std::string Path = detail::NativeEnvironment("TMPDIR").value_or("");
+    while (Path.size() > 1 && Path.back() == '/')
+        Path.pop_back();
+    return Path.empty() ? u"/tmp" : detail::FromNative(Path);
+}
+
+bool MakeDirectory(std::u16string_view APath, TError& AError) {
+    const std::optional<std::string> Path = detail::ToNativeArgument(APath);
+    return Path ? Outcome(AError, mkdir(Path->c_str(), 0777) == 0) : Fail(AError, EINVAL);
+}
+
+bool RemoveFile(std::u16string_view APath, TError& AError) {
+    const std::optional<std::string> Path = detail::ToNativeArgument(APath);
+    return Path ? Outcome(AError, unlink(Path->c_str()) == 0) : Fail(AError, EINVAL);
+}
+
+bool RemoveEmptyDirectory(std::u16string_view APath, TError& AError) {
+    const std::optional<std::string> Path = detail::ToNativeArgument(APath);
+    return Path ? Outcome(AError, rmdir(Path->c_str()) == 0) : Fail(AError, EINVAL);
+}
+
+bool ReadWholeFile(std::u16string_view APath, std::vector<std::byte>& AOut, TError& AError) {
+    AOut.clear();
+    const std::optional<std::string> Path = detail::ToNativeArgument(APath);
+    if (!Path)
+        return Fail(AError, EINVAL);
+    const TFile File(Path->c_str(), O_RDONLY | O_NOCTTY);
+    struct stat Status;
+    const bool Ok = File.IsOpen() && fstat(File.Handle(), &Status) == 0 &&
+        ReadAll(File.Handle(), static_cast<size_t>(std::max<off_t>(Status.st_size, 0)), AOut);
+    Outcome(AError, Ok);
+    if (!Ok)
+        AOut.clear();
+    return Ok;
+}
+
+bool WriteWholeFile(std::u16string_view APath, std::span<const std::byte> ABytes, TError& AError) {
+    const std::optional<std::string> Path = detail::ToNativeArgument(APath);
+    if (!Path)
+        return Fail(AError, EINVAL);
+    struct stat Old;
+    const bool Exists = lstat(Path->c_str(), &Old) == 0;
+    if (Exists && S_ISDIR(Old.st_mode))
+        return Fail(AError, EISDIR);
+    if (Exists && !S_ISREG(Old.st_mode))
+        return WriteInPlace(Path->c_str(), ABytes, AError);
+    // A new file in its place would get around the write protection of the old one.
+    if (Exists && faccessat(AT_FDCWD, Path->c_str(), W_OK, AT_EACCESS) != 0)
+        return Outcome(AError, false);
+    if (WriteBeside(*Path, Exists ? &Old : nullptr, ABytes, AError))
+        return true;
+    const bool Locked = AError.Code == EACCES || AError.Code == EPERM || AError.Code == EROFS;
+    return Exists && Locked && WriteInPlace(Path->c_str(), ABytes, AError);
+}
+
+} // namespace qz::platform

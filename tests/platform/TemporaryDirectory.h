@@ -1,0 +1,43 @@
+// A directory of a test's own, empty at first and gone with all that is directly in it at the end.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "platform/Files.h"
+#include "platform/Threads.h"
+
+namespace qz::platform {
+
+class TTemporaryDirectory {
+public:
+    TTemporaryDirectory() {
+        const std::string Name = "/qz-test-" + std::to_string(CurrentThreadId()) + "-" +
+            std::to_string(TickCount64()) + "-" + std::to_string(reinterpret_cast<uintptr_t>(this));
+        FPath = TempDirectory() + std::u16string(Name.begin(), Name.end());
+        TError Error;
+        EXPECT_TRUE(MakeDirectory(FPath, Error)) << Error.Code;
+    }
+    TTemporaryDirectory(const TTemporaryDirectory&) = delete;
+    TTemporaryDirectory& operator=(const TTemporaryDirectory&) = delete;
+    ~TTemporaryDirectory() {
+        std::vector<TDirEntry> Entries;
+        TError Error;
+        ListDirectory(FPath, Entries, Error);
+        for (const TDirEntry& Entry : Entries)
+            RemoveFile(*this / Entry.Name, Error);
+        EXPECT_TRUE(RemoveEmptyDirectory(FPath, Error)) << Error.Code;
+    }
+
+    const std::u16string& Path() const { return FPath; }
+
+    std::u16string operator/(std::u16string_view AName) const { return (FPath + u'/').append(AName); }
+
+private:
+    std::u16string FPath;
+};
+
+} // namespace qz::platform

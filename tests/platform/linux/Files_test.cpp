@@ -1,0 +1,165 @@
+#include "platform/Files.h"
+
+#include <cerrno>
+#include <csignal>
+#include <string>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include "../TemporaryDirectory.h"
+#include "platform/linux/NativeText.h"
+
+namespace qz::platform {
+namespace {
+
+const std::vector<std::byte> cOld(10, std::byte{'o'});
+const std::vector<std::byte> cNew(2000, std::byte{'n'});
+
+std::vector<std::byte> ContentOf(std::u16string_view APath) {
+    std::vector<std::byte> Result;
+    TError Error;
+    EXPECT_TRUE(ReadWholeFile(APath, Result, Error)) << Error.Code;
+    return Result;
+}
+
+TEST(NativeText, ConvertsBothWays) {
+    struct TCase {
+        std::string Native;
+        std::u16string Text;
+    };
+    const TCase Cases[] = {
+        {"", u""},
+        {"/tmp/\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80", u"/tmp/ä€\xD83D\xDE00"},
+        {"a\xFF"
+         "b",
+         u"a\xDCFF"
+         "b"},
+        {"\xC3", u"\xDCC3"},                               // cut off
+        {"\xC0\xAF", u"\xDCC0\xDCAF"},                     // overlong
+        {"\xE0\x80\xAF", u"\xDCE0\xDC80\xDCAF"},           // overlong
+        {"\xED\xA0\x80", u"\xDCED\xDCA0\xDC80"},           // a surrogate
+        {"\xF4\x90\x80\x80", u"\xDCF4\xDC90\xDC80\xDC80"}, // beyond the last character
+        {"\xF0\x9F\x98"
+         "x",
+         u"\xDCF0\xDC9F\xDC98x"},
+        {"\xF4\x8F\xBF\xBF\xED\x9F\xBF\xEE\x80\x80", u"\xDBFF\xDFFF\xD7FF\xE000"},
+    };
+    for (const TCase& Case : Cases) {
+        EXPECT_EQ(detail::FromNative(Case.Native), Case.Text);
+        EXPECT_EQ(detail::ToNative(Case.Text), Case.Native);
+    }
+    EXPECT_EQ(detail::ToNative(u"\xD800x\xDC00"), "\xED\xA0\x80x\xED\xB0\x80");
+}
+
+TEST(FilesLinux, NamesThatAreNotUtf8Survive) {
+    const TTemporaryDirectory Directory;
+    const std::string Name = detail::ToNative(Directory / u"x") + "\xE4\xFF.txt";
+    const int File = open(Name.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
+    ASSERT_GE(File, 0);
+    ASSERT_EQ(write(File, "abc", 3), 3);
+    close(File);
+    std::vector<TDirEntry> Entries;
+    TError Error;
+    ASSERT_TRUE(ListDirectory(Directory.Path(), Entries, Error));
+    ASSERT_EQ(Entries.size(), 1u);
+    EXPECT_EQ(Entries[0].Name, u"x\xDCE4\xDCFF.txt");
+    EXPECT_EQ(ContentOf(Directory / Entries[0].Name).size(), 3u);
+}
+
+TEST(FilesLinux, ReplacingKeepsRightsAndFollowsLinks) {
+    const TTemporaryDirectory Directory;
+    const std::u16string Path = Directory / u"file";
+    const std::u16string Link = Directory / u"link";
+    const std::string Native = detail::ToNative(Path);
+    TError Error;
+    ASSERT_TRUE(WriteWholeFile(Path, cOld, Error));
+    ASSERT_EQ(chmod(Native.c_str(), 0751), 0);
+    ASSERT_EQ(symlink("file", detail::ToNative(Link).c_str()), 0);
+
+    ASSERT_TRUE(WriteWholeFile(Path, cNew, Error)) << Error.Code;
+    struct stat Status;
+    ASSERT_EQ(stat(Native.c_str(), &Status), 0);
+    EXPECT_EQ(Status.st_mode & 07777, 0751u);
+    const ino_t Kept = Status.st_ino;
+
+    ASSERT_TRUE(WriteWholeFile(Link, cOld, Error)) << Error.Code;
+    ASSERT_EQ(stat(Native.c_str(), &Status), 0);
+    EXPECT_EQ(Status.st_ino, Kept);
+    EXPECT_EQ(ContentOf(Path), cOld);
+    ASSERT_EQ(lstat(detail::ToNative(Link).c_str(), &Status), 0);
+    EXPECT_TRUE(S_ISLNK(Status.st_mode));
+}
+
+TEST(FilesLinux, ReadsAndWritesWhatHasNoSize) {
+    TError Error;
+    EXPECT_GT(ContentOf(u"/proc/self/status").size(), 100u);
+    EXPECT_TRUE(WriteWholeFile(u"/dev/null", cNew, Error));
+    EXPECT_TRUE(FileExists(u"/dev/null"));
+    EXPECT_FALSE(WriteWholeFile(u"/dev/full", cNew, Error));
+    EXPECT_EQ(Error.Code, ENOSPC);
+}
+
+// Runs ATest in a process of its own, whose limits and rights it may spoil; 0 is success.
+template <class TTest> int InChild(const TTest& ATest) {
+    const pid_t Child = fork();
+    if (Child == 0)
+        _exit(ATest());
+    int Status = -1;
+    EXPECT_EQ(waitpid(Child, &Status, 0), Child);
+    return WIFEXITED(Status) ? WEXITSTATUS(Status) : -1;
+}
+
+TEST(FilesLinux, FailedWriteLeavesTheOldContent) {
+    const TTemporaryDirectory Directory;
+    const std::u16string Path = Directory / u"file";
+    TError Error;
+    ASSERT_TRUE(WriteWholeFile(Path, cOld, Error));
+    const int Result = InChild([&] {
+        const rlimit Limit = {1000, 1000};
+        std::signal(SIGXFSZ, SIG_IGN);
+        if (setrlimit(RLIMIT_FSIZE, &Limit) != 0)
+            return 1;
+        TError ChildError;
+        return !WriteWholeFile(Path, cNew, ChildError) && ChildError.Code == EFBIG ? 0 : 2;
+    });
+    EXPECT_EQ(Result, 0);
+    EXPECT_EQ(ContentOf(Path), cOld);
+    std::vector<TDirEntry> Entries;
+    EXPECT_TRUE(ListDirectory(Directory.Path(), Entries, Error) && Entries.size() == 1);
+}
+
+TEST(FilesLinux, RightsOfOthersAreRespected) {
+    constexpr uid_t cNobody = 65534;
+    const TTemporaryDirectory Directory;
+    const std::u16string Locked = Directory / u"locked";
+    const std::u16string Open = Directory / u"open";
+    TError Error;
+    ASSERT_TRUE(WriteWholeFile(Locked, cOld, Error));
+    ASSERT_TRUE(WriteWholeFile(Open, cOld, Error));
+    ASSERT_EQ(chmod(detail::ToNative(Locked).c_str(), 0444), 0);
+    ASSERT_EQ(chmod(detail::ToNative(Open).c_str(), 0666), 0);
+    // Root may do anything, so that the child becomes somebody else; a user's own directory is locked instead.
+    const bool AsRoot = geteuid() == 0;
+    ASSERT_EQ(chmod(detail::ToNative(Directory.Path()).c_str(), AsRoot ? 0755 : 0500), 0);
+    const int Result = InChild([&] {
+        if (AsRoot && setresuid(cNobody, cNobody, cNobody) != 0)
+            return 1;
+        TError ChildError;
+        if (WriteWholeFile(Locked, cNew, ChildError) || ChildError.Code != EACCES)
+            return 2;
+        return WriteWholeFile(Open, cNew, ChildError) ? 0 : 3;
+    });
+    ASSERT_EQ(chmod(detail::ToNative(Directory.Path()).c_str(), 0700), 0);
+    EXPECT_EQ(Result, 0);
+    EXPECT_EQ(ContentOf(Locked), cOld);
+    EXPECT_EQ(ContentOf(Open), cNew);
+}
+
+} // namespace
+} // namespace qz::platform

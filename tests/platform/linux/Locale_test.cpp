@@ -1,0 +1,90 @@
+#include "platform/Locale.h"
+
+#include <map>
+#include <optional>
+
+#include <gtest/gtest.h>
+
+#include "platform/Environment.h"
+
+namespace qz::platform {
+namespace {
+
+// Sets the variables of the user's locale, and puts back on destruction what was there.
+class TLocaleVariables {
+public:
+    explicit TLocaleVariables(const std::map<std::u16string, std::u16string>& AValues) {
+        for (const char16_t* Name : {u"LC_ALL", u"LC_TIME", u"LC_NUMERIC", u"LC_MONETARY", u"LANG"}) {
+            FOld[Name] = GetEnvironment(Name);
+            const auto Value = AValues.find(Name);
+            SetEnvironment(Name,
+                           Value == AValues.end() ? std::nullopt
+                                                  : std::optional(std::u16string_view(Value->second)));
+        }
+    }
+    ~TLocaleVariables() {
+        for (const auto& [Name, Value] : FOld)
+            SetEnvironment(Name, Value ? std::optional<std::u16string_view>(*Value) : std::nullopt);
+    }
+    TLocaleVariables(const TLocaleVariables&) = delete;
+    TLocaleVariables& operator=(const TLocaleVariables&) = delete;
+
+private:
+    std::map<std::u16string, std::optional<std::u16string>> FOld;
+};
+
+struct TCase {
+    std::u16string Name;
+    std::u16string Separators; // decimal, thousand, list, date, time
+    std::u16string ShortDate;
+    std::u16string ShortTime;
+    std::u16string March;
+    std::u16string Currency;
+    int Positive;
+    int Negative;
+    int Decimals;
+};
+
+const TCase cCases[] = {
+    {u"C", u".,,/:", u"MM/dd/yyyy", u"hh:mm", u"March", u"", 0, 1, 2},
+    {u"C.UTF-8", u".,,/:", u"MM/dd/yyyy", u"hh:mm", u"March", u"", 0, 1, 2},
+    {u"xx_XX.UTF-8", u".,,/:", u"MM/dd/yyyy", u"hh:mm", u"March", u"", 0, 1, 2},
+    {u"en_US.UTF-8", u".,,/:", u"M/d/yyyy", u"h:mm tt", u"March", u"$", 0, 1, 2},
+    {u"de_DE.UTF-8@euro", u",.;.:", u"dd.MM.yyyy", u"HH:mm", u"März", u"€", 3, 8, 2},
+    {u"de_CH", u".’,.:", u"dd.MM.yyyy", u"HH:mm", u"März", u"CHF", 2, 2, 2},
+    {u"fr_FR.UTF-8", u",\u202F;/:", u"dd/MM/yyyy", u"HH:mm", u"mars", u"€", 3, 8, 2},
+    {u"ja_JP.eucJP", u".,,/:", u"yyyy/MM/dd", u"H:mm", u"3月", u"￥", 0, 1, 0},
+    {u"th_TH.UTF-8", u".,,/:", u"d/M/yyyy", u"HH:mm", u"มีนาคม", u"฿", 0, 1, 2},
+};
+
+TEST(LocaleLinux, FollowsTheEnvironment) {
+    for (const TCase& Case : cCases) {
+        const TLocaleVariables Variables({{u"LC_ALL", Case.Name}, {u"LANG", u"pl_PL.UTF-8"}});
+        const TLocale Locale = UserLocale();
+        const std::u16string Separators = {Locale.DecimalSeparator, Locale.ThousandSeparator,
+                                           Locale.ListSeparator, Locale.DateSeparator, Locale.TimeSeparator};
+        SCOPED_TRACE(std::string(Case.Name.begin(), Case.Name.end()));
+        EXPECT_EQ(Separators, Case.Separators);
+        EXPECT_EQ(Locale.ShortDateFormat, Case.ShortDate);
+        EXPECT_EQ(Locale.ShortTimeFormat, Case.ShortTime);
+        EXPECT_EQ(Locale.LongMonthNames[2], Case.March);
+        EXPECT_EQ(Locale.CurrencyString, Case.Currency);
+        EXPECT_EQ(Locale.CurrencyFormat, Case.Positive);
+        EXPECT_EQ(Locale.NegativeCurrencyFormat, Case.Negative);
+        EXPECT_EQ(Locale.CurrencyDecimals, Case.Decimals);
+    }
+}
+
+TEST(LocaleLinux, EachCategoryHasItsVariable) {
+    const TLocaleVariables Variables(
+        {{u"LC_ALL", u""}, {u"LC_TIME", u"de_DE.UTF-8"}, {u"LC_NUMERIC", u"C"}, {u"LANG", u"en_GB.UTF-8"}});
+    const TLocale Locale = UserLocale();
+    EXPECT_EQ(Locale.LongDayNames[0], u"Sonntag");
+    EXPECT_EQ(Locale.LongDateFormat, u"dddd, d. MMMM yyyy");
+    EXPECT_EQ(Locale.LongTimeFormat, u"HH:mm:ss");
+    EXPECT_EQ(Locale.DecimalSeparator, u'.');
+    EXPECT_EQ(Locale.CurrencyString, u"£");
+}
+
+} // namespace
+} // namespace qz::platform
