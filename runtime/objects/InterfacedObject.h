@@ -1,0 +1,73 @@
+// TInterfacedObject: an object whose life is that of the interface references to it.
+//
+//     class TGreeter : public TInterfacedObject, public IGreeter {
+//         QZ_CLASS(TGreeter, TInterfacedObject)
+//         QZ_INTERFACE_COUNTING(TInterfacedObject)
+//     public:
+//         void Greet(const UnicodeString& AName) override;
+//     };
+//     const TClassRec TGreeter::ClassRec = DescribeClass<TGreeter>(
+//         u"TGreeter", {.Unit = u"Demo", .Interfaces = Interfaces<TGreeter, IGreeter>()});
+//
+//     Ref<IGreeter> Greeter = TGreeter::Create();     // gone with its last reference
+#pragma once
+
+#include <atomic>
+
+#include "runtime/objects/Interface.h"
+
+// Hands the three operations of every interface of a class to the counting of its base.
+#define QZ_INTERFACE_COUNTING(ABase)                                             \
+public:                                                                          \
+    qz::HRESULT QueryInterface(const qz::TGUID& AIid, void** AObject) override { \
+        return ABase::QueryInterface(AIid, AObject);                             \
+    }                                                                            \
+    std::uint32_t _AddRef() override {                                           \
+        return ABase::_AddRef();                                                 \
+    }                                                                            \
+    std::uint32_t _Release() override {                                          \
+        return ABase::_Release();                                                \
+    }                                                                            \
+                                                                                 \
+private:
+
+namespace qz {
+
+// A 32-bit reference count that any thread may change. Both changes give the new count.
+class TRefCount {
+public:
+    explicit TRefCount(std::int32_t ACount = 0) noexcept : FCount(ACount) {}
+    std::int32_t Value() const noexcept { return FCount.load(std::memory_order_acquire); }
+    std::int32_t Increment() noexcept { return FCount.fetch_add(1, std::memory_order_relaxed) + 1; }
+    // Whoever takes the count to 0 sees all that the other holders did.
+    std::int32_t Decrement() noexcept { return FCount.fetch_sub(1, std::memory_order_acq_rel) - 1; }
+
+private:
+    std::atomic<std::int32_t> FCount;
+};
+
+class QZ_API TInterfacedObject : public TCreateOnly<TObject>, public IInterface {
+    QZ_CLASS(TInterfacedObject, TObject)
+
+public:
+    HRESULT QueryInterface(const TGUID& AIid, void** AObject) override;
+    std::uint32_t _AddRef() override;
+    // Ends the object when the count reaches 0.
+    std::uint32_t _Release() override;
+
+    int RefCount() const noexcept { return FRefCount.Value(); }
+
+    // Takes back the reference that guards the object during its construction.
+    void AfterConstruction() override;
+    // Raises EInvalidPointer when references remain; the object is then not ended.
+    void BeforeDestruction() override;
+
+protected:
+    TInterfacedObject() noexcept = default;
+    ~TInterfacedObject() override = default;
+
+private:
+    TRefCount FRefCount{1};
+};
+
+} // namespace qz

@@ -1,0 +1,57 @@
+#include "runtime/objects/Object.h"
+
+#include "runtime/objects/Interface.h"
+#include "runtime/reflection/Describe.h"
+
+namespace qz {
+
+constinit const TClassRec TObject::ClassRec = DescribeClass<TObject>(u"TObject", {.Unit = u"System"});
+
+bool TClassRec::InheritsFrom(TClass AAncestor) const noexcept {
+    for (TClass Class = this; Class != nullptr; Class = Class->Parent)
+        if (Class == AAncestor)
+            return true;
+    return false;
+}
+
+const void* TClassRec::FindMaker(const void* AFamily) const noexcept {
+    for (const TMakerEntry& Entry : Makers)
+        if (Entry.Family == AFamily)
+            return Entry.Make;
+    return nullptr;
+}
+
+TObject::~TObject() = default;
+
+UnicodeString TObject::ToString() const {
+    return ClassName();
+}
+
+void* TObject::FindInterface(const TGUID& AIid) noexcept {
+    const bool IsRoot = AIid == IInterface::IID;
+    for (TClass Class = ClassType(); Class != nullptr; Class = Class->Parent)
+        for (const TInterfaceEntry& Entry : Class->Interfaces)
+            if (IsRoot || *Entry.Iid == AIid)
+                return Entry.Cast(this);
+    return nullptr;
+}
+
+bool TObject::GetInterface(const TGUID& AIid, void** AObject) {
+    *AObject = FindInterface(AIid);
+    if (*AObject == nullptr)
+        return false;
+    static_cast<IInterface*>(*AObject)->_AddRef();
+    return true;
+}
+
+void TObject::Free() {
+    try {
+        BeforeDestruction();
+    } catch (...) {
+        DestructionRefused();
+        throw;
+    }
+    delete this;
+}
+
+} // namespace qz

@@ -1,0 +1,37 @@
+// The descriptions of the types that the runtime knows by itself: integers, characters, floats, strings, arrays of
+// them, pointers and GUIDs.
+//
+//     TypeInfo<int>()->Name;              // "Integer"
+//     TypeInfo<UnicodeString>()->Kind;    // tkUString
+//
+// An integer is described by its width and sign: std::int32_t is Integer, std::uint32_t Cardinal.
+#pragma once
+
+#include "runtime/lists/DynArray.h"
+#include "runtime/reflection/TypeInfo.h"
+#include "runtime/text/AnsiString.h"
+#include "runtime/text/Extended.h"
+
+QZ_TYPE_INFO(std::int8_t);
+QZ_TYPE_INFO(std::uint8_t);
+QZ_TYPE_INFO(std::int16_t);
+QZ_TYPE_INFO(std::uint16_t);
+QZ_TYPE_INFO(std::int32_t);
+QZ_TYPE_INFO(std::uint32_t);
+QZ_TYPE_INFO(std::int64_t);
+QZ_TYPE_INFO(std::uint64_t);
+QZ_TYPE_INFO(float);
+QZ_TYPE_INFO(double);
+QZ_TYPE_INFO(qz::Extended);
+QZ_TYPE_INFO(bool);
+QZ_TYPE_INFO(char);
+QZ_TYPE_INFO(char16_t);
+QZ_TYPE_INFO(qz::UnicodeString);
+QZ_TYPE_INFO(qz::WideString);
+QZ_TYPE_INFO(qz::AnsiString);
+QZ_TYPE_INFO(qz::UTF8String);
+QZ_TYPE_INFO(qz::RawByteString);
+QZ_TYPE_INFO(qz::TBytes);
+QZ_TYPE_INFO(qz::TGUID);
+QZ_TYPE_INFO(void*);
+QZ_TYPE_INFO(qz::TClass);

@@ -1,0 +1,193 @@
+#include "runtime/threads/Thread.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/Threads.h"
+#include "runtime/errors/Exceptions.h"
+#include "runtime/reflection/Describe.h"
+#include "runtime/threads/CriticalSection.h"
+#include "runtime/threads/MultiReadLock.h"
+
+namespace qz {
+namespace {
+
+class TWorker : public TThread {
+    QZ_CLASS(TWorker, TThread)
+
+public:
+    static inline std::atomic<int> FAlive{0};
+
+protected:
+    TWorker(std::function<void(TWorker*)> AWork, bool AFreeOnTerminate = false, bool ASuspended = false)
+        : TThread(ASuspended),
+          FWork(std::move(AWork)) {
+        SetFreeOnTerminate(AFreeOnTerminate);
+        ++FAlive;
+    }
+    ~TWorker() override { --FAlive; }
+    void Execute() override { FWork(this); }
+
+private:
+    std::function<void(TWorker*)> FWork;
+};
+constinit const TClassRec TWorker::ClassRec = DescribeClass<TWorker>(u"TWorker", {.Unit = u"Test"});
+
+using TWork = std::function<void(TWorker*)>;
+
+TEST(Thread, FreeAsksItToEndAndWaits) {
+    TSimpleEvent Started;
+    std::atomic<bool> Ended{false};
+    TWorker* Worker = TWorker::Create(TWork([&](TWorker* ASelf) {
+        Started.SetEvent();
+        while (!ASelf->Terminated())
+            platform::SleepMs(1);
+        Ended = true;
+    }));
+    Started.WaitFor();
+    Worker->Free();
+    EXPECT_TRUE(Ended);
+    EXPECT_EQ(TWorker::FAlive, 0);
+}
+
+TEST(Thread, ManyThreadsFreeThemselves) {
+    std::atomic<int> Ran{0};
+    for (int I = 0; I < 64; ++I)
+        (void)TWorker::Create(TWork([&](TWorker*) { ++Ran; }), true);
+    while (TWorker::FAlive != 0)
+        platform::SleepMs(1);
+    EXPECT_EQ(Ran, 64);
+}
+
+TEST(Thread, SuspendedOneStartsOnceOrIsFreedUnstarted) {
+    int Ran = 0;
+    TWorker* Worker = TWorker::Create(TWork([&](TWorker*) { ++Ran; }), false, true);
+    Worker->WaitFor();
+    EXPECT_FALSE(Worker->Finished());
+    Worker->Start();
+    EXPECT_THROW(Worker->Start(), EThread);
+    Worker->WaitFor();
+    EXPECT_EQ(Ran, 1);
+    Worker->Free();
+    TWorker::Create(TWork([&](TWorker*) { ++Ran; }), false, true)->Free();
+    EXPECT_EQ(Ran, 1);
+    EXPECT_EQ(TWorker::FAlive, 0);
+}
+
+TEST(Thread, KeepsTheExceptionThatEndedIt) {
+    TWorker* Worker = TWorker::Create(TWork([](TWorker*) { throw EConvertError(u"lost"); }));
+    Worker->WaitFor();
+    EXPECT_TRUE(Worker->Finished());
+    ASSERT_TRUE(Worker->FatalException());
+    EXPECT_THROW(std::rethrow_exception(Worker->FatalException()), EConvertError);
+    Worker->Free();
+}
+
+TEST(Thread, AnonymousOneRunsItsProcedure) {
+    TSimpleEvent Done;
+    TThread::CreateAnonymousThread([&] { Done.SetEvent(); })->Start();
+    EXPECT_EQ(Done.WaitFor(60000), wrSignaled);
+}
+
+TEST(Thread, WaitingMainThreadServesSynchronize) {
+    EXPECT_TRUE(TThread::IsMainThread());
+    EXPECT_EQ(TThread::MainThreadID(), TThread::CurrentThreadID());
+    int Ran = 0;
+    TWorker* Worker = TWorker::Create(TWork([&](TWorker* ASelf) {
+        EXPECT_FALSE(TThread::IsMainThread());
+        TThread::Synchronize(ASelf, [&] {
+            EXPECT_TRUE(TThread::IsMainThread());
+            ++Ran;
+        });
+        EXPECT_THROW(TThread::Synchronize(ASelf, [] { throw EAbort(u"x"); }), EAbort);
+        EXPECT_THROW(TThread::CheckSynchronize(), EThread);
+        EXPECT_THROW(ASelf->WaitFor(), EThread);
+    }));
+    Worker->WaitFor();
+    EXPECT_EQ(Ran, 1);
+    Worker->Free();
+}
+
+TEST(Thread, QueuedWorkOfAFreedThreadIsDropped) {
+    int Ran = 0;
+    TWorker* Worker = TWorker::Create(TWork([&](TWorker* ASelf) {
+        TThread::Queue(ASelf, [&] { Ran += 1; });
+        TThread::Queue(nullptr, [&] { Ran += 10; });
+    }));
+    while (!Worker->Finished())
+        platform::SleepMs(1);
+    Worker->Terminate();
+    TThread::RemoveQueuedEvents(Worker);
+    Worker->Free();
+    TThread::CheckSynchronize();
+    EXPECT_EQ(Ran, 10);
+}
+
+TEST(Thread, QueueWakesTheMainLoop) {
+    std::atomic<int> Woken{0};
+    TThread::SetWakeMainThread([&] { ++Woken; });
+    TThread::Queue(nullptr, [] {});
+    TThread::SetWakeMainThread({});
+    EXPECT_EQ(Woken, 1);
+    EXPECT_TRUE(TThread::CheckSynchronize(60000));
+    EXPECT_FALSE(TThread::CheckSynchronize(1));
+}
+
+TEST(Thread, AutoResetEventLetsOneWaiterThrough) {
+    TEvent Event(false, true);
+    EXPECT_EQ(Event.WaitFor(0), wrSignaled);
+    EXPECT_EQ(Event.WaitFor(0), wrTimeout);
+}
+
+TEST(Thread, EventMayBeFreedByTheThreadThatItWoke) {
+    for (int I = 0; I < 300; ++I) {
+        auto Event = std::make_unique<TSimpleEvent>();
+        std::thread Setter([Raw = Event.get()] { Raw->SetEvent(); });
+        Event->WaitFor();
+        Event.reset();
+        Setter.join();
+    }
+}
+
+// Whether ATry succeeds on another thread.
+template <class TTry> bool Elsewhere(TTry ATry) {
+    bool Result = false;
+    std::thread([&] { Result = ATry(); }).join();
+    return Result;
+}
+
+TEST(ThreadMultiReadLock, WriterMayGoDeeperAndReadAgain) {
+    TMultiReadExclusiveWriteSynchronizer Lock;
+    const auto CanRead = [&] { return Lock.TryBeginRead() && (Lock.EndRead(), true); };
+    EXPECT_TRUE(Lock.BeginWrite());
+    EXPECT_TRUE(Lock.BeginWrite());
+    Lock.BeginRead();
+    Lock.EndRead();
+    Lock.EndWrite();
+    EXPECT_FALSE(Elsewhere(CanRead));
+    Lock.EndWrite();
+    EXPECT_TRUE(Elsewhere(CanRead));
+}
+
+TEST(ThreadMultiReadLock, TwoReadersThatTurnToWritingTakeTurnsAndOneLearnsOfIt) {
+    TMultiReadExclusiveWriteSynchronizer Lock;
+    std::atomic<int> Reading{0};
+    std::atomic<int> Unchanged{0};
+    const auto Upgrade = [&] {
+        Lock.BeginRead();
+        ++Reading;
+        while (Reading < 2)
+            platform::YieldThread();
+        Unchanged += Lock.BeginWrite();
+        Lock.EndWrite();
+        Lock.EndRead();
+    };
+    std::thread First(Upgrade);
+    std::thread Second(Upgrade);
+    First.join();
+    Second.join();
+    EXPECT_EQ(Unchanged, 1);
+    EXPECT_EQ(Lock.RevisionLevel(), 2u);
+}
+
+} // namespace
+} // namespace qz
