@@ -1,0 +1,91 @@
+// TQzObjectEx: a TQzObject that tells others of its end, and is told of theirs.
+//
+//     class TView : public TQzObjectEx {
+//         ...
+//         void OnObjectDestroyed(TObject* AObject) override { if (AObject == FModel) FModel = nullptr; }
+//     };
+//     View->FreeNotification(Model);     // a link in both directions, until one of the two is freed
+//
+// Links on one object are made and removed by one thread at a time.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "common/uQzClasses/QzObject.h"
+
+namespace qz {
+
+class TFiler;
+
+class IQzObjectFreeNotificationEvent : public IQzObject {
+public:
+    static constexpr TGUID IID = Guid("{BBECB66F-1397-4FFA-AFE5-C7BD63A1EAC6}");
+
+    // AObject is about to end: its class is intact, and nobody may keep it.
+    virtual void OnObjectDestroyed(TObject* AObject) = 0;
+
+protected:
+    ~IQzObjectFreeNotificationEvent() = default;
+};
+
+class IQzObjectEx : public IQzObject {
+public:
+    static constexpr TGUID IID = Guid("{66D757F3-6274-47EC-95A9-39B144271EA9}");
+
+    // Forgets AObject on this side.
+    virtual void RemoveNotification(TObject* AObject) = 0;
+    // Links this object and the one behind AObject.
+    virtual void FreeNotificationEx(IQzObjectFreeNotificationEvent* AObject) = 0;
+    // Removes the link on both sides.
+    virtual void RemoveFreeNotificationEx(IQzObject* AObject) = 0;
+
+protected:
+    ~IQzObjectEx() = default;
+};
+
+class QZ_API TQzObjectEx : public TQzObject, public IQzObjectFreeNotificationEvent, public IQzObjectEx {
+    QZ_CLASS(TQzObjectEx, TQzObject)
+    QZ_INTERFACE_COUNTING(TQzObject)
+
+public:
+    TObject* Implementor() override { return this; }
+
+    // Does nothing here.
+    void OnObjectDestroyed(TObject* AObject) override;
+
+    // Links the two: each hears of the end of the other. Linking twice changes nothing.
+    void FreeNotification(TQzObjectEx* AObject);
+    void FreeNotificationEx(IQzObjectFreeNotificationEvent* AObject) override;
+    void RemoveFreeNotification(TQzObjectEx* AObject);
+    void RemoveFreeNotificationEx(IQzObject* AObject) override;
+    void RemoveNotification(TObject* AObject) override;
+
+    // Copies from ASource by its AssignTo. A null source, and a class that overrides neither, raise EConvertError
+    // that names both classes.
+    virtual void Assign(TQzObjectEx* ASource);
+    virtual void AssignTo(TQzObjectEx* ADest);
+    virtual void DefineProperties(TFiler& AFiler);
+    // The object that this one belongs to; null here.
+    virtual TObject* GetOwner() const { return nullptr; }
+    // The class name, behind the name path of the owner and a point when the owner has one.
+    virtual UnicodeString GetNamePath() const;
+
+    // Tells all linked objects, from the last to the first, and removes the links. An exception of one of them
+    // keeps this object, and the links not yet dealt with.
+    void BeforeDestruction() override;
+
+protected:
+    TQzObjectEx() noexcept = default;
+    ~TQzObjectEx() override;
+
+private:
+    bool AddNotification(TObject* AObject);
+    void NotifyLast();
+    [[noreturn]] static void AssignError(const TQzObjectEx* ASource, const TQzObjectEx* ADest);
+
+    std::unique_ptr<std::vector<TObject*>>
+        FFreeNotifies; // the linked objects, not owned; absent when there are none
+};
+
+} // namespace qz

@@ -1,0 +1,297 @@
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "common/uQzClasses/QzFreeNotifies.h"
+#include "common/uQzClasses/QzObjectAdapter.h"
+#include "common/uQzClasses/QzObjectEx.h"
+#include "runtime/errors/Exceptions.h"
+#include "runtime/reflection/Describe.h"
+
+namespace qz {
+namespace {
+
+// What happened, in words.
+UnicodeString GTrace;
+
+void Note(const char* AWhat, const UnicodeString& AName) {
+    GTrace += UnicodeString(AWhat) + u'(' + AName + u") ";
+}
+
+UnicodeString TakeTrace() {
+    return std::exchange(GTrace, UnicodeString());
+}
+
+class TThing : public TQzObject {
+    QZ_CLASS(TThing, TQzObject)
+
+public:
+    UnicodeString FName;
+
+protected:
+    explicit TThing(const UnicodeString& AName) : FName(AName) { Note("made", FName); }
+    ~TThing() override { Note("freed", FName); }
+};
+constinit const TClassRec TThing::ClassRec = DescribeClass<TThing>(u"TThing", {.Unit = u"Test"});
+
+// Uses itself through an interface while it is built and while it ends.
+class TSelfUser : public TThing {
+    QZ_CLASS(TSelfUser, TThing)
+
+protected:
+    TSelfUser() : TThing(u"self") { const Ref<IQzObject> Self(this); }
+    ~TSelfUser() override { const Ref<IQzObject> Self(this); }
+};
+constinit const TClassRec TSelfUser::ClassRec = DescribeClass<TSelfUser>(u"TSelfUser", {.Unit = u"Test"});
+
+class TLinked : public TQzObjectEx {
+    QZ_CLASS(TLinked, TQzObjectEx)
+
+public:
+    UnicodeString FName;
+    std::function<void(TObject*)> FOnDestroyed;
+
+    void OnObjectDestroyed(TObject* AObject) override {
+        const Ref<IQzObject> Self = AsInterface<IQzObject>(this);
+        Note("told", FName + u" of " + static_cast<TLinked*>(AObject)->FName);
+        if (FOnDestroyed)
+            FOnDestroyed(AObject);
+    }
+    TObject* FOwner = nullptr;
+    TObject* GetOwner() const override { return FOwner; }
+
+protected:
+    explicit TLinked(const UnicodeString& AName) : FName(AName) {}
+    ~TLinked() override { Note("freed", FName); }
+};
+constinit const TClassRec TLinked::ClassRec = DescribeClass<TLinked>(u"TLinked", {.Unit = u"Test"});
+
+class QzObjects : public testing::Test {
+protected:
+    void SetUp() override { TakeTrace(); }
+};
+
+TEST_F(QzObjects, PlainUseNeverCountsAndFreeEndsTheObject) {
+    TThing* Thing = TThing::Create(u"a");
+    EXPECT_EQ(Thing->RefCount(), 0);
+    EXPECT_EQ(Thing->AutoDestroyPolicy(), radComputed);
+    EXPECT_FALSE(Thing->GetAutoDestroy());
+    Thing->Free();
+    EXPECT_EQ(TakeTrace(), "made(a) freed(a) ");
+}
+
+TEST_F(QzObjects, FirstReferenceDecidesAndTheLastOneEnds) {
+    Ref<IQzObject> Thing = TThing::Create(u"a");
+    EXPECT_TRUE(static_cast<TThing*>(Thing->Implementor())->GetAutoDestroy());
+    Ref<IQzObject> Other = Thing;
+    Thing.Clear();
+    Note("still", u"a");
+    Other.Clear();
+    EXPECT_EQ(TakeTrace(), "made(a) still(a) freed(a) ");
+}
+
+TEST_F(QzObjects, OwnerMayForbidReferencesToEndTheObject) {
+    TThing* Thing = TThing::Create(u"a");
+    Thing->SetAutoDestroy(false);
+    { const Ref<IQzObject> Passing(Thing); }
+    EXPECT_EQ(TakeTrace(), "made(a) ");
+    Thing->SetAutoDestroy(true);
+    { const Ref<IQzObject> Passing(Thing); }
+    EXPECT_EQ(TakeTrace(), "freed(a) ");
+}
+
+TEST_F(QzObjects, FreeIsRefusedWhileReferencesRemain) {
+    TThing* Thing = TThing::Create(u"a");
+    Ref<IQzObject> Holder(Thing);
+    try {
+        Thing->Free();
+        FAIL() << "no exception";
+    } catch (const Exception& E) {
+        EXPECT_EQ(E.Message(), "An instance of TThing is destroyed while it's refcount is not 0!");
+    }
+    EXPECT_EQ(Holder->Implementor(), Thing) << "the object is alive";
+    Holder.Clear();
+    EXPECT_EQ(TakeTrace(), "made(a) freed(a) ") << "and still ends with its last reference";
+}
+
+TEST_F(QzObjects, ReferencesWithinConstructorAndDestructorEndNothing) {
+    TSelfUser* Self = TSelfUser::Create();
+    EXPECT_EQ(TakeTrace(), "made(self) ");
+    EXPECT_EQ(Self->RefCount(), 0);
+    EXPECT_EQ(Self->AutoDestroyPolicy(), radTrue);
+    { const Ref<IQzObject> Passing(Self); }
+    EXPECT_EQ(TakeTrace(), "freed(self) ");
+}
+
+TEST_F(QzObjects, QueryFindsListedInterfacesOnly) {
+    const Ref<IQzObject> Thing = TThing::Create(u"a");
+    EXPECT_EQ(As<IQzObject>(Thing), Thing);
+    void* Missing = this;
+    EXPECT_EQ(static_cast<std::uint32_t>(Thing->QueryInterface(IQzObjectEx::IID, &Missing)), 0x80004002u);
+    EXPECT_EQ(Missing, nullptr);
+}
+
+TEST_F(QzObjects, CountSurvivesManyThreads) {
+    const Ref<IQzObject> Thing = TThing::Create(u"a");
+    std::vector<std::thread> Threads;
+    for (int I = 0; I < 8; ++I)
+        Threads.emplace_back([Copy = Thing] {
+            for (int J = 0; J < 1000; ++J)
+                const Ref<IQzObject> Passing = Copy;
+        });
+    for (std::thread& Thread : Threads)
+        Thread.join();
+    Threads.clear();
+    EXPECT_EQ(static_cast<TThing*>(Thing->Implementor())->RefCount(), 1);
+}
+
+TEST_F(QzObjects, PartnersHearOfTheEndOnceAndForget) {
+    TLinked* First = TLinked::Create(u"a");
+    TLinked* Second = TLinked::Create(u"b");
+    First->FreeNotification(Second);
+    Second->FreeNotification(First);
+    First->Free();
+    EXPECT_EQ(TakeTrace(), "told(b of a) freed(a) ");
+    Second->Free();
+    EXPECT_EQ(TakeTrace(), "freed(b) ");
+}
+
+TEST_F(QzObjects, PartnersAreToldFromTheLastToTheFirst) {
+    TLinked* Model = TLinked::Create(u"m");
+    TOwned<TLinked> Views[] = {TOwned<TLinked>(TLinked::Create(u"a")), TOwned<TLinked>(TLinked::Create(u"b")),
+                               TOwned<TLinked>(TLinked::Create(u"c"))};
+    for (auto& View : Views) {
+        View->SetAutoDestroy(false);
+        View->FreeNotification(Model);
+    }
+    Views[1]->RemoveFreeNotification(Model);
+    Model->Free();
+    EXPECT_EQ(TakeTrace(), "told(c of m) told(a of m) freed(m) ");
+}
+
+TEST_F(QzObjects, CountedPartnerSurvivesItsNotification) {
+    const Ref<IQzObjectEx> Held = TLinked::Create(u"held");
+    auto* Partner = static_cast<TLinked*>(Held->Implementor());
+    TLinked* Undecided = TLinked::Create(u"undecided");
+    TLinked* Model = TLinked::Create(u"m");
+    Held->FreeNotificationEx(Model);
+    Model->FreeNotificationEx(Undecided);
+    Model->Free();
+    EXPECT_EQ(TakeTrace(), "told(undecided of m) told(held of m) freed(m) ");
+    EXPECT_EQ(Partner->AutoDestroyPolicy(), radTrue);
+    EXPECT_EQ(Undecided->AutoDestroyPolicy(), radComputed);
+    Undecided->Free();
+}
+
+TEST_F(QzObjects, PartnerThatRaisesKeepsTheObjectAndItsOwnPolicy) {
+    TLinked* First = TLinked::Create(u"a");
+    TLinked* Second = TLinked::Create(u"b");
+    First->FreeNotification(Second);
+    Second->FOnDestroyed = [](TObject*) { throw EAbort(u"no"); };
+    EXPECT_THROW(First->Free(), EAbort);
+    EXPECT_EQ(Second->AutoDestroyPolicy(), radComputed);
+    Second->FOnDestroyed = {};
+    EXPECT_EQ(TakeTrace(), "told(b of a) ");
+    First->Free();
+    EXPECT_EQ(TakeTrace(), "told(b of a) freed(a) ");
+    Second->Free();
+}
+
+TEST_F(QzObjects, LinkThroughInterfacesCanBeRemovedFromEitherSide) {
+    TLinked* First = TLinked::Create(u"a");
+    TLinked* Second = TLinked::Create(u"b");
+    First->FreeNotificationEx(Second);
+    Second->RemoveFreeNotificationEx(static_cast<IQzObjectEx*>(First));
+    First->Free();
+    Second->Free();
+    EXPECT_EQ(TakeTrace(), "freed(a) freed(b) ");
+}
+
+TEST_F(QzObjects, AssignOfAClassThatCannotCopyNamesBothClasses) {
+    const TOwned<TLinked> First(TLinked::Create(u"a"));
+    const TOwned<TLinked> Second(TLinked::Create(u"b"));
+    const std::pair<TQzObjectEx*, const char*> Cases[] = {
+        {Second.get(), "Cannot assign a TLinked to a TLinked"},
+        {nullptr, "Cannot assign a nil to a TLinked"}};
+    for (const auto& [Source, Message] : Cases) {
+        try {
+            First->Assign(Source);
+            ADD_FAILURE() << "no exception";
+        } catch (const EConvertError& E) {
+            EXPECT_EQ(E.Message(), Message);
+        }
+    }
+    EXPECT_EQ(First->GetNamePath(), "TLinked");
+    First->FOwner = Second.get();
+    EXPECT_EQ(First->GetNamePath(), "TLinked.TLinked");
+    First->FOwner = nullptr;
+}
+
+TEST_F(QzObjects, AdapterEndsWhatItOwnsAndLeavesTheRest) {
+    TThing* Owned = TThing::Create(u"owned");
+    TThing* Other = TThing::Create(u"other");
+    {
+        const Ref<IQzObjectAdapter> Adapter = TQzObjectAdapter::Create(Owned, ooOwned);
+        const Ref<IQzObjectAdapter> Reference = TQzObjectAdapter::Create(Other, ooReference);
+        EXPECT_EQ(As<IQzObject>(Adapter)->Implementor(), Owned);
+        EXPECT_EQ(Reference->GetObject(), Other);
+        EXPECT_EQ(Reference->GetOwnership(), ooReference);
+    }
+    EXPECT_EQ(TakeTrace(), "made(owned) made(other) freed(owned) ");
+    Other->Free();
+}
+
+TEST_F(QzObjects, NodesHearOfEachOther) {
+    TObject Owner;
+    const auto Teller = [](const char* AName) {
+        return [AName](TObject* AObject) {
+            Note("told", UnicodeString(AName) + u" of " + AObject->ClassName());
+        };
+    };
+    auto First = TQzFreeNotifies::Create(&Owner, Teller("a"));
+    TQzFreeNotifies Second(&Owner, Teller("b"));
+    auto Third = TQzFreeNotifies::Create(&Owner, Teller("c"));
+    First->Add(&Second);
+    Second.Add(First.get());
+    First->Add(Third.get());
+    First.reset();
+    EXPECT_EQ(TakeTrace(), "told(c of TObject) told(b of TObject) ");
+    Third.reset();
+    EXPECT_EQ(TakeTrace(), "") << "a link that is gone tells nobody";
+}
+
+TEST_F(QzObjects, NodeSurvivesAPartnerThatRaisesOrFreesItself) {
+    TObject Owner;
+    std::unique_ptr<TQzFreeNotifies> Passing;
+    Passing = std::make_unique<TQzFreeNotifies>(&Owner, [&](TObject*) { Passing.reset(); });
+    TQzFreeNotifies Raising(&Owner, [](TObject*) { throw EAbort(u"no"); });
+    auto* Node = new TQzFreeNotifies(&Owner, {});
+    Node->Add(Passing.get());
+    Node->Add(&Raising);
+    EXPECT_THROW(Node->Free(), EAbort);
+    EXPECT_NE(Passing, nullptr);
+    Node->Free();
+    EXPECT_EQ(Passing, nullptr);
+}
+
+TEST_F(QzObjects, NodesOfManyThreadsEndAtTheSameMoment) {
+    TObject Owner;
+    std::atomic<int> Told{0};
+    for (int Round = 0; Round < 50; ++Round) {
+        std::vector<std::unique_ptr<TQzFreeNotifies>> Nodes;
+        for (int I = 0; I < 8; ++I)
+            Nodes.push_back(std::make_unique<TQzFreeNotifies>(&Owner, [&](TObject*) { ++Told; }));
+        std::vector<std::thread> Threads;
+        for (std::size_t I = 0; I < Nodes.size(); ++I)
+            for (std::size_t J = 0; J < I; ++J)
+                Nodes[I]->Add(Nodes[J].get());
+        for (auto& Node : Nodes)
+            Threads.emplace_back([&] { Node.reset(); });
+        for (std::thread& Thread : Threads)
+            Thread.join();
+    }
+    EXPECT_EQ(Told, 50 * 8 * 7 / 2) << "each link told one of its two sides";
+}
+
+} // namespace
+} // namespace qz
