@@ -2,10 +2,10 @@
 
 #include <cerrno>
 #include <climits>
+#include <clocale>
 #include <memory>
 
 #include <langinfo.h>
-#include <locale.h>
 #include <unicode/ucnv.h>
 
 #include "platform/linux/Charset.h"

@@ -121,25 +121,26 @@ void TThread::Synchronize(TThread* AThread, const TThreadProc& AProc) {
         TSimpleEvent Done;
         std::exception_ptr Error;
     };
-    // Signals when the queue has no copy of the work any more, whether it was run or dropped.
+    // Signals when the queue has no copy of the work any more, whether it was run or dropped. The state stays with
+    // the caller, so that the exception is let go by the thread that it is raised in.
     struct TSignal {
-        explicit TSignal(std::shared_ptr<TState> AState) : State(std::move(AState)) {}
+        explicit TSignal(TState& AState) : State(AState) {}
         TSignal(const TSignal&) = delete;
         TSignal& operator=(const TSignal&) = delete;
-        ~TSignal() { State->Done.SetEvent(); }
-        std::shared_ptr<TState> State;
+        ~TSignal() { State.Done.SetEvent(); }
+        TState& State;
     };
-    const auto State = std::make_shared<TState>();
+    TState State;
     Queue(AThread, [Signal = std::make_shared<TSignal>(State), &AProc] {
         try {
             AProc();
         } catch (...) {
-            Signal->State->Error = std::current_exception();
+            Signal->State.Error = std::current_exception();
         }
     });
-    State->Done.WaitFor();
-    if (State->Error)
-        std::rethrow_exception(State->Error);
+    State.Done.WaitFor();
+    if (State.Error)
+        std::rethrow_exception(State.Error);
 }
 
 void TThread::RemoveQueuedEvents(TThread* AThread) {

@@ -111,8 +111,8 @@ TEST(Files, PathsMayBeLong) {
         EXPECT_TRUE(RemoveFile(File, Error));
         EXPECT_FALSE(FileExists(File));
     }
-    for (auto Inner = Made.rbegin(); Inner != Made.rend(); ++Inner)
-        EXPECT_TRUE(RemoveEmptyDirectory(*Inner, Error)) << Error.Code;
+    for (; !Made.empty(); Made.pop_back())
+        EXPECT_TRUE(RemoveEmptyDirectory(Made.back(), Error)) << Error.Code;
 }
 
 TEST(Files, ReaderThreadsSeeWholeContentsOnly) {

@@ -41,6 +41,7 @@ TEST(Mutex, ThreadsTakeTurns) {
     TRecursiveMutex Mutex;
     long Count = 0;
     std::vector<std::thread> Threads;
+    Threads.reserve(cThreads);
     for (int Index = 0; Index < cThreads; ++Index)
         Threads.emplace_back([&] {
             for (int Round = 0; Round < cRounds; ++Round) {

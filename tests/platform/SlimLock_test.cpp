@@ -42,6 +42,7 @@ TEST(SlimLock, ThreadsNeverSeeHalfAWrite) {
     long Second = 0;
     std::atomic<int> Torn = 0;
     std::vector<std::thread> Threads;
+    Threads.reserve(cWriters + cReaders);
     for (int Index = 0; Index < cWriters; ++Index)
         Threads.emplace_back([&, Index] {
             for (int Round = 0; Round < cRounds; ++Round) {
@@ -74,31 +75,64 @@ TEST(SlimLock, ThreadsNeverSeeHalfAWrite) {
     EXPECT_EQ(Word.Ptr, nullptr);
 }
 
-// The readers overlap, so that at no time the lock would be free of them by itself.
+// Each writer holds the lock until the others sleep, so that nothing but a release can wake them.
+TEST(SlimLock, ThreadsThatSleepAreWoken) {
+    TSlimLockWord Word;
+    int Count = 0;
+    std::vector<std::thread> Threads;
+    Threads.reserve(6);
+    for (int Index = 0; Index < 6; ++Index)
+        Threads.emplace_back([&, Index] {
+            for (int Round = 0; Round < 10; ++Round) {
+                const bool Write = Index < 4 && Round < 8;
+                (Write ? Lock.AcquireExclusive : Lock.AcquireShared)(&Word);
+                if (Write)
+                    ++Count;
+                SleepMs(2);
+                (Write ? Lock.ReleaseExclusive : Lock.ReleaseShared)(&Word);
+            }
+        });
+    for (std::thread& Thread : Threads)
+        Thread.join();
+    EXPECT_EQ(Count, 32);
+    EXPECT_EQ(Word.Ptr, nullptr);
+}
+
+// A reader stays until the next one is in, or until it is clear that none gets in. A lock that admitted
+// readers all the time would never be free of them.
 TEST(SlimLock, ReaderThreadsDoNotStarveAWriter) {
+    constexpr uint64_t cGiveUp = 6000;
     TSlimLockWord Word;
     std::atomic<bool> Stop = false;
+    std::atomic<int> Entered = 0;
+    const uint64_t Start = TickCount64();
     std::vector<std::thread> Readers;
-    for (int Index = 0; Index < 4; ++Index)
+    Readers.reserve(3);
+    for (int Index = 0; Index < 3; ++Index)
         Readers.emplace_back([&] {
-            while (!Stop) {
+            while (!Stop && TickCount64() - Start < cGiveUp) {
                 Lock.AcquireShared(&Word);
-                SleepMs(2);
+                const int Ticket = ++Entered;
+                const uint64_t Patience = TickCount64() + 50;
+                while (!Stop && Entered == Ticket && TickCount64() < Patience)
+                    SleepMs(1);
                 Lock.ReleaseShared(&Word);
             }
         });
-    const uint64_t Start = TickCount64();
-    for (int Round = 0; Round < 20; ++Round) {
+    while (Entered < 10)
+        SleepMs(1);
+    for (int Round = 0; Round < 5; ++Round) {
         Lock.AcquireExclusive(&Word);
         Lock.ReleaseExclusive(&Word);
     }
-    EXPECT_LT(TickCount64() - Start, 10'000u);
+    EXPECT_LT(TickCount64() - Start, cGiveUp);
     Stop = true;
     for (std::thread& Reader : Readers)
         Reader.join();
 }
 
-// Whoever gets the lock last may free its memory, while the one before is still on its way out of the release.
+// Whoever gets the lock last may free its memory, while the one before is still on its way out of the
+// release.
 TEST(SlimLock, ThreadsMayDestroyWhatTheyHoldLast) {
     struct TShared {
         TSlimLockWord Word;

@@ -70,6 +70,7 @@ TEST(Text, ComparesInAlphabeticalOrder) {
 TEST(Text, ThreadsCompareAtTheSameTime) {
     std::atomic<int> Wrong = 0;
     std::vector<std::thread> Threads;
+    Threads.reserve(4);
     for (int Index = 0; Index < 4; ++Index)
         Threads.emplace_back([&Wrong] {
             for (int Round = 0; Round < 500; ++Round) {

@@ -144,7 +144,8 @@ TEST(FilesLinux, RightsOfOthersAreRespected) {
     ASSERT_TRUE(WriteWholeFile(Open, cOld, Error));
     ASSERT_EQ(chmod(detail::ToNative(Locked).c_str(), 0444), 0);
     ASSERT_EQ(chmod(detail::ToNative(Open).c_str(), 0666), 0);
-    // Root may do anything, so that the child becomes somebody else; a user's own directory is locked instead.
+    // Root may do anything, so that the child becomes somebody else; a user's own directory is locked
+    // instead.
     const bool AsRoot = geteuid() == 0;
     ASSERT_EQ(chmod(detail::ToNative(Directory.Path()).c_str(), AsRoot ? 0755 : 0500), 0);
     const int Result = InChild([&] {

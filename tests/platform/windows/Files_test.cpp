@@ -1,7 +1,12 @@
 #include "platform/Files.h"
 
+#include <cstdio>
+
+#include <io.h>
+#include <share.h>
+#include <sys/stat.h>
+
 #include <gtest/gtest.h>
-#include <windows.h>
 
 #include "../TemporaryDirectory.h"
 #include "platform/windows/LongPath.h"
@@ -9,6 +14,9 @@
 
 namespace qz::platform {
 namespace {
+
+constexpr int cAccessDenied = 5;
+constexpr int cSharingViolation = 32;
 
 TEST(FilesWindows, LongPathsGetTheirPrefix) {
     const std::u16string Long(260, u'x');
@@ -36,17 +44,16 @@ TEST(FilesWindows, FileInUseKeepsItsContent) {
     const std::vector<std::byte> New(20, std::byte{'n'});
     TError Error;
     ASSERT_TRUE(WriteWholeFile(Path, Old, Error));
-    HANDLE User =
-        CreateFileW(detail::Wide(Path), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(User, INVALID_HANDLE_VALUE);
+    std::FILE* User = _wfsopen(detail::Wide(Path), L"rb", _SH_DENYWR);
+    ASSERT_NE(User, nullptr);
     EXPECT_FALSE(WriteWholeFile(Path, New, Error));
-    EXPECT_EQ(Error.Code, ERROR_SHARING_VIOLATION);
-    CloseHandle(User);
+    EXPECT_EQ(Error.Code, cSharingViolation);
+    std::fclose(User);
 
-    ASSERT_TRUE(SetFileAttributesW(detail::Wide(Path), FILE_ATTRIBUTE_READONLY));
+    ASSERT_EQ(_wchmod(detail::Wide(Path), _S_IREAD), 0);
     EXPECT_FALSE(WriteWholeFile(Path, New, Error));
-    EXPECT_EQ(Error.Code, ERROR_ACCESS_DENIED);
-    ASSERT_TRUE(SetFileAttributesW(detail::Wide(Path), FILE_ATTRIBUTE_NORMAL));
+    EXPECT_EQ(Error.Code, cAccessDenied);
+    ASSERT_EQ(_wchmod(detail::Wide(Path), _S_IREAD | _S_IWRITE), 0);
 
     std::vector<std::byte> Content;
     std::vector<TDirEntry> Entries;
