@@ -27,6 +27,7 @@ namespace qz {
 namespace detail {
 
 template <class T> constexpr TTypeOps OpsOf() noexcept {
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): T may well be a pointer
     TTypeOps Ops{sizeof(T), alignof(T), nullptr, nullptr, nullptr, nullptr, std::is_trivially_copyable_v<T>};
     if constexpr (std::is_default_constructible_v<T>)
         Ops.Construct = [](void* ATarget) { new (ATarget) T(); };
