@@ -78,7 +78,7 @@ UConverter* Converter(uint32_t APage) {
     if (APage == 0)
         APage = SystemCodePage();
     if (Kept && Page == APage) {
-        ucnv_reset(Kept.get());
+        ucnv_reset(Kept.get()); // the last conversion may have ended by an exception
         return Kept.get();
     }
     TConverter Opened = OpenPage(APage);

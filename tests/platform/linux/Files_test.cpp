@@ -134,29 +134,38 @@ TEST(FilesLinux, FailedWriteLeavesTheOldContent) {
     EXPECT_TRUE(ListDirectory(Directory.Path(), Entries, Error) && Entries.size() == 1);
 }
 
-TEST(FilesLinux, RightsOfOthersAreRespected) {
+// Root may do anything, so that the child becomes somebody else, who owns the directory and the locked file
+// then.
+TEST(FilesLinux, RightsAreRespected) {
     constexpr uid_t cNobody = 65534;
     const TTemporaryDirectory Directory;
     const std::u16string Locked = Directory / u"locked";
     const std::u16string Open = Directory / u"open";
+    const std::string Native = detail::ToNative(Directory.Path());
+    const bool AsRoot = geteuid() == 0;
     TError Error;
     ASSERT_TRUE(WriteWholeFile(Locked, cOld, Error));
     ASSERT_TRUE(WriteWholeFile(Open, cOld, Error));
     ASSERT_EQ(chmod(detail::ToNative(Locked).c_str(), 0444), 0);
     ASSERT_EQ(chmod(detail::ToNative(Open).c_str(), 0666), 0);
-    // Root may do anything, so that the child becomes somebody else; a user's own directory is locked
-    // instead.
-    const bool AsRoot = geteuid() == 0;
-    ASSERT_EQ(chmod(detail::ToNative(Directory.Path()).c_str(), AsRoot ? 0755 : 0500), 0);
+    if (AsRoot) {
+        ASSERT_EQ(chown(Native.c_str(), cNobody, cNobody), 0);
+        ASSERT_EQ(chown(detail::ToNative(Locked).c_str(), cNobody, cNobody), 0);
+    }
     const int Result = InChild([&] {
-        if (AsRoot && setresuid(cNobody, cNobody, cNobody) != 0)
+        if (AsRoot &&
+            (setresgid(cNobody, cNobody, cNobody) != 0 || setresuid(cNobody, cNobody, cNobody) != 0))
             return 1;
+        // The directory would take a new file in place of the locked one.
         TError ChildError;
         if (WriteWholeFile(Locked, cNew, ChildError) || ChildError.Code != EACCES)
             return 2;
-        return WriteWholeFile(Open, cNew, ChildError) ? 0 : 3;
+        // It takes none now, but the open file may be written where it is.
+        if (chmod(Native.c_str(), 0555) != 0)
+            return 3;
+        return WriteWholeFile(Open, cNew, ChildError) ? 0 : 4;
     });
-    ASSERT_EQ(chmod(detail::ToNative(Directory.Path()).c_str(), 0700), 0);
+    ASSERT_EQ(chmod(Native.c_str(), 0700), 0);
     EXPECT_EQ(Result, 0);
     EXPECT_EQ(ContentOf(Locked), cOld);
     EXPECT_EQ(ContentOf(Open), cNew);

@@ -47,7 +47,7 @@ TEST(LocalePattern, FindsCurrencyPositions) {
         {u"1\u00A0€", u"\u22121\u00A0€", u"€", 3, 8},
         {u"1kr.", u"1-kr.", u"kr.", 1, 6},
         {u"\u200F1\u00A0\u20AA", u"\u200F\u200E-1\u00A0\u20AA", u"\u20AA", 3, 8},
-        {u"CHF 1", u"CHF-1", u"CHF", 2, 2},
+        {u"CHF 1", u"CHF\u22121", u"CHF", 2, 2},
         {u"R$ 1", u"- R$ 1", u"R$", 2, 9}, // no such code: the minus in front
         {u"1", u"-1", u"", 0, 1},
     };
