@@ -1,10 +1,75 @@
-// Prints which QzCommon it runs on. The smallest program that links the library.
+// A walk through what every program uses first: text, formatted text, dates, objects and threads.
 #include <common/Version.h>
+#include <common/uQzClasses.h>
+#include <common/uQzThreads.h>
 
-#include <cstdio>
-#include <string>
+#include <iostream>
+
+#include <runtime/errors/Exceptions.h>
+#include <runtime/reflection/Describe.h>
+#include <runtime/text/Format.h>
+#include <runtime/text/StringUtils.h>
+#include <runtime/threads/Thread.h>
+#include <runtime/time/DateTime.h>
+
+using namespace qz;
+
+namespace {
+
+// An object that tells when it ends.
+class TGuest : public TQzObject {
+    QZ_CLASS(TGuest, TQzObject)
+
+protected:
+    explicit TGuest(const UnicodeString& AName) : FName(AName) {}
+    ~TGuest() override { std::cout << "  " << FName << " has left\n"; }
+
+private:
+    UnicodeString FName;
+};
+
+const TClassRec TGuest::ClassRec = DescribeClass<TGuest>(u"TGuest", {.Unit = u"Hello"});
+
+void ShowText() {
+    const UnicodeString Name = "Zoë";
+    const UnicodeString Copy = Name;
+    std::cout << Format("Text: %s in capitals is %s; %d handles share its %d characters\n",
+                        {Name, AnsiUpperCase(Name), Copy.RefCount(), Name.Length()});
+    std::cout << Format("Numbers: |%8.3f|%-6d|%.4x|\n", {3.14159265, 42, 48879});
+}
+
+void ShowErrors() {
+    try {
+        std::cout << Format("%d", {u"not a number"});
+    } catch (const EConvertError& E) {
+        std::cout << "Errors: " << UnicodeString(E.ClassName()) << ": " << E.Message() << '\n';
+    }
+}
+
+void ShowLife() {
+    std::cout << "Objects:\n";
+    const Ref<IQzObject> Stays = TGuest::Create(u"the guest that is referred to until the end");
+    { const Ref<IQzObject> Passing = TGuest::Create(u"the passing guest"); }
+    TGuest::Create(u"the guest that nobody referred to, sent away by Free")->Free();
+}
+
+void ShowThreads() {
+    const Ref<IQzSimpleEvent> Done = QzRunThreaded([](IQzSimpleEvent*) {
+        QzSetThreadName(u"worker");
+        const UnicodeString Worker = QzGetThreadName();
+        QzRunInMainThread([&] { std::cout << "Threads: the main thread speaks for the " << Worker << '\n'; }, true);
+    });
+    while (Done->WaitFor(0) != wrSignaled)
+        TThread::CheckSynchronize(10);
+}
+
+} // namespace
 
 int main() {
-    std::printf("Hello from QzCommon %s\n", std::string(qz::Version()).c_str());
+    std::cout << Format("QzCommon %s, day %d of the calendar\n", {Version(), static_cast<int>(Date())});
+    ShowText();
+    ShowErrors();
+    ShowThreads();
+    ShowLife();
     return 0;
 }
