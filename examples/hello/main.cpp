@@ -32,9 +32,11 @@ const TClassRec TGuest::ClassRec = DescribeClass<TGuest>(u"TGuest", {.Unit = u"H
 
 void ShowText() {
     const UnicodeString Name = "Zoë";
-    const UnicodeString Copy = Name;
-    std::cout << Format("Text: %s in capitals is %s; %d handles share its %d characters\n",
-                        {Name, AnsiUpperCase(Name), Copy.RefCount(), Name.Length()});
+    UnicodeString Copy = Name;
+    const int Sharing = Name.RefCount();
+    Copy[0] = u'C';
+    std::cout << Format("Text: %s in capitals is %s; %d handles shared it until one became %s\n",
+                        {Name, AnsiUpperCase(Name), Sharing, Copy});
     std::cout << Format("Numbers: |%8.3f|%-6d|%.4x|\n", {3.14159265, 42, 48879});
 }
 
@@ -57,7 +59,8 @@ void ShowThreads() {
     const Ref<IQzSimpleEvent> Done = QzRunThreaded([](IQzSimpleEvent*) {
         QzSetThreadName(u"worker");
         const UnicodeString Worker = QzGetThreadName();
-        QzRunInMainThread([&] { std::cout << "Threads: the main thread speaks for the " << Worker << '\n'; }, true);
+        QzRunInMainThread([&] { std::cout << "Threads: the main thread speaks for the " << Worker << '\n'; },
+                          true);
     });
     while (Done->WaitFor(0) != wrSignaled)
         TThread::CheckSynchronize(10);
