@@ -32,7 +32,7 @@ public:
         : TDynArray(std::span<const T>(AItems.begin(), AItems.size())) {}
     explicit TDynArray(std::span<const T> AItems) {
         TDynArray Fresh;
-        Fresh.Fill(AItems.size(), AItems);
+        Fresh.Fill(AItems.size(), AItems.size(), AItems, false);
         Swap(Fresh);
     }
     TDynArray(const TDynArray& AOther) noexcept : FBlock(AOther.FBlock) {
@@ -63,13 +63,21 @@ public:
     }
 
     // Cuts the array or lengthens it by value-initialised elements; a shared array becomes private, also when the
-    // length stays. An exception leaves the array as it was.
+    // length stays. Growing step by step takes time in proportion to the final length. An exception leaves the
+    // array as it was.
     void SetLength(std::size_t ALength) {
-        if (FBlock != nullptr && ALength == Length() && FBlock->RefCount.load(std::memory_order_acquire) == 1)
-            return;
+        if (ALength == 0)
+            return Clear();
+        if (FBlock != nullptr && FBlock->RefCount.load(std::memory_order_acquire) == 1) {
+            if (ALength <= FBlock->Capacity)
+                return Resize(ALength);
+            TDynArray Fresh;
+            Fresh.Fill(ALength, std::max(ALength, FBlock->Capacity + FBlock->Capacity / 2),
+                       std::span<const T>(data(), Length()), true);
+            return Swap(Fresh);
+        }
         TDynArray Fresh;
-        const std::size_t Kept = std::min(ALength, Length());
-        Fresh.Fill(ALength, std::span<const T>(data(), Kept));
+        Fresh.Fill(ALength, ALength, std::span<const T>(data(), std::min(ALength, Length())), false);
         Swap(Fresh);
     }
     // A private array with the same elements, from AFirst on, at most ACount of them.
@@ -84,20 +92,37 @@ private:
     struct alignas(std::max(alignof(T), alignof(std::size_t))) TBlock {
         std::atomic<std::int32_t> RefCount;
         std::size_t Length;
+        std::size_t Capacity;
         T* Items() noexcept { return reinterpret_cast<T*>(this + 1); }
     };
     static_assert(alignof(TBlock) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__,
                   "over-aligned elements are not supported");
 
-    // Builds a block of ALength elements of which the first are copies of AItems. This handle is empty.
-    void Fill(std::size_t ALength, std::span<const T> AItems) {
+    // Within a block that this handle holds alone.
+    void Resize(std::size_t ALength) {
+        const std::size_t Old = FBlock->Length;
+        if (ALength < Old)
+            std::destroy_n(FBlock->Items() + ALength, Old - ALength);
+        else
+            std::uninitialized_value_construct_n(FBlock->Items() + Old, ALength - Old);
+        FBlock->Length = ALength;
+    }
+
+    // Builds a block of ALength elements of which the first are those of AItems, moved where that cannot fail and
+    // AMayMove says that nobody else has them. This handle is empty.
+    void Fill(std::size_t ALength, std::size_t ACapacity, std::span<const T> AItems, bool AMayMove) {
         if (ALength == 0)
             return;
-        if (ALength > (static_cast<std::size_t>(PTRDIFF_MAX) - sizeof(TBlock)) / sizeof(T))
+        if (ACapacity > (static_cast<std::size_t>(PTRDIFF_MAX) - sizeof(TBlock)) / sizeof(T))
             throw std::length_error("an array cannot be that long");
-        auto* Block = new (::operator new(sizeof(TBlock) + ALength * sizeof(T))) TBlock{1, 0};
+        auto* Block = new (::operator new(sizeof(TBlock) + ACapacity * sizeof(T))) TBlock{1, 0, ACapacity};
         try {
-            T* Rest = std::uninitialized_copy(AItems.begin(), AItems.end(), Block->Items());
+            T* Rest = nullptr;
+            if (AMayMove && std::is_nothrow_move_constructible_v<T>)
+                Rest = std::uninitialized_move_n(const_cast<T*>(AItems.data()), AItems.size(), Block->Items())
+                           .second;
+            else
+                Rest = std::uninitialized_copy(AItems.begin(), AItems.end(), Block->Items());
             Block->Length = AItems.size();
             std::uninitialized_value_construct_n(Rest, ALength - AItems.size());
             Block->Length = ALength;

@@ -27,10 +27,10 @@ UnicodeString GUIDToString(const TGUID& AGuid) {
     return Result += u'}';
 }
 
-TGUID StringToGUID(std::u16string_view AText) {
+TGUID StringToGUID(const TStringArg& AText) {
     TGUID Result;
-    if (!detail::ParseGuid(AText, Result))
-        throw EConvertError(Format(u"'%s' is not a valid GUID value", {AText}));
+    if (!detail::ParseGuid(AText.View(), Result))
+        throw EConvertError(Format(u"'%s' is not a valid GUID value", {AText.View()}));
     return Result;
 }
 

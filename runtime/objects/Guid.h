@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "runtime/text/UnicodeString.h"
+#include "runtime/text/StringArg.h"
 
 namespace qz {
 
@@ -79,7 +79,7 @@ consteval TGUID Guid(std::string_view AText) {
 QZ_API UnicodeString GUIDToString(const TGUID& AGuid);
 
 // Reads the registry form, letters in either case. Raises EConvertError for any other text.
-QZ_API TGUID StringToGUID(std::u16string_view AText);
+QZ_API TGUID StringToGUID(const TStringArg& AText);
 
 QZ_API bool IsEqualGUID(const TGUID& ALeft, const TGUID& ARight) noexcept;
 

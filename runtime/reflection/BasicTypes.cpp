@@ -23,7 +23,7 @@ constexpr TTypeInfo DescribeChar() noexcept {
 }
 
 constexpr TFieldInfo cGuidFields[] = {Field<&TGUID::D1>(u"D1"), Field<&TGUID::D2>(u"D2"),
-                                      Field<&TGUID::D3>(u"D3")};
+                                      Field<&TGUID::D3>(u"D3"), Field<&TGUID::D4>(u"D4")};
 
 } // namespace
 
@@ -61,6 +61,8 @@ constinit const TTypeInfo TInfo<RawByteString>::Info =
     DescribeType<RawByteString>(tkLString, u"RawByteString", cSystem);
 constinit const TTypeInfo TInfo<TBytes>::Info =
     DescribeOf<TBytes, std::uint8_t>(tkDynArray, u"TBytes", u"System.SysUtils");
+constinit const TTypeInfo TInfo<decltype(TGUID::D4)>::Info =
+    DescribeOf<decltype(TGUID::D4), std::uint8_t>(tkArray, u"TGUIDTail", cSystem);
 constinit const TTypeInfo TInfo<TGUID>::Info = DescribeRecord<TGUID>(u"TGUID", cSystem, cGuidFields);
 constinit const TTypeInfo TInfo<void*>::Info = DescribeType<void*>(tkPointer, u"Pointer", cSystem);
 constinit const TTypeInfo TInfo<TClass>::Info = DescribeType<TClass>(tkClassRef, u"TClass", cSystem);

@@ -33,5 +33,6 @@ QZ_TYPE_INFO(qz::UTF8String);
 QZ_TYPE_INFO(qz::RawByteString);
 QZ_TYPE_INFO(qz::TBytes);
 QZ_TYPE_INFO(qz::TGUID);
+QZ_TYPE_INFO(decltype(qz::TGUID::D4));
 QZ_TYPE_INFO(void*);
 QZ_TYPE_INFO(qz::TClass);

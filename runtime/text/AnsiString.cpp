@@ -61,20 +61,31 @@ TByteText TByteText::Encode(std::u16string_view AText, std::uint16_t ACodePage) 
 }
 
 TByteText TByteText::Recode(const TByteText& AText, std::uint16_t ACodePage) {
+    if (AText.CodePage() == ACodePage)
+        return AText;
     if (RealPage(AText.CodePage()) == RealPage(ACodePage))
         return TByteText(AText.View(), ACodePage);
     return Encode(AText.ToUnicode(), ACodePage);
 }
 
 void TByteText::SetLength(std::size_t ALength) {
-    TByteText Fresh;
-    if (ALength != 0) {
-        Fresh.FData = TBlock::Allocate(1, CodePage(), ALength, ALength)->Data<char>();
-        const std::size_t Kept = std::min(ALength, size());
-        std::memcpy(Fresh.FData, data(), Kept);
-        std::memset(Fresh.FData + Kept, 0, ALength - Kept);
+    const std::size_t Old = size();
+    if (ALength == 0) {
+        *this = TByteText();
+        return;
     }
-    std::swap(FData, Fresh.FData);
+    if (FData == nullptr || !Block()->IsUnique()) {
+        TByteText Fresh;
+        Fresh.FData = TBlock::Allocate(1, CodePage(), ALength, ALength)->Data<char>();
+        std::memcpy(Fresh.FData, data(), std::min(ALength, Old));
+        std::swap(FData, Fresh.FData);
+    } else if (ALength > static_cast<std::size_t>(Block()->Capacity)) {
+        FData = TBlock::Reallocate(Block(), TBlock::Grown(Old, ALength))->Data<char>();
+    }
+    if (ALength > Old)
+        std::memset(FData + Old, 0, ALength - Old);
+    FData[ALength] = '\0';
+    Block()->Length = static_cast<std::int32_t>(ALength);
 }
 
 char* TByteText::UniqueData() {
@@ -110,6 +121,10 @@ void TByteText::AppendBytes(std::string_view AText, std::uint16_t ACodePage) {
 
 std::ostream& operator<<(std::ostream& AStream, const TByteText& AText) {
     return AStream.write(AText.data(), static_cast<std::streamsize>(AText.size()));
+}
+
+void PrintTo(const TByteText& AText, std::ostream* AStream) {
+    *AStream << '"' << AText << "\" in code page " << AText.CodePage();
 }
 
 std::uint16_t DefaultSystemCodePage() noexcept {

@@ -86,6 +86,8 @@ public:
         return ALeft.View() <=> ARight.View();
     }
     friend QZ_API std::ostream& operator<<(std::ostream& AStream, const TByteText& AText);
+    // How GoogleTest shows a text in its messages.
+    friend QZ_API void PrintTo(const TByteText& AText, std::ostream* AStream);
 
 protected:
     void AppendBytes(std::string_view AText, std::uint16_t ACodePage);
@@ -106,8 +108,8 @@ public:
 
     TAnsiText() noexcept = default;
     // The bytes as they stand, taken to be in this type's code page.
-    explicit TAnsiText(std::string_view AText) : TByteText(AText, Page) {}
-    explicit TAnsiText(const char* AText) : TByteText(AText == nullptr ? std::string_view() : AText, Page) {}
+    template <CNarrowText T>
+    explicit TAnsiText(const T& AText) : TByteText(detail::ViewOf<char>(AText), Page) {}
     TAnsiText(std::string_view AText, std::uint16_t ACodePage) : TByteText(AText, ACodePage) {}
     // Converted; what the code page cannot express becomes its best fit or "?".
     explicit TAnsiText(const UnicodeString& AText) requires(Page != cNoCodePage)
@@ -118,8 +120,9 @@ public:
     explicit(Page != cNoCodePage) TAnsiText(const TAnsiText<Other>& AText)
         : TByteText(Page == cNoCodePage ? static_cast<const TByteText&>(AText) : Recode(AText, Page)) {}
 
+    // An empty text takes the code page of the other.
     TAnsiText& operator+=(const TAnsiText& AText) {
-        AppendBytes(AText.View(), Page);
+        AppendBytes(AText.View(), AText.CodePage());
         return *this;
     }
     TAnsiText& operator+=(std::string_view AText) {

@@ -16,6 +16,23 @@ void CopyNames(std::array<UnicodeString, N>& ATarget, const std::array<std::u16s
         ATarget[I] = ASource[I];
 }
 
+// A pattern of the system in the letters of FormatDateTime, where "tt" is another pattern and "ampm" the half of the
+// day. Literals stay as they are.
+UnicodeString TimePattern(std::u16string_view APattern) {
+    UnicodeString Result;
+    bool IsLiteral = false;
+    for (std::size_t Here = 0; Here < APattern.size(); ++Here) {
+        const char16_t Char = APattern[Here];
+        IsLiteral = IsLiteral != (Char == u'\'');
+        if (IsLiteral || Char != u't') {
+            Result += Char;
+        } else if (Here == 0 || APattern[Here - 1] != u't') {
+            Result += u"ampm";
+        }
+    }
+    return Result;
+}
+
 TFormatSettings FromLocale(const platform::TLocale& ALocale) {
     TFormatSettings Result;
     Result.CurrencyString = ALocale.CurrencyString;
@@ -29,8 +46,8 @@ TFormatSettings FromLocale(const platform::TLocale& ALocale) {
     Result.ListSeparator = ALocale.ListSeparator;
     Result.ShortDateFormat = ALocale.ShortDateFormat;
     Result.LongDateFormat = ALocale.LongDateFormat;
-    Result.ShortTimeFormat = ALocale.ShortTimeFormat;
-    Result.LongTimeFormat = ALocale.LongTimeFormat;
+    Result.ShortTimeFormat = TimePattern(ALocale.ShortTimeFormat);
+    Result.LongTimeFormat = TimePattern(ALocale.LongTimeFormat);
     Result.TimeAMString = ALocale.AMString;
     Result.TimePMString = ALocale.PMString;
     CopyNames(Result.ShortMonthNames, ALocale.ShortMonthNames);

@@ -1,6 +1,6 @@
 // TFormatSettings: the separators, names and patterns by which numbers and dates are written and read.
 //
-//     FormatFloat... (1.5, TFormatSettings::Neutral());      // always "1.5"
+//     FloatToStr(1.5, TFormatSettings::Neutral());           // always "1.5"
 //     TFormatSettings Mine = DefaultFormatSettings();        // a copy to change
 //     Mine.DecimalSeparator = u',';
 //
@@ -26,6 +26,7 @@ struct TFormatSettings {
     char16_t DateSeparator = u'/';
     char16_t TimeSeparator = u':';
     char16_t ListSeparator = u',';
+    // In the letters of FormatDateTime.
     UnicodeString ShortDateFormat;
     UnicodeString LongDateFormat;
     UnicodeString ShortTimeFormat;

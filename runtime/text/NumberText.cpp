@@ -6,6 +6,7 @@
 
 #include "runtime/errors/Exceptions.h"
 #include "runtime/objects/Guid.h"
+#include "runtime/text/FloatText.h"
 #include "runtime/text/StringUtils.h"
 
 namespace qz {
@@ -90,15 +91,6 @@ template <class T> T Require(const TStringArg& AText) {
     return Value;
 }
 
-UnicodeString HexText(std::uint64_t AValue, int ADigits) {
-    std::array<char16_t, cMaxHexDigits> Buffer;
-    char16_t* End = Buffer.data() + Buffer.size();
-    char16_t* Start = detail::WriteHex(AValue, End);
-    while (End - Start < ADigits && Start != Buffer.data())
-        *--Start = u'0';
-    return {Start, static_cast<std::size_t>(End - Start)};
-}
-
 } // namespace
 
 char16_t* detail::WriteDecimal(std::uint64_t AValue, char16_t* AEnd) noexcept {
@@ -140,11 +132,13 @@ UnicodeString UIntToStr(std::uint64_t AValue) {
     return {Start, static_cast<std::size_t>(End - Start)};
 }
 
-UnicodeString IntToHex(std::uint64_t AValue, int ADigits) {
-    return HexText(AValue, ADigits);
-}
-UnicodeString IntToHex(int AValue, int ADigits) {
-    return HexText(static_cast<std::uint32_t>(AValue), ADigits);
+UnicodeString detail::HexText(std::uint64_t AValue, int ADigits) {
+    std::array<char16_t, cMaxHexDigits> Buffer;
+    char16_t* End = Buffer.data() + Buffer.size();
+    char16_t* Start = detail::WriteHex(AValue, End);
+    while (End - Start < ADigits && Start != Buffer.data())
+        *--Start = u'0';
+    return {Start, static_cast<std::size_t>(End - Start)};
 }
 
 std::int32_t StrToInt(const TStringArg& AText) {
@@ -187,14 +181,14 @@ UnicodeString BoolToStr(bool AValue, bool AUseBoolStrs) {
     return AValue ? UnicodeString(cMinusOne) : UnicodeString(cZero);
 }
 
-bool TryStrToBool(const TStringArg& AText, bool& AValue) noexcept {
+bool TryStrToBool(const TStringArg& AText, bool& AValue) {
     AValue = false;
     if (SameText(AText, u"True"))
         return AValue = true;
     if (SameText(AText, u"False"))
         return true;
-    std::int64_t Number;
-    const bool IsNumber = TryStrToInt64(AText, Number);
+    double Number;
+    const bool IsNumber = TryStrToFloat(AText, Number);
     AValue = Number != 0;
     return IsNumber;
 }
@@ -206,7 +200,7 @@ bool StrToBool(const TStringArg& AText) {
     return Value;
 }
 
-bool StrToBoolDef(const TStringArg& AText, bool ADefault) noexcept {
+bool StrToBoolDef(const TStringArg& AText, bool ADefault) {
     bool Value;
     return TryStrToBool(AText, Value) ? Value : ADefault;
 }

@@ -16,9 +16,18 @@ namespace qz {
 
 QZ_API UnicodeString IntToStr(std::int64_t AValue);
 QZ_API UnicodeString UIntToStr(std::uint64_t AValue);
-// At least ADigits capital digits; a negative number in two's complement of 64 bits, or of 32 for the int overload.
-QZ_API UnicodeString IntToHex(std::uint64_t AValue, int ADigits = 16);
-QZ_API UnicodeString IntToHex(int AValue, int ADigits = 8);
+template <std::unsigned_integral T> UnicodeString IntToStr(T AValue) {
+    return UIntToStr(AValue);
+}
+
+namespace detail {
+QZ_API UnicodeString HexText(std::uint64_t AValue, int ADigits);
+}
+
+// At least ADigits capital digits, by default as many as the type has; a negative number in two's complement.
+template <std::integral T> UnicodeString IntToHex(T AValue, int ADigits = 2 * static_cast<int>(sizeof(T))) {
+    return detail::HexText(static_cast<std::make_unsigned_t<T>>(AValue), ADigits);
+}
 
 // Each raises EConvertError, "'%s' is not a valid integer value", for any other text and for a number out of range.
 QZ_API std::int32_t StrToInt(const TStringArg& AText);
@@ -33,11 +42,11 @@ QZ_API std::int64_t StrToInt64Def(const TStringArg& AText, std::int64_t ADefault
 
 // "-1" and "0", or "True" and "False".
 QZ_API UnicodeString BoolToStr(bool AValue, bool AUseBoolStrs = false);
-// "True" and "False" in any case of letters, or a number, where anything but 0 is true. Raises EConvertError,
-// "'%s' is not a valid boolean value".
+// "True" and "False" in any case of letters, or a number as StrToFloat reads it, where anything but 0 is true. Raises
+// EConvertError, "'%s' is not a valid boolean value".
 QZ_API bool StrToBool(const TStringArg& AText);
-QZ_API bool TryStrToBool(const TStringArg& AText, bool& AValue) noexcept;
-QZ_API bool StrToBoolDef(const TStringArg& AText, bool ADefault) noexcept;
+QZ_API bool TryStrToBool(const TStringArg& AText, bool& AValue);
+QZ_API bool StrToBoolDef(const TStringArg& AText, bool ADefault);
 
 namespace detail {
 

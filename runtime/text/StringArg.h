@@ -13,36 +13,23 @@ namespace qz {
 
 class TStringArg {
 public:
-    TStringArg(const UnicodeString& AText) noexcept : FView(AText.View()) {}
-    template <CWideText T> TStringArg(const T& AText) noexcept : FView(WideView(AText)) {}
+    TStringArg(const UnicodeString& AText) noexcept : FView(AText.View()), FSource(&AText) {}
+    template <CWideText T> TStringArg(const T& AText) noexcept : FView(detail::ViewOf<char16_t>(AText)) {}
     template <std::size_t N> TStringArg(const TTextConstant<N>& AText) noexcept : FView(AText) {}
-    template <class T>
-        requires CNarrowText<T> || CUtf8Text<T> TStringArg(const T& AText)
-            : FOwn(AText),
-              FView(FOwn.View()) {}
-        TStringArg(const TStringArg&) = delete;
-        TStringArg& operator=(const TStringArg&) = delete;
+    template <CNarrowText T> TStringArg(const T& AText) : FOwn(AText), FView(FOwn.View()), FSource(&FOwn) {}
+    template <CUtf8Text T> TStringArg(const T& AText) : FOwn(AText), FView(FOwn.View()), FSource(&FOwn) {}
+    TStringArg(const TStringArg&) = delete;
+    TStringArg& operator=(const TStringArg&) = delete;
 
-        operator std::u16string_view() const noexcept {
-            return FView;
-        }
-        std::u16string_view View() const noexcept {
-            return FView;
-        }
-        UnicodeString ToString() const {
-            return FOwn.empty() ? UnicodeString(FView) : FOwn;
-        }
+    operator std::u16string_view() const noexcept { return FView; }
+    std::u16string_view View() const noexcept { return FView; }
+    // Shares the text that the argument was made from, where that is a UnicodeString.
+    UnicodeString ToString() const { return FSource != nullptr ? *FSource : UnicodeString(FView); }
 
-    private:
-        template <class T> static std::u16string_view WideView(const T& AText) noexcept {
-            if constexpr (std::is_pointer_v<T>)
-                return AText == nullptr ? std::u16string_view() : std::u16string_view(AText);
-            else
-                return AText;
-        }
-
-        UnicodeString FOwn;
-        std::u16string_view FView;
+private:
+    UnicodeString FOwn;
+    std::u16string_view FView;
+    const UnicodeString* FSource = nullptr;
 };
 
 } // namespace qz

@@ -56,10 +56,12 @@ struct TStringBlock {
 
     QZ_API static void FreeBlock(TStringBlock* ABlock) noexcept;
 
-    // The capacity for appending to a text that has ACapacity and now needs ANeeded: half as much again, at least.
+    // The capacity for appending to a text that has ACapacity and now needs ANeeded: as much again, at least. With
+    // the header and the terminator the blocks of a text that grows are multiples of 8 bytes.
     static std::size_t Grown(std::size_t ACapacity, std::size_t ANeeded) noexcept {
-        const std::size_t Larger = ACapacity + ACapacity / 2 + 12;
-        return Larger > ANeeded ? Larger : ANeeded;
+        const std::size_t Larger = 2 * ACapacity + 19;
+        const std::size_t Possible = Larger < cMaxLength ? Larger : cMaxLength;
+        return Possible > ANeeded ? Possible : ANeeded;
     }
 
     static constexpr std::size_t cMaxLength = 0x3FFFFFF0;

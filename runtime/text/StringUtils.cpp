@@ -1,6 +1,7 @@
 #include "runtime/text/StringUtils.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "platform/Text.h"
 
@@ -22,9 +23,41 @@ template <class TChar> int Sign(TChar ALeft, TChar ARight) noexcept {
     return ALeft < ARight ? -1 : ALeft > ARight ? 1 : 0;
 }
 
-std::size_t FindText(TView AText, TView APiece) noexcept {
+// Up to this length the plain search costs little also where it has to begin anew all the time.
+constexpr std::size_t cShortPiece = 64;
+
+// The search of Knuth, Morris and Pratt: each character of the text is looked at once or twice.
+template <class TMap> std::size_t FindLong(TView AText, TView APiece, std::size_t AFrom, TMap AMap) {
+    std::vector<std::uint32_t> Border(APiece.size());
+    for (std::size_t I = 1, Length = 0; I < APiece.size(); ++I) {
+        while (Length != 0 && AMap(APiece[I]) != AMap(APiece[Length]))
+            Length = Border[Length - 1];
+        if (AMap(APiece[I]) == AMap(APiece[Length]))
+            ++Length;
+        Border[I] = static_cast<std::uint32_t>(Length);
+    }
+    for (std::size_t I = AFrom, Length = 0; I < AText.size(); ++I) {
+        while (Length != 0 && AMap(AText[I]) != AMap(APiece[Length]))
+            Length = Border[Length - 1];
+        if (AMap(AText[I]) == AMap(APiece[Length]) && ++Length == APiece.size())
+            return I + 1 - Length;
+    }
+    return TView::npos;
+}
+
+constexpr char16_t Same(char16_t AChar) noexcept {
+    return AChar;
+}
+
+std::size_t Find(TView AText, TView APiece, std::size_t AFrom) {
+    return APiece.size() <= cShortPiece ? AText.find(APiece, AFrom) : FindLong(AText, APiece, AFrom, Same);
+}
+
+std::size_t FindText(TView AText, TView APiece) {
     if (APiece.empty())
         return TView::npos;
+    if (APiece.size() > cShortPiece)
+        return FindLong(AText, APiece, 0, LowCase);
     const auto Found = std::search(AText.begin(), AText.end(), APiece.begin(), APiece.end(),
                                    [](char16_t A, char16_t B) { return LowCase(A) == LowCase(B); });
     return Found == AText.end() ? TView::npos : static_cast<std::size_t>(Found - AText.begin());
@@ -65,11 +98,11 @@ UnicodeString AnsiLowerCase(const TStringArg& AText) {
     return platform::LowerCase(AText);
 }
 
-int CompareStr(TView ALeft, TView ARight) noexcept {
+int detail::CompareUnits(TView ALeft, TView ARight) noexcept {
     return ALeft.compare(ARight);
 }
 
-int CompareText(TView ALeft, TView ARight) noexcept {
+int detail::CompareUnitsNoCase(TView ALeft, TView ARight) noexcept {
     const std::size_t Common = std::min(ALeft.size(), ARight.size());
     for (std::size_t I = 0; I < Common; ++I)
         if (const int Order = Sign(LowCase(ALeft[I]), LowCase(ARight[I])); Order != 0)
@@ -77,9 +110,19 @@ int CompareText(TView ALeft, TView ARight) noexcept {
     return Sign(ALeft.size(), ARight.size());
 }
 
-bool SameText(TView ALeft, TView ARight) noexcept {
-    return ALeft.size() == ARight.size() &&
-        std::equal(ALeft.begin(), ALeft.end(), ARight.begin(),
+int CompareStr(const TStringArg& ALeft, const TStringArg& ARight) noexcept {
+    return detail::CompareUnits(ALeft, ARight);
+}
+
+int CompareText(const TStringArg& ALeft, const TStringArg& ARight) noexcept {
+    return detail::CompareUnitsNoCase(ALeft, ARight);
+}
+
+bool SameText(const TStringArg& ALeft, const TStringArg& ARight) noexcept {
+    const TView Left = ALeft;
+    const TView Right = ARight;
+    return Left.size() == Right.size() &&
+        std::equal(Left.begin(), Left.end(), Right.begin(),
                    [](char16_t A, char16_t B) { return A == B || LowCase(A) == LowCase(B); });
 }
 
@@ -116,11 +159,11 @@ UnicodeString TrimRight(const TStringArg& AText) {
     return Text;
 }
 
-int Pos(const TStringArg& APiece, const TStringArg& AText, int AOffset) noexcept {
+int Pos(const TStringArg& APiece, const TStringArg& AText, int AOffset) {
     const TView Text = AText;
     if (APiece.View().empty() || AOffset < 1 || static_cast<std::size_t>(AOffset) > Text.size())
         return 0;
-    const std::size_t Found = Text.find(APiece, static_cast<std::size_t>(AOffset) - 1);
+    const std::size_t Found = Find(Text, APiece, static_cast<std::size_t>(AOffset) - 1);
     return Found == TView::npos ? 0 : static_cast<int>(Found) + 1;
 }
 
@@ -146,19 +189,24 @@ void Insert(const TStringArg& APiece, UnicodeString& AText, int AIndex) {
     AText = std::move(Result);
 }
 
-bool StartsStr(TView APiece, TView AText) noexcept {
-    return AText.starts_with(APiece);
+bool StartsStr(const TStringArg& APiece, const TStringArg& AText) noexcept {
+    return AText.View().starts_with(APiece);
 }
-bool StartsText(TView APiece, TView AText) noexcept {
-    return AText.size() >= APiece.size() && SameText(APiece, AText.substr(0, APiece.size()));
+
+bool StartsText(const TStringArg& APiece, const TStringArg& AText) noexcept {
+    return SameText(APiece.View(), AText.View().substr(0, APiece.View().size()));
 }
-bool EndsStr(TView APiece, TView AText) noexcept {
-    return AText.ends_with(APiece);
+
+bool EndsStr(const TStringArg& APiece, const TStringArg& AText) noexcept {
+    return AText.View().ends_with(APiece);
 }
-bool EndsText(TView APiece, TView AText) noexcept {
-    return AText.size() >= APiece.size() && SameText(APiece, AText.substr(AText.size() - APiece.size()));
+
+bool EndsText(const TStringArg& APiece, const TStringArg& AText) noexcept {
+    const std::size_t Length = std::min(APiece.View().size(), AText.View().size());
+    return SameText(APiece.View(), AText.View().substr(AText.View().size() - Length));
 }
-bool ContainsText(const TStringArg& AText, const TStringArg& APiece) noexcept {
+
+bool ContainsText(const TStringArg& AText, const TStringArg& APiece) {
     return FindText(AText, APiece) != TView::npos;
 }
 
@@ -170,7 +218,7 @@ UnicodeString StringReplace(const TStringArg& AText, const TStringArg& AOld, con
     const std::u16string UpperOld = IgnoreCase ? UpperUnits(AOld) : std::u16string();
     const TView Where = IgnoreCase ? TView(UpperText) : Text;
     const TView What = IgnoreCase ? TView(UpperOld) : AOld.View();
-    std::size_t Found = What.empty() ? TView::npos : Where.find(What);
+    std::size_t Found = What.empty() ? TView::npos : Find(Where, What, 0);
     if (Found == TView::npos)
         return AText.ToString();
     UnicodeString Result;
@@ -178,7 +226,7 @@ UnicodeString StringReplace(const TStringArg& AText, const TStringArg& AOld, con
     while (Found != TView::npos) {
         Result.Append(Text.substr(Done, Found - Done)).Append(ANew);
         Done = Found + What.size();
-        Found = AFlags.Contains(rfReplaceAll) ? Where.find(What, Done) : TView::npos;
+        Found = AFlags.Contains(rfReplaceAll) ? Find(Where, What, Done) : TView::npos;
     }
     return Result.Append(Text.substr(Done));
 }
@@ -220,7 +268,8 @@ UnicodeString AnsiDequotedStr(const TStringArg& AText, char16_t AQuote) {
     TView Text = AText;
     if (Text.size() < 2 || Text.front() != AQuote || Text.back() != AQuote)
         return AText.ToString();
-    return AnsiExtractQuotedStr(Text, AQuote);
+    UnicodeString Result = AnsiExtractQuotedStr(Text, AQuote);
+    return Text.empty() ? Result : AText.ToString();
 }
 
 UnicodeString StringOfChar(char16_t AChar, int ACount) {
@@ -234,9 +283,9 @@ UnicodeString ReverseString(const TStringArg& AText) {
     return Result;
 }
 
-bool IsValidIdent(TView AText, bool ADots) noexcept {
+bool IsValidIdent(const TStringArg& AText, bool ADots) noexcept {
     bool AtStart = true;
-    for (const char16_t Char : AText) {
+    for (const char16_t Char : AText.View()) {
         if (ADots && Char == u'.' && !AtStart)
             AtStart = true;
         else if (IsIdentStart(Char) || (!AtStart && Char >= u'0' && Char <= u'9'))

@@ -29,12 +29,18 @@ constexpr char16_t LowCase(char16_t AChar) noexcept {
 QZ_API UnicodeString AnsiUpperCase(const TStringArg& AText);
 QZ_API UnicodeString AnsiLowerCase(const TStringArg& AText);
 
+namespace detail {
+// CompareStr and CompareText of views, to be called by address.
+QZ_API int CompareUnits(std::u16string_view ALeft, std::u16string_view ARight) noexcept;
+QZ_API int CompareUnitsNoCase(std::u16string_view ALeft, std::u16string_view ARight) noexcept;
+} // namespace detail
+
 // Comparison by 16-bit units: negative, zero or positive. CompareText and SameText take A to Z as a to z.
-QZ_API int CompareStr(std::u16string_view ALeft, std::u16string_view ARight) noexcept;
-QZ_API int CompareText(std::u16string_view ALeft, std::u16string_view ARight) noexcept;
-QZ_API bool SameText(std::u16string_view ALeft, std::u16string_view ARight) noexcept;
-inline bool SameStr(std::u16string_view ALeft, std::u16string_view ARight) noexcept {
-    return ALeft == ARight;
+QZ_API int CompareStr(const TStringArg& ALeft, const TStringArg& ARight) noexcept;
+QZ_API int CompareText(const TStringArg& ALeft, const TStringArg& ARight) noexcept;
+QZ_API bool SameText(const TStringArg& ALeft, const TStringArg& ARight) noexcept;
+inline bool SameStr(const TStringArg& ALeft, const TStringArg& ARight) noexcept {
+    return ALeft.View() == ARight.View();
 }
 
 // Comparison as a person of the user's locale would sort; AnsiCompareText and AnsiSameText ignore case.
@@ -47,19 +53,20 @@ QZ_API UnicodeString Trim(const TStringArg& AText);
 QZ_API UnicodeString TrimLeft(const TStringArg& AText);
 QZ_API UnicodeString TrimRight(const TStringArg& AText);
 
-// The position of the first occurrence at or behind AOffset, or 0; an empty piece occurs nowhere.
-QZ_API int Pos(const TStringArg& APiece, const TStringArg& AText, int AOffset = 1) noexcept;
+// The position of the first occurrence at or behind AOffset, or 0; an empty piece occurs nowhere. Searching takes
+// time in proportion to the text, whatever the piece.
+QZ_API int Pos(const TStringArg& APiece, const TStringArg& AText, int AOffset = 1);
 // ACount units from AIndex on, as many as there are.
 QZ_API UnicodeString Copy(const TStringArg& AText, int AIndex, int ACount = 0x7FFFFFFF);
 // Changes the text in place; an index outside it deletes nothing, or inserts at the nearer end.
 QZ_API void Delete(UnicodeString& AText, int AIndex, int ACount);
 QZ_API void Insert(const TStringArg& APiece, UnicodeString& AText, int AIndex);
 
-QZ_API bool StartsStr(std::u16string_view APiece, std::u16string_view AText) noexcept;
-QZ_API bool StartsText(std::u16string_view APiece, std::u16string_view AText) noexcept;
-QZ_API bool EndsStr(std::u16string_view APiece, std::u16string_view AText) noexcept;
-QZ_API bool EndsText(std::u16string_view APiece, std::u16string_view AText) noexcept;
-QZ_API bool ContainsText(const TStringArg& AText, const TStringArg& APiece) noexcept;
+QZ_API bool StartsStr(const TStringArg& APiece, const TStringArg& AText) noexcept;
+QZ_API bool StartsText(const TStringArg& APiece, const TStringArg& AText) noexcept;
+QZ_API bool EndsStr(const TStringArg& APiece, const TStringArg& AText) noexcept;
+QZ_API bool EndsText(const TStringArg& APiece, const TStringArg& AText) noexcept;
+QZ_API bool ContainsText(const TStringArg& AText, const TStringArg& APiece);
 
 enum class TReplaceFlag : std::uint8_t { rfReplaceAll, rfIgnoreCase };
 using enum TReplaceFlag;
@@ -83,6 +90,6 @@ QZ_API UnicodeString StringOfChar(char16_t AChar, int ACount);
 QZ_API UnicodeString ReverseString(const TStringArg& AText);
 
 // A letter or underscore, then letters, digits and underscores of ASCII; with ADots also parts joined by points.
-QZ_API bool IsValidIdent(std::u16string_view AText, bool ADots = false) noexcept;
+QZ_API bool IsValidIdent(const TStringArg& AText, bool ADots = false) noexcept;
 
 } // namespace qz

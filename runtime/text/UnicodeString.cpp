@@ -91,7 +91,7 @@ char16_t* UnicodeString::AppendRoom(std::size_t ACount) {
     if (ACount == 0)
         return UniqueData() == nullptr ? nullptr : FData + Old;
     if (FData == nullptr || !Block()->IsUnique() || capacity() - Old < ACount)
-        MakeUnique(FData == nullptr ? ACount : TBlock::Grown(capacity(), Old + ACount));
+        MakeUnique(TBlock::Grown(capacity(), Old + ACount));
     FData[Old + ACount] = u'\0';
     Block()->Length = static_cast<int>(Old + ACount);
     return FData + Old;
@@ -121,6 +121,10 @@ UnicodeString& UnicodeString::AppendUtf8(std::string_view AText) {
 
 std::ostream& operator<<(std::ostream& AStream, const UnicodeString& AText) {
     return AStream << Utf16ToUtf8(AText);
+}
+
+void PrintTo(const UnicodeString& AText, std::ostream* AStream) {
+    *AStream << '"' << AText << '"';
 }
 
 } // namespace qz

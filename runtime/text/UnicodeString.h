@@ -32,14 +32,33 @@ class UnicodeString;
 // Text that UnicodeString takes without being asked: 16-bit text as it is, narrow text as UTF-8.
 template <class T>
 concept CWideText =
-    std::convertible_to<const T&, std::u16string_view> && !std::derived_from<T, UnicodeString>;
+    std::convertible_to<const T&, std::u16string_view> && !std::derived_from<T, UnicodeString> &&
+    !std::same_as<T, std::nullptr_t>;
 template <class T>
-concept CNarrowText =
-    std::convertible_to<const T&, std::string_view> && !CWideText<T> && !std::derived_from<T, UnicodeString>;
+concept CNarrowText = std::convertible_to<const T&, std::string_view> && !CWideText<T> &&
+    !std::derived_from<T, UnicodeString> && !std::same_as<T, std::nullptr_t>;
 template <class T>
-concept CUtf8Text = std::convertible_to<const T&, std::u8string_view> && !CWideText<T> && !CNarrowText<T>;
+concept CUtf8Text = std::convertible_to<const T&, std::u8string_view> && !CWideText<T> && !CNarrowText<T> &&
+    !std::derived_from<T, UnicodeString> && !std::same_as<T, std::nullptr_t>;
 
-// A text constant whose block lies in the program: a UnicodeString made from it neither allocates nor counts.
+namespace detail {
+
+// The characters of a text; none behind a null pointer.
+template <class TChar, class T> std::basic_string_view<TChar> ViewOf(const T& AText) noexcept {
+    if constexpr (std::is_pointer_v<T>)
+        return AText == nullptr ? std::basic_string_view<TChar>() : std::basic_string_view<TChar>(AText);
+    else
+        return std::basic_string_view<TChar>(AText);
+}
+
+inline std::string_view NarrowView(std::u8string_view AText) noexcept {
+    return {reinterpret_cast<const char*>(AText.data()), AText.size()};
+}
+
+} // namespace detail
+
+// A text constant whose block lies in the program: a UnicodeString made from it neither allocates nor counts, and
+// may live for ever. So must the constant: it stands at namespace scope or is static, never on the stack.
 //
 //     inline constexpr TTextConstant SGreeting = u"Hello";
 //     UnicodeString Text = SGreeting;
@@ -98,10 +117,13 @@ public:
     }
 
     // From text of any kind. A null pointer to characters gives the empty text. Ill-formed UTF-8 becomes U+FFFD.
-    template <CWideText T> UnicodeString(const T& AText) : UnicodeString(ViewOf<char16_t>(AText), TMake{}) {}
-    template <CNarrowText T> UnicodeString(const T& AText) : UnicodeString(ViewOf<char>(AText), TMake{}) {}
+    template <CWideText T>
+    UnicodeString(const T& AText) : UnicodeString(detail::ViewOf<char16_t>(AText), TMake{}) {}
+    template <CNarrowText T>
+    UnicodeString(const T& AText) : UnicodeString(detail::ViewOf<char>(AText), TMake{}) {}
     template <CUtf8Text T>
-    UnicodeString(const T& AText) : UnicodeString(Narrow(ViewOf<char8_t>(AText)), TMake{}) {}
+    UnicodeString(const T& AText)
+        : UnicodeString(detail::NarrowView(detail::ViewOf<char8_t>(AText)), TMake{}) {}
     template <std::size_t N>
     UnicodeString(const TTextConstant<N>& AConstant) noexcept
         : FData(N > 1 ? const_cast<char16_t*>(AConstant.Text) : nullptr) {}
@@ -125,6 +147,7 @@ public:
     const_iterator begin() const noexcept { return data(); }
     const_iterator end() const noexcept { return data() + Length(); }
     char16_t operator[](std::size_t AIndex) const noexcept { return data()[AIndex]; }
+    // AIndex is less than the length; nothing checks that.
     TCharRef operator[](std::size_t AIndex) noexcept { return {*this, AIndex}; }
     operator std::u16string_view() const noexcept { return {data(), size()}; }
     std::u16string_view View() const noexcept { return {data(), size()}; }
@@ -163,15 +186,27 @@ public:
         return Append(AText.View());
     }
     template <CWideText T> UnicodeString& operator+=(const T& AText) {
-        return Append(ViewOf<char16_t>(AText));
+        return Append(detail::ViewOf<char16_t>(AText));
     }
     template <CNarrowText T> UnicodeString& operator+=(const T& AText) {
-        return AppendUtf8(ViewOf<char>(AText));
+        return AppendUtf8(detail::ViewOf<char>(AText));
     }
     template <CUtf8Text T> UnicodeString& operator+=(const T& AText) {
-        return AppendUtf8(Narrow(ViewOf<char8_t>(AText)));
+        return AppendUtf8(detail::NarrowView(detail::ViewOf<char8_t>(AText)));
     }
-    UnicodeString& operator+=(std::same_as<char16_t> auto AChar) { return Append({&AChar, 1}); }
+    UnicodeString& operator+=(const TCharRef& AChar) { return *this += static_cast<char16_t>(AChar); }
+    UnicodeString& operator+=(std::same_as<char16_t> auto AChar) {
+        const int Old = Length();
+        if (FData == nullptr || !Block()->IsUnique() || Old == Block()->Capacity) {
+            const char16_t Copy = AChar; // so that the other way keeps the character in a register
+            AppendGrown({&Copy, 1});
+            return *this;
+        }
+        FData[Old] = AChar;
+        FData[Old + 1] = u'\0';
+        Block()->Length = Old + 1;
+        return *this;
+    }
 
     // A new text from two; a left side that is about to go is appended to in place.
     template <class T>
@@ -186,10 +221,13 @@ public:
         return Concat(ALeft.View(), ARight.View());
     }
     template <CWideText T> friend UnicodeString operator+(const UnicodeString& ALeft, const T& ARight) {
-        return Concat(ALeft.View(), ViewOf<char16_t>(ARight));
+        return Concat(ALeft.View(), detail::ViewOf<char16_t>(ARight));
     }
     friend UnicodeString operator+(const UnicodeString& ALeft, std::same_as<char16_t> auto ARight) {
         return Concat(ALeft.View(), {&ARight, 1});
+    }
+    friend UnicodeString operator+(const UnicodeString& ALeft, const TCharRef& ARight) {
+        return ALeft + static_cast<char16_t>(ARight);
     }
     template <class T>
         requires CNarrowText<T> || CUtf8Text<T>
@@ -199,7 +237,7 @@ public:
         return Result;
     }
     template <CWideText T> friend UnicodeString operator+(const T& ALeft, const UnicodeString& ARight) {
-        return Concat(ViewOf<char16_t>(ALeft), ARight.View());
+        return Concat(detail::ViewOf<char16_t>(ALeft), ARight.View());
     }
     friend UnicodeString operator+(std::same_as<char16_t> auto ALeft, const UnicodeString& ARight) {
         return Concat({&ALeft, 1}, ARight.View());
@@ -219,25 +257,31 @@ public:
         return ALeft.View() <=> ARight.View();
     }
     template <CWideText T> friend bool operator==(const UnicodeString& ALeft, const T& ARight) noexcept {
-        return ALeft.View() == ViewOf<char16_t>(ARight);
+        return ALeft.View() == detail::ViewOf<char16_t>(ARight);
     }
     template <CWideText T>
     friend std::strong_ordering operator<=>(const UnicodeString& ALeft, const T& ARight) noexcept {
-        return ALeft.View() <=> ViewOf<char16_t>(ARight);
+        return ALeft.View() <=> detail::ViewOf<char16_t>(ARight);
     }
-    template <class T>
-        requires CNarrowText<T> || CUtf8Text<T>
-    friend bool operator==(const UnicodeString& ALeft, const T& ARight) {
-        return ALeft == UnicodeString(ARight);
+    template <CNarrowText T> friend bool operator==(const UnicodeString& ALeft, const T& ARight) noexcept {
+        return CompareUtf8(ALeft.View(), detail::ViewOf<char>(ARight)) == 0;
     }
-    template <class T>
-        requires CNarrowText<T> || CUtf8Text<T>
-    friend std::strong_ordering operator<=>(const UnicodeString& ALeft, const T& ARight) {
-        return ALeft <=> UnicodeString(ARight);
+    template <CNarrowText T>
+    friend std::strong_ordering operator<=>(const UnicodeString& ALeft, const T& ARight) noexcept {
+        return CompareUtf8(ALeft.View(), detail::ViewOf<char>(ARight));
+    }
+    template <CUtf8Text T> friend bool operator==(const UnicodeString& ALeft, const T& ARight) noexcept {
+        return CompareUtf8(ALeft.View(), detail::NarrowView(detail::ViewOf<char8_t>(ARight))) == 0;
+    }
+    template <CUtf8Text T>
+    friend std::strong_ordering operator<=>(const UnicodeString& ALeft, const T& ARight) noexcept {
+        return CompareUtf8(ALeft.View(), detail::NarrowView(detail::ViewOf<char8_t>(ARight)));
     }
 
     // Writes the text as UTF-8.
     friend QZ_API std::ostream& operator<<(std::ostream& AStream, const UnicodeString& AText);
+    // How GoogleTest shows a text in its messages.
+    friend QZ_API void PrintTo(const UnicodeString& AText, std::ostream* AStream);
 
     // One text from two pieces, with one allocation.
     static UnicodeString Concat(std::u16string_view ALeft, std::u16string_view ARight);
@@ -247,15 +291,6 @@ private:
     UnicodeString(std::u16string_view AText, TMake);
     UnicodeString(std::string_view AText, TMake);
 
-    template <class TChar, class T> static std::basic_string_view<TChar> ViewOf(const T& AText) noexcept {
-        if constexpr (std::is_pointer_v<std::decay_t<T>> && !std::is_array_v<T>)
-            return AText == nullptr ? std::basic_string_view<TChar>() : std::basic_string_view<TChar>(AText);
-        else
-            return std::basic_string_view<TChar>(AText);
-    }
-    static std::string_view Narrow(std::u8string_view AText) noexcept {
-        return {reinterpret_cast<const char*>(AText.data()), AText.size()};
-    }
     detail::TStringBlock* Block() const noexcept { return detail::TStringBlock::Of(FData); }
     bool AppendInPlace(std::u16string_view AText) noexcept {
         if (FData == nullptr || !Block()->IsUnique() || capacity() - size() < AText.size())
@@ -275,6 +310,8 @@ private:
 };
 
 static_assert(sizeof(UnicodeString) == sizeof(void*));
+// The text of a constant follows its block as that of a block on the heap does.
+static_assert(offsetof(TTextConstant<2>, Text) == sizeof(detail::TStringBlock));
 
 // String types of their own with the same content, so that reflection and overloads tell them apart. WideString is
 // the one at the borders of the platform.
@@ -293,6 +330,8 @@ inline std::string ToUtf8(std::u16string_view AText) {
 }
 
 } // namespace qz
+
+template <class TTag> struct std::hash<qz::TStringKind<TTag>> : std::hash<std::u16string_view> {};
 
 template <> struct std::hash<qz::UnicodeString> {
     std::size_t operator()(const qz::UnicodeString& AText) const noexcept {

@@ -24,6 +24,71 @@ std::size_t AsciiRun(const char* ABegin, const char* AEnd) noexcept {
     return static_cast<std::size_t>(Here - ABegin);
 }
 
+constexpr std::ptrdiff_t cStep = 8;
+
+// Whether the cStep units from AHere on are ASCII.
+bool IsAsciiStep(const char16_t* AHere) noexcept {
+    std::uint64_t Blocks[2];
+    std::memcpy(Blocks, AHere, sizeof Blocks);
+    return ((Blocks[0] | Blocks[1]) & 0xFF80FF80FF80FF80u) == 0;
+}
+
+// Number of units at the start of [ABegin, AEnd) that are ASCII, counted in whole steps.
+std::size_t AsciiSteps(const char16_t* ABegin, const char16_t* AEnd) noexcept {
+    const char16_t* Here = ABegin;
+    while (AEnd - Here >= cStep && IsAsciiStep(Here))
+        Here += cStep;
+    return static_cast<std::size_t>(Here - ABegin);
+}
+
+// Vectors of one step, which gcc and clang turn into the instructions of the machine that there is.
+using TByteStep = unsigned char __attribute__((vector_size(cStep)));
+using TUnitStep = std::uint16_t __attribute__((vector_size(2 * cStep)));
+
+char16_t* Widen(const char* ASource, std::size_t ACount, char16_t* ADest) noexcept {
+    std::size_t Done = 0;
+    for (; ACount - Done >= cStep; Done += cStep) {
+        TByteStep Step;
+        std::memcpy(&Step, ASource + Done, sizeof Step);
+        const TUnitStep Wide = __builtin_convertvector(Step, TUnitStep);
+        std::memcpy(ADest + Done, &Wide, sizeof Wide);
+    }
+    for (; Done < ACount; ++Done)
+        ADest[Done] = static_cast<unsigned char>(ASource[Done]);
+    return ADest + ACount;
+}
+
+// ACount is a multiple of cStep.
+char* Narrow(const char16_t* ASource, std::size_t ACount, char* ADest) noexcept {
+    for (std::size_t Done = 0; Done < ACount; Done += cStep) {
+        TUnitStep Step;
+        std::memcpy(&Step, ASource + Done, sizeof Step);
+        const TByteStep Bytes = __builtin_convertvector(Step, TByteStep);
+        std::memcpy(ADest + Done, &Bytes, sizeof Bytes);
+    }
+    return ADest + ACount;
+}
+
+char* EncodeUtf8(char32_t ACode, char* ADest) noexcept {
+    if (ACode < 0x80) {
+        *ADest++ = static_cast<char>(ACode);
+        return ADest;
+    }
+    if (ACode < 0x800) {
+        *ADest++ = static_cast<char>(0xC0 | (ACode >> 6));
+    } else {
+        if (ACode < 0x10000) {
+            *ADest++ = static_cast<char>(0xE0 | (ACode >> 12));
+        } else {
+            *ADest++ = static_cast<char>(0xF0 | (ACode >> 18));
+            *ADest++ = static_cast<char>(0x80 | ((ACode >> 12) & 0x3F));
+        }
+        *ADest++ = static_cast<char>(0x80 | ((ACode >> 6) & 0x3F));
+    }
+    *ADest++ = static_cast<char>(0x80 | (ACode & 0x3F));
+    return ADest;
+}
+
 // What a lead byte promises: the number of continuation bytes and the range of the first of them.
 struct TLead {
     int Count;
@@ -97,8 +162,14 @@ std::size_t Utf16ToUtf8Length(std::u16string_view AText) noexcept {
     const char16_t* End = Here + AText.size();
     std::size_t Length = 0;
     while (Here != End) {
-        const char32_t Code = DecodeUtf16(Here, End);
-        Length += Code < 0x80 ? 1u : Code < 0x800 ? 2u : Code < 0x10000 ? 3u : 4u;
+        const std::size_t Run = AsciiSteps(Here, End);
+        Length += Run;
+        Here += Run;
+        // The rest of a step, of which at least one unit is not ASCII, or of the text.
+        for (const char16_t* Stop = Here + std::min(End - Here, cStep); Here < Stop;) {
+            const char32_t Code = DecodeUtf16(Here, End);
+            Length += Code < 0x80 ? 1u : Code < 0x800 ? 2u : Code < 0x10000 ? 3u : 4u;
+        }
     }
     return Length;
 }
@@ -108,9 +179,7 @@ char16_t* Utf8ToUtf16(std::string_view AText, char16_t* ADest) noexcept {
     const char* End = Here + AText.size();
     while (Here != End) {
         const std::size_t Run = AsciiRun(Here, End);
-        for (std::size_t I = 0; I < Run; ++I)
-            ADest[I] = static_cast<unsigned char>(Here[I]);
-        ADest += Run;
+        ADest = Widen(Here, Run, ADest);
         Here += Run;
         while (Here != End && static_cast<signed char>(*Here) < 0) {
             const char32_t Code = DecodeUtf8(Here, End);
@@ -129,22 +198,11 @@ char* Utf16ToUtf8(std::u16string_view AText, char* ADest) noexcept {
     const char16_t* Here = AText.data();
     const char16_t* End = Here + AText.size();
     while (Here != End) {
-        const char32_t Code = DecodeUtf16(Here, End);
-        if (Code < 0x80) {
-            *ADest++ = static_cast<char>(Code);
-        } else if (Code < 0x800) {
-            *ADest++ = static_cast<char>(0xC0 | (Code >> 6));
-            *ADest++ = static_cast<char>(0x80 | (Code & 0x3F));
-        } else if (Code < 0x10000) {
-            *ADest++ = static_cast<char>(0xE0 | (Code >> 12));
-            *ADest++ = static_cast<char>(0x80 | ((Code >> 6) & 0x3F));
-            *ADest++ = static_cast<char>(0x80 | (Code & 0x3F));
-        } else {
-            *ADest++ = static_cast<char>(0xF0 | (Code >> 18));
-            *ADest++ = static_cast<char>(0x80 | ((Code >> 12) & 0x3F));
-            *ADest++ = static_cast<char>(0x80 | ((Code >> 6) & 0x3F));
-            *ADest++ = static_cast<char>(0x80 | (Code & 0x3F));
-        }
+        const std::size_t Run = AsciiSteps(Here, End);
+        ADest = Narrow(Here, Run, ADest);
+        Here += Run;
+        for (const char16_t* Stop = Here + std::min(End - Here, cStep); Here < Stop;)
+            ADest = EncodeUtf8(DecodeUtf16(Here, End), ADest);
     }
     return ADest;
 }
@@ -173,6 +231,27 @@ char32_t NextCodePoint(std::u16string_view AText, std::size_t& APos) noexcept {
     const char32_t Code = DecodeUtf16(Here, AText.data() + AText.size());
     APos = static_cast<std::size_t>(Here - AText.data());
     return Code;
+}
+
+std::strong_ordering CompareUtf8(std::u16string_view AWide, std::string_view ANarrow) noexcept {
+    const char* Here = ANarrow.data();
+    const char* End = Here + ANarrow.size();
+    std::size_t Done = 0;
+    while (Here != End) {
+        const char32_t Code =
+            static_cast<signed char>(*Here) >= 0 ? static_cast<char32_t>(*Here++) : DecodeUtf8(Here, End);
+        const bool IsPair = Code >= 0x10000;
+        const char16_t Units[2] = {IsPair ? static_cast<char16_t>(0xD7C0 + (Code >> 10))
+                                          : static_cast<char16_t>(Code),
+                                   static_cast<char16_t>(0xDC00 + (Code & 0x3FF))};
+        for (std::size_t I = 0; I < (IsPair ? 2u : 1u); ++I, ++Done) {
+            if (Done == AWide.size())
+                return std::strong_ordering::less;
+            if (AWide[Done] != Units[I])
+                return AWide[Done] <=> Units[I];
+        }
+    }
+    return Done == AWide.size() ? std::strong_ordering::equal : std::strong_ordering::greater;
 }
 
 bool IsAscii(std::string_view AText) noexcept {

@@ -8,6 +8,7 @@
 // lone surrogate of UTF-16 gives one U+FFFD. All functions are pure and may run on any number of threads.
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -39,6 +40,9 @@ QZ_API std::string Utf16ToUtf8(std::u16string_view AText);
 // Reads one code point at AText[APos] and moves APos behind it. APos is inside AText.
 QZ_API char32_t NextCodePoint(std::string_view AText, std::size_t& APos) noexcept;
 QZ_API char32_t NextCodePoint(std::u16string_view AText, std::size_t& APos) noexcept;
+
+// How AWide compares, by 16-bit units, with the UTF-16 form of ANarrow; nothing is allocated.
+QZ_API std::strong_ordering CompareUtf8(std::u16string_view AWide, std::string_view ANarrow) noexcept;
 
 // True when no byte of AText is above 7F.
 QZ_API bool IsAscii(std::string_view AText) noexcept;

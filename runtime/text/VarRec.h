@@ -61,19 +61,24 @@ public:
     }
     TVarRec(Extended AValue) noexcept : FKind(vtExtended) { FValue.Float = AValue.Value; }
     TVarRec(const UnicodeString& AText) noexcept : TVarRec(AText.View(), 0) {}
-    template <CWideText T> TVarRec(const T& AText) noexcept : TVarRec(std::u16string_view(AText), 0) {}
+    TVarRec(const UnicodeString::TCharRef& AChar) noexcept : TVarRec(static_cast<char16_t>(AChar)) {}
+    template <CWideText T> TVarRec(const T& AText) noexcept : TVarRec(detail::ViewOf<char16_t>(AText), 0) {}
     template <std::size_t N>
     TVarRec(const TTextConstant<N>& AText) noexcept : TVarRec(std::u16string_view(AText), 0) {}
     template <CNarrowText T>
         requires(!std::derived_from<T, TByteText>)
     TVarRec(const T& AText)
-    noexcept : FKind(vtUtf8) { SetText(std::string_view(AText)); }
+    noexcept : FKind(vtUtf8) { SetText(detail::ViewOf<char>(AText)); }
     template <CUtf8Text T> TVarRec(const T& AText) noexcept : FKind(vtUtf8) {
-        const std::u8string_view Text(AText);
-        SetText(std::string_view(reinterpret_cast<const char*>(Text.data()), Text.size()));
+        SetText(detail::NarrowView(detail::ViewOf<char8_t>(AText)));
     }
     TVarRec(const TByteText& AText) noexcept : FKind(vtAnsiString) { FValue.Pointer = &AText; }
     TVarRec(const TObject* AObject) noexcept : FKind(vtObject) { FValue.Pointer = AObject; }
+    // An object that has interfaces too is taken as the object.
+    template <class T>
+        requires(requires(const T* AObject) { AObject->ClassType(); })
+    TVarRec(const T* AObject)
+    noexcept : TVarRec(static_cast<const TObject*>(AObject)) {}
     TVarRec(const TClassRec* AClass) noexcept : FKind(vtClass) { FValue.Pointer = AClass; }
     TVarRec(const IInterface* AInterface) noexcept : FKind(vtInterface) { FValue.Pointer = AInterface; }
     TVarRec(const void* APointer) noexcept : FKind(vtPointer) { FValue.Pointer = APointer; }

@@ -132,11 +132,16 @@ bool TrySplitDateTime(TDateTime AValue, TDayAndTime& AParts) noexcept {
     if (!(AValue.Value > static_cast<double>(cFirstDay - 1) &&
           AValue.Value < static_cast<double>(cLastDay + 1)))
         return false;
-    const auto MSecs = static_cast<std::int64_t>(std::round(AValue.Value * MSecsPerDay));
-    const std::int64_t Day = MSecs / MSecsPerDay;
+    const double Whole = std::trunc(AValue.Value);
+    auto Day = static_cast<std::int32_t>(Whole);
+    auto MSecs = static_cast<std::int32_t>(std::round(std::fabs(AValue.Value - Whole) * MSecsPerDay));
+    if (MSecs == MSecsPerDay) {
+        ++Day;
+        MSecs = 0;
+    }
     if (Day < cFirstDay || Day > cLastDay)
         return false;
-    AParts = {static_cast<std::int32_t>(Day), static_cast<std::int32_t>(std::abs(MSecs % MSecsPerDay))};
+    AParts = {Day, MSecs};
     return true;
 }
 

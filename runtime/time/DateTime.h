@@ -25,6 +25,8 @@ template <class TTag> struct TDateTimeKind {
 
     constexpr TDateTimeKind() noexcept = default;
     constexpr TDateTimeKind(double AValue) noexcept : Value(AValue) {}
+    template <class TOther>
+    constexpr TDateTimeKind(TDateTimeKind<TOther> AOther) noexcept : Value(AOther.Value) {}
     constexpr operator double() const noexcept { return Value; }
     constexpr TDateTimeKind& operator+=(double ADays) noexcept {
         Value += ADays;

@@ -1,0 +1,62 @@
+// The settings are those of the locale in the environment, whether it is installed or not.
+#include "runtime/text/FormatSettings.h"
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <optional>
+
+#include "runtime/time/DateTimeText.h"
+
+namespace qz {
+namespace {
+
+class TLocaleOfTheEnvironment {
+public:
+    explicit TLocaleOfTheEnvironment(const char* AName) {
+        if (const char* Before = getenv("LC_ALL"))
+            FBefore = Before;
+        setenv("LC_ALL", AName, 1);
+    }
+    ~TLocaleOfTheEnvironment() {
+        if (FBefore)
+            setenv("LC_ALL", FBefore->c_str(), 1);
+        else
+            unsetenv("LC_ALL");
+    }
+    TLocaleOfTheEnvironment(const TLocaleOfTheEnvironment&) = delete;
+    TLocaleOfTheEnvironment& operator=(const TLocaleOfTheEnvironment&) = delete;
+
+private:
+    std::optional<std::string> FBefore;
+};
+
+TEST(FormatSettings, HoursCountToTwelveWhereTheLocaleDoes) {
+    const TDateTime Value = EncodeTime(14, 5, 9, 0);
+    const std::pair<const char*, const char16_t*> Cases[] = {
+        {"en_US.UTF-8", u"2:05:09 PM"}, {"de_DE.UTF-8", u"14:05:09"}, {"C", u"14:05:09"}};
+    for (const auto& [Name, Expected] : Cases) {
+        const TLocaleOfTheEnvironment Locale(Name);
+        EXPECT_EQ(TimeToStr(Value, TFormatSettings::Create()), Expected) << Name;
+    }
+}
+
+// Of those whose patterns hold no words.
+TEST(FormatSettings, DatesSurviveTheRoundTripInManyLocales) {
+    for (const char* Name : {"C",     "en_US", "en_GB", "en_CA", "de_DE", "fr_FR", "es_ES", "hu_HU",
+                             "fi_FI", "ko_KR", "ja_JP", "zh_CN", "zh_TW", "ru_RU", "sv_SE", "da_DK",
+                             "pl_PL", "el_GR", "cs_CZ", "pt_BR", "vi_VN", "hi_IN"}) {
+        const TLocaleOfTheEnvironment Locale(Name);
+        const TFormatSettings Settings = TFormatSettings::Create();
+        for (const int Hour : {0, 9, 12, 14}) {
+            const TDateTime Value = EncodeDateTime(2024, 3, 29, Hour, 5, 9, 0);
+            const UnicodeString Text = DateTimeToStr(Value, Settings);
+            TDateTime Same;
+            EXPECT_TRUE(TryStrToDateTime(Text, Same, Settings)) << Name << ": " << ToUtf8(Text);
+            EXPECT_EQ(Same, Value) << Name << ": " << ToUtf8(Text);
+        }
+    }
+}
+
+} // namespace
+} // namespace qz

@@ -1,0 +1,198 @@
+#include "runtime/time/DateTimeText.h"
+
+#include <gtest/gtest.h>
+
+#include "runtime/errors/Exceptions.h"
+#include "runtime/text/Format.h"
+
+namespace qz {
+namespace {
+
+const TFormatSettings& Neutral = TFormatSettings::Neutral();
+const TDateTime cAfternoon = EncodeDateTime(2024, 2, 29, 14, 5, 9, 7);
+
+TFormatSettings With(std::u16string_view AShortDate, char16_t ASeparator) {
+    TFormatSettings Result = Neutral;
+    Result.ShortDateFormat = AShortDate;
+    Result.DateSeparator = ASeparator;
+    return Result;
+}
+
+TEST(DateTimeText, EachPattern) {
+    const std::pair<const char16_t*, const char16_t*> Cases[] = {
+        {u"yyyy-mm-dd hh:mm:ss:zzz", u"2024-02-29 14:05:09:007"},
+        {u"YYYY-MM-DD HH:NN", u"2024-02-29 14:05"},
+        {u"d dd ddd dddd", u"29 29 Thu Thursday"},
+        {u"m mm mmm mmmm", u"2 02 Feb February"},
+        {u"y yy yyy yyyy", u"24 24 2024 2024"},
+        {u"h hh n nn s ss z zz zzz", u"14 14 5 05 9 09 7 07 007"},
+        {u"h:m mm", u"14:5 02"},
+        {u"h 'Uhr' m", u"14 Uhr 5"},
+        {u"hh:nn:ss mm", u"14:05:09 02"},
+        {u"h am/pm", u"2 pm"},
+        {u"hh AM/PM", u"02 PM"},
+        {u"h a/p|A/P", u"2 p|P"},
+        {u"h ampm", u"2 PM"},
+        {u"ampm h h", u"PM 2 14"},
+        {u"h 'am/pm'", u"14 am/pm"},
+        {u"hh h am/pm", u"14 2 pm"},
+        {u"c", u"02/29/2024 14:05:09"},
+        {u"", u"02/29/2024 14:05:09"},
+        {u"ddddd", u"02/29/2024"},
+        {u"dddddd", u"Thursday, 29 February 2024"},
+        {u"t tt", u"14:05 14:05:09"},
+        {u"'day' d \"o'clock\"", u"day 29 o'clock"},
+        {u"'it''s' d", u"it's 29"},
+        {u"''d", u"29"},
+        {u"d 'open", u"29 open"},
+        {u"d'", u"29"},
+        {u"xx q d.", u"xx q 29."},
+        {u"aa d", u"aa 29"},
+        {u"\u5E74d\U0001F600", u"\u5E7429\U0001F600"},
+    };
+    for (const auto& [Pattern, Expected] : Cases)
+        EXPECT_EQ(FormatDateTime(Pattern, cAfternoon, Neutral), Expected) << ToUtf8(Pattern);
+}
+
+TEST(DateTimeText, HoursOfTheHalfDay) {
+    const std::pair<int, const char16_t*> Cases[] = {{0, u"12 am"},  {1, u"1 am"},  {11, u"11 am"},
+                                                     {12, u"12 pm"}, {13, u"1 pm"}, {23, u"11 pm"}};
+    for (const auto& [Hour, Expected] : Cases)
+        EXPECT_EQ(FormatDateTime("h am/pm", EncodeTime(Hour, 0, 0, 0), Neutral), Expected);
+}
+
+TEST(DateTimeText, TheShortFormLeavesMidnightOut) {
+    EXPECT_EQ(DateTimeToStr(EncodeDate(2024, 2, 29), Neutral), u"02/29/2024");
+    EXPECT_EQ(DateTimeToStr(EncodeDateTime(2024, 2, 29, 0, 0, 0, 1), Neutral), u"02/29/2024 00:00:00");
+    EXPECT_EQ(DateToStr(cAfternoon, Neutral), u"02/29/2024");
+    EXPECT_EQ(TimeToStr(cAfternoon, Neutral), u"14:05:09");
+    EXPECT_EQ(FormatDateTime("yyyy", EncodeDate(7, 1, 1), Neutral), u"0007");
+    EXPECT_THROW(FormatDateTime("c", 1e9, Neutral), EConvertError);
+}
+
+TEST(DateTimeText, PatternsThatReferToThemselvesEnd) {
+    TFormatSettings Settings = Neutral;
+    Settings.ShortDateFormat = u"d.ddddd.c";
+    Settings.LongTimeFormat = u"hh tt";
+    EXPECT_EQ(FormatDateTime("ddddd", cAfternoon, Settings), u"29.. ");
+    EXPECT_EQ(FormatDateTime("tt", cAfternoon, Settings), u"14 ");
+}
+
+TEST(DateTimeText, SeparatorsAreThoseOfTheSettings) {
+    TFormatSettings Settings = Neutral;
+    Settings.DateSeparator = u'.';
+    Settings.TimeSeparator = u'\0';
+    EXPECT_EQ(FormatDateTime("d/m hh:nn '/:'", cAfternoon, Settings), u"29.2 1405 /:");
+}
+
+TEST(DateTimeText, ReadsDates) {
+    const TFormatSettings American = Neutral;
+    const TFormatSettings German = With(u"dd.MM.yyyy", u'.');
+    const TFormatSettings Iso = With(u"'d' yyyy-mm-dd", u'-');
+    const TFormatSettings Blank = With(u"d mmm yyyy", u' ');
+    struct {
+        const TFormatSettings& Settings;
+        const char16_t* Text;
+        int Year, Month, Day;
+    } const Cases[] = {
+        {American, u"02/29/2024", 2024, 2, 29}, {American, u" 2 / 29 / 2024 ", 2024, 2, 29},
+        {German, u"29.2.2024", 2024, 2, 29},    {German, u"1.12.0099", 99, 12, 1},
+        {German, u"29.2.2024.", 2024, 2, 29},   {Iso, u"2024-02-29", 2024, 2, 29},
+        {Iso, u"2024-feb-29", 2024, 2, 29},     {Blank, u"29 February 2024", 2024, 2, 29},
+        {Blank, u"1 May 2024", 2024, 5, 1},     {German, u"1. dec. 2024", 2024, 12, 1},
+    };
+    for (const auto& Case : Cases) {
+        TDateTime Value;
+        EXPECT_TRUE(TryStrToDate(Case.Text, Value, Case.Settings)) << ToUtf8(Case.Text);
+        EXPECT_EQ(Value, EncodeDate(Case.Year, Case.Month, Case.Day)) << ToUtf8(Case.Text);
+    }
+    for (const char16_t* Bad : {u"", u"1", u"1/", u"1/2/", u"13/1/2024", u"2/30/2024", u"1.2.2024",
+                                u"1/2/2024 x", u"1/2/2024 10:00", u"1//2", u"x/1/2024", u"1/2/12345",
+                                u"1/2/0", u"99999999999/1/1", u"1/feb/2024", u"1/2/feb"}) {
+        TDateTime Value = 5;
+        const bool IsZeroYear = std::u16string_view(Bad) == u"1/2/0"; // a year of one digit
+        EXPECT_EQ(TryStrToDate(Bad, Value, American), IsZeroYear) << ToUtf8(Bad);
+        EXPECT_EQ(Value == 0.0, !IsZeroYear);
+    }
+}
+
+TEST(DateTimeText, YearsThatAreLeftOutOrShort) {
+    std::uint16_t Present, Month, Day;
+    DecodeDate(Date(), Present, Month, Day);
+    EXPECT_EQ(StrToDate(u"3/1", Neutral), EncodeDate(Present, 3, 1));
+    EXPECT_EQ(StrToDate(u"1.3", With(u"d/m/y", u'.')), EncodeDate(Present, 3, 1));
+    EXPECT_EQ(StrToDate(u"3-1", With(u"y/m/d", u'-')), EncodeDate(Present, 3, 1));
+    TFormatSettings Settings = Neutral;
+    for (const int Window : {50, 20, 99}) {
+        Settings.TwoDigitYearCenturyWindow = static_cast<std::uint16_t>(Window);
+        for (int Year = Present - Window; Year < Present - Window + 100; ++Year)
+            EXPECT_EQ(StrToDate(Format(u"1/1/%.2d", {Year % 100}), Settings), EncodeDate(Year, 1, 1));
+    }
+    Settings.TwoDigitYearCenturyWindow = 0;
+    EXPECT_EQ(StrToDate(u"1/1/05", Settings), EncodeDate(Present / 100 * 100 + 5, 1, 1));
+}
+
+TEST(DateTimeText, ReadsTimes) {
+    TFormatSettings Settings = Neutral;
+    Settings.TimeAMString = u"vorm.";
+    Settings.TimePMString = u"nachm.";
+    Settings.DecimalSeparator = u',';
+    struct {
+        const char16_t* Text;
+        int Hour, Minute, Second, MSec;
+    } const Cases[] = {
+        {u"0", 0, 0, 0, 0},           {u"14:05", 14, 5, 0, 0},          {u"14:05:09", 14, 5, 9, 0},
+        {u"14:05:09.7", 14, 5, 9, 7}, {u"14:05:09,123", 14, 5, 9, 123}, {u" 1 : 2 : 3 ", 1, 2, 3, 0},
+        {u"12 am", 0, 0, 0, 0},       {u"12 pm", 12, 0, 0, 0},          {u"1:30PM", 13, 30, 0, 0},
+        {u"pm 1:30", 13, 30, 0, 0},   {u"11 nachm.", 23, 0, 0, 0},      {u"VORM. 12:01", 0, 1, 0, 0},
+    };
+    for (const auto& Case : Cases) {
+        TDateTime Value;
+        EXPECT_TRUE(TryStrToTime(Case.Text, Value, Settings)) << ToUtf8(Case.Text);
+        EXPECT_EQ(Value, EncodeTime(Case.Hour, Case.Minute, Case.Second, Case.MSec)) << ToUtf8(Case.Text);
+    }
+    for (const char16_t* Bad : {u"", u"am", u"24:00", u"10:60", u"10:", u"10:00:60", u"10:00:00.", u"0 am",
+                                u"13 pm", u"am 1 pm", u"10.5", u"10:00:00.1000", u"-1:00", u"10:00x"}) {
+        TDateTime Value = 5;
+        EXPECT_FALSE(TryStrToTime(Bad, Value, Settings)) << ToUtf8(Bad);
+        EXPECT_EQ(Value, 0.0);
+    }
+}
+
+TEST(DateTimeText, ReadsBoth) {
+    EXPECT_EQ(StrToDateTime(u"2/29/2024 14:05:09.007", Neutral), cAfternoon);
+    EXPECT_EQ(StrToDateTime(u"2/29/2024", Neutral), EncodeDate(2024, 2, 29));
+    EXPECT_EQ(StrToDateTime(u"14:05", Neutral), EncodeTime(14, 5, 0, 0));
+    EXPECT_EQ(StrToDateTime(u"1/1/1800 6:00", Neutral), EncodeDateTime(1800, 1, 1, 6, 0, 0, 0));
+    EXPECT_EQ(StrToDateTimeDef(u"2/29/2024 25:00", 7, Neutral), 7);
+    EXPECT_EQ(StrToDateDef(u"x", 7, Neutral), 7);
+    EXPECT_EQ(StrToTimeDef(u"6:00", 7, Neutral), 0.25);
+}
+
+TEST(DateTimeText, SaysWhatIsWrong) {
+    using TRead = TDateTime (*)(const TStringArg&, const TFormatSettings&);
+    const std::pair<TRead, const char16_t*> Cases[] = {
+        {StrToDate, u"'%x' is not a valid date"},
+        {StrToTime, u"'%x' is not a valid time"},
+        {StrToDateTime, u"'%x' is not a valid date and time"},
+    };
+    for (const auto& [Read, Message] : Cases) {
+        try {
+            Read(u"%x", Neutral);
+            ADD_FAILURE();
+        } catch (const EConvertError& E) {
+            EXPECT_EQ(E.Message(), Message);
+        }
+    }
+}
+
+TEST(DateTimeText, DatesAndTimesConvert) {
+    const TDate Day = EncodeDate(2024, 2, 29);
+    const TTime Time = EncodeTime(14, 5, 9, 7);
+    EXPECT_EQ(DateToStr(Day, Neutral), u"02/29/2024");
+    EXPECT_EQ(TimeToStr(Time, Neutral), u"14:05:09");
+    EXPECT_EQ(TDateTime(Day + Time), cAfternoon);
+}
+
+} // namespace
+} // namespace qz
