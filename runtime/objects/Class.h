@@ -7,7 +7,7 @@
 //     const TClassRec TShape::ClassRec = DescribeClass<TShape>(u"TShape", {.Unit = u"Drawing"});   // in the .cpp
 //
 //     TClass Class = Shape.ClassType();
-//     Class->Name;                              // "TShape"
+//     Class->Name();                            // "TShape"
 //     Class->InheritsFrom(ClassOf<TObject>());
 //
 // Class records are constants of the program and may be read by any number of threads.

@@ -8,8 +8,12 @@ namespace qz {
 constinit const TClassRec TInterfacedObject::ClassRec = DescribeClass<TInterfacedObject>(
     u"TInterfacedObject", {.Unit = u"System", .Interfaces = Interfaces<TInterfacedObject, IInterface>()});
 
+void TRefCount::RaiseBelowZero() {
+    detail::RaiseAssertion(u"An interface was released more often than it was referenced");
+}
+
 HRESULT TInterfacedObject::QueryInterface(const TGUID& AIid, void** AObject) {
-    return GetInterface(AIid, AObject) ? S_OK_RESULT : E_NOINTERFACE_RESULT;
+    return detail::QueryObject(*this, AIid, AObject);
 }
 
 std::uint32_t TInterfacedObject::_AddRef() {
@@ -18,7 +22,7 @@ std::uint32_t TInterfacedObject::_AddRef() {
 
 std::uint32_t TInterfacedObject::_Release() {
     const std::int32_t Count = FRefCount.Decrement();
-    if (Count == 0)
+    if (Count == 0 && !FDestroying)
         Free();
     return static_cast<std::uint32_t>(Count);
 }
@@ -26,6 +30,14 @@ std::uint32_t TInterfacedObject::_Release() {
 void TInterfacedObject::AfterConstruction() {
     Inherited::AfterConstruction();
     FRefCount.Decrement();
+}
+
+bool TInterfacedObject::BeginDestruction() noexcept {
+    return !FDestroying.exchange(true);
+}
+
+void TInterfacedObject::DestructionRefused() noexcept {
+    FDestroying = false;
 }
 
 void TInterfacedObject::BeforeDestruction() {

@@ -33,16 +33,24 @@ private:
 
 namespace qz {
 
-// A 32-bit reference count that any thread may change. Both changes give the new count.
+// A 32-bit reference count that any thread may change. Both changes give the new count. A count below zero, one
+// release too many, is an assertion failure, which ends the program where the release may not raise.
 class TRefCount {
 public:
     explicit TRefCount(std::int32_t ACount = 0) noexcept : FCount(ACount) {}
     std::int32_t Value() const noexcept { return FCount.load(std::memory_order_acquire); }
     std::int32_t Increment() noexcept { return FCount.fetch_add(1, std::memory_order_relaxed) + 1; }
     // Whoever takes the count to 0 sees all that the other holders did.
-    std::int32_t Decrement() noexcept { return FCount.fetch_sub(1, std::memory_order_acq_rel) - 1; }
+    std::int32_t Decrement() {
+        const std::int32_t Old = FCount.fetch_sub(1, std::memory_order_acq_rel);
+        if (Old <= 0) [[unlikely]]
+            RaiseBelowZero();
+        return Old - 1;
+    }
 
 private:
+    [[noreturn]] QZ_API static void RaiseBelowZero();
+
     std::atomic<std::int32_t> FCount;
 };
 
@@ -52,7 +60,8 @@ class QZ_API TInterfacedObject : public TCreateOnly<TObject>, public IInterface 
 public:
     HRESULT QueryInterface(const TGUID& AIid, void** AObject) override;
     std::uint32_t _AddRef() override;
-    // Ends the object when the count reaches 0.
+    // Ends the object when the count reaches 0. References that are taken and dropped while it is being ended end
+    // nothing.
     std::uint32_t _Release() override;
 
     int RefCount() const noexcept { return FRefCount.Value(); }
@@ -61,6 +70,8 @@ public:
     void AfterConstruction() override;
     // Raises EInvalidPointer when references remain; the object is then not ended.
     void BeforeDestruction() override;
+    bool BeginDestruction() noexcept override;
+    void DestructionRefused() noexcept override;
 
 protected:
     TInterfacedObject() noexcept = default;
@@ -68,6 +79,7 @@ protected:
 
 private:
     TRefCount FRefCount{1};
+    std::atomic<bool> FDestroying{false};
 };
 
 } // namespace qz

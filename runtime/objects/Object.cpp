@@ -1,5 +1,6 @@
 #include "runtime/objects/Object.h"
 
+#include "runtime/errors/Exceptions.h"
 #include "runtime/objects/Interface.h"
 #include "runtime/reflection/Describe.h"
 
@@ -44,7 +45,15 @@ bool TObject::GetInterface(const TGUID& AIid, void** AObject) {
     return true;
 }
 
+HRESULT detail::QueryObject(TObject& AObject, const TGUID& AIid, void** AFound) {
+    if (AFound == nullptr)
+        return E_POINTER_RESULT;
+    return AObject.GetInterface(AIid, AFound) ? S_OK_RESULT : E_NOINTERFACE_RESULT;
+}
+
 void TObject::Free() {
+    if (!BeginDestruction())
+        throw EInvalidOperation(u"An instance of %s is freed while it is being destroyed", {ClassName()});
     try {
         BeforeDestruction();
     } catch (...) {

@@ -59,13 +59,16 @@ public:
     bool GetInterface(const TGUID& AIid, void** AObject);
 
     // Ends an object that was made with Create or new: runs BeforeDestruction, then the destructor. When
-    // BeforeDestruction raises, the object stays, hears DestructionRefused, and the exception goes on.
+    // BeforeDestruction raises, the object stays, hears DestructionRefused, and the exception goes on. Raises
+    // EInvalidOperation for an object of the counted families whose end has begun already.
     void Free();
 
     // Runs once when the object is complete; run by Create.
     virtual void AfterConstruction() {}
     // Runs before the destructor when the object is ended by Free or its last reference.
     virtual void BeforeDestruction() {}
+    // Runs first when the object is to be ended; false refuses because it is being ended already.
+    virtual bool BeginDestruction() noexcept { return true; }
     // Runs when BeforeDestruction of this class or a descendant raised, so that the object will live on.
     virtual void DestructionRefused() noexcept {}
 
@@ -129,6 +132,8 @@ private:
     template <class TNew> static T* Finish(TNew* AObject) {
         try {
             AObject->AfterConstruction();
+            if constexpr (requires { AObject->StartCreated(); })
+                AObject->StartCreated();
         } catch (...) {
             delete AObject;
             throw;

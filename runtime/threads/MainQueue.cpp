@@ -1,5 +1,6 @@
 #include "runtime/threads/MainQueue.h"
 
+#include <algorithm>
 #include <chrono>
 
 #include "platform/Threads.h"
@@ -40,6 +41,7 @@ TMainQueue& TMainQueue::Instance() {
     return *Queue;
 }
 
+// What the wake procedure raises is not for the caller, whose work is queued.
 void TMainQueue::Add(TThread* AThread, TThreadProc AProc) {
     std::shared_ptr<const TThreadProc> Wake;
     {
@@ -49,20 +51,35 @@ void TMainQueue::Add(TThread* AThread, TThreadProc AProc) {
         Wake = FWake;
         FChanged.notify_all();
     }
-    if (Wake && *Wake)
+    if (!Wake || !*Wake)
+        return;
+    try {
         (*Wake)();
+    } catch (...) { // NOLINT(bugprone-empty-catch)
+    }
+}
+
+void TMainQueue::Poke() {
+    const std::lock_guard Hold(FMutex);
+    ++FPokes;
+    FChanged.notify_all();
 }
 
 // What a dropped procedure holds is released without the lock: its end may queue again.
 void TMainQueue::Remove(TThread* AThread) {
     if (AThread == nullptr)
         return;
-    std::deque<TItem> Gone;
-    const std::lock_guard Hold(FMutex);
-    std::deque<TItem> Kept;
-    for (TItem& Item : FItems)
-        (Item.Thread == AThread ? Gone : Kept).push_back(std::move(Item));
-    FItems.swap(Kept);
+    TItem Gone{};
+    do {
+        Gone = {};
+        const std::lock_guard Hold(FMutex);
+        const auto Found = std::find_if(FItems.begin(), FItems.end(),
+                                        [AThread](const TItem& AItem) { return AItem.Thread == AThread; });
+        if (Found == FItems.end())
+            return;
+        Gone = std::move(*Found);
+        FItems.erase(Found);
+    } while (true);
 }
 
 bool TMainQueue::Take(std::uint64_t ALast, TItem& AItem) {
@@ -78,8 +95,10 @@ bool TMainQueue::Run(std::uint32_t ATimeOut) {
     std::uint64_t Last = 0;
     {
         std::unique_lock Hold(FMutex);
+        const std::uint64_t Pokes = FPokes;
         if (FItems.empty() && ATimeOut != 0)
-            FChanged.wait_for(Hold, std::chrono::milliseconds(ATimeOut), [this] { return !FItems.empty(); });
+            FChanged.wait_for(Hold, std::chrono::milliseconds(ATimeOut),
+                              [&] { return !FItems.empty() || FPokes != Pokes; });
         Last = FLastNumber;
     }
     bool DidRun = false;

@@ -16,8 +16,11 @@ public:
 
     void Add(TThread* AThread, TThreadProc AProc);
     void Remove(TThread* AThread);
-    // Runs what was queued when the call began, waiting at most ATimeOut milliseconds for something to come.
+    // Runs what was queued when the call began, waiting at most ATimeOut milliseconds for something to come or for a
+    // Poke.
     bool Run(std::uint32_t ATimeOut);
+    // Wakes a Run that waits.
+    void Poke();
     void SetWake(TThreadProc AProc);
 
 private:
@@ -32,6 +35,7 @@ private:
     std::condition_variable FChanged;
     std::deque<TItem> FItems;
     std::uint64_t FLastNumber = 0;
+    std::uint64_t FPokes = 0;
     std::shared_ptr<const TThreadProc> FWake;
 };
 

@@ -10,7 +10,7 @@
 namespace qz {
 namespace {
 
-// How long a main thread that waits for another looks away from its queue.
+// How long a main thread that waits for another sleeps when nobody wakes it.
 constexpr std::uint32_t cMainPause = 10;
 
 class TAnonymousThread : public TThread {
@@ -41,8 +41,7 @@ TThread::~TThread() {
     RemoveQueuedEvents(this);
 }
 
-void TThread::AfterConstruction() {
-    Inherited::AfterConstruction();
+void TThread::StartCreated() {
     if (!FSuspended) {
         FSuspended = true;
         Start();
@@ -75,10 +74,12 @@ void TThread::Run() noexcept {
         FFatalException = std::current_exception();
     }
     FFinished.store(true, std::memory_order_release);
-    if (FFreeOnTerminate)
+    if (FFreeOnTerminate) {
         Free();
-    else
-        FDone.SetEvent();
+        return;
+    }
+    FDone.SetEvent();
+    detail::TMainQueue::Instance().Poke();
 }
 
 void TThread::WaitFor() {
@@ -90,8 +91,17 @@ void TThread::WaitFor() {
         FDone.WaitFor();
         return;
     }
-    while (FDone.WaitFor(cMainPause) != wrSignaled)
-        CheckSynchronize();
+    std::exception_ptr Error;
+    while (FDone.WaitFor(0) != wrSignaled) {
+        try {
+            detail::TMainQueue::Instance().Run(cMainPause);
+        } catch (...) {
+            if (!Error)
+                Error = std::current_exception();
+        }
+    }
+    if (Error)
+        Queue(nullptr, [Error] { std::rethrow_exception(Error); });
 }
 
 void TThread::BeforeDestruction() {

@@ -43,7 +43,8 @@ public:
     // True when Execute has returned.
     bool Finished() const noexcept { return FFinished.load(std::memory_order_acquire); }
     // Waits for the end of Execute. The main thread runs queued work while it waits, so that the thread's
-    // Synchronize does not wait for ever. Not for a thread that frees itself. Raises EThread on the thread itself.
+    // Synchronize does not wait for ever; an exception of such work waits for the next CheckSynchronize. Not for a
+    // thread that frees itself. Raises EThread on the thread itself.
     void WaitFor();
     // Whether the object frees itself when Execute has returned; nobody may touch it after its start then.
     bool FreeOnTerminate() const noexcept { return FFreeOnTerminate; }
@@ -53,14 +54,15 @@ public:
 
     // Asks the thread to end and waits for it, unless it runs on the thread itself.
     void BeforeDestruction() override;
-    void AfterConstruction() override;
+    // Called by Create when the object is complete: starts the thread unless it was made suspended.
+    void StartCreated();
 
     // Has AProc run on the main thread at its next CheckSynchronize, in the order of the calls; also when the main
     // thread itself calls. AThread, which may be null, is the thread that the work belongs to: it is dropped when
     // that thread's object is freed.
     static void Queue(TThread* AThread, TThreadProc AProc);
     // Runs AProc on the main thread and waits for its end; at once on the main thread itself. An exception of
-    // AProc is raised here.
+    // AProc is raised here. Returns without having run it when RemoveQueuedEvents dropped it.
     static void Synchronize(TThread* AThread, const TThreadProc& AProc);
     // Drops the queued work of AThread.
     static void RemoveQueuedEvents(TThread* AThread);
@@ -68,8 +70,8 @@ public:
     // some to come. True when some was run. An exception of a procedure ends the round and goes to the caller; what
     // is still queued stays.
     static bool CheckSynchronize(std::uint32_t ATimeOut = 0);
-    // Called, on any thread, whenever work was queued, so that a main loop of another kind can be woken. Set it
-    // before threads start.
+    // Called, on any thread, whenever work was queued, so that a main loop of another kind can be woken. What it
+    // raises is dropped.
     static void SetWakeMainThread(TThreadProc AProc);
 
     static bool IsMainThread() noexcept;
@@ -80,6 +82,7 @@ protected:
     explicit TThread(bool ACreateSuspended = false) noexcept : FSuspended(ACreateSuspended) {}
     ~TThread() override;
 
+    // The work. Must end by returning or by an exception, not by pthread_exit or a cancellation.
     virtual void Execute() = 0;
 
 private:

@@ -107,6 +107,67 @@ TEST(Thread, WaitingMainThreadServesSynchronize) {
     Worker->Free();
 }
 
+TEST(Thread, FreeEndsTheThreadThoughQueuedWorkOfOthersRaises) {
+    TSimpleEvent Queued;
+    TWorker* Worker = TWorker::Create(TWork([&](TWorker* ASelf) {
+        Queued.WaitFor();
+        TThread::Synchronize(ASelf, [] {});
+    }));
+    TThread::Queue(nullptr, [] { throw EAbort(u"of somebody else"); });
+    Queued.SetEvent();
+    Worker->Free();
+    EXPECT_EQ(TWorker::FAlive, 0);
+    EXPECT_THROW(TThread::CheckSynchronize(), EAbort);
+    EXPECT_FALSE(TThread::CheckSynchronize());
+}
+
+TEST(Thread, WakeProcedureMayRaiseWithoutHarm) {
+    TThread::SetWakeMainThread([] { throw EAbort(u"x"); });
+    int Ran = 0;
+    TWorker* Worker =
+        TWorker::Create(TWork([&](TWorker* ASelf) { TThread::Synchronize(ASelf, [&] { ++Ran; }); }));
+    Worker->WaitFor();
+    TThread::SetWakeMainThread({});
+    Worker->Free();
+    EXPECT_EQ(Ran, 1);
+}
+
+// Does more behind the inherited step, or fails there.
+class TLateThread : public TWorker {
+    QZ_CLASS(TLateThread, TWorker)
+
+public:
+    void AfterConstruction() override {
+        TWorker::AfterConstruction();
+        if (FFails)
+            throw EAbort(u"no");
+        FReady = true;
+    }
+    std::atomic<bool> FReady{false};
+
+protected:
+    TLateThread(std::function<void(TLateThread*)> AWork, bool AFails)
+        : TWorker([AWork](TWorker* ASelf) { AWork(static_cast<TLateThread*>(ASelf)); }),
+          FFails(AFails) {}
+
+private:
+    bool FFails;
+};
+constinit const TClassRec TLateThread::ClassRec =
+    DescribeClass<TLateThread>(u"TLateThread", {.Unit = u"Test"});
+
+TEST(Thread, StartsWhenTheObjectIsComplete) {
+    std::atomic<int> Ran{0};
+    const std::function<void(TLateThread*)> Work = [&](TLateThread* ASelf) {
+        Ran += ASelf->FReady ? 1 : 100;
+    };
+    TLateThread::Create(Work, false)->Free();
+    EXPECT_LE(Ran, 1);
+    EXPECT_THROW((void)TLateThread::Create(Work, true), EAbort);
+    EXPECT_LE(Ran, 1);
+    EXPECT_EQ(TWorker::FAlive, 0);
+}
+
 TEST(Thread, QueuedWorkOfAFreedThreadIsDropped) {
     int Ran = 0;
     TWorker* Worker = TWorker::Create(TWork([&](TWorker* ASelf) {

@@ -1,0 +1,52 @@
+// Whatever text comes: reading it ends, and lines that are written are read back as they were.
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "runtime/lists/StringList.h"
+
+namespace {
+
+void Check(bool ACondition) {
+    if (!ACondition)
+        std::abort();
+}
+
+// The lines of AList, written and read again by the same settings.
+void CheckDelimited(const qz::TStringList& AList, char16_t ADelimiter, bool AStrict) {
+    qz::TStringList Source, Copy;
+    Source.AddStrings(AList);
+    for (qz::TStringList* List : {&Source, &Copy}) {
+        List->SetDelimiter(ADelimiter);
+        List->SetStrictDelimiter(AStrict);
+    }
+    Copy.SetDelimitedText(Source.DelimitedText());
+    Check(Copy.Equals(Source));
+}
+
+void CheckLines(const qz::TStringList& AList) {
+    qz::TStringList Copy;
+    Copy.SetCommaText(AList.CommaText());
+    Check(Copy.Equals(AList));
+    for (const char16_t Delimiter : {u';', u' ', u'\t', u'\0', u'x'})
+        for (const bool Strict : {false, true})
+            CheckDelimited(AList, Delimiter, Strict);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {
+    const qz::UnicodeString Text(std::string_view(reinterpret_cast<const char*>(AData), ASize));
+    qz::TStringList Lines, Items, Strict;
+    Lines.SetText(Text);
+    CheckLines(Lines);
+    qz::TStringList Again;
+    Again.SetText(Lines.Text());
+    Check(Again.Equals(Lines));
+    Items.SetCommaText(Text);
+    CheckLines(Items);
+    Strict.SetStrictDelimiter(true);
+    Strict.SetDelimitedText(Text);
+    CheckLines(Strict);
+    return 0;
+}

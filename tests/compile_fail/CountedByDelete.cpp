@@ -1,0 +1,18 @@
+// expect: protected
+#include "runtime/objects/InterfacedObject.h"
+
+class TCounted : public qz::TInterfacedObject {
+    QZ_CLASS(TCounted, TInterfacedObject)
+public:
+    TCounted() = default;
+};
+
+qz::IInterface* Made() {
+    return TCounted::Create();
+}
+
+#ifdef QZ_SHOULD_FAIL
+void Deleted(TCounted* AObject) {
+    delete AObject;
+}
+#endif

@@ -1,0 +1,18 @@
+// expect: abstract
+#include "runtime/objects/InterfacedObject.h"
+
+class TCounted : public qz::TInterfacedObject {
+    QZ_CLASS(TCounted, TInterfacedObject)
+public:
+    TCounted() = default;
+};
+
+qz::IInterface* Made() {
+    return TCounted::Create();
+}
+
+#ifdef QZ_SHOULD_FAIL
+void Stacked() {
+    TCounted Object;
+}
+#endif

@@ -1,0 +1,299 @@
+#include <gtest/gtest.h>
+
+#include "runtime/errors/Exceptions.h"
+#include "runtime/lists/StringList.h"
+#include "runtime/reflection/Describe.h"
+#include "runtime/text/StringUtils.h"
+#include "tests/platform/TemporaryDirectory.h"
+
+namespace qz {
+namespace {
+
+using TLines = std::vector<UnicodeString>;
+
+TLines LinesOf(const TStrings& AList) {
+    return {AList.begin(), AList.end()};
+}
+
+void Fill(TStringList& AList, const TLines& ALines) {
+    AList.Clear();
+    for (const UnicodeString& Each : ALines)
+        AList.Add(Each);
+}
+
+template <class TError> UnicodeString MessageOf(const std::function<void()>& AWork) {
+    try {
+        AWork();
+    } catch (const TError& E) {
+        return E.Message();
+    }
+    return u"nothing raised";
+}
+
+TEST(StringList, CommaTextIsWrittenAndRead) {
+    const struct {
+        TLines Lines;
+        const char16_t* Text;
+    } Cases[] = {
+        {{}, u""},
+        {{u""}, u"\"\""},
+        {{u"", u""}, u","},
+        {{u"a", u""}, u"a,"},
+        {{u"", u"a"}, u",a"},
+        {{u"a", u"", u"b"}, u"a,,b"},
+        {{u"one", u"two words", u"th,ree"}, u"one,\"two words\",\"th,ree\""},
+        {{u"say \"hi\"", u"\""}, u"\"say \"\"hi\"\"\",\"\"\"\""},
+        {{u"\t", u"a\r\nb", UnicodeString(1, u'\0')}, nullptr},
+    };
+    for (const auto& Case : Cases) {
+        TStringList List;
+        Fill(List, Case.Lines);
+        const UnicodeString Text = List.CommaText();
+        if (Case.Text != nullptr) {
+            EXPECT_EQ(Text, Case.Text);
+        }
+        List.SetCommaText(Text);
+        EXPECT_EQ(LinesOf(List), Case.Lines) << Text;
+    }
+}
+
+TEST(StringList, CommaTextReadsWhatPeopleWrite) {
+    const struct {
+        const char16_t* Text;
+        TLines Lines;
+    } Cases[] = {
+        {u" a , b ", {u"a", u"b"}},
+        {u"a b,c", {u"a", u"b", u"c"}},
+        {u"\"a b\"c", {u"a b", u"c"}},
+        {u"\"open", {u"open"}},
+        {u"\"", {u""}},
+        {u",,", {u"", u"", u""}},
+        {u"a\"b", {u"a\"b"}},
+        {u"  ", {}},
+        {u"a, ", {u"a"}},
+    };
+    for (const auto& Case : Cases) {
+        TStringList List;
+        List.SetCommaText(Case.Text);
+        EXPECT_EQ(LinesOf(List), Case.Lines) << UnicodeString(Case.Text);
+    }
+}
+
+TEST(StringList, DelimitedTextFollowsItsSettings) {
+    const TLines Lines = {u"a b", u"", u"c;d", u"it's", u" "};
+    const struct {
+        char16_t Delimiter;
+        char16_t Quote;
+        bool Strict;
+        const char16_t* Text;
+    } Cases[] = {
+        {u';', u'\'', false, u"'a b';;'c;d';'it''s';' '"},   {u';', u'\'', true, u"a b;;'c;d';'it''s'; "},
+        {u' ', u'"', false, u"\"a b\" \"\" c;d it's \" \""}, {u' ', u'"', true, u"\"a b\"  c;d it's \" \""},
+        {u'\t', u'"', true, u"a b\t\tc;d\tit's\t "},
+    };
+    for (const auto& Case : Cases) {
+        TStringList List;
+        List.SetDelimiter(Case.Delimiter);
+        List.SetQuoteChar(Case.Quote);
+        List.SetStrictDelimiter(Case.Strict);
+        Fill(List, Lines);
+        EXPECT_EQ(List.DelimitedText(), Case.Text);
+        List.SetDelimitedText(Case.Text);
+        EXPECT_EQ(LinesOf(List), Lines) << UnicodeString(Case.Text);
+    }
+}
+
+TEST(StringList, TextReadsEveryLineEnd) {
+    TStringList List;
+    List.SetText(u"a\rb\nc\r\nd\n\re\r\n\r\n");
+    EXPECT_EQ(LinesOf(List), (TLines{u"a", u"b", u"c", u"d", u"", u"e", u""}));
+    EXPECT_EQ(List.Text(), "a\r\nb\r\nc\r\nd\r\n\r\ne\r\n\r\n");
+    List.SetText(u"a\n\nb");
+    List.SetLineBreak(u"|");
+    EXPECT_EQ(List.Text(), "a||b|");
+    List.SetTrailingLineBreak(false);
+    EXPECT_EQ(List.Text(), "a||b");
+    List.SetText(u"");
+    EXPECT_EQ(List.Count(), 0);
+}
+
+TEST(StringList, SortedKeepsItsOrderAndDuplicatesRule) {
+    TStringList List;
+    Fill(List, {u"pear", u"Apple", u"fig"});
+    List.SetSorted(true);
+    EXPECT_EQ(LinesOf(List), (TLines{u"Apple", u"fig", u"pear"}));
+    EXPECT_EQ(List.Add(u"FIG"), 1);
+    EXPECT_EQ(List.Count(), 3);
+    List.SetDuplicates(dupError);
+    EXPECT_EQ(MessageOf<EStringListError>([&] { List.Add(u"apple"); }),
+              "String list does not allow duplicates");
+    List.SetDuplicates(dupAccept);
+    List.Add(u"FIG");
+    int Place = -1;
+    EXPECT_TRUE(List.Find(u"Fig", Place));
+    EXPECT_EQ(Place, 1);
+    EXPECT_FALSE(List.Find(u"zebra", Place));
+    EXPECT_EQ(Place, 4);
+    for (const std::function<void()>& Forbidden :
+         std::vector<std::function<void()>>{[&] { List.Insert(0, u"x"); }, [&] { List.SetString(0, u"x"); },
+                                            [&] { List.Exchange(0, 1); }, [&] { List.Move(0, 1); }})
+        EXPECT_EQ(MessageOf<EStringListError>(Forbidden), "Operation not allowed on sorted list");
+    List.SetUseLocale(false);
+    List.SetCaseSensitive(true);
+    EXPECT_EQ(LinesOf(List), (TLines{u"Apple", u"FIG", u"fig", u"pear"}));
+    EXPECT_EQ(List.IndexOf(u"PEAR"), -1);
+}
+
+TEST(StringList, IndexesAreChecked) {
+    TStringList List;
+    List.Add(u"a");
+    EXPECT_EQ(MessageOf<EStringListError>([&] { static_cast<void>(List[1]); }),
+              "List index out of bounds (1)");
+    for (const std::function<void()>& Wrong : std::vector<std::function<void()>>{
+             [&] { List.Delete(-1); }, [&] { List.Insert(2, u"x"); }, [&] { List.SetString(1, u"x"); },
+             [&] { List.Move(0, 1); }, [&] { List.SetObject(1, nullptr); }, [&] { List.Exchange(0, 1); }})
+        EXPECT_THROW(Wrong(), EStringListError);
+    EXPECT_EQ(LinesOf(List), TLines{u"a"});
+}
+
+TEST(StringList, NamesAndValues) {
+    TStringList List;
+    Fill(List, {u"plain", u"Color=red", u"empty=", u"two=a=b"});
+    EXPECT_EQ(List.Values(u"color"), "red");
+    EXPECT_EQ(List.Values(u"two"), "a=b");
+    EXPECT_EQ(List.Values(u"plain"), "");
+    EXPECT_EQ(List.Names(0), "");
+    EXPECT_EQ(List.Names(2), "empty");
+    EXPECT_EQ(List.IndexOfName(u"plain"), -1);
+    List.SetValue(u"color", u"blue");
+    EXPECT_EQ(List[1], "color=blue");
+    List.SetValue(u"color", u"");
+    EXPECT_EQ(List.IndexOfName(u"Color"), -1);
+    List.SetValue(u"absent", u"");
+    List.SetValue(u"new", u"1");
+    List.SetValueFromIndex(3, u"2");
+    EXPECT_EQ(LinesOf(List), (TLines{u"plain", u"empty=", u"two=a=b", u"new=2"}));
+    List.SetNameValueSeparator(u':');
+    EXPECT_EQ(List.Values(u"new"), "");
+}
+
+TEST(StringList, MovesAndSorts) {
+    TStringList List;
+    Fill(List, {u"b", u"c", u"a"});
+    List.Move(0, 2);
+    EXPECT_EQ(LinesOf(List), (TLines{u"c", u"a", u"b"}));
+    List.Move(2, 0);
+    List.Exchange(0, 1);
+    EXPECT_EQ(LinesOf(List), (TLines{u"c", u"b", u"a"}));
+    List.Sort();
+    EXPECT_EQ(LinesOf(List), (TLines{u"a", u"b", u"c"}));
+    List.CustomSort([](const TStringList& Each, int A, int B) { return CompareStr(Each[B], Each[A]); });
+    EXPECT_EQ(LinesOf(List), (TLines{u"c", u"b", u"a"}));
+}
+
+TEST(StringList, TellsChangesOnceWithinAnUpdate) {
+    TStringList List;
+    UnicodeString Trace;
+    List.SetOnChanging([&](TObject* Sender) { Trace += Sender == &List ? u"-" : u"?"; });
+    List.SetOnChange([&](TObject*) { Trace += u"+"; });
+    List.Add(u"a");
+    List.Delete(0);
+    EXPECT_EQ(std::exchange(Trace, {}), "-+-+");
+    List.SetCommaText(u"a,b,c");
+    EXPECT_EQ(std::exchange(Trace, {}), "-+");
+    List.BeginUpdate();
+    List.Clear();
+    List.SetText(u"x");
+    EXPECT_EQ(Trace, "-");
+    List.EndUpdate();
+    EXPECT_EQ(Trace, "-+");
+    List.SetDuplicates(dupError);
+    List.SetSorted(true);
+    EXPECT_THROW(List.SetCommaText(u"a,a"), EStringListError);
+    Trace.Clear();
+    List.Add(u"b");
+    EXPECT_EQ(Trace, "-+"); // the update that failed has ended
+}
+
+UnicodeString GEnded;
+
+class TTag : public TObject {
+    QZ_CLASS(TTag, TObject)
+public:
+    explicit TTag(char16_t AName, bool ARefuses = false) : FName(AName), FRefuses(ARefuses) {}
+    ~TTag() override { GEnded += FName; }
+    void BeforeDestruction() override {
+        if (std::exchange(FRefuses, false))
+            throw EInvalidOperation(u"not now");
+    }
+
+private:
+    char16_t FName;
+    bool FRefuses;
+};
+constinit const TClassRec TTag::ClassRec = DescribeClass<TTag>(u"TTag", {.Unit = u"Test"});
+
+TEST(StringList, OwnedObjectsEndWithTheirLines) {
+    GEnded.Clear();
+    const std::unique_ptr<TTag> Stubborn = TTag::Create(u's', true);
+    {
+        TStringList List(true);
+        for (const char16_t Name : {u'a', u'b', u'c', u'd'})
+            List.AddObject(Name, TTag::Create(Name).release());
+        EXPECT_EQ(List.IndexOfObject(List.Objects(2)), 2);
+        List.Move(0, 3);
+        List.Exchange(0, 1);
+        EXPECT_EQ(GEnded, "");
+        List.SetObject(0, nullptr); // that of c
+        List.Delete(2);             // d
+        EXPECT_EQ(GEnded, "cd");
+        List.InsertObject(1, u"s", Stubborn.get());
+        EXPECT_THROW(List.Clear(), EInvalidOperation);
+        EXPECT_EQ(List.Count(), 0);
+        EXPECT_EQ(GEnded, "cdab");
+        List.AddObject(u"z", TTag::Create(u'z').release());
+    }
+    EXPECT_EQ(GEnded, "cdabz");
+}
+
+TEST(StringList, AssignsAndEquals) {
+    TStringList From, To;
+    Fill(From, {u"b", u"a"});
+    From.SetDelimiter(u';');
+    TTag Tag(u't');
+    From.SetObject(1, &Tag);
+    EXPECT_FALSE(To.Equals(From));
+    To.Assign(&From);
+    To.Assign(&To);
+    EXPECT_TRUE(To.Equals(From));
+    EXPECT_EQ(To.Objects(1), &Tag);
+    EXPECT_EQ(To.DelimitedText(), "b;a");
+    EXPECT_EQ(To.ToStringArray(), (TDynArray<UnicodeString>{u"b", u"a"}));
+    EXPECT_THROW(To.Assign(nullptr), EConvertError);
+}
+
+TEST(StringList, FilesAreUtf8) {
+    const platform::TTemporaryDirectory Directory;
+    const std::u16string Path = Directory / u"list.txt";
+    TStringList List;
+    Fill(List, {u"Zo\u00EB", u"", u"\U0001F600"});
+    List.SaveToFile(Path);
+    std::vector<std::byte> Bytes;
+    platform::TError Error;
+    ASSERT_TRUE(platform::ReadWholeFile(Path, Bytes, Error));
+    EXPECT_EQ(std::string_view(reinterpret_cast<const char*>(Bytes.data()), Bytes.size()),
+              "Zo\xC3\xAB\r\n\r\n\xF0\x9F\x98\x80\r\n");
+    TStringList Read;
+    Read.LoadFromFile(Path);
+    EXPECT_TRUE(Read.Equals(List));
+    constexpr std::string_view cMarked = "\xEF\xBB\xBFx\ny";
+    ASSERT_TRUE(platform::WriteWholeFile(Path, std::as_bytes(std::span(cMarked)), Error));
+    Read.LoadFromFile(Path);
+    EXPECT_EQ(LinesOf(Read), (TLines{u"x", u"y"}));
+    EXPECT_THROW(Read.LoadFromFile(Directory / u"none"), EFOpenError);
+    EXPECT_EQ(Read.Count(), 2);
+    EXPECT_THROW(Read.SaveToFile(Directory / u"none/list.txt"), EFCreateError);
+}
+
+} // namespace
+} // namespace qz
