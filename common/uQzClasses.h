@@ -13,3 +13,6 @@
 // TQzObjectAdapter, which carries any object
 // through an interface variable.
 #include "common/uQzClasses/QzObjectAdapter.h"
+// TQzComponent, a component whose life may be that of the references to it,
+// and whose properties can follow others.
+#include "common/uQzClasses/QzComponent.h"

@@ -40,7 +40,12 @@ void TQzFreeNotifies::Add(TQzFreeNotifies* AOther) {
     if (std::find(FList.rbegin(), FList.rend(), AOther) != FList.rend())
         return;
     FList.push_back(AOther);
-    AOther->Add(this);
+    try {
+        AOther->Add(this);
+    } catch (...) {
+        FList.pop_back();
+        throw;
+    }
 }
 
 void TQzFreeNotifies::Remove(TQzFreeNotifies* AOther) {

@@ -31,7 +31,7 @@ void TQzObject::SetAutoDestroy(bool AValue) noexcept {
 }
 
 HRESULT TQzObject::QueryInterface(const TGUID& AIid, void** AObject) {
-    return GetInterface(AIid, AObject) ? S_OK_RESULT : E_NOINTERFACE_RESULT;
+    return detail::QueryObject(*this, AIid, AObject);
 }
 
 std::uint32_t TQzObject::_AddRef() {
@@ -56,8 +56,11 @@ void TQzObject::AfterConstruction() {
 }
 
 // References that are taken and dropped from here on, by notifications, end nothing.
+bool TQzObject::BeginDestruction() noexcept {
+    return !FDestroying.exchange(true);
+}
+
 void TQzObject::BeforeDestruction() {
-    FDestroying = true;
     if (FRefCount.Value() != 0)
         throw Exception(SObjRefCountNotZero, {ClassName()});
     Inherited::BeforeDestruction();

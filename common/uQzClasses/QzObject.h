@@ -64,6 +64,7 @@ public:
     void AfterConstruction() override;
     // Raises Exception with SObjRefCountNotZero while references remain; the object then lives on by its policy.
     void BeforeDestruction() override;
+    bool BeginDestruction() noexcept override;
     void DestructionRefused() noexcept override;
 
 protected:

@@ -1,6 +1,6 @@
 // TQzObjectAdapter: carries any object through an interface variable.
 //
-//     Ref<IQzObjectAdapter> Carried = TQzObjectAdapter::Create(Settings.release(), ooOwned);
+//     Ref<IQzObjectAdapter> Carried = TQzObjectAdapter::Create(Settings, ooOwned);
 //     Carried->GetObject()->ToString();      // Settings is freed with the last reference
 #pragma once
 
@@ -30,8 +30,8 @@ public:
     TObject* Implementor() override { return FObject; }
 
 protected:
-    // With ooOwned the adapter ends the object through Free, which must not raise then; with ooReference it leaves
-    // the object alone, which must outlive it.
+    // With ooOwned the adapter, from its making on, ends the object through Free, which must not raise then; with
+    // ooReference it leaves the object alone, which must outlive it.
     TQzObjectAdapter(TObject* AObject, TQzObjectOwnership AOwnership) noexcept
         : FObject(AObject),
           FOwnership(AOwnership) {}

@@ -1,6 +1,7 @@
 #include "common/uQzClasses/QzObjectEx.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "runtime/errors/Exceptions.h"
 #include "runtime/objects/Persistent.h"
@@ -8,12 +9,13 @@
 
 namespace qz {
 
-constinit const TClassRec TQzObjectEx::ClassRec = DescribeClass<TQzObjectEx>(
-    u"TQzObjectEx",
-    {.Unit = u"uQzClasses",
-     .Interfaces = Interfaces<TQzObjectEx, IQzObjectFreeNotificationEvent, IQzObjectEx>()});
-
 namespace {
+
+TQzObject* MakeObjectEx() {
+    return TQzObjectEx::Create();
+}
+
+constexpr TMakerEntry cObjectExMakers[] = {Maker<TQzObject::TVirtualCreate, &MakeObjectEx>()};
 
 // An interface of the object itself, not counted: a count might decide, or end, the life of the object.
 template <class I> I* Offered(TObject* AObject) noexcept {
@@ -22,30 +24,38 @@ template <class I> I* Offered(TObject* AObject) noexcept {
 
 } // namespace
 
-// Links that were made while the object was already on its way out.
+constinit const TClassRec TQzObjectEx::ClassRec = DescribeClass<TQzObjectEx>(
+    u"TQzObjectEx",
+    {.Unit = u"uQzClasses",
+     .Interfaces = Interfaces<TQzObjectEx, IQzObjectFreeNotificationEvent, IQzObjectEx>(),
+     .Makers = cObjectExMakers});
+
+// Links that are there without BeforeDestruction: the construction failed.
 TQzObjectEx::~TQzObjectEx() {
-    while (FFreeNotifies) {
-        try {
-            NotifyLast();
-        } catch (...) { // NOLINT(bugprone-empty-catch): nobody is left to hear of it
-        }
-    }
+    while (!FFreeNotifies.empty())
+        DropLast();
 }
 
 void TQzObjectEx::OnObjectDestroyed(TObject*) {}
 
 bool TQzObjectEx::AddNotification(TObject* AObject) {
-    if (!FFreeNotifies)
-        FFreeNotifies = std::make_unique<std::vector<TObject*>>();
-    if (std::find(FFreeNotifies->begin(), FFreeNotifies->end(), AObject) != FFreeNotifies->end())
+    Assert(AObject != nullptr);
+    if (std::find(FFreeNotifies.begin(), FFreeNotifies.end(), AObject) != FFreeNotifies.end())
         return false;
-    FFreeNotifies->push_back(AObject);
+    FFreeNotifies.push_back(AObject);
     return true;
 }
 
+// A link is on both sides or on none.
 void TQzObjectEx::FreeNotification(TQzObjectEx* AObject) {
-    if (AddNotification(AObject))
+    if (!AddNotification(AObject))
+        return;
+    try {
         AObject->FreeNotification(this);
+    } catch (...) {
+        RemoveNotification(AObject);
+        throw;
+    }
 }
 
 void TQzObjectEx::FreeNotificationEx(IQzObjectFreeNotificationEvent* AObject) {
@@ -54,20 +64,22 @@ void TQzObjectEx::FreeNotificationEx(IQzObjectFreeNotificationEvent* AObject) {
         FreeNotification(Same);
         return;
     }
-    if (AddNotification(Other))
+    if (!AddNotification(Other))
+        return;
+    try {
         if (auto* Linked = Offered<IQzObjectEx>(Other))
             Linked->FreeNotificationEx(this);
+    } catch (...) {
+        RemoveNotification(Other);
+        throw;
+    }
 }
 
+// Most often the last one goes.
 void TQzObjectEx::RemoveNotification(TObject* AObject) {
-    if (!FFreeNotifies)
-        return;
-    // Most often the last one goes.
-    const auto Found = std::find(FFreeNotifies->rbegin(), FFreeNotifies->rend(), AObject);
-    if (Found != FFreeNotifies->rend())
-        FFreeNotifies->erase(std::next(Found).base());
-    if (FFreeNotifies->empty())
-        FFreeNotifies.reset();
+    const auto Found = std::find(FFreeNotifies.rbegin(), FFreeNotifies.rend(), AObject);
+    if (Found != FFreeNotifies.rend())
+        FFreeNotifies.erase(std::next(Found).base());
 }
 
 void TQzObjectEx::RemoveFreeNotification(TQzObjectEx* AObject) {
@@ -82,21 +94,43 @@ void TQzObjectEx::RemoveFreeNotificationEx(IQzObject* AObject) {
         Linked->RemoveNotification(this);
 }
 
+// Tells the last of the linked objects and removes the link. The reference keeps it alive, and the policy keeps the
+// reference from ending one that nobody refers to. One that is referred to gets its policy back first, since its last
+// other reference may have gone meanwhile.
 void TQzObjectEx::NotifyLast() {
-    TObject* Last = FFreeNotifies->back();
-    const TQzPolicyHold Hold(Last);
-    auto* Listener = Offered<IQzObjectFreeNotificationEvent>(Last);
+    TObject* Last = FFreeNotifies.back();
+    const auto* Counted = dynamic_cast<const TQzObject*>(Last);
+    const bool IsReferenced = Counted != nullptr && Counted->RefCount() != 0;
+    std::optional<TQzPolicyHold> Hold(Last);
+    auto Listener = AsInterface<IQzObjectFreeNotificationEvent>(Last);
     if (Listener == nullptr) {
         RemoveNotification(Last);
         detail::RaiseAssertion(u"Assertion failure");
     }
     Listener->OnObjectDestroyed(this);
     RemoveFreeNotificationEx(Listener);
+    if (IsReferenced)
+        Hold.reset();
+    Listener.Clear();
+}
+
+// The same where an exception can go nowhere, and for an object of which only this part is left.
+void TQzObjectEx::DropLast() noexcept {
+    TObject* Last = FFreeNotifies.back();
+    FFreeNotifies.pop_back();
+    if (auto* Linked = Offered<IQzObjectEx>(Last))
+        Linked->RemoveNotification(this);
+    try {
+        const TQzPolicyHold Hold(Last);
+        if (const auto Listener = AsInterface<IQzObjectFreeNotificationEvent>(Last))
+            Listener->OnObjectDestroyed(this);
+    } catch (...) { // NOLINT(bugprone-empty-catch): nobody is left to hear of it
+    }
 }
 
 void TQzObjectEx::BeforeDestruction() {
     TQzObject::BeforeDestruction();
-    while (FFreeNotifies)
+    while (!FFreeNotifies.empty())
         NotifyLast();
 }
 

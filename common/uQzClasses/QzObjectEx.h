@@ -9,7 +9,6 @@
 // Links on one object are made and removed by one thread at a time.
 #pragma once
 
-#include <memory>
 #include <vector>
 
 #include "common/uQzClasses/QzObject.h"
@@ -22,7 +21,8 @@ class IQzObjectFreeNotificationEvent : public IQzObject {
 public:
     static constexpr TGUID IID = Guid("{BBECB66F-1397-4FFA-AFE5-C7BD63A1EAC6}");
 
-    // AObject is about to end: its class is intact, and nobody may keep it.
+    // AObject is about to end and nobody may keep it. It is still whole, unless it ends because its construction
+    // failed: then only the part that is a TQzObjectEx is left.
     virtual void OnObjectDestroyed(TObject* AObject) = 0;
 
 protected:
@@ -51,7 +51,8 @@ class QZ_API TQzObjectEx : public TQzObject, public IQzObjectFreeNotificationEve
 public:
     TObject* Implementor() override { return this; }
 
-    // Does nothing here.
+    // Does nothing here. The object called is held by a reference meanwhile, so it cannot free itself; one that
+    // loses the last of its other references in here ends when the call is over.
     void OnObjectDestroyed(TObject* AObject) override;
 
     // Links the two: each hears of the end of the other. Linking twice changes nothing.
@@ -82,10 +83,10 @@ protected:
 private:
     bool AddNotification(TObject* AObject);
     void NotifyLast();
+    void DropLast() noexcept;
     [[noreturn]] static void AssignError(const TQzObjectEx* ASource, const TQzObjectEx* ADest);
 
-    std::unique_ptr<std::vector<TObject*>>
-        FFreeNotifies; // the linked objects, not owned; absent when there are none
+    std::vector<TObject*> FFreeNotifies; // the linked objects, not owned
 };
 
 } // namespace qz

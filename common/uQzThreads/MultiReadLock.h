@@ -62,7 +62,7 @@ public:
     ~TQzMultiReadSingleWrite() override;
 
     void BeginRead() { FSlots->AcquireShared(&FLock); }
-    // False when a writer holds the lock or, on the platform's functions, waits for it.
+    // False when a writer holds the lock or waits for it.
     bool TryBeginRead() { return FSlots->TryAcquireShared(&FLock) != 0; }
     void EndRead() { FSlots->ReleaseShared(&FLock); }
     void BeginWrite() { FSlots->AcquireExclusive(&FLock); }

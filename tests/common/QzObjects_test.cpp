@@ -53,7 +53,8 @@ public:
 
     void OnObjectDestroyed(TObject* AObject) override {
         const Ref<IQzObject> Self = AsInterface<IQzObject>(this);
-        Note("told", FName + u" of " + static_cast<TLinked*>(AObject)->FName);
+        const auto* Other = dynamic_cast<TLinked*>(AObject);
+        Note("told", FName + u" of " + (Other == nullptr ? UnicodeString(u"a rest") : Other->FName));
         if (FOnDestroyed)
             FOnDestroyed(AObject);
     }
@@ -129,6 +130,7 @@ TEST_F(QzObjects, QueryFindsListedInterfacesOnly) {
     void* Missing = this;
     EXPECT_EQ(static_cast<std::uint32_t>(Thing->QueryInterface(IQzObjectEx::IID, &Missing)), 0x80004002u);
     EXPECT_EQ(Missing, nullptr);
+    EXPECT_EQ(Thing->QueryInterface(IQzObject::IID, nullptr), E_POINTER_RESULT);
 }
 
 TEST_F(QzObjects, CountSurvivesManyThreads) {
@@ -175,6 +177,8 @@ TEST_F(QzObjects, CountedPartnerSurvivesItsNotification) {
     TLinked* Undecided = TLinked::Create(u"undecided");
     TLinked* Model = TLinked::Create(u"m");
     Held->FreeNotificationEx(Model);
+    const Ref<IQzObject> Listed = Partner;
+    EXPECT_EQ(Listed->Implementor(), Partner);
     Model->FreeNotificationEx(Undecided);
     Model->Free();
     EXPECT_EQ(TakeTrace(), "told(undecided of m) told(held of m) freed(m) ");
@@ -195,6 +199,96 @@ TEST_F(QzObjects, PartnerThatRaisesKeepsTheObjectAndItsOwnPolicy) {
     First->Free();
     EXPECT_EQ(TakeTrace(), "told(b of a) freed(a) ");
     Second->Free();
+}
+
+TEST_F(QzObjects, PartnerThatFreesItselfWhileItIsToldIsRefused) {
+    TLinked* Model = TLinked::Create(u"m");
+    TLinked* View = TLinked::Create(u"v");
+    Model->FreeNotification(View);
+    View->FOnDestroyed = [&](TObject*) { View->Free(); };
+    EXPECT_THROW(Model->Free(), Exception);
+    View->FOnDestroyed = [&](TObject*) { EXPECT_THROW(View->Free(), Exception); };
+    Model->Free();
+    EXPECT_EQ(TakeTrace(), "told(v of m) told(v of m) freed(m) ");
+    View->Free();
+}
+
+TEST_F(QzObjects, PartnerThatFreesOrKeepsTheEndingObjectEndsItOnce) {
+    TLinked* Model = TLinked::Create(u"m");
+    const TOwned<TLinked> View(TLinked::Create(u"v"));
+    Model->FreeNotification(View.get());
+    View->FOnDestroyed = [](TObject* AModel) {
+        const Ref<IQzObject> Passing = AsInterface<IQzObject>(AModel);
+        EXPECT_THROW(AModel->Free(), EInvalidOperation);
+    };
+    Model->Free();
+    EXPECT_EQ(TakeTrace(), "told(v of m) freed(m) ");
+}
+
+TEST_F(QzObjects, PartnerThatLosesItsLastReferenceMeanwhileEndsAfterwards) {
+    TLinked* Model = TLinked::Create(u"m");
+    Ref<IQzObjectEx> Held = TLinked::Create(u"v");
+    auto* View = static_cast<TLinked*>(Held->Implementor());
+    View->FreeNotification(Model);
+    View->FOnDestroyed = [&](TObject*) { Held.Clear(); };
+    Model->Free();
+    EXPECT_EQ(TakeTrace(), "told(v of m) freed(v) freed(m) ");
+}
+
+// Links itself to another and then cannot be built.
+class TUnfinished : public TQzObjectEx {
+    QZ_CLASS(TUnfinished, TQzObjectEx)
+
+protected:
+    explicit TUnfinished(TLinked* APartner) {
+        FreeNotification(APartner);
+        throw EAbort(u"no");
+    }
+};
+constinit const TClassRec TUnfinished::ClassRec =
+    DescribeClass<TUnfinished>(u"TUnfinished", {.Unit = u"Test"});
+
+// Hears of an end, but is no TQzObjectEx.
+class TListener : public TInterfacedObject, public IQzObjectFreeNotificationEvent {
+    QZ_CLASS(TListener, TInterfacedObject)
+    QZ_INTERFACE_COUNTING(TInterfacedObject)
+
+public:
+    TObject* Implementor() override { return this; }
+    void OnObjectDestroyed(TObject* AObject) override { Note("heard of", AObject->ClassName()); }
+
+protected:
+    ~TListener() override { Note("freed", u"listener"); }
+};
+constinit const TClassRec TListener::ClassRec = DescribeClass<TListener>(
+    u"TListener", {.Unit = u"Test", .Interfaces = Interfaces<TListener, IQzObjectFreeNotificationEvent>()});
+
+TEST_F(QzObjects, UnfinishedObjectLeavesNoLinkBehind) {
+    TLinked* Partner = TLinked::Create(u"p");
+    Partner->FOnDestroyed = [](TObject*) { throw EAbort(u"unheard"); };
+    EXPECT_THROW((void)TUnfinished::Create(Partner), EAbort);
+    EXPECT_EQ(TakeTrace(), "told(p of a rest) ");
+    Partner->Free();
+    EXPECT_EQ(TakeTrace(), "freed(p) ");
+}
+
+TEST_F(QzObjects, ListenerOfAnotherFamilyHearsThroughItsInterface) {
+    TLinked* Model = TLinked::Create(u"m");
+    const Ref<IQzObjectFreeNotificationEvent> Listener = TListener::Create();
+    Model->FreeNotificationEx(Listener);
+    Model->FreeNotificationEx(Listener);
+    Model->Free();
+    EXPECT_EQ(TakeTrace(), "heard of(TLinked) freed(m) ");
+}
+
+TEST_F(QzObjects, AreMadeThroughTheirClass) {
+    for (const TQzObjectClass Class : {TQzObjectClass::Of<TQzObject>(), TQzObjectClass::Of<TQzObjectEx>()}) {
+        const auto Make = TQzObject::TVirtualCreate::Find(Class);
+        ASSERT_NE(Make, nullptr);
+        const TOwned<TQzObject> Made(Make());
+        EXPECT_EQ(Made->ClassType(), Class.Get());
+    }
+    EXPECT_EQ(TQzObject::TVirtualCreate::Find(ClassOf<TThing>()), nullptr) << "nobody listed a maker";
 }
 
 TEST_F(QzObjects, LinkThroughInterfacesCanBeRemovedFromEitherSide) {

@@ -1,0 +1,128 @@
+#include "common/uQzClasses/QzComponent.h"
+
+#include <algorithm>
+
+#include "runtime/errors/Exceptions.h"
+#include "runtime/objects/DescribeComponent.h"
+
+namespace qz {
+
+constinit const TClassRec TQzComponent::ClassRec = DescribeComponent<TQzComponent>(
+    u"TQzComponent",
+    {.Unit = u"uQzClasses", .Interfaces = Interfaces<TQzComponent, IQzComponent, IQzObject>()});
+
+TQzComponent::TQzComponent(TComponent* AOwner) : TComponent(AOwner) {}
+
+TQzComponent::~TQzComponent() {
+    ClearBindings();
+}
+
+HRESULT TQzComponent::QueryInterface(const TGUID& AIid, void** AObject) {
+    return TComponent::QueryInterface(AIid, AObject);
+}
+
+std::uint32_t TQzComponent::_AddRef() {
+    const std::int32_t Count = FRefCount.Increment();
+    if (Owner() == nullptr) {
+        TQzAutoDestroy Undecided = radComputed;
+        FAutoDestroy.compare_exchange_strong(Undecided, radTrue, std::memory_order_relaxed);
+    }
+    return static_cast<std::uint32_t>(Count);
+}
+
+// A component that is on its way out is not ended again by what its notifications take and drop.
+std::uint32_t TQzComponent::_Release() {
+    const std::int32_t Count = FRefCount.Decrement();
+    if (Count == 0 && GetAutoDestroy() && !ComponentState().Contains(csDestroying))
+        Free();
+    return static_cast<std::uint32_t>(Count);
+}
+
+bool TQzComponent::GetAutoDestroy() const {
+    return AutoDestroyPolicy() == radTrue;
+}
+
+void TQzComponent::SetAutoDestroy(bool AValue) {
+    FAutoDestroy.store(AValue ? radTrue : radFalse, std::memory_order_relaxed);
+}
+
+void TQzComponent::AfterConstruction() {
+    Inherited::AfterConstruction();
+    FRefCount.Decrement();
+}
+
+void TQzComponent::BeforeDestruction() {
+    if (FRefCount.Value() != 0)
+        throw Exception(SCompRefCountNotZero, {ClassName(), Name()});
+    Inherited::BeforeDestruction();
+}
+
+void TQzComponent::AddBinding(TObject* ASource, const UnicodeString& ASourceProperty, TObject* ADest,
+                              const UnicodeString& ADestProperty, TBindings::TCreateOptions AOptions) {
+    TBindingExpression* Binding = TBindings::CreateManagedBinding(
+        {TBindings::CreateAssociationScope({Associate(ASource, u"src")})}, u"src." + ASourceProperty,
+        {TBindings::CreateAssociationScope({Associate(ADest, u"dst")})}, u"dst." + ADestProperty, AOptions);
+    try {
+        FBindings.Add(Binding);
+    } catch (...) {
+        TBindings::RemoveBinding(Binding);
+        throw;
+    }
+}
+
+// Ends the bindings from the place ACount on.
+void TQzComponent::DropBindings(int ACount) {
+    while (FBindings.Count() > ACount) {
+        TBindings::RemoveBinding(FBindings.Last());
+        FBindings.Delete(FBindings.Count() - 1);
+    }
+}
+
+void TQzComponent::Bind(const UnicodeString& ASrcProperty, TObject* ADest, const UnicodeString& ADestProperty,
+                        TBindings::TCreateOptions AOptions) {
+    const int Before = FBindings.Count();
+    try {
+        AddBinding(this, ASrcProperty, ADest, ADestProperty, AOptions);
+        AddBinding(ADest, ADestProperty, this, ASrcProperty, AOptions);
+    } catch (...) {
+        DropBindings(Before);
+        throw;
+    }
+}
+
+void TQzComponent::Bind(const UnicodeString& ASrcProperty, TComponent* ADest,
+                        TBindings::TCreateOptions AOptions) {
+    Assert(ADest != nullptr && ADest->Observers().CanObserve(TObservers::cControlValueId));
+    FLinks.reserve(FLinks.size() + 1);
+    TLinkControlToProperty* Link = TLinkControlToProperty::Create(this);
+    FLinks.push_back(Link);
+    try {
+        Link->SetControl(ADest);
+        Link->SetTrack(true);
+        Link->SetComponent(this);
+        Link->SetComponentProperty(ASrcProperty);
+        Link->SetActive(true);
+        AddBinding(this, ASrcProperty, ADest, Link->ControlValueMember(), AOptions);
+    } catch (...) {
+        Link->Free();
+        throw;
+    }
+}
+
+void TQzComponent::NotifyBindings(const UnicodeString& APropertyName) {
+    TBindings::Notify(this, APropertyName);
+}
+
+void TQzComponent::ClearBindings() {
+    DropBindings(0);
+    while (!FLinks.empty())
+        FLinks.back()->Free();
+}
+
+void TQzComponent::Notification(TComponent* AComponent, TOperation AOperation) {
+    Inherited::Notification(AComponent, AOperation);
+    if (AOperation == opRemove)
+        std::erase(FLinks, AComponent);
+}
+
+} // namespace qz
