@@ -30,10 +30,11 @@ std::uint32_t TQzComponent::_AddRef() {
     return static_cast<std::uint32_t>(Count);
 }
 
-// A component that is on its way out is not ended again by what its notifications take and drop.
+// A component that is on its way out, itself or with its owner, is not ended by what its notifications take and drop.
 std::uint32_t TQzComponent::_Release() {
     const std::int32_t Count = FRefCount.Decrement();
-    if (Count == 0 && GetAutoDestroy() && !ComponentState().Contains(csDestroying))
+    const bool IsGoing = IsEnding() || (Owner() != nullptr && ComponentState().Contains(csDestroying));
+    if (Count == 0 && AutoDestroyPolicy() == radTrue && !IsGoing)
         Free();
     return static_cast<std::uint32_t>(Count);
 }
@@ -46,8 +47,7 @@ void TQzComponent::SetAutoDestroy(bool AValue) {
     FAutoDestroy.store(AValue ? radTrue : radFalse, std::memory_order_relaxed);
 }
 
-void TQzComponent::AfterConstruction() {
-    Inherited::AfterConstruction();
+void TQzComponent::FinishCreate() {
     FRefCount.Decrement();
 }
 
@@ -55,6 +55,14 @@ void TQzComponent::BeforeDestruction() {
     if (FRefCount.Value() != 0)
         throw Exception(SCompRefCountNotZero, {ClassName(), Name()});
     Inherited::BeforeDestruction();
+}
+
+// An owner that ends lets go of a component that is still referred to; its last reference ends it then.
+void TQzComponent::DestructionRefused() noexcept {
+    Inherited::DestructionRefused();
+    TQzAutoDestroy Undecided = radComputed;
+    if (Owner() == nullptr && FRefCount.Value() > 0)
+        FAutoDestroy.compare_exchange_strong(Undecided, radTrue, std::memory_order_relaxed);
 }
 
 void TQzComponent::AddBinding(TObject* ASource, const UnicodeString& ASourceProperty, TObject* ADest,
@@ -93,10 +101,11 @@ void TQzComponent::Bind(const UnicodeString& ASrcProperty, TObject* ADest, const
 void TQzComponent::Bind(const UnicodeString& ASrcProperty, TComponent* ADest,
                         TBindings::TCreateOptions AOptions) {
     Assert(ADest != nullptr && ADest->Observers().CanObserve(TObservers::cControlValueId));
-    FLinks.reserve(FLinks.size() + 1);
-    TLinkControlToProperty* Link = TLinkControlToProperty::Create(this);
-    FLinks.push_back(Link);
+    FLinks.push_back(nullptr);
+    TLinkControlToProperty* Link = nullptr;
     try {
+        Link = TLinkControlToProperty::Create(this);
+        FLinks.back() = Link;
         Link->SetControl(ADest);
         Link->SetTrack(true);
         Link->SetComponent(this);
@@ -104,7 +113,10 @@ void TQzComponent::Bind(const UnicodeString& ASrcProperty, TComponent* ADest,
         Link->SetActive(true);
         AddBinding(this, ASrcProperty, ADest, Link->ControlValueMember(), AOptions);
     } catch (...) {
-        Link->Free();
+        if (Link == nullptr)
+            FLinks.pop_back();
+        else
+            Link->Free();
         throw;
     }
 }
@@ -122,7 +134,8 @@ void TQzComponent::ClearBindings() {
 void TQzComponent::Notification(TComponent* AComponent, TOperation AOperation) {
     Inherited::Notification(AComponent, AOperation);
     if (AOperation == opRemove)
-        std::erase(FLinks, AComponent);
+        if (const auto Found = std::find(FLinks.rbegin(), FLinks.rend(), AComponent); Found != FLinks.rend())
+            FLinks.erase(std::next(Found).base());
 }
 
 } // namespace qz

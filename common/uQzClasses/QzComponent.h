@@ -67,10 +67,12 @@ public:
     // Ends all bindings that Bind made, the links to controls included.
     void ClearBindings();
 
-    // Takes back the reference that guards the component during its construction.
-    void AfterConstruction() override;
-    // Raises Exception with SCompRefCountNotZero while references remain; the component then lives on.
+    // Called by Create behind AfterConstruction: takes back the reference that guards the component until then.
+    void FinishCreate();
+    // Raises Exception with SCompRefCountNotZero while references remain; the component then lives on. One whose
+    // owner ends meanwhile has no owner any more, and ends with its last reference.
     void BeforeDestruction() override;
+    void DestructionRefused() noexcept override;
 
 protected:
     explicit TQzComponent(TComponent* AOwner);
@@ -83,6 +85,7 @@ private:
                     const UnicodeString& ADestProperty, TBindings::TCreateOptions AOptions);
     void DropBindings(int ACount);
 
+    friend class TQzPolicyHold;
     TRefCount FRefCount{1};
     std::atomic<TQzAutoDestroy> FAutoDestroy{radComputed};
     TObjectList<TBindingExpression> FBindings{false}; // the binding engine ends them

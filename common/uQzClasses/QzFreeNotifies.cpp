@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "runtime/errors/Exceptions.h"
 #include "runtime/reflection/Describe.h"
 #include "runtime/threads/CriticalSection.h"
 
@@ -27,6 +28,7 @@ TQzFreeNotifies::TQzFreeNotifies(TObject* AOwner, TQzFreeNotifiesOnNotify AOnObj
 
 TQzFreeNotifies::~TQzFreeNotifies() {
     const TScopedLock Hold(Links());
+    FEnding = true;
     while (!FList.empty()) {
         try {
             BeforeDestruction();
@@ -36,8 +38,9 @@ TQzFreeNotifies::~TQzFreeNotifies() {
 }
 
 void TQzFreeNotifies::Add(TQzFreeNotifies* AOther) {
+    Assert(AOther != nullptr);
     const TScopedLock Hold(Links());
-    if (std::find(FList.rbegin(), FList.rend(), AOther) != FList.rend())
+    if (FEnding || AOther->FEnding || std::find(FList.rbegin(), FList.rend(), AOther) != FList.rend())
         return;
     FList.push_back(AOther);
     try {

@@ -30,7 +30,7 @@ public:
     // As BeforeDestruction, except that an exception of a partner's procedure is dropped.
     ~TQzFreeNotifies() override;
 
-    // Links the two nodes, each to the other. Linking twice changes nothing.
+    // Links the two nodes, each to the other. Linking twice changes nothing, nor does a link to a node that ends.
     void Add(TQzFreeNotifies* AOther);
     // Forgets AOther on this side.
     void Remove(TQzFreeNotifies* AOther);
@@ -43,6 +43,7 @@ private:
     TQzFreeNotifiesOnNotify FOnObjectDestroyedProc;
     std::vector<TQzFreeNotifies*> FList;
     TObject* FOwner;
+    bool FEnding = false;
 };
 
 } // namespace qz

@@ -1,5 +1,6 @@
 #include "common/uQzClasses/QzObject.h"
 
+#include "common/uQzClasses/QzComponent.h"
 #include "runtime/errors/Exceptions.h"
 #include "runtime/reflection/Describe.h"
 #include "runtime/text/Format.h"
@@ -50,8 +51,7 @@ std::uint32_t TQzObject::_Release() {
     return static_cast<std::uint32_t>(Count);
 }
 
-void TQzObject::AfterConstruction() {
-    Inherited::AfterConstruction();
+void TQzObject::FinishCreate() {
     FRefCount.Decrement();
 }
 
@@ -70,14 +70,21 @@ void TQzObject::DestructionRefused() noexcept {
     FDestroying = false;
 }
 
-TQzPolicyHold::TQzPolicyHold(TObject* AObject) noexcept : FObject(dynamic_cast<TQzObject*>(AObject)) {
-    if (FObject != nullptr)
-        FOld = FObject->FAutoDestroy.exchange(radFalse, std::memory_order_relaxed);
+TQzPolicyHold::TQzPolicyHold(TObject* AObject) noexcept {
+    if (auto* Object = dynamic_cast<TQzObject*>(AObject)) {
+        FPolicy = &Object->FAutoDestroy;
+        FWasReferenced = Object->RefCount() != 0;
+    } else if (auto* Component = dynamic_cast<TQzComponent*>(AObject)) {
+        FPolicy = &Component->FAutoDestroy;
+        FWasReferenced = Component->RefCount() != 0;
+    }
+    if (FPolicy != nullptr)
+        FOld = FPolicy->exchange(radFalse, std::memory_order_relaxed);
 }
 
 TQzPolicyHold::~TQzPolicyHold() {
-    if (FObject != nullptr)
-        FObject->FAutoDestroy.store(FOld, std::memory_order_relaxed);
+    if (FPolicy != nullptr)
+        FPolicy->store(FOld, std::memory_order_relaxed);
 }
 
 } // namespace qz

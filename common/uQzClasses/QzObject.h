@@ -60,8 +60,8 @@ public:
     std::uint32_t _AddRef() override;
     std::uint32_t _Release() override;
 
-    // Takes back the reference that guards the object during its construction.
-    void AfterConstruction() override;
+    // Called by Create behind AfterConstruction: takes back the reference that guards the object until then.
+    void FinishCreate();
     // Raises Exception with SObjRefCountNotZero while references remain; the object then lives on by its policy.
     void BeforeDestruction() override;
     bool BeginDestruction() noexcept override;
@@ -83,15 +83,19 @@ using TQzObjectClass = ClassRef<TQzObject>;
 // Keeps an object from being ended by its last reference for the length of a block.
 class QZ_API TQzPolicyHold {
 public:
-    // Does nothing for an object that is no TQzObject.
+    // Does nothing for an object that is no TQzObject and no TQzComponent.
     explicit TQzPolicyHold(TObject* AObject) noexcept;
     TQzPolicyHold(const TQzPolicyHold&) = delete;
     TQzPolicyHold& operator=(const TQzPolicyHold&) = delete;
     ~TQzPolicyHold();
 
+    // Whether anybody referred to the object when the block began.
+    bool WasReferenced() const noexcept { return FWasReferenced; }
+
 private:
-    TQzObject* FObject;
+    std::atomic<TQzAutoDestroy>* FPolicy = nullptr;
     TQzAutoDestroy FOld = radComputed;
+    bool FWasReferenced = false;
 };
 
 // A named base with the ordinary count of TInterfacedObject.

@@ -99,8 +99,6 @@ void TQzObjectEx::RemoveFreeNotificationEx(IQzObject* AObject) {
 // other reference may have gone meanwhile.
 void TQzObjectEx::NotifyLast() {
     TObject* Last = FFreeNotifies.back();
-    const auto* Counted = dynamic_cast<const TQzObject*>(Last);
-    const bool IsReferenced = Counted != nullptr && Counted->RefCount() != 0;
     std::optional<TQzPolicyHold> Hold(Last);
     auto Listener = AsInterface<IQzObjectFreeNotificationEvent>(Last);
     if (Listener == nullptr) {
@@ -109,7 +107,7 @@ void TQzObjectEx::NotifyLast() {
     }
     Listener->OnObjectDestroyed(this);
     RemoveFreeNotificationEx(Listener);
-    if (IsReferenced)
+    if (Hold->WasReferenced())
         Hold.reset();
     Listener.Clear();
 }

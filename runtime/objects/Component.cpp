@@ -53,14 +53,21 @@ TComponent::TComponent(TComponent* AOwner) {
         AOwner->InsertComponent(this);
 }
 
+// What the word of the end sets off may make new components here, which end as well.
 TComponent::~TComponent() {
+    FEnding = true;
     Destroying();
-    TellPartners();
-    while (!FComponents.empty())
-        Quietly([this] { DestroyComponents(); });
+    TellPartners(false);
+    EndComponents();
     if (FOwner != nullptr)
         Quietly([this] { FOwner->RemoveComponent(this); });
-    DropPartners();
+    TellPartners(true);
+    EndComponents();
+}
+
+void TComponent::EndComponents() noexcept {
+    while (!FComponents.empty())
+        Quietly([this] { DestroyComponents(); });
 }
 
 HRESULT TComponent::QueryInterface(const TGUID& AIid, void** AObject) {
@@ -168,9 +175,11 @@ void TComponent::Unlink(TComponent* AComponent) noexcept {
 void TComponent::DestroyComponents() {
     while (!FComponents.empty()) {
         TComponent* Last = FComponents.back();
-        if (FState.Contains(csDestroying) || Last->FEnding)
+        const bool IsEnding = Last->FEnding;
+        if (FState.Contains(csDestroying) || IsEnding)
             Unlink(Last);
-        Last->Free();
+        if (!IsEnding)
+            Last->Free();
     }
 }
 
@@ -198,10 +207,11 @@ void TComponent::RemoveFreeNotification(TComponent* AComponent) noexcept {
         AComponent->FState -= csFreeNotification;
 }
 
-// The owner and the brothers hear of the end from the owner, once and later.
-void TComponent::TellPartners() noexcept {
-    const auto HearsOtherwise = [this](const TComponent* APartner) {
-        return FOwner != nullptr && (APartner == FOwner || APartner->FOwner == FOwner);
+// At first not those who hear of it from the owner, once and later; then all that did not hear, since one before them
+// raised.
+void TComponent::TellPartners(bool AAll) noexcept {
+    const auto HearsOtherwise = [&](const TComponent* APartner) {
+        return !AAll && FOwner != nullptr && (APartner == FOwner || APartner->FOwner == FOwner);
     };
     for (;;) {
         const auto Next = std::find_if_not(FPartners.rbegin(), FPartners.rend(), HearsOtherwise);
@@ -213,20 +223,24 @@ void TComponent::TellPartners() noexcept {
     }
 }
 
-void TComponent::DropPartners() noexcept {
-    while (!FPartners.empty())
-        RemoveFreeNotification(FPartners.back());
-}
-
 // From the last to the first: one that ends components hides none of the others, though some may hear twice.
 void TComponent::Notification(TComponent* AComponent, TOperation AOperation) {
     if (AOperation == opRemove)
         RemoveFreeNotification(AComponent);
+    std::exception_ptr Error;
     for (std::size_t I = FComponents.size(); I > 0; I = std::min(I - 1, FComponents.size())) {
         TComponent* Each = FComponents[I - 1];
-        if (Each != AComponent)
+        if (Each == AComponent)
+            continue;
+        try {
             Each->Notification(AComponent, AOperation);
+        } catch (...) {
+            if (!Error)
+                Error = std::current_exception();
+        }
     }
+    if (Error)
+        std::rethrow_exception(Error);
 }
 
 void TComponent::Destroying() noexcept {

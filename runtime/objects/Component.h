@@ -110,9 +110,11 @@ protected:
     ~TComponent() override;
 
     TPersistent* GetOwner() const override { return FOwner; }
+    // True from the beginning of Free on.
+    bool IsEnding() const noexcept { return FEnding; }
     // A component has come to or goes from this one or an owner above it (of which this one hears too), or one that
     // FreeNotification was asked of ends. May end other components. Overrides call the inherited one, which passes
-    // the word on to the owned components.
+    // the word on to all owned components and then raises the first exception of theirs.
     virtual void Notification(TComponent* AComponent, TOperation AOperation);
     // What the component can be observed for; see TObservers.
     virtual bool CanObserve(int) const { return false; }
@@ -121,8 +123,8 @@ private:
     friend class TObservers;
     void CheckName(const TComponent* AComponent, std::u16string_view AName) const;
     void Unlink(TComponent* AComponent) noexcept;
-    void TellPartners() noexcept;
-    void DropPartners() noexcept;
+    void TellPartners(bool AAll) noexcept;
+    void EndComponents() noexcept;
     void ClearDestroying() noexcept;
 
     TComponent* FOwner = nullptr;

@@ -27,8 +27,7 @@ std::uint32_t TInterfacedObject::_Release() {
     return static_cast<std::uint32_t>(Count);
 }
 
-void TInterfacedObject::AfterConstruction() {
-    Inherited::AfterConstruction();
+void TInterfacedObject::FinishCreate() {
     FRefCount.Decrement();
 }
 

@@ -66,8 +66,8 @@ public:
 
     int RefCount() const noexcept { return FRefCount.Value(); }
 
-    // Takes back the reference that guards the object during its construction.
-    void AfterConstruction() override;
+    // Called by Create behind AfterConstruction: takes back the reference that guards the object until then.
+    void FinishCreate();
     // Raises EInvalidPointer when references remain; the object is then not ended.
     void BeforeDestruction() override;
     bool BeginDestruction() noexcept override;

@@ -21,16 +21,20 @@ detail::TBoundPath PathOf(TComponent* ARoot, const UnicodeString& AProperty) {
     return {ARoot, detail::TBoundPath::Split(AProperty), AProperty};
 }
 
-// Keeps what a change sets off from coming back to the link that made it.
+// Keeps what a change sets off from coming back to the link that made it. The flag may outlive the link, which a
+// setter may end.
 class TUpdating {
 public:
-    explicit TUpdating(bool& AFlag) noexcept : FFlag(AFlag) { FFlag = true; }
+    explicit TUpdating(std::shared_ptr<bool> AFlag) noexcept
+        : FFlag(std::move(AFlag)),
+          FOld(std::exchange(*FFlag, true)) {}
     TUpdating(const TUpdating&) = delete;
     TUpdating& operator=(const TUpdating&) = delete;
-    ~TUpdating() { FFlag = false; }
+    ~TUpdating() { *FFlag = FOld; }
 
 private:
-    bool& FFlag;
+    std::shared_ptr<bool> FFlag;
+    bool FOld;
 };
 
 } // namespace
@@ -121,12 +125,13 @@ void TLinkControlToProperty::FillControl() {
 }
 
 void TLinkControlToProperty::WriteProperty() {
-    if (FUpdating || !FConnected)
+    if (*FUpdating || !FConnected)
         return;
     const TUpdating Updating(FUpdating);
     TBoundValue Value;
     if (!PathOf(FControl, ControlValueMember()).Read(Value))
         return;
+    // The setter may end this link: nothing of it is looked at from here on.
     const auto [Object, Prop] = PathOf(FComponent, FComponentProperty).Write(Value);
     if (Object != nullptr)
         TBindings::Notify(Object, Prop->Name);

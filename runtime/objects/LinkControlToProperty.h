@@ -11,6 +11,8 @@
 // its control and its component.
 #pragma once
 
+#include <memory>
+
 #include "runtime/objects/Component.h"
 #include "runtime/objects/InterfacedObject.h"
 
@@ -67,7 +69,7 @@ private:
     bool FTrack = false;
     bool FActive = false;
     bool FConnected = false;
-    bool FUpdating = false;
+    std::shared_ptr<bool> FUpdating = std::make_shared<bool>(false);
 };
 
 } // namespace qz

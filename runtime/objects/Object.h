@@ -63,7 +63,8 @@ public:
     // EInvalidOperation for an object of the counted families whose end has begun already.
     void Free();
 
-    // Runs once when the object is complete; run by Create.
+    // Runs once when the object is complete; run by Create. References to an object of a counted family that come
+    // and go in here end nothing.
     virtual void AfterConstruction() {}
     // Runs before the destructor when the object is ended by Free or its last reference.
     virtual void BeforeDestruction() {}
@@ -132,8 +133,8 @@ private:
     template <class TNew> static T* Finish(TNew* AObject) {
         try {
             AObject->AfterConstruction();
-            if constexpr (requires { AObject->StartCreated(); })
-                AObject->StartCreated();
+            if constexpr (requires { AObject->FinishCreate(); })
+                AObject->FinishCreate();
         } catch (...) {
             delete AObject;
             throw;

@@ -14,6 +14,7 @@
 // Observers belong to the thread of their component.
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "runtime/objects/Interface.h"
@@ -64,7 +65,7 @@ public:
     void RemoveObserver(int AId, IObserver* AObserver) noexcept;
 
     // Called by a control when its value changes; each tells the observers of cControlValueId. An observer may
-    // remove itself or others meanwhile.
+    // remove itself or others meanwhile, or end the control: the others are then not told.
     void ControlValueModified() { Tell(&IControlValueObserver::ControlValueModified); }
     void ControlValueUpdate() { Tell(&IControlValueObserver::ControlValueUpdate); }
 
@@ -77,7 +78,8 @@ private:
     void Tell(void (IControlValueObserver::*AOperation)());
 
     const TComponent& FOwner;
-    std::vector<TEntry> FEntries;
+    // Shared with a round of telling, which the end of the component outlives.
+    std::shared_ptr<std::vector<TEntry>> FEntries = std::make_shared<std::vector<TEntry>>();
 };
 
 } // namespace qz

@@ -49,7 +49,7 @@ struct TFormatSettings {
 // The settings that functions without a settings argument use: those of the system's locale, read at first use.
 QZ_API const TFormatSettings& DefaultFormatSettings();
 
-// Replaces them. Safe at any time; what is being formatted goes on with the settings that it began with.
+// Replaces them, and keeps the old ones for those who still refer to them. Safe at any time; what is being formatted goes on with the settings that it began with.
 QZ_API void SetDefaultFormatSettings(const TFormatSettings& ASettings);
 
 } // namespace qz

@@ -69,17 +69,13 @@ void TMainQueue::Poke() {
 void TMainQueue::Remove(TThread* AThread) {
     if (AThread == nullptr)
         return;
-    TItem Gone{};
-    do {
-        Gone = {};
-        const std::lock_guard Hold(FMutex);
-        const auto Found = std::find_if(FItems.begin(), FItems.end(),
-                                        [AThread](const TItem& AItem) { return AItem.Thread == AThread; });
-        if (Found == FItems.end())
-            return;
-        Gone = std::move(*Found);
-        FItems.erase(Found);
-    } while (true);
+    std::deque<TItem> Gone;
+    const std::lock_guard Hold(FMutex);
+    const auto IsKept = [AThread](const TItem& AItem) { return AItem.Thread != AThread; };
+    const auto First = std::find_if_not(FItems.begin(), FItems.end(), IsKept);
+    const auto Rest = std::stable_partition(First, FItems.end(), IsKept);
+    Gone.insert(Gone.end(), std::make_move_iterator(Rest), std::make_move_iterator(FItems.end()));
+    FItems.erase(Rest, FItems.end());
 }
 
 bool TMainQueue::Take(std::uint64_t ALast, TItem& AItem) {

@@ -41,7 +41,7 @@ TThread::~TThread() {
     RemoveQueuedEvents(this);
 }
 
-void TThread::StartCreated() {
+void TThread::FinishCreate() {
     if (!FSuspended) {
         FSuspended = true;
         Start();
@@ -105,7 +105,10 @@ void TThread::WaitFor() {
 }
 
 void TThread::BeforeDestruction() {
-    if (!FSuspended && FThread.get_id() != std::this_thread::get_id()) {
+    const bool IsSelf = FThread.get_id() == std::this_thread::get_id();
+    if (IsSelf && !Finished())
+        throw EThread(u"A thread cannot be freed by itself while it runs");
+    if (!FSuspended && !IsSelf) {
         Terminate();
         WaitFor();
     }

@@ -44,7 +44,7 @@ public:
     bool Finished() const noexcept { return FFinished.load(std::memory_order_acquire); }
     // Waits for the end of Execute. The main thread runs queued work while it waits, so that the thread's
     // Synchronize does not wait for ever; an exception of such work waits for the next CheckSynchronize. Not for a
-    // thread that frees itself. Raises EThread on the thread itself.
+    // thread that frees itself. Raises EThread on the thread itself; returns at once when it was not started.
     void WaitFor();
     // Whether the object frees itself when Execute has returned; nobody may touch it after its start then.
     bool FreeOnTerminate() const noexcept { return FFreeOnTerminate; }
@@ -52,10 +52,10 @@ public:
     // What Execute ended with, if it ended with an exception. Read it when Finished is true.
     std::exception_ptr FatalException() const noexcept { return FFatalException; }
 
-    // Asks the thread to end and waits for it, unless it runs on the thread itself.
+    // Asks the thread to end and waits for it. Raises EThread on the thread itself while it runs.
     void BeforeDestruction() override;
     // Called by Create when the object is complete: starts the thread unless it was made suspended.
-    void StartCreated();
+    void FinishCreate();
 
     // Has AProc run on the main thread at its next CheckSynchronize, in the order of the calls; also when the main
     // thread itself calls. AThread, which may be null, is the thread that the work belongs to: it is dropped when

@@ -192,11 +192,19 @@ private:
     // The hour that the half of the day which stands here begins with, or -1.
     int ReadHalfDay() noexcept {
         SkipBlanks();
-        if (TakeText(FSettings.TimeAMString) || TakeText(u"AM"))
-            return 0;
-        if (TakeText(FSettings.TimePMString) || TakeText(u"PM"))
-            return 12;
-        return -1;
+        // The longest that stands here, since a mark of the settings may be the start of a fixed one.
+        const std::pair<std::u16string_view, int> Marks[] = {
+            {FSettings.TimeAMString, 0}, {u"AM", 0}, {FSettings.TimePMString, 12}, {u"PM", 12}};
+        std::size_t Longest = 0;
+        int Hours = -1;
+        for (const auto& [Mark, Half] : Marks) {
+            if (Mark.size() > Longest && StartsText(Mark, FText.substr(FHere))) {
+                Longest = Mark.size();
+                Hours = Half;
+            }
+        }
+        FHere += Longest;
+        return Hours;
     }
 
     TView FText;

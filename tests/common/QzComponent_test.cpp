@@ -25,6 +25,8 @@ public:
         FTitle = ATitle;
         ++FWrites;
         NotifyBindings(u"Title");
+        if (FOnTitle)
+            FOnTitle();
     }
     int GetWidth() const { return FWidth; }
     void SetWidth(int AWidth) {
@@ -32,6 +34,7 @@ public:
         NotifyBindings(u"Width");
     }
     int FWrites = 0;
+    std::function<void()> FOnTitle;
 
 protected:
     explicit TView(TComponent* AOwner) : TQzComponent(AOwner) {}
@@ -204,6 +207,64 @@ TEST_F(QzComponent, OnlyAControlCanBeBoundByItsValue) {
     const TOwned<TEdit> Edit(TEdit::Create(nullptr));
     EXPECT_THROW(First->Bind(u"Nothing", Edit.get()), EEvaluatorError);
     EXPECT_EQ(First->ComponentCount(), 0) << "the link is gone";
+}
+
+TEST_F(QzComponent, SetterMayEndTheLinkOrTheControlThatFeedsIt) {
+    const TOwned<TView> First(NewView(u"a"));
+    const TOwned<TView> Second(NewView(u"b"));
+    TEdit* Edit = TEdit::Create(nullptr);
+    First->Bind(u"Title", Edit);
+    First->FOnTitle = [&] { First->ClearBindings(); };
+    Edit->Type(u"one");
+    First->FOnTitle = {};
+    First->Bind(u"Title", Edit);
+    Second->Bind(u"Title", Edit);
+    First->FOnTitle = [&] { FreeAndNil(Edit); };
+    Edit->Type(u"two");
+    EXPECT_EQ(First->GetTitle(), u"two");
+    EXPECT_EQ(Second->GetTitle(), u"") << "the control ended before its turn";
+}
+
+// Refers to itself while it is made and while it ends.
+class TSelfReferring : public TView {
+    QZ_CLASS(TSelfReferring, TView)
+
+public:
+    void AfterConstruction() override {
+        TView::AfterConstruction();
+        const Ref<IQzComponent> Passing(this);
+    }
+    void BeforeDestruction() override {
+        const Ref<IQzComponent> Passing = Ref<IQzComponent>(this);
+        FreeOfReferences();
+    }
+
+protected:
+    TSelfReferring() : TView(nullptr) {}
+    ~TSelfReferring() override { const Ref<IQzComponent> Passing(this); }
+
+private:
+    void FreeOfReferences() { GTrace += u"ending "; }
+};
+constinit const TClassRec TSelfReferring::ClassRec =
+    DescribeClass<TSelfReferring>(u"TSelfReferring", {.Unit = u"Test"});
+
+TEST_F(QzComponent, ReferencesWhileItIsMadeAndEndsEndNothing) {
+    TSelfReferring* Self = TSelfReferring::Create();
+    EXPECT_EQ(Self->RefCount(), 0);
+    EXPECT_EQ(TakeTrace(), "");
+    { const Ref<IQzComponent> Passing(Self); }
+    EXPECT_EQ(TakeTrace(), "ending freed() ");
+}
+
+TEST_F(QzComponent, ChildThatIsReferredToOutlivesItsOwner) {
+    TView* Owner = NewView(u"owner");
+    Ref<IQzComponent> Child = NewView(u"child", Owner);
+    Owner->Free();
+    EXPECT_EQ(TakeTrace(), "freed(owner) ");
+    EXPECT_EQ(Child->_GetOwner(), nullptr);
+    Child.Clear();
+    EXPECT_EQ(TakeTrace(), "freed(child) ");
 }
 
 TEST_F(QzComponent, BindingsOutliveNeitherSide) {

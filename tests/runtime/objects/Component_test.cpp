@@ -270,6 +270,32 @@ TEST_F(Components, IsMadeByNameAndReflectsItsProperties) {
     EXPECT_EQ(FindType(u"Integer"), nullptr);
 }
 
+TEST_F(Components, PartnersHearOfTheEndThoughOneBeforeThemRaises) {
+    TPart* Root = TPart::Make(nullptr, u"root");
+    TPart* Hears = TPart::Make(Root, u"hears");
+    TPart* Ends = TPart::Make(Root, u"ends");
+    TPart* Raises = TPart::Make(Root, u"raises");
+    Hears->FreeNotification(Ends);
+    Raises->FOnNotify = [](TComponent*, TOperation) { throw EInvalidOperation(u"no"); };
+    Ends->Free();
+    EXPECT_EQ(TakeTrace(), "freed(ends) removed(ends to raises) removed(ends to hears) ");
+    Raises->FOnNotify = {};
+    Root->Free();
+}
+
+TEST_F(Components, OneMadeForAnEndingOwnerEndsToo) {
+    TPart* Root = TPart::Make(nullptr, u"root");
+    TPart* Ends = TPart::Make(Root, u"ends");
+    Root->FOnNotify = [&](TComponent*, TOperation AOperation) {
+        if (AOperation == opRemove)
+            TComponent::Create(Ends)->SetName(u"late");
+    };
+    Ends->Free();
+    Root->FOnNotify = {};
+    EXPECT_EQ(Root->ComponentCount(), 0);
+    Root->Free();
+}
+
 TEST_F(Components, IsNotCounted) {
     TPart* Part = TPart::Make(nullptr, u"a");
     {

@@ -121,6 +121,12 @@ TEST(Thread, FreeEndsTheThreadThoughQueuedWorkOfOthersRaises) {
     EXPECT_FALSE(TThread::CheckSynchronize());
 }
 
+TEST(Thread, CannotFreeItselfWhileItRuns) {
+    TWorker* Worker = TWorker::Create(TWork([](TWorker* ASelf) { EXPECT_THROW(ASelf->Free(), EThread); }));
+    Worker->Free();
+    EXPECT_EQ(TWorker::FAlive, 0);
+}
+
 TEST(Thread, WakeProcedureMayRaiseWithoutHarm) {
     TThread::SetWakeMainThread([] { throw EAbort(u"x"); });
     int Ran = 0;
