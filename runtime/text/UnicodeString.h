@@ -202,8 +202,8 @@ public:
             AppendGrown({&Copy, 1});
             return *this;
         }
-        FData[Old] = AChar;
-        FData[Old + 1] = u'\0';
+        const char16_t Pair[2] = {AChar, u'\0'}; // one store instead of two
+        std::char_traits<char16_t>::copy(FData + Old, Pair, 2);
         Block()->Length = Old + 1;
         return *this;
     }
