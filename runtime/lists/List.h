@@ -24,6 +24,10 @@
 namespace qz {
 
 template <class T> class TList {
+    static_assert(
+        !std::is_same_v<T, bool>,
+        "TList<bool> has no bool to refer to: take TList<std::uint8_t> or a list of an enumeration");
+
 public:
     using value_type = T;
 
@@ -74,7 +78,16 @@ public:
         FItems.push_back(std::move(AItem));
         return Count() - 1;
     }
-    void AddRange(std::span<const T> AItems) { FItems.insert(FItems.end(), AItems.begin(), AItems.end()); }
+    // They may be items of this list.
+    void AddRange(std::span<const T> AItems) {
+        const T* Own = FItems.data();
+        if (std::less_equal<>()(Own, AItems.data()) && std::less<>()(AItems.data(), Own + FItems.size())) {
+            const std::vector<T> Copy(AItems.begin(), AItems.end());
+            FItems.insert(FItems.end(), Copy.begin(), Copy.end());
+        } else {
+            FItems.insert(FItems.end(), AItems.begin(), AItems.end());
+        }
+    }
     // AIndex may be the count, for the end.
     void Insert(int AIndex, T AItem) {
         FItems.insert(FItems.begin() + static_cast<std::ptrdiff_t>(Checked(AIndex, Count() + 1)),
@@ -107,12 +120,9 @@ public:
     void Exchange(int AIndex1, int AIndex2) { std::swap(Items(AIndex1), Items(AIndex2)); }
     // Takes the item to the place ANewIndex; those between move up by one.
     void Move(int ACurIndex, int ANewIndex) {
-        const auto From = begin() + static_cast<std::ptrdiff_t>(Checked(ACurIndex, Count()));
-        const auto To = begin() + static_cast<std::ptrdiff_t>(Checked(ANewIndex, Count()));
-        if (To < From)
-            std::rotate(To, From, From + 1);
-        else
-            std::rotate(From, From + 1, To + 1);
+        Checked(ACurIndex, Count());
+        Checked(ANewIndex, Count());
+        detail::MoveItem(FItems, ACurIndex, ANewIndex);
     }
     void Clear() noexcept { std::vector<T>().swap(FItems); }
     // Cuts the list, or lengthens it by empty items.
@@ -121,15 +131,17 @@ public:
             detail::RaiseOutOfRange();
         FItems.resize(static_cast<std::size_t>(ACount));
     }
-    // At least the count.
+    // At least the count; a lower one than now gives memory back.
     void SetCapacity(int ACapacity) {
         if (ACapacity < Count())
             detail::RaiseOutOfRange();
+        if (ACapacity < Capacity())
+            FItems.shrink_to_fit();
         FItems.reserve(static_cast<std::size_t>(ACapacity));
     }
-    // Equal items keep their order.
+    // Equal items keep their order. With a comparison that contradicts itself the order is any.
     template <class TLess = std::less<>> void Sort(TLess ALess = {}) {
-        std::stable_sort(begin(), end(), ALess);
+        detail::MergeSort(FItems, std::move(ALess));
     }
     void Reverse() noexcept { std::reverse(begin(), end()); }
 

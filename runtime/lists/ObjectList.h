@@ -10,6 +10,7 @@
 // threads as of TList.
 #pragma once
 
+#include <concepts>
 #include <memory>
 
 #include "runtime/errors/Exceptions.h"
@@ -22,7 +23,9 @@ template <class T = TObject> class TObjectList {
 public:
     using value_type = T*;
 
-    explicit TObjectList(bool AOwnsObjects = true) noexcept : FOwnsObjects(AOwnsObjects) {}
+    TObjectList() noexcept = default; // owns its objects
+    // Takes a bool alone, so that no pointer becomes one.
+    explicit TObjectList(std::same_as<bool> auto AOwnsObjects) noexcept : FOwnsObjects(AOwnsObjects) {}
     TObjectList(const TObjectList&) = delete;
     TObjectList& operator=(const TObjectList&) = delete;
     // A descendant that overrides Notify and wants to hear of the last items clears the list itself.
@@ -78,17 +81,23 @@ public:
         try {
             Notify(AItem, cnAdded);
         } catch (...) {
-            FItems.Remove(AItem);
+            Undo(AIndex, AItem, [&] { FItems.Delete(AIndex); });
             throw;
         }
     }
-    // Puts another object in the place of one that is removed; the same object changes nothing.
+    // Puts another object in the place of one that is removed; the same object changes nothing. When Notify refuses
+    // the new one, the old one stays.
     void SetItem(int AIndex, T* AItem) {
         T* Old = FItems.Items(AIndex);
         if (Old == AItem)
             return;
         FItems[AIndex] = AItem;
-        Notify(AItem, cnAdded);
+        try {
+            Notify(AItem, cnAdded);
+        } catch (...) {
+            Undo(AIndex, AItem, [&] { FItems[AIndex] = Old; });
+            throw;
+        }
         Notify(Old, cnRemoved);
     }
     void Delete(int AIndex) { Notify(FItems.ExtractAt(AIndex), cnRemoved); }
@@ -129,8 +138,14 @@ protected:
     }
 
 private:
+    // Undoes what was done at that place, unless a Notify has put something else there since.
+    template <class TUndo> void Undo(int AIndex, const T* AItem, TUndo AUndo) {
+        if (AIndex < Count() && FItems[AIndex] == AItem)
+            AUndo();
+    }
+
     TList<T*> FItems;
-    bool FOwnsObjects;
+    bool FOwnsObjects = true;
 };
 
 } // namespace qz

@@ -41,6 +41,8 @@ TStringList::TCompare TStringList::ComparerOf(bool ACaseSensitive, bool AUseLoca
 void TStringList::SetCapacity(int ACapacity) {
     if (ACapacity < Count())
         IndexError(ACapacity);
+    if (ACapacity < Capacity())
+        FItems.shrink_to_fit();
     FItems.reserve(static_cast<std::size_t>(ACapacity));
 }
 
@@ -91,8 +93,7 @@ void TStringList::SetObject(int AIndex, TObject* AObject) {
     Changing();
     std::vector<TItem> Old{{{}, FItems[Index].Object}};
     FItems[Index].Object = AObject;
-    Changed();
-    EndObjects(std::move(Old));
+    ChangedWithout(std::move(Old));
 }
 
 void TStringList::InsertObject(int AIndex, const UnicodeString& AText, TObject* AObject) {
@@ -133,12 +134,7 @@ void TStringList::Move(int ACurIndex, int ANewIndex) {
     Checked(ACurIndex, Count());
     Checked(ANewIndex, Count());
     Changing();
-    const auto From = FItems.begin() + ACurIndex;
-    const auto To = FItems.begin() + ANewIndex;
-    if (To < From)
-        std::rotate(To, From, From + 1);
-    else
-        std::rotate(From, From + 1, To + 1);
+    detail::MoveItem(FItems, ACurIndex, ANewIndex);
     Changed();
 }
 
@@ -149,17 +145,28 @@ void TStringList::Delete(int AIndex) {
     std::vector<TItem> Old;
     Old.push_back(std::move(*Place));
     FItems.erase(Place);
-    Changed();
-    EndObjects(std::move(Old));
+    ChangedWithout(std::move(Old));
 }
 
 void TStringList::Clear() {
     if (FItems.empty())
         return;
     Changing();
-    std::vector<TItem> Old = std::exchange(FItems, {});
-    Changed();
-    EndObjects(std::move(Old));
+    ChangedWithout(std::exchange(FItems, {}));
+}
+
+// The items have left the list, so that their objects end here, even when the change cannot be told.
+void TStringList::ChangedWithout(std::vector<TItem> AItems) {
+    try {
+        Changed();
+    } catch (...) {
+        try {
+            EndObjects(std::move(AItems));
+        } catch (...) { // NOLINT(bugprone-empty-catch): another exception is on its way already
+        }
+        throw;
+    }
+    EndObjects(std::move(AItems));
 }
 
 void TStringList::EndObjects(std::vector<TItem> AItems) const {
@@ -181,8 +188,8 @@ void TStringList::EndObjects(std::vector<TItem> AItems) const {
 
 void TStringList::Sort() {
     Changing();
-    std::stable_sort(FItems.begin(), FItems.end(),
-                     [this](const TItem& A, const TItem& B) { return FCompare(A.Text, B.Text) < 0; });
+    detail::MergeSort(FItems,
+                      [this](const TItem& A, const TItem& B) { return FCompare(A.Text, B.Text) < 0; });
     Changed();
 }
 
@@ -192,7 +199,7 @@ void TStringList::CustomSort(const TSortCompare& ACompare) {
     Changing();
     std::vector<int> Order(FItems.size());
     std::iota(Order.begin(), Order.end(), 0);
-    std::stable_sort(Order.begin(), Order.end(), [&](int A, int B) { return ACompare(*this, A, B) < 0; });
+    detail::MergeSort(Order, [&](int A, int B) { return ACompare(*this, A, B) < 0; });
     std::vector<TItem> Items;
     Items.reserve(Order.size());
     for (const int Place : Order)

@@ -11,6 +11,7 @@
 // A list belongs to one thread at a time.
 #pragma once
 
+#include <concepts>
 #include <vector>
 
 #include "runtime/lists/Strings.h"
@@ -25,7 +26,8 @@ public:
     using TSortCompare = std::function<int(const TStringList& AList, int AIndex1, int AIndex2)>;
 
     TStringList() = default;
-    explicit TStringList(bool AOwnsObjects) : FOwnsObjects(AOwnsObjects) {}
+    // Takes a bool alone, so that no pointer becomes one.
+    explicit TStringList(std::same_as<bool> auto AOwnsObjects) : FOwnsObjects(AOwnsObjects) {}
     TStringList(const TStringList&) = delete;
     TStringList& operator=(const TStringList&) = delete;
     ~TStringList() override;
@@ -34,6 +36,7 @@ public:
     UnicodeString Strings(int AIndex) const override { return FItems[Checked(AIndex, Count())].Text; }
     TObject* Objects(int AIndex) const override { return FItems[Checked(AIndex, Count())].Object; }
     int Capacity() const noexcept { return static_cast<int>(FItems.capacity()); }
+    // At least the count; a lower one than now gives memory back.
     void SetCapacity(int ACapacity);
     // In a sorted list by Find.
     int IndexOf(const TStringArg& AText) const override;
@@ -54,7 +57,7 @@ public:
     // allow duplicates".
     int AddObject(const UnicodeString& AText, TObject* AObject) override;
     // Owned objects are ended by Free, from the last to the first, when their lines are gone. The first exception of
-    // one goes to the caller, behind the others' end; the destructor drops them all.
+    // one goes to the caller, behind the others' end, unless OnChange raised one before; the destructor drops them all.
     void Delete(int AIndex) override;
     void Clear() override;
     // Sorts once; equal lines keep their order.
@@ -101,6 +104,7 @@ private:
     void CheckUnsorted() const;
     void Put(int AIndex, const UnicodeString& AText, TObject* AObject);
     void EndObjects(std::vector<TItem> AItems) const;
+    void ChangedWithout(std::vector<TItem> AItems);
 
     std::vector<TItem> FItems;
     TCompare FCompare = ComparerOf(false, true);

@@ -58,15 +58,11 @@ int TCollectionItem::Index() const noexcept {
 void TCollectionItem::SetIndex(int AIndex) {
     if (FCollection == nullptr)
         return;
-    auto& Items = FCollection->FItems;
-    const auto Old = Items.begin() + Index();
-    const auto New = Items.begin() + std::clamp(AIndex, 0, FCollection->Count() - 1);
+    const int Old = Index();
+    const int New = std::clamp(AIndex, 0, FCollection->Count() - 1);
     if (New == Old)
         return;
-    if (New < Old)
-        std::rotate(New, Old, std::next(Old));
-    else
-        std::rotate(Old, std::next(Old), std::next(New));
+    detail::MoveItem(FCollection->FItems, Old, New);
     Changed(true);
 }
 
@@ -83,6 +79,11 @@ TPersistent* TCollectionItem::GetOwner() const {
 void TCollectionItem::Changed(bool AAllItems) {
     if (FCollection != nullptr && FCollection->FUpdateCount == 0)
         FCollection->Update(AAllItems ? nullptr : this);
+}
+
+TCollection::TCollection(TClass AItemClass) : FItemClass(AItemClass) {
+    if (!FItemClass)
+        throw EInvalidOperation(u"The items of a collection need a class that descends from TCollectionItem");
 }
 
 TCollection::~TCollection() {
@@ -127,13 +128,16 @@ void TCollection::Join(TCollectionItem* AItem) {
 }
 
 void TCollection::Leave(TCollectionItem* AItem) noexcept {
-    std::erase(FItems, AItem);
+    // From the back, where Clear and the destructor take them.
+    const auto Found = std::find(FItems.rbegin(), FItems.rend(), AItem);
+    if (Found != FItems.rend())
+        FItems.erase(std::next(Found).base());
     AItem->FCollection = nullptr;
     AItem->FID = -1;
 }
 
 TCollectionItem* TCollection::Add() {
-    const auto Make = FItemClass ? TCollectionItem::TVirtualCreate::Find(FItemClass) : nullptr;
+    const auto Make = TCollectionItem::TVirtualCreate::Find(FItemClass);
     if (Make == nullptr)
         throw EInvalidOperation(u"The items of this collection cannot be made by it");
     return Make(this);

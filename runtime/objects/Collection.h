@@ -69,7 +69,8 @@ class QZ_API TCollection : public TPersistent {
     QZ_CLASS(TCollection, TPersistent)
 
 public:
-    explicit TCollection(TClass AItemClass) : FItemClass(AItemClass) {}
+    // Raises EInvalidOperation for null or a class that does not descend from TCollectionItem.
+    explicit TCollection(TClass AItemClass);
     TCollection(const TCollection&) = delete;
     TCollection& operator=(const TCollection&) = delete;
     // Ends the items without a word to Update and Notify, and drops their exceptions.
@@ -94,7 +95,8 @@ public:
     // Ends the item; when its Free raises it lives on outside the collection. Clear goes from the last to the first.
     void Delete(int AIndex);
     void Clear();
-    // From another collection: ends the items and assigns each of the other's to a new one.
+    // From another collection: ends the items and assigns each of the other's to a new one. The source must not belong to
+    // one of those items, since it would end with it.
     void Assign(TPersistent* ASource) override;
     // Update is called once for all changes between the two. Calls nest.
     virtual void BeginUpdate() { ++FUpdateCount; }

@@ -50,6 +50,36 @@ TEST(List, IndexesAreChecked) {
     EXPECT_EQ(List, (TList<int>{1, 2}));
 }
 
+TEST(List, SortsSafelyByAnyComparison) {
+    unsigned Seed = 1;
+    const auto Chance = [&Seed](int, int) { return ((Seed = Seed * 1664525 + 1013904223) >> 16 & 1) != 0; };
+    TList<int> List, Sorted;
+    for (int I = 0; I < 1000; ++I)
+        Sorted.Add(I);
+    for (int I = 0; I < 1000; ++I)
+        List.Add(I * 7 % 1000);
+    List.Sort(Chance);
+    List.Sort([](int, int) { return true; });
+    int Left = 500;
+    EXPECT_THROW(List.Sort([&](int A, int B) { return --Left > 0 ? A > B : throw EAbort(u"stop"); }), EAbort);
+    List.Sort();
+    EXPECT_EQ(List, Sorted); // none lost, none twice
+    List.Sort([](int A, int B) { return A % 10 < B % 10; });
+    for (int I = 0; I < 1000; ++I)
+        EXPECT_EQ(List[I], I % 100 * 10 + I / 100);
+}
+
+TEST(List, TakesItsOwnItemsAndGivesMemoryBack) {
+    TList<UnicodeString> List = {u"a", u"b"};
+    for (int I = 0; I < 3; ++I)
+        List.AddRange(std::span<const UnicodeString>(&List[0], static_cast<std::size_t>(List.Count())));
+    EXPECT_EQ(List.Count(), 16);
+    EXPECT_EQ(List[15], "b");
+    List.SetCapacity(1000);
+    List.SetCapacity(20);
+    EXPECT_EQ(List.Capacity(), 20);
+}
+
 UnicodeString GTrace;
 
 class TTraced : public TObject {
@@ -104,6 +134,32 @@ TEST(ObjectList, WithoutOwnershipEndsNothing) {
         EXPECT_EQ(List.FindInstanceOf(ClassOf<TObject>(), false), 0);
     }
     EXPECT_EQ(GTrace, "x");
+}
+
+class TFullList : public TObjectList<TTraced> {
+public:
+    using TObjectList::TObjectList;
+    bool Full = false;
+
+protected:
+    void Notify(TTraced* AItem, TCollectionNotification AAction) override {
+        if (AAction == cnAdded && Full)
+            throw EInvalidOperation(u"full");
+        TObjectList::Notify(AItem, AAction);
+    }
+};
+
+TEST(ObjectList, StaysAsItWasWhenAnItemIsRefused) {
+    TTraced A(u'a'), B(u'b');
+    TFullList List(false);
+    List.Add(&A);
+    List.Add(&B);
+    List.Full = true;
+    EXPECT_THROW(List.Add(&A), EInvalidOperation);
+    EXPECT_THROW(List.SetItem(1, &A), EInvalidOperation);
+    ASSERT_EQ(List.Count(), 2);
+    EXPECT_EQ(List[0], &A);
+    EXPECT_EQ(List[1], &B);
 }
 
 TEST(ThreadList, ManyThreadsAddWithoutDuplicates) {

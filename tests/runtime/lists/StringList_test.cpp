@@ -256,6 +256,18 @@ TEST(StringList, OwnedObjectsEndWithTheirLines) {
     EXPECT_EQ(GEnded, "cdabz");
 }
 
+TEST(StringList, OwnedObjectsEndAlsoWhenAListenerRaises) {
+    GEnded.Clear();
+    TStringList List(true);
+    for (const char16_t Name : {u'a', u'b', u'c'})
+        List.AddObject(Name, TTag::Create(Name).release());
+    List.SetOnChange([](TObject*) { throw EInvalidOperation(u"no"); });
+    EXPECT_THROW(List.Delete(1), EInvalidOperation);
+    EXPECT_THROW(List.SetObject(1, nullptr), EInvalidOperation);
+    EXPECT_THROW(List.Clear(), EInvalidOperation);
+    EXPECT_EQ(GEnded, "bca");
+}
+
 TEST(StringList, AssignsAndEquals) {
     TStringList From, To;
     Fill(From, {u"b", u"a"});

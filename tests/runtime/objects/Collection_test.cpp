@@ -135,5 +135,10 @@ TEST_F(Collections, AssignCopiesEachItem) {
     EXPECT_EQ(From[1]->GetNamePath(), "TLabels[1]");
 }
 
+TEST_F(Collections, NeedAClassOfItems) {
+    EXPECT_THROW(TCollection(nullptr), EInvalidOperation);
+    EXPECT_THROW(TCollection(ClassOf<TObject>()), EInvalidOperation);
+}
+
 } // namespace
 } // namespace qz

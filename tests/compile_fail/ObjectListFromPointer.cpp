@@ -1,0 +1,8 @@
+// expect: no matching
+#include "runtime/lists/ObjectList.h"
+
+qz::TObjectList<> Seen(false);
+
+#ifdef QZ_SHOULD_FAIL
+qz::TObjectList<> Wrong("text");
+#endif
