@@ -214,6 +214,18 @@ void TStringList::SetSorted(bool AValue) {
     FSorted = AValue;
 }
 
+// The lines come in the order of the source, so that they need not be sorted again.
+void TStringList::Assign(TPersistent* ASource) {
+    const auto* Source = dynamic_cast<const TStringList*>(ASource);
+    if (Source == nullptr || Source == this)
+        return Inherited::Assign(ASource);
+    FSorted = false;
+    FDuplicates = Source->FDuplicates;
+    SetCaseSensitive(Source->FCaseSensitive);
+    Inherited::Assign(ASource);
+    FSorted = Source->FSorted;
+}
+
 void TStringList::SetCaseSensitive(bool AValue) {
     FCaseSensitive = AValue;
     ChangeOrder();

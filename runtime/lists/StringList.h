@@ -32,6 +32,9 @@ public:
     TStringList& operator=(const TStringList&) = delete;
     ~TStringList() override;
 
+    // As TStrings does; of a TStringList also its order, the rule for duplicates and the case rule.
+    void Assign(TPersistent* ASource) override;
+
     int Count() const noexcept override { return static_cast<int>(FItems.size()); }
     UnicodeString Strings(int AIndex) const override { return FItems[Checked(AIndex, Count())].Text; }
     TObject* Objects(int AIndex) const override { return FItems[Checked(AIndex, Count())].Object; }

@@ -52,6 +52,14 @@ TView TakeLine(TView& AText) noexcept {
     return Line;
 }
 
+// Takes the text up to a line break of one's own, without it.
+TView TakeUpTo(TView& AText, TView ABreak) noexcept {
+    const std::size_t End = std::min(AText.find(ABreak), AText.size());
+    const TView Line = AText.substr(0, End);
+    AText.remove_prefix(std::min(End + ABreak.size(), AText.size()));
+    return Line;
+}
+
 void SkipBlanks(TView& AText) noexcept {
     while (!AText.empty() && IsBlank(AText.front()))
         AText.remove_prefix(1);
@@ -237,8 +245,11 @@ UnicodeString TStrings::Text() const {
 void TStrings::SetText(const TStringArg& AText) {
     const TUpdate Update(*this);
     Clear();
+    const bool IsUsual =
+        FLineBreak.empty() || FLineBreak == u"\r\n" || FLineBreak == u"\n" || FLineBreak == u"\r";
+    const UnicodeString Break = IsUsual ? UnicodeString() : FLineBreak;
     for (TView Rest = AText; !Rest.empty();)
-        Add(TakeLine(Rest));
+        Add(IsUsual ? TakeLine(Rest) : TakeUpTo(Rest, Break));
 }
 
 UnicodeString TStrings::CommaText() const {

@@ -97,13 +97,15 @@ public:
     virtual void Exchange(int AIndex1, int AIndex2);
     // Takes the line and its object to the place ANewIndex.
     virtual void Move(int ACurIndex, int ANewIndex);
-    // Takes the lines, objects and settings of another TStrings.
+    // Takes the lines, objects and settings of another TStrings, but not the ownership of the objects: of two lists
+    // that share objects one at the most may own them.
     void Assign(TPersistent* ASource) override;
     // Changes between the two are told as one. Calls nest.
     void BeginUpdate();
     void EndUpdate();
 
-    // All lines, each with LineBreak behind it. Read back, CR LF, LF and CR each end a line; the last line needs no
+    // All lines, each with LineBreak behind it. Read back, CR LF, LF and CR each end a line, or LineBreak alone when
+    // it is none of these; the last line needs no
     // end.
     UnicodeString Text() const;
     void SetText(const TStringArg& AText);
@@ -115,7 +117,7 @@ public:
     UnicodeString DelimitedText() const;
     void SetDelimitedText(const TStringArg& AText);
 
-    // Reads UTF-8 with or without a byte order mark; raises EFOpenError. Writes UTF-8 without one, as a whole or not
+    // Reads UTF-8, and nothing else, with or without a byte order mark; raises EFOpenError. Writes UTF-8 without one, as a whole or not
     // at all; raises EFCreateError.
     virtual void LoadFromFile(const TStringArg& AFileName);
     virtual void SaveToFile(const TStringArg& AFileName) const;
@@ -135,7 +137,8 @@ public:
     // Whether LineBreak stands behind the last line too; at first it does.
     bool TrailingLineBreak() const noexcept { return FTrailingLineBreak; }
     void SetTrailingLineBreak(bool AValue) noexcept { FTrailingLineBreak = AValue; }
-    // Whether lines compare by the rules of the user's language, as at first, or by their units.
+    // Whether lines compare by the rules of the user's language, as at first, or by their units. Those rules pass over
+    // control characters and characters without width, so that "a" and "a\1" are equal.
     bool UseLocale() const noexcept { return FUseLocale; }
     virtual void SetUseLocale(bool AValue) { FUseLocale = AValue; }
 

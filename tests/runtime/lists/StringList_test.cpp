@@ -113,6 +113,8 @@ TEST(StringList, TextReadsEveryLineEnd) {
     EXPECT_EQ(List.Text(), "a||b|");
     List.SetTrailingLineBreak(false);
     EXPECT_EQ(List.Text(), "a||b");
+    List.SetText(u"c\nd|e|");
+    EXPECT_EQ(LinesOf(List), (TLines{u"c\nd", u"e"})) << "a break of one's own is the only one";
     List.SetText(u"");
     EXPECT_EQ(List.Count(), 0);
 }
@@ -266,6 +268,23 @@ TEST(StringList, OwnedObjectsEndAlsoWhenAListenerRaises) {
     EXPECT_THROW(List.SetObject(1, nullptr), EInvalidOperation);
     EXPECT_THROW(List.Clear(), EInvalidOperation);
     EXPECT_EQ(GEnded, "bca");
+}
+
+TEST(StringList, AssignTakesOrderAndRulesOfTheSource) {
+    TStringList From;
+    TStringList To;
+    From.SetDuplicates(dupAccept);
+    From.SetCaseSensitive(true);
+    From.SetUseLocale(false);
+    From.SetSorted(true);
+    for (const char* Line : {"b", "B", "a", "b"})
+        From.Add(Line);
+    To.SetSorted(true);
+    To.Assign(&From);
+    EXPECT_TRUE(To.Equals(From));
+    EXPECT_TRUE(To.Sorted());
+    To.Add(u"C");
+    EXPECT_EQ(LinesOf(To), (TLines{u"B", u"C", u"a", u"b", u"b"}));
 }
 
 TEST(StringList, AssignsAndEquals) {
