@@ -9,7 +9,7 @@
 namespace qz::detail {
 namespace {
 
-constexpr std::size_t cSmallBlock = 4096;
+constexpr std::size_t cSmallBlock = 1024;
 
 std::size_t BlockSize(std::size_t AElementSize, std::size_t ACapacity) {
     if (ACapacity > TStringBlock::cMaxLength)
