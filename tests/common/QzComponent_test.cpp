@@ -5,15 +5,10 @@
 #include "runtime/objects/DescribeComponent.h"
 #include "runtime/reflection/BasicTypes.h"
 #include "runtime/reflection/Describe.h"
+#include "tests/support/Trace.h"
 
 namespace qz {
 namespace {
-
-UnicodeString GTrace;
-
-UnicodeString TakeTrace() {
-    return std::exchange(GTrace, UnicodeString());
-}
 
 // Has a text and a number, of which changes are told to its bindings.
 class TView : public TQzComponent {

@@ -7,20 +7,10 @@
 #include "common/uQzClasses/QzObjectEx.h"
 #include "runtime/errors/Exceptions.h"
 #include "runtime/reflection/Describe.h"
+#include "tests/support/Trace.h"
 
 namespace qz {
 namespace {
-
-// What happened, in words.
-UnicodeString GTrace;
-
-void Note(const char* AWhat, const UnicodeString& AName) {
-    GTrace += UnicodeString(AWhat) + u'(' + AName + u") ";
-}
-
-UnicodeString TakeTrace() {
-    return std::exchange(GTrace, UnicodeString());
-}
 
 class TThing : public TQzObject {
     QZ_CLASS(TThing, TQzObject)

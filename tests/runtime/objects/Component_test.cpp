@@ -4,19 +4,10 @@
 #include "runtime/objects/ClassRegistry.h"
 #include "runtime/objects/DescribeComponent.h"
 #include "runtime/reflection/BasicTypes.h"
+#include "tests/support/Trace.h"
 
 namespace qz {
 namespace {
-
-UnicodeString GTrace;
-
-void Note(const char* AWhat, const UnicodeString& AName) {
-    GTrace += UnicodeString(AWhat) + u'(' + AName + u") ";
-}
-
-UnicodeString TakeTrace() {
-    return std::exchange(GTrace, UnicodeString());
-}
 
 class TPart : public TComponent {
     QZ_CLASS(TPart, TComponent)
