@@ -13,14 +13,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/linux/FileSharing.h"
 #include "platform/linux/NativeEnvironment.h"
+#include "platform/linux/NativeFile.h"
 #include "platform/linux/NativeText.h"
 
 namespace qz::platform {
 
 namespace {
-
-constexpr size_t cLargestStep = size_t{1} << 30;
 
 bool Fail(TError& AError, int ACode) {
     AError.Code = ACode;
@@ -34,11 +34,8 @@ bool Outcome(TError& AError, bool AOk) {
 
 class TFile {
 public:
-    TFile(const char* APath, int AFlags, mode_t AMode = 0) noexcept {
-        do {
-            FHandle = open(APath, AFlags | O_CLOEXEC, AMode);
-        } while (FHandle < 0 && errno == EINTR);
-    }
+    TFile(const char* APath, int AFlags, mode_t AMode = 0) noexcept
+        : FHandle(detail::OpenNative(APath, AFlags, AMode)) {}
     TFile(const TFile&) = delete;
     TFile& operator=(const TFile&) = delete;
     ~TFile() { Close(); }
@@ -54,7 +51,7 @@ public:
     }
 
 private:
-    int FHandle = -1;
+    int FHandle;
 };
 
 std::optional<struct stat> StatusOf(std::u16string_view APath) {
@@ -65,21 +62,12 @@ std::optional<struct stat> StatusOf(std::u16string_view APath) {
     return Status;
 }
 
-// One read that no signal ends: the number of bytes, 0 at the end, less on failure.
-ssize_t ReadSome(int AFile, std::span<std::byte> ATarget) {
-    for (;;) {
-        const ssize_t Got = read(AFile, ATarget.data(), std::min(ATarget.size(), cLargestStep));
-        if (Got >= 0 || errno != EINTR)
-            return Got;
-    }
-}
-
 bool ReadAll(int AFile, size_t AExpected, std::vector<std::byte>& AOut) {
     size_t Length = 0;
     // One byte more than expected, so that the end shows without another growth.
     AOut.resize(AExpected + 1);
     for (;;) {
-        const ssize_t Got = ReadSome(AFile, std::span(AOut).subspan(Length));
+        const ssize_t Got = detail::ReadSome(AFile, std::span(AOut).subspan(Length));
         if (Got < 0)
             return false;
         Length += static_cast<size_t>(Got);
@@ -92,20 +80,16 @@ bool ReadAll(int AFile, size_t AExpected, std::vector<std::byte>& AOut) {
     }
 }
 
-bool WriteAll(int AFile, std::span<const std::byte> ABytes) {
-    while (!ABytes.empty()) {
-        const ssize_t Done = write(AFile, ABytes.data(), std::min(ABytes.size(), cLargestStep));
-        if (Done >= 0)
-            ABytes = ABytes.subspan(static_cast<size_t>(Done));
-        else if (errno != EINTR)
-            return false;
-    }
-    return true;
+using TPieces = std::span<const std::span<const std::byte>>;
+
+bool WriteAll(int AFile, TPieces APieces) {
+    size_t Done = 0;
+    return std::ranges::all_of(APieces, [&](auto APiece) { return detail::WriteAll(AFile, APiece, Done); });
 }
 
-bool WriteInPlace(const char* APath, std::span<const std::byte> ABytes, TError& AError) {
+bool WriteInPlace(const char* APath, TPieces APieces, TError& AError) {
     TFile File(APath, O_WRONLY | O_TRUNC | O_NOCTTY);
-    return Outcome(AError, File.IsOpen() && WriteAll(File.Handle(), ABytes) && File.Close());
+    return Outcome(AError, File.IsOpen() && WriteAll(File.Handle(), APieces) && File.Close());
 }
 
 // A name beside APath that no other thread or process uses.
@@ -121,8 +105,7 @@ bool TakeRights(int AFile, const struct stat& AOld) {
     return fchown(AFile, AOld.st_uid, AOld.st_gid) == 0 && fchmod(AFile, AOld.st_mode & 07777) == 0;
 }
 
-bool WriteBeside(const std::string& APath, const struct stat* AOld, std::span<const std::byte> ABytes,
-                 TError& AError) {
+bool WriteBeside(const std::string& APath, const struct stat* AOld, TPieces APieces, TError& AError) {
     std::string Beside;
     std::optional<TFile> File;
     do {
@@ -132,11 +115,16 @@ bool WriteBeside(const std::string& APath, const struct stat* AOld, std::span<co
     if (!File->IsOpen())
         return Outcome(AError, false);
     const bool Ok = (AOld == nullptr || TakeRights(File->Handle(), *AOld)) &&
-        WriteAll(File->Handle(), ABytes) && File->Close() && rename(Beside.c_str(), APath.c_str()) == 0;
+        WriteAll(File->Handle(), APieces) && File->Close() && rename(Beside.c_str(), APath.c_str()) == 0;
     Outcome(AError, Ok);
     if (!Ok)
         unlink(Beside.c_str());
     return Ok;
+}
+
+bool IsWritingDenied(const char* APath) {
+    const TFile File(APath, O_WRONLY | O_NOCTTY);
+    return File.IsOpen() && detail::IsDenied(File.Handle(), TFileAccess::Write);
 }
 
 bool IsDots(const char* AName) {
@@ -215,6 +203,8 @@ bool ReadWholeFile(std::u16string_view APath, std::vector<std::byte>& AOut, TErr
     if (!Path)
         return Fail(AError, EINVAL);
     const TFile File(Path->c_str(), O_RDONLY | O_NOCTTY);
+    if (File.IsOpen() && detail::IsDenied(File.Handle(), TFileAccess::Read))
+        return Fail(AError, ETXTBSY);
     struct stat Status;
     const bool Ok = File.IsOpen() && fstat(File.Handle(), &Status) == 0 &&
         ReadAll(File.Handle(), static_cast<size_t>(std::max<off_t>(Status.st_size, 0)), AOut);
@@ -224,7 +214,7 @@ bool ReadWholeFile(std::u16string_view APath, std::vector<std::byte>& AOut, TErr
     return Ok;
 }
 
-bool WriteWholeFile(std::u16string_view APath, std::span<const std::byte> ABytes, TError& AError) {
+bool WriteWholeFile(std::u16string_view APath, TPieces APieces, TError& AError) {
     const std::optional<std::string> Path = detail::ToNativeArgument(APath);
     if (!Path)
         return Fail(AError, EINVAL);
@@ -233,14 +223,16 @@ bool WriteWholeFile(std::u16string_view APath, std::span<const std::byte> ABytes
     if (Exists && S_ISDIR(Old.st_mode))
         return Fail(AError, EISDIR);
     if (Exists && !S_ISREG(Old.st_mode))
-        return WriteInPlace(Path->c_str(), ABytes, AError);
+        return WriteInPlace(Path->c_str(), APieces, AError);
     // A new file in its place would get around the write protection of the old one.
     if (Exists && faccessat(AT_FDCWD, Path->c_str(), W_OK, AT_EACCESS) != 0)
         return Outcome(AError, false);
-    if (WriteBeside(*Path, Exists ? &Old : nullptr, ABytes, AError))
+    if (Exists && IsWritingDenied(Path->c_str()))
+        return Fail(AError, ETXTBSY);
+    if (WriteBeside(*Path, Exists ? &Old : nullptr, APieces, AError))
         return true;
     const bool Locked = AError.Code == EACCES || AError.Code == EPERM || AError.Code == EROFS;
-    return Exists && Locked && WriteInPlace(Path->c_str(), ABytes, AError);
+    return Exists && Locked && WriteInPlace(Path->c_str(), APieces, AError);
 }
 
 } // namespace qz::platform

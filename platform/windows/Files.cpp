@@ -9,6 +9,7 @@
 #include <windows.h>
 
 #include "platform/windows/LongPath.h"
+#include "platform/windows/NativeFile.h"
 #include "platform/windows/WideText.h"
 
 namespace qz::platform {
@@ -116,22 +117,23 @@ bool ReadAll(HANDLE AFile, size_t AExpected, std::vector<std::byte>& AOut) {
     }
 }
 
-bool WriteAll(HANDLE AFile, std::span<const std::byte> ABytes) {
-    while (!ABytes.empty()) {
-        const auto Step = static_cast<DWORD>(std::min(ABytes.size(), cLargestStep));
-        DWORD Done = 0;
-        if (WriteFile(AFile, ABytes.data(), Step, &Done, nullptr) == 0)
-            return false;
-        ABytes = ABytes.subspan(Done);
-    }
-    return true;
+using TPieces = std::span<const std::span<const std::byte>>;
+
+bool WriteAll(HANDLE AFile, TPieces APieces) {
+    size_t Done = 0;
+    return std::ranges::all_of(APieces, [&](auto APiece) { return detail::WriteAll(AFile, APiece, Done); });
 }
 
-bool WriteInPlace(TFile& AFile, std::span<const std::byte> ABytes, TError& AError) {
+bool WriteInPlace(TFile& AFile, TPieces APieces, TError& AError) {
     const bool Ok = (GetFileType(AFile.Handle()) != FILE_TYPE_DISK || SetEndOfFile(AFile.Handle()) != 0) &&
-        WriteAll(AFile.Handle(), ABytes);
+        WriteAll(AFile.Handle(), APieces);
     return Outcome(AError, Ok && AFile.Close());
 }
+
+// What a file that can be written but not replaced answers to a replacement: the directory or the file is
+// protected, or others have the file open.
+constexpr DWORD cWriteInPlace[] = {ERROR_ACCESS_DENIED, ERROR_SHARING_VIOLATION,
+                                   ERROR_UNABLE_TO_REMOVE_REPLACED};
 
 // A name beside APath that no other thread or process uses.
 std::u16string NameBeside(std::u16string_view APath) {
@@ -143,8 +145,8 @@ std::u16string NameBeside(std::u16string_view APath) {
     return std::u16string(APath.substr(0, NameAt)).append(Name.begin(), Name.end());
 }
 
-bool WriteBeside(std::u16string_view APath, const std::u16string& ASystemPath, bool AExists,
-                 std::span<const std::byte> ABytes, TError& AError) {
+bool WriteBeside(std::u16string_view APath, const std::u16string& ASystemPath, bool AExists, TPieces APieces,
+                 TError& AError) {
     std::u16string Beside;
     std::optional<TFile> File;
     do {
@@ -153,7 +155,7 @@ bool WriteBeside(std::u16string_view APath, const std::u16string& ASystemPath, b
     } while (!File->IsOpen() && GetLastError() == ERROR_FILE_EXISTS);
     if (!File->IsOpen())
         return Outcome(AError, false);
-    bool Ok = WriteAll(File->Handle(), ABytes);
+    bool Ok = WriteAll(File->Handle(), APieces);
     Outcome(AError, Ok);
     File->Close();
     if (Ok) {
@@ -252,7 +254,7 @@ bool ReadWholeFile(std::u16string_view APath, std::vector<std::byte>& AOut, TErr
     return Ok;
 }
 
-bool WriteWholeFile(std::u16string_view APath, std::span<const std::byte> ABytes, TError& AError) {
+bool WriteWholeFile(std::u16string_view APath, TPieces APieces, TError& AError) {
     const std::optional<std::u16string> Path = detail::SystemPath(APath);
     if (!Path)
         return Fail(AError, ERROR_INVALID_NAME);
@@ -267,14 +269,14 @@ bool WriteWholeFile(std::u16string_view APath, std::span<const std::byte> ABytes
         return Fail(AError, ERROR_ACCESS_DENIED);
     const bool IsLink = (Attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
     if (Exists && (IsLink || GetFileType(Old.Handle()) != FILE_TYPE_DISK))
-        return WriteInPlace(Old, ABytes, AError);
+        return WriteInPlace(Old, APieces, AError);
     Old.Close();
-    if (WriteBeside(APath, *Path, Exists, ABytes, AError))
+    if (WriteBeside(APath, *Path, Exists, APieces, AError))
         return true;
-    if (!Exists || AError.Code != ERROR_ACCESS_DENIED)
+    if (!Exists || !std::ranges::count(cWriteInPlace, static_cast<DWORD>(AError.Code)))
         return false;
     TFile Again(*Path, GENERIC_WRITE, OPEN_EXISTING);
-    return Again.IsOpen() && WriteInPlace(Again, ABytes, AError);
+    return Again.IsOpen() && WriteInPlace(Again, APieces, AError);
 }
 
 } // namespace qz::platform

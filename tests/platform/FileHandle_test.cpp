@@ -1,0 +1,142 @@
+#include "platform/FileHandle.h"
+
+#include <array>
+#include <thread>
+#include <vector>
+
+#include "tests/platform/TemporaryDirectory.h"
+
+namespace qz::platform {
+namespace {
+
+constexpr TFileSharing cAll{.Read = true, .Write = true};
+constexpr std::span<const std::byte> cNothing;
+
+class FileHandle : public testing::Test {
+protected:
+    bool Open(TFileHandle& AFile, TFileAccess AAccess, TFileSharing ASharing,
+              TFileCreation ACreation = TFileCreation::Never) {
+        return AFile.Open(Path, AAccess, ACreation, ASharing, Error);
+    }
+    void Write(TFileHandle& AFile, std::string_view AText) {
+        size_t Done = 0;
+        EXPECT_TRUE(AFile.Write(std::as_bytes(std::span(AText)), Done, Error)) << Error.Code;
+        EXPECT_EQ(AText.size(), Done);
+    }
+    std::string Read(TFileHandle& AFile) {
+        std::array<std::byte, 64> Buffer;
+        size_t Done = 0;
+        EXPECT_TRUE(AFile.Read(Buffer, Done, Error)) << Error.Code;
+        return {reinterpret_cast<const char*>(Buffer.data()), Done};
+    }
+    int64_t Seek(TFileHandle& AFile, int64_t AOffset, TFileOrigin AOrigin = TFileOrigin::Beginning) {
+        int64_t Position = -1;
+        EXPECT_TRUE(AFile.Seek(AOffset, AOrigin, Position, Error)) << Error.Code;
+        return Position;
+    }
+
+    TTemporaryDirectory Directory;
+    std::u16string Path = Directory / u"file";
+    TError Error;
+};
+
+TEST_F(FileHandle, OpensAsItIsToldTo) {
+    TFileHandle File;
+    EXPECT_FALSE(Open(File, TFileAccess::Read, cAll));
+    EXPECT_NE(0, Error.Code);
+    ASSERT_TRUE(Open(File, TFileAccess::Write, cAll, TFileCreation::WhenMissing));
+    Write(File, "abcdef");
+    ASSERT_TRUE(Open(File, TFileAccess::ReadWrite, cAll, TFileCreation::WhenMissing));
+    EXPECT_EQ("abcdef", Read(File));
+    EXPECT_EQ("", Read(File));
+    EXPECT_EQ(2, Seek(File, -4, TFileOrigin::End));
+    Write(File, "XY");
+    EXPECT_EQ(0, Seek(File, 0));
+    EXPECT_EQ("abXYef", Read(File));
+    EXPECT_TRUE(File.SetSize(3, Error));
+    EXPECT_EQ(6, Seek(File, 0, TFileOrigin::Current)) << "the position stays";
+    EXPECT_EQ(3, Seek(File, 0, TFileOrigin::End));
+    EXPECT_TRUE(File.Flush(Error));
+    EXPECT_FALSE(Open(File, TFileAccess::Write, cAll, TFileCreation::Exclusive));
+    ASSERT_TRUE(Open(File, TFileAccess::Write, cAll, TFileCreation::Always));
+    EXPECT_EQ(0, Seek(File, 0, TFileOrigin::End));
+    EXPECT_TRUE(File.Close());
+    EXPECT_FALSE(File.Open(Directory.Path(), TFileAccess::Read, TFileCreation::Never, cAll, Error));
+    EXPECT_FALSE(
+        File.Open(std::u16string_view(u"a\0b", 3), TFileAccess::Read, TFileCreation::Never, cAll, Error));
+}
+
+TEST_F(FileHandle, ASecondHandleIsLetInOnlyWhereBothAgree) {
+    ASSERT_TRUE(WriteWholeFile(Path, cNothing, Error));
+    const TFileAccess Accesses[] = {TFileAccess::Read, TFileAccess::Write, TFileAccess::ReadWrite};
+    const TFileSharing Sharings[] = {{}, {.Read = true}, {.Write = true}, cAll};
+    const auto Allows = [](TFileSharing ASharing, TFileAccess AAccess) {
+        return (AAccess == TFileAccess::Write || ASharing.Read) &&
+            (AAccess == TFileAccess::Read || ASharing.Write);
+    };
+    for (const TFileAccess FirstAccess : Accesses)
+        for (const TFileSharing FirstSharing : Sharings)
+            for (const TFileAccess Access : Accesses)
+                for (const TFileSharing Sharing : Sharings) {
+                    TFileHandle First, Second;
+                    ASSERT_TRUE(Open(First, FirstAccess, FirstSharing));
+                    const bool Expected = Allows(FirstSharing, Access) && Allows(Sharing, FirstAccess);
+                    EXPECT_EQ(Expected, Open(Second, Access, Sharing))
+                        << int(FirstAccess) << FirstSharing.Read << FirstSharing.Write << ' ' << int(Access)
+                        << Sharing.Read << Sharing.Write;
+                    First.Close();
+                    EXPECT_TRUE(Expected || Open(Second, Access, Sharing)) << "nothing is left of the first";
+                }
+}
+
+TEST_F(FileHandle, WhoIsRefusedEmptiesNothing) {
+    ASSERT_TRUE(WriteWholeFile(Path, std::as_bytes(std::span("old", 3)), Error));
+    TFileHandle First, Second;
+    ASSERT_TRUE(Open(First, TFileAccess::Read, {.Read = true}));
+    EXPECT_FALSE(Open(Second, TFileAccess::Write, cAll, TFileCreation::Always));
+    EXPECT_FALSE(WriteWholeFile(Path, cNothing, Error));
+    EXPECT_EQ("old", Read(First));
+    ASSERT_TRUE(Open(First, TFileAccess::Write, {.Write = true}));
+    std::vector<std::byte> Content;
+    EXPECT_FALSE(ReadWholeFile(Path, Content, Error));
+}
+
+// Never both of two that exclude each other; and one of them as a rule.
+TEST_F(FileHandle, OfRacingWritersAtMostOneIsLetIn) {
+    ASSERT_TRUE(WriteWholeFile(Path, cNothing, Error));
+    std::atomic<int> Inside{0};
+    std::atomic<int> Times{0};
+    const auto Work = [&] {
+        for (int I = 0; I < 50; ++I) {
+            TFileHandle File;
+            TError Reason;
+            if (!File.Open(Path, TFileAccess::ReadWrite, TFileCreation::Never, {.Read = true}, Reason))
+                continue;
+            EXPECT_EQ(1, ++Inside);
+            ++Times;
+            std::this_thread::yield();
+            --Inside;
+        }
+    };
+    std::vector<std::thread> Threads;
+    for (int I = 0; I < 4; ++I)
+        Threads.emplace_back(Work);
+    for (std::thread& Thread : Threads)
+        Thread.join();
+    EXPECT_GT(Times.load(), 0);
+}
+
+TEST_F(FileHandle, GoesBeyondFourGigabytes) {
+    constexpr int64_t cFar = (int64_t{5} << 30) + 3;
+    TFileHandle File;
+    ASSERT_TRUE(Open(File, TFileAccess::ReadWrite, {}, TFileCreation::Always));
+    ASSERT_TRUE(File.SetSize(cFar, Error)) << Error.Code;
+    EXPECT_EQ(cFar, Seek(File, 0, TFileOrigin::End));
+    Write(File, "end");
+    EXPECT_EQ(cFar - 1, Seek(File, cFar - 1));
+    EXPECT_EQ(std::string("\0end", 4), Read(File));
+    EXPECT_EQ(cFar + 3, Seek(File, 0, TFileOrigin::End));
+}
+
+} // namespace
+} // namespace qz::platform
