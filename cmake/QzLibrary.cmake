@@ -19,6 +19,11 @@ add_library(qz_objects OBJECT ${QZ_SOURCES})
 qz_target(qz_objects PCH ${QZ_STD_HEADERS})
 target_include_directories(qz_objects PRIVATE ${PROJECT_SOURCE_DIR})
 target_link_libraries(qz_objects PRIVATE ${QZ_LIBRARIES})
+if(MINGW)
+    # gcc aligns the stack to 16 bytes there and yet takes vectors of 32 bytes on it for aligned.
+    set_source_files_properties(${PROJECT_SOURCE_DIR}/runtime/text/UtfAvx2.cpp PROPERTIES
+        COMPILE_OPTIONS -Wa,-muse-unaligned-vector-move)
+endif()
 
 function(qz_add_library Target Kind)
     add_library(${Target} ${Kind} $<TARGET_OBJECTS:qz_objects>)

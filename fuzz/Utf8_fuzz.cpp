@@ -1,16 +1,55 @@
-// Any bytes become well-formed text, which survives the way to UTF-8 and back.
+// Any bytes become well-formed text, which survives the way to UTF-8 or UTF-32 and back, on every path with the same
+// result.
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "runtime/text/UnicodeString.h"
+#include "runtime/text/UtfForms.h"
+#include "runtime/text/UtfPaths.h"
 
 namespace {
 
 void Require(bool ACondition) {
     if (!ACondition)
         std::abort();
+}
+
+// Each path gives what the chosen one does, and well-formed text comes back as it was.
+void TryWide(const qz::detail::TUtfPath& APath, std::u16string_view AWide) {
+    const std::string Narrow = qz::Utf16ToUtf8(AWide);
+    std::vector<char> Bytes(APath.Utf16ToUtf8Length(AWide));
+    Require(APath.Utf16ToUtf8(AWide, Bytes.data()) == Bytes.data() + Bytes.size());
+    Require(std::string_view(Bytes.data(), Bytes.size()) == Narrow && APath.IsValidUtf8(Narrow));
+    const bool IsValid = APath.IsValidUtf16(AWide);
+    Require(IsValid == (qz::Utf8ToUtf16(Narrow) == AWide));
+
+    for (const std::endian Order : {std::endian::little, std::endian::big}) {
+        std::vector<std::byte> Values(4 * APath.Utf16ToUtf32Length(AWide));
+        Require(APath.Utf16ToUtf32(AWide, Order, Values.data()) == Values.data() + Values.size());
+        Require(APath.IsValidUtf32(Values, Order));
+        std::vector<char16_t> Back(APath.Utf32ToUtf16Length(Values, Order));
+        Require(APath.Utf32ToUtf16(Values, Order, Back.data()) == Back.data() + Back.size());
+        const std::u16string_view Same(Back.data(), Back.size());
+        Require(qz::Utf16ToUtf8(Same) == Narrow && (!IsValid || Same == AWide));
+    }
+}
+
+void TryNarrow(const qz::detail::TUtfPath& APath, std::string_view ANarrow) {
+    std::vector<char16_t> Units(APath.Utf8ToUtf16Length(ANarrow));
+    Require(APath.Utf8ToUtf16(ANarrow, Units.data()) == Units.data() + Units.size());
+    const std::u16string_view Wide(Units.data(), Units.size());
+    Require(Wide == qz::Utf8ToUtf16(ANarrow));
+    Require(APath.IsValidUtf8(ANarrow) == (qz::Utf16ToUtf8(Wide) == ANarrow));
+    const auto Bytes = std::as_bytes(std::span(ANarrow));
+    for (const std::endian Order : {std::endian::little, std::endian::big}) {
+        std::vector<char16_t> Values(APath.Utf32ToUtf16Length(Bytes, Order));
+        Require(APath.Utf32ToUtf16(Bytes, Order, Values.data()) == Values.data() + Values.size());
+        TryWide(APath, {Values.data(), Values.size()});
+    }
+    TryWide(APath, Wide);
 }
 
 } // namespace
@@ -35,5 +74,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASi
         std::memcpy(Units.data(), AData, Units.size() * 2);
     const std::string Mended = qz::Utf16ToUtf8(Units);
     Require(qz::Utf16ToUtf8(qz::Utf8ToUtf16(Mended)) == Mended);
+    for (const qz::detail::TUtfPath* Path : qz::detail::UtfPaths()) {
+        TryNarrow(*Path, Bytes);
+        TryWide(*Path, Units);
+    }
     return 0;
 }

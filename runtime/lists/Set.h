@@ -9,6 +9,7 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <cstdint>
 #include <initializer_list>
 #include <type_traits>
@@ -84,6 +85,9 @@ public:
         return Result;
     }
 
+    constexpr bool Contains(std::same_as<char> auto AChar) const noexcept {
+        return Contains(char32_t{static_cast<unsigned char>(AChar)});
+    }
     // A character above U+00FF is in no set.
     constexpr bool Contains(char32_t AChar) const noexcept {
         return AChar < 256 && (FBits[AChar / 64] >> (AChar % 64) & 1) != 0;

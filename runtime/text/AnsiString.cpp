@@ -3,24 +3,11 @@
 #include <algorithm>
 #include <cstring>
 #include <ostream>
-#include <vector>
-
-#include "platform/CodePages.h"
-#include "runtime/errors/Exceptions.h"
-#include "runtime/text/Format.h"
 
 namespace qz {
 namespace {
 
 using TBlock = detail::TStringBlock;
-
-std::uint16_t RealPage(std::uint16_t APage) noexcept {
-    return APage == cSystemCodePage || APage == cNoCodePage ? DefaultSystemCodePage() : APage;
-}
-
-[[noreturn]] void RaiseNoCodePage(std::uint16_t APage) {
-    throw EConvertError(Format(u"The code page %d cannot be converted", {APage}));
-}
 
 } // namespace
 
@@ -31,39 +18,35 @@ TByteText::TByteText(std::string_view AText, std::uint16_t ACodePage) {
     std::memcpy(FData, AText.data(), AText.size());
 }
 
+TByteText TByteText::ForOverwrite(std::size_t ALength, std::uint16_t ACodePage) {
+    TByteText Result;
+    if (ALength != 0)
+        Result.FData = TBlock::Allocate(1, ACodePage, ALength, ALength)->Data<char>();
+    return Result;
+}
+
 UnicodeString TByteText::ToUnicode() const {
-    const std::uint16_t Page = RealPage(CodePage());
-    if (Page == cUtf8CodePage)
-        return View();
-    std::u16string Wide;
-    platform::TError Error;
-    if (!platform::CodePageToUtf16(Page, Bytes(), Wide, Error))
-        RaiseNoCodePage(Page);
-    return Wide;
+    return CodePageToUnicode(CodePage(), Bytes());
 }
 
 TByteText TByteText::Encode(std::u16string_view AText, std::uint16_t ACodePage) {
-    const std::uint16_t Page = RealPage(ACodePage);
-    if (Page == cUtf8CodePage) {
-        TByteText Result;
-        if (AText.empty())
-            return Result;
-        const std::size_t Length = Utf16ToUtf8Length(AText);
-        Result.FData = TBlock::Allocate(1, ACodePage, Length, Length)->Data<char>();
-        Utf16ToUtf8(AText, Result.FData);
-        return Result;
-    }
-    std::string Narrow;
+    using platform::TComposing;
+    if (AText.empty())
+        return {};
     platform::TError Error;
-    if (!platform::Utf16ToCodePage(Page, AText, Narrow, Error))
-        RaiseNoCodePage(Page);
-    return TByteText(Narrow, ACodePage);
+    const std::size_t Length = EncodeCodePage(ACodePage, AText, {}, TComposing::Plain, Error);
+    TByteText Result = ForOverwrite(Length, ACodePage);
+    if (Length != 0)
+        EncodeCodePage(ACodePage, AText, {Result.FData, Length}, TComposing::Plain, Error);
+    if (Error.Code != 0)
+        RaiseCodePageError(ACodePage, Error);
+    return Result;
 }
 
 TByteText TByteText::Recode(const TByteText& AText, std::uint16_t ACodePage) {
     if (AText.CodePage() == ACodePage)
         return AText;
-    if (RealPage(AText.CodePage()) == RealPage(ACodePage))
+    if (RealCodePage(AText.CodePage()) == RealCodePage(ACodePage))
         return TByteText(AText.View(), ACodePage);
     return Encode(AText.ToUnicode(), ACodePage);
 }
@@ -125,11 +108,6 @@ std::ostream& operator<<(std::ostream& AStream, const TByteText& AText) {
 
 void PrintTo(const TByteText& AText, std::ostream* AStream) {
     *AStream << '"' << AText << "\" in code page " << AText.CodePage();
-}
-
-std::uint16_t DefaultSystemCodePage() noexcept {
-    static const auto Page = static_cast<std::uint16_t>(platform::SystemCodePage());
-    return Page;
 }
 
 } // namespace qz

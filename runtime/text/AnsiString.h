@@ -20,13 +20,9 @@
 #include <string_view>
 #include <utility>
 
-#include "runtime/text/UnicodeString.h"
+#include "runtime/text/CodePages.h"
 
 namespace qz {
-
-inline constexpr std::uint16_t cSystemCodePage = 0; // what the system says
-inline constexpr std::uint16_t cUtf8CodePage = 65001;
-inline constexpr std::uint16_t cNoCodePage = 0xFFFF; // bytes without a known page
 
 // What the 8-bit string types share: counted bytes with a code page.
 class QZ_API TByteText {
@@ -67,8 +63,8 @@ public:
         return FData == nullptr ? 0 : Block()->RefCount.load(std::memory_order_relaxed);
     }
     // The text in 16-bit units. Bytes that the code page does not know become what its table says for them, or
-    // U+FFFD. Raises EConvertError when the system cannot convert the page. A text without a known page is taken
-    // to be in the system's.
+    // U+FFFD. Raises EOSError when the system cannot convert the page. A text without a known page is taken to be in
+    // the system's.
     UnicodeString ToUnicode() const;
 
     // Cuts or lengthens; new bytes are 0. The text becomes private.
@@ -91,6 +87,7 @@ public:
 
 protected:
     void AppendBytes(std::string_view AText, std::uint16_t ACodePage);
+    static TByteText ForOverwrite(std::size_t ALength, std::uint16_t ACodePage);
     static TByteText Encode(std::u16string_view AText, std::uint16_t ACodePage);
     static TByteText Recode(const TByteText& AText, std::uint16_t ACodePage);
 
@@ -120,6 +117,13 @@ public:
     explicit(Page != cNoCodePage) TAnsiText(const TAnsiText<Other>& AText)
         : TByteText(Page == cNoCodePage ? static_cast<const TByteText&>(AText) : Recode(AText, Page)) {}
 
+    // ALength bytes that are not set yet; they are written through UniqueData.
+    static TAnsiText ForOverwrite(std::size_t ALength, std::uint16_t ACodePage = Page) {
+        TAnsiText Result;
+        static_cast<TByteText&>(Result) = TByteText::ForOverwrite(ALength, ACodePage);
+        return Result;
+    }
+
     // An empty text takes the code page of the other.
     TAnsiText& operator+=(const TAnsiText& AText) {
         AppendBytes(AText.View(), AText.CodePage());
@@ -138,9 +142,6 @@ public:
 using AnsiString = TAnsiText<cSystemCodePage>;
 using UTF8String = TAnsiText<cUtf8CodePage>;
 using RawByteString = TAnsiText<cNoCodePage>;
-
-// The code page that code page 0 stands for: what the system's locale says.
-QZ_API std::uint16_t DefaultSystemCodePage() noexcept;
 
 } // namespace qz
 

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "runtime/text/AnsiString.h"
+#include "runtime/text/CodePages.h"
+#include "runtime/text/Encoding.h"
 #include "runtime/text/Extended.h"
 #include "runtime/text/FloatPattern.h"
 #include "runtime/text/FloatText.h"
@@ -12,4 +14,5 @@
 #include "runtime/text/StringUtils.h"
 #include "runtime/text/UnicodeString.h"
 #include "runtime/text/Utf.h"
+#include "runtime/text/UtfForms.h"
 #include "runtime/text/VarRec.h"

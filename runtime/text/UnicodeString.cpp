@@ -39,6 +39,13 @@ UnicodeString::UnicodeString(std::size_t ACount, char16_t AChar) {
     TTraits::assign(FData, ACount, AChar);
 }
 
+UnicodeString UnicodeString::ForOverwrite(std::size_t ALength) {
+    UnicodeString Result;
+    if (ALength != 0)
+        Result.FData = NewText(ALength, ALength);
+    return Result;
+}
+
 UnicodeString UnicodeString::Concat(std::u16string_view ALeft, std::u16string_view ARight) {
     UnicodeString Result;
     const std::size_t Length = ALeft.size() + ARight.size();

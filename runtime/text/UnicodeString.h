@@ -133,6 +133,8 @@ public:
         : UnicodeString(std::u16string_view(AText, ALength), TMake{}) {}
     UnicodeString(std::size_t ACount, char16_t AChar);
     UnicodeString(std::nullptr_t) = delete;
+    // A text of that length whose characters are not set yet; they are written through UniqueData.
+    static UnicodeString ForOverwrite(std::size_t ALength);
 
     // Queries.
     int Length() const noexcept { return FData == nullptr ? 0 : Block()->Length; }

@@ -40,8 +40,8 @@ TEST(AnsiString, RawBytesKeepTheirPage) {
 
 TEST(AnsiString, RefusesAPageThatTheSystemDoesNotKnow) {
     const RawByteString Text(std::string_view("x"), 12345);
-    EXPECT_THROW(Text.ToUnicode(), EConvertError);
-    EXPECT_THROW(TAnsiText<12345>(UnicodeString(u"x")), EConvertError);
+    EXPECT_THROW(Text.ToUnicode(), EOSError);
+    EXPECT_THROW(TAnsiText<12345>(UnicodeString(u"x")), EOSError);
 }
 
 TEST(AnsiString, SharesUntilWrittenTo) {
