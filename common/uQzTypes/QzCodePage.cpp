@@ -1,0 +1,126 @@
+#include "common/uQzTypes/QzCodePage.h"
+
+#include <algorithm>
+#include <array>
+
+#include "common/uQzTypes/CodePageNames.h"
+#include "runtime/errors/Exceptions.h"
+
+namespace qz {
+namespace {
+
+using detail::cCodePageAliases;
+using detail::cCodePageNames;
+using detail::TCodePageName;
+
+constexpr std::size_t cNameCount = std::size(cCodePageNames);
+constexpr std::size_t cLongestName = 48;
+
+constexpr char Lower(char AChar) {
+    return AChar >= 'A' && AChar <= 'Z' ? static_cast<char>(AChar - 'A' + 'a') : AChar;
+}
+
+constexpr int CompareLower(std::string_view ALeft, std::string_view ARight) {
+    for (std::size_t I = 0; I < std::min(ALeft.size(), ARight.size()); ++I) {
+        if (Lower(ALeft[I]) != Lower(ARight[I]))
+            return Lower(ALeft[I]) < Lower(ARight[I]) ? -1 : 1;
+    }
+    return ALeft.size() == ARight.size() ? 0 : ALeft.size() < ARight.size() ? -1 : 1;
+}
+
+// Every name in the order of its lower case; of equal ones the first of the tables stands first.
+constexpr auto cByName = [] {
+    std::array<TCodePageName, cNameCount + std::size(cCodePageAliases)> Result{};
+    std::ranges::copy(cCodePageNames, Result.begin());
+    std::ranges::copy(cCodePageAliases, Result.begin() + cNameCount);
+    // An insertion sort: it keeps equal names in order, which std::sort does not, and compilers can run it.
+    for (std::size_t I = 1; I < Result.size(); ++I)
+        for (std::size_t J = I; J > 0 && CompareLower(Result[J].Name, Result[J - 1].Name) < 0; --J)
+            std::swap(Result[J], Result[J - 1]);
+    return Result;
+}();
+
+static_assert(std::ranges::is_sorted(cCodePageNames, {}, &TCodePageName::Number));
+static_assert(std::ranges::all_of(cByName,
+                                  [](const TCodePageName& A) { return A.Name.size() <= cLongestName; }));
+
+// A byte order mark and its code page, the longer ones first as two of them begin alike.
+struct TMark {
+    std::string_view Bytes;
+    std::uint16_t CodePage;
+};
+constexpr TMark cMarks[] = {
+    {cQzUTF32BE, 12001}, {cQzUTF32LE, 12000}, {cQzUTF8, 65001}, {cQzUTF16BE, 1201}, {cQzUTF16LE, 1200},
+};
+
+const TMark* FindMark(std::string_view AText) {
+    const auto* Mark =
+        std::ranges::find_if(cMarks, [&](const TMark& A) { return AText.starts_with(A.Bytes); });
+    return Mark == std::end(cMarks) ? nullptr : Mark;
+}
+
+bool LooksLikeUtf16(std::string_view AText) {
+    return AText.size() >= 3 && AText[0] != '\0' && AText[1] == '\0';
+}
+
+} // namespace
+
+std::uint16_t QzCodePage(const TStringArg& AName) {
+    const std::u16string_view Wide = AName;
+    if (Wide.empty())
+        return 0;
+    std::array<char, cLongestName> Buffer;
+    const bool MayBeKnown =
+        Wide.size() <= Buffer.size() && std::ranges::all_of(Wide, [](char16_t A) { return A < 0x80; });
+    const std::string_view Name(Buffer.data(), MayBeKnown ? Wide.size() : 0);
+    if (MayBeKnown)
+        std::ranges::transform(Wide, Buffer.begin(), [](char16_t A) { return static_cast<char>(A); });
+    const auto* Found = std::ranges::lower_bound(
+        cByName, Name, [](auto ALeft, auto ARight) { return CompareLower(ALeft, ARight) < 0; },
+        &TCodePageName::Name);
+    if (Found == cByName.end() || CompareLower(Found->Name, Name) != 0)
+        throw Exception(u"No CodePage ID found for %s!", {Wide});
+    return Found->Number;
+}
+
+UnicodeString QzCodePage(std::uint16_t ANumber) {
+    const auto* Found = std::ranges::lower_bound(cCodePageNames, ANumber, {}, &TCodePageName::Number);
+    if (Found == std::end(cCodePageNames) || Found->Number != ANumber)
+        throw Exception(u"No CodePage Name found for %d!", {ANumber});
+    return Found->Name;
+}
+
+std::uint16_t QzGetCodePage(const void* ABuffer, std::int32_t ASize) {
+    const std::string_view Text(static_cast<const char*>(ABuffer),
+                                static_cast<std::size_t>(std::max(ASize, 0)));
+    if (const TMark* Mark = FindMark(Text))
+        return Mark->CodePage;
+    return LooksLikeUtf16(Text) ? 1200 : 0;
+}
+
+std::uint16_t QzGetCodePage(TStream& AStream) {
+    const std::int64_t Start = AStream.Position();
+    char Buffer[4];
+    std::size_t Size = 0;
+    // A stream may give less than it has at once.
+    while (Size < std::size(Buffer)) {
+        const std::int32_t Got =
+            AStream.Read(Buffer + Size, static_cast<std::int32_t>(std::size(Buffer) - Size));
+        if (Got <= 0)
+            break;
+        Size += static_cast<std::size_t>(Got);
+    }
+    const std::string_view Text(Buffer, Size);
+    const TMark* Mark = FindMark(Text);
+    AStream.SetPosition(Start + (Mark == nullptr ? 0 : static_cast<std::int64_t>(Mark->Bytes.size())));
+    if (Mark != nullptr)
+        return Mark->CodePage;
+    return LooksLikeUtf16(Text) ? 1200 : 0;
+}
+
+std::string_view QzCodePageMark(std::uint16_t ACodePage) noexcept {
+    const auto* Mark = std::ranges::find(cMarks, ACodePage, &TMark::CodePage);
+    return Mark == std::end(cMarks) ? std::string_view() : Mark->Bytes;
+}
+
+} // namespace qz
