@@ -1,0 +1,75 @@
+#include "runtime/text/RegEx.h"
+
+#include <gtest/gtest.h>
+
+namespace qz {
+namespace {
+
+UnicodeString Found(const TRegEx& AExpression, std::u16string_view AText) {
+    UnicodeString Result;
+    for (const TMatch& Match : AExpression.Matches(AText))
+        Result += UnicodeString(std::to_string(Match.Index())) + u":" + Match.Value() + u" ";
+    return Result;
+}
+
+TEST(RegEx, FindsMatchesAndTheirGroups) {
+    const TRegEx Pair(u"(\\w+)=(\\d*)(x)?");
+    const TMatch Match = Pair.Match(u"; größe=42;");
+    EXPECT_TRUE(Match.Success());
+    EXPECT_EQ(3, Match.Index());
+    EXPECT_EQ(8, Match.Length());
+    EXPECT_EQ(u"größe", Match.Group(1));
+    EXPECT_EQ(u"42", Match.Group(2));
+    EXPECT_FALSE(Match.Place(3).Success);
+    EXPECT_EQ(u"", Match.Group(4));
+    EXPECT_FALSE(Pair.Match(u"none").Success());
+    EXPECT_EQ(u"b=", Pair.Match(u"a=1 b=", 5).Value());
+    EXPECT_FALSE(Pair.Match(u"a=1", 99).Success());
+    EXPECT_TRUE(Pair.IsMatch(u"a="));
+}
+
+TEST(RegEx, GoesOnBehindEmptyMatches) {
+    EXPECT_EQ(u"1: 2: 3: ", Found(TRegEx(u""), u"ab"));
+    EXPECT_EQ(u"1:aa 3: 4:a 5: ", Found(TRegEx(u"a*"), u"aaba"));
+    EXPECT_EQ(u"1: 3: ", Found(TRegEx(u""), u"\U0001F600")) << "not within a pair";
+    EXPECT_EQ(u"1:aa 4:a ", Found(TRegEx(u"a*", {roNotEmpty}), u"aaba"));
+    EXPECT_EQ(u"2:a ",
+              Found(TRegEx(u"a"),
+                    u"\xD800"
+                    u"a"))
+        << "lone surrogates are passed over";
+}
+
+TEST(RegEx, KeepsToItsOptions) {
+    EXPECT_TRUE(TRegEx(u"ä", {roIgnoreCase}).IsMatch(u"Ä"));
+    EXPECT_EQ(u"1:a 3:b ", Found(TRegEx(u"^.$", {roMultiLine}), u"a\nb"));
+    EXPECT_TRUE(TRegEx(u"a.b", {roSingleLine}).IsMatch(u"a\nb"));
+    EXPECT_FALSE(TRegEx(u"a.b").IsMatch(u"a\nb"));
+    EXPECT_TRUE(TRegEx(u"a b # c", {roIgnorePatternSpace}).IsMatch(u"ab"));
+    EXPECT_EQ(1, TRegEx(u"(a)", {roExplicitCapture}).Match(u"a").GroupCount());
+}
+
+TEST(RegEx, ReplacesAndSplits) {
+    EXPECT_EQ(u"b-a $ d-c", TRegEx(u"(\\w)(\\w)").Replace(u"ab $ cd", u"$2-$1"));
+    EXPECT_EQ(u"x", TRegEx(u"a+").Replace(u"aaa", u"x"));
+    const UnicodeString Long(1000, u'a');
+    EXPECT_EQ(UnicodeString(5000, u'b'), TRegEx(u"a").Replace(Long, u"bbbbb"));
+    const auto Pieces = TRegEx(u",").Split(u"a,,b,");
+    EXPECT_EQ((TDynArray<UnicodeString>{u"a", u"", u"b", u""}), Pieces);
+    EXPECT_TRUE(TRegEx(u"^" + TRegEx::Escape(u"a.b*[c]{2}\\") + u"$").IsMatch(u"a.b*[c]{2}\\"));
+}
+
+TEST(RegEx, RaisesForBadAndHostilePatterns) {
+    try {
+        TRegEx(u"ab(c");
+        FAIL();
+    } catch (const ERegularExpressionError& Error) {
+        EXPECT_EQ(u"Error in regular expression at offset 4: missing closing parenthesis", Error.Message());
+    }
+    EXPECT_THROW(TRegEx(u"\\C"), ERegularExpressionError) << "it would tear pairs";
+    EXPECT_THROW(TRegEx(u"(a+)+$").IsMatch(UnicodeString(40, u'a') + u"b"), ERegularExpressionError);
+    EXPECT_THROW(TRegEx(u"a").Replace(u"a", u"${"), ERegularExpressionError);
+}
+
+} // namespace
+} // namespace qz
