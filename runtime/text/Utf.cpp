@@ -38,7 +38,7 @@ char* Utf16ToUtf8(std::u16string_view AText, char* ADest) noexcept {
         return BestUtfPath().Utf16ToUtf8(AText, ADest);
     const char16_t* Here = AText.data();
     const char16_t* End = Here + AText.size();
-    return detail::ScalarUtf16ToUtf8(Here, End, End, ADest);
+    return detail::ScalarUtf16ToUtf8(Here, End, ADest);
 }
 
 std::u16string Utf8ToUtf16(std::string_view AText) {
