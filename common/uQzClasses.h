@@ -16,3 +16,21 @@
 // TQzComponent, a component whose life may be that of the references to it,
 // and whose properties can follow others.
 #include "common/uQzClasses/QzComponent.h"
+// TQzMemoryStream, a stream over one block of memory
+// that is its own or somebody else's.
+#include "common/uQzClasses/QzMemoryStream.h"
+// QzStreamToReadBuf and QzStreamToWriteBuf,
+// streams as blocks of memory.
+#include "common/uQzClasses/StreamBuf.h"
+// TQzStringStream, a stream of text
+// in one code page.
+#include "common/uQzClasses/QzStringStream.h"
+// TQzUTF8StreamAdapter, a stream of UTF-8
+// shown as 16-bit text.
+#include "common/uQzClasses/Utf8StreamAdapter.h"
+// QzStreamToWideString, QzUTF8Decode and the like,
+// whole streams as text.
+#include "common/uQzClasses/StreamText.h"
+// TQzTextParser, the scanner for text
+// of any 8-bit code page, UTF-16 and UTF-8.
+#include "common/uQzClasses/TextParser.h"

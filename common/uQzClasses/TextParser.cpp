@@ -1,0 +1,284 @@
+// TQzTextParser: construction, the text in memory, places and what lies between them. The steps are in
+// TextParserSteps.cpp.
+#include "common/uQzClasses/TextParser.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "common/uQzClasses/QzMemoryStream.h"
+#include "runtime/errors/DescribeException.h"
+#include "runtime/reflection/Describe.h"
+#include "runtime/streams/MemoryStream.h"
+
+namespace qz {
+namespace {
+
+constexpr std::size_t cChunkSize = 33'554'432;
+
+bool IsRefused(std::uint16_t ACodePage) {
+    return ACodePage == cUtf16SwappedCodePage || ACodePage == cUtf32CodePage ||
+        ACodePage == cUtf32SwappedCodePage;
+}
+
+[[noreturn]] void RaiseNotSupported() {
+    throw Exception(u"The specified encoding is not supported!");
+}
+
+// The block of a stream in memory, null for any other stream.
+TQzTextPos MemoryOf(TStream* AStream) {
+    if (const auto* Own = dynamic_cast<TQzMemoryStream*>(AStream))
+        return Own->FBufferStart;
+    if (const auto* Runtime = dynamic_cast<TCustomMemoryStream*>(AStream))
+        return static_cast<TQzTextPos>(Runtime->Memory());
+    return nullptr;
+}
+
+} // namespace
+
+const TClassRec EQzTextParserEOF::ClassRec =
+    DescribeException<EQzTextParserEOF>(u"EQzTextParserEOF", u"uQzClasses");
+constinit const TClassRec TQzTextParser::ClassRec =
+    DescribeClass<TQzTextParser>(u"TQzTextParser", {.Unit = u"uQzClasses"});
+
+TQzTextParser::TQzTextParser(TStream* AStream, bool AStreamOwner, std::uint16_t AContentCodePage)
+    : TQzTextParser(AStream, AStreamOwner, AContentCodePage, cChunkSize) {}
+
+TQzTextParser::TQzTextParser(TStream* AStream, bool AStreamOwner, std::uint16_t AContentCodePage,
+                             std::size_t AChunkSize)
+    : FStream(AStream),
+      FChunkSize(AChunkSize) {
+    Assert(AStream != nullptr && AStream->Size() >= 1, u"It is not possible to parse empty streams!");
+    FFirstPos = static_cast<std::size_t>(AStream->Position());
+    Start(AContentCodePage);
+    FStreamOwner = AStreamOwner;
+}
+
+TQzTextParser::TQzTextParser(const void* ABuffer, std::ptrdiff_t ASize, std::uint16_t AContentCodePage) {
+    Assert(ABuffer != nullptr && ASize > 0, u"It is not possible to parse empty streams!");
+    FBufStart = static_cast<TQzTextPos>(ABuffer);
+    FBufEnd = FBufStart + ASize;
+    FChunkSize = static_cast<std::size_t>(ASize);
+    Start(AContentCodePage);
+}
+
+TQzTextParser::~TQzTextParser() {
+    if (FStreamOwner)
+        FStream->Free();
+}
+
+void TQzTextParser::Start(std::uint16_t AContentCodePage) {
+    if (IsRefused(AContentCodePage))
+        RaiseNotSupported();
+    FContentCodePage = AContentCodePage;
+    SetCharacterSetType(AContentCodePage == cUtf16CodePage      ? DBCS
+                            : AContentCodePage == cUtf8CodePage ? MBCS
+                                                                : SBCS);
+    First();
+}
+
+void TQzTextParser::SetContentCodePage(std::uint16_t AValue) {
+    if ((FCharacterSetType == MBCS) != (AValue == cUtf8CodePage) ||
+        (FCharacterSetType == DBCS) != (AValue == cUtf16CodePage) || IsRefused(AValue))
+        RaiseNotSupported();
+    FContentCodePage = AValue;
+    FWideTable.reset();
+}
+
+void TQzTextParser::First() {
+    if (FStream != nullptr) {
+        if (FChunked && FChunk != 1) {
+            FBuffer.reset();
+            FBufStart = FBufEnd = nullptr;
+            FFreeBuffer = false;
+        }
+        if (FBufStart == nullptr) {
+            FStream->SetPosition(static_cast<std::int64_t>(FFirstPos));
+            FChunked = false;
+            FLastChunk = true;
+        }
+    }
+    FPeekPos = FPeekPrevPos = FMarkPos1 = FMarkPos2 = FMarkPos3 = nullptr;
+    FState = TQzTextParserState{.Eof = true};
+    if (FStream != nullptr)
+        LoadFirst(static_cast<std::size_t>(
+            std::max<std::int64_t>(FStream->Size() - static_cast<std::int64_t>(FFirstPos), 0)));
+    FState.CurPos = FBufStart;
+    FState.Eof = !IsAvailable(Unit());
+}
+
+// Brings the first chunk into memory, unless it is there.
+void TQzTextParser::LoadFirst(std::size_t ATotal) {
+    if (TQzTextPos Memory = MemoryOf(FStream)) {
+        FBufStart = Memory + std::min(FFirstPos, static_cast<std::size_t>(FStream->Size()));
+        FBufEnd = FBufStart + ATotal;
+        FStream->Seek(std::int64_t{0}, soEnd);
+        return;
+    }
+    if (FBufStart != nullptr)
+        return;
+    const std::size_t Length = std::min(ATotal, FChunkSize);
+    auto Block = std::make_unique_for_overwrite<std::uint8_t[]>(std::max<std::size_t>(Length, 1));
+    std::size_t Done = 0;
+    while (Done < Length) {
+        const auto Step = static_cast<std::int32_t>(std::min<std::size_t>(Length - Done, 1u << 30));
+        const std::int32_t Got = FStream->Read(Block.get() + Done, Step);
+        if (Got <= 0)
+            break;
+        Done += static_cast<std::size_t>(Got);
+    }
+    FBuffer = std::move(Block);
+    FBufStart = FBuffer.get();
+    FBufEnd = FBufStart + Done;
+    FFreeBuffer = true;
+    FChunk = 1;
+    FChunked = Length < ATotal;
+    // A stream that has shrunk meanwhile ends here.
+    FLastChunk = !FChunked || Done < Length;
+}
+
+// A block with the last ACarry bytes of what is in memory and a new chunk behind them.
+std::unique_ptr<std::uint8_t[]> TQzTextParser::Grown(std::size_t ACarry, std::size_t& ARead) {
+    auto Block = std::make_unique_for_overwrite<std::uint8_t[]>(FChunkSize + ACarry);
+    std::memcpy(Block.get(), FBufEnd - ACarry, ACarry);
+    for (ARead = 0; ARead < FChunkSize;) {
+        const auto Step = static_cast<std::int32_t>(std::min<std::size_t>(FChunkSize - ARead, 1u << 30));
+        const std::int32_t Got = FStream->Read(Block.get() + ACarry + ARead, Step);
+        if (Got <= 0)
+            break;
+        ARead += static_cast<std::size_t>(Got);
+    }
+    return Block;
+}
+
+// Everything that somebody can still ask for stays in memory, in front of the new chunk.
+void TQzTextParser::GetNextChunk() {
+    Assert(FStream != nullptr && FChunked && !FLastChunk, u"There is no further chunk");
+    TQzTextPos* const InUse[] = {&FState.CurPos, &FState.PrevPos, &FPeekPos, &FPeekPrevPos,
+                                 &FMarkPos1,     &FMarkPos2,      &FMarkPos3};
+    std::size_t Carry = 0;
+    for (const TQzTextPos* Pos : InUse) {
+        if (*Pos != nullptr)
+            Carry = std::max(Carry, static_cast<std::size_t>(FBufEnd - *Pos));
+    }
+    std::size_t Read = 0;
+    auto Block = Grown(Carry, Read);
+    for (TQzTextPos* Pos : InUse) {
+        if (*Pos != nullptr)
+            *Pos = Block.get() + Carry - (FBufEnd - *Pos);
+    }
+    FBuffer = std::move(Block);
+    FBufStart = FBuffer.get();
+    FBufEnd = FBufStart + Carry + Read;
+    FFreeBuffer = true;
+    ++FChunk;
+    FLastChunk = Read < FChunkSize || FStream->Position() >= FStream->Size();
+}
+
+bool TQzTextParser::IsAvailable(std::size_t ABytes) {
+    while (Left() < ABytes && !FLastChunk)
+        GetNextChunk();
+    return Left() >= ABytes;
+}
+
+bool TQzTextParser::GetEOF() {
+    return !IsAvailable(1);
+}
+
+void TQzTextParser::CheckEOF() const {
+    if (FState.Eof)
+        throw EQzTextParserEOF(u"Unexpected EOF");
+}
+
+void TQzTextParser::Last() {
+    // The place before is not asked for on the way, or it would keep all of the text in memory.
+    FState.PrevPos = nullptr;
+    for (FState.Eof = false; !FState.Eof;) {
+        FState.CurPos = FBufEnd;
+        if (FLastChunk)
+            FState.Eof = true;
+        else
+            GetNextChunk();
+    }
+}
+
+TQzTextPos TQzTextParser::GetPos(TQzTextParserPosType APosType) const {
+    switch (APosType) {
+    case tpPrevPos: return FState.PrevPos;
+    case tpCurPos: return FState.CurPos;
+    case tpPeekPos: return FPeekPos;
+    case tpMarkPos1: return FMarkPos1;
+    case tpMarkPos2: return FMarkPos2;
+    case tpMarkPos3: return FMarkPos3;
+    default: throw Exception(u"Invalid TillPos specified!");
+    }
+}
+
+TQzTextPos& TQzTextParser::Mark(TQzTextParserMarkPosType AMarkType) {
+    switch (AMarkType) {
+    case tpMarkPos1: return FMarkPos1;
+    case tpMarkPos2: return FMarkPos2;
+    case tpMarkPos3: return FMarkPos3;
+    default: throw Exception(u"Invalid MarkType specified!");
+    }
+}
+
+void TQzTextParser::SetMark(TQzTextParserMarkPosType AMarkType) {
+    Mark(AMarkType) = FState.CurPos;
+}
+
+void TQzTextParser::ClearMark(TQzTextParserMarkPosType AMarkType) {
+    Mark(AMarkType) = nullptr;
+}
+
+void TQzTextParser::ClearMarks(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos) {
+    for (const TQzTextParserPosType Pos : {AFromPos, ATillPos}) {
+        if (Pos >= tpMarkPos1)
+            ClearMark(Pos);
+    }
+}
+
+std::int32_t TQzTextParser::SelectedCnt(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos) {
+    std::size_t Bytes = 0;
+    Extent(AFromPos, ATillPos, Bytes);
+    return static_cast<std::int32_t>(Bytes);
+}
+
+AnsiString TQzTextParser::Narrow(std::u16string_view AText) const {
+    platform::TError Error;
+    const std::size_t Length =
+        EncodeCodePage(cSystemCodePage, AText, {}, platform::TComposing::Composite, Error);
+    AnsiString Result = AnsiString::ForOverwrite(Length);
+    if (Length != 0)
+        EncodeCodePage(cSystemCodePage, AText, {Result.UniqueData(), Length}, platform::TComposing::Composite,
+                       Error);
+    if (Error.Code != 0)
+        RaiseCodePageError(cSystemCodePage, Error);
+    return Result;
+}
+
+AnsiString TQzTextParser::SelectedA(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos,
+                                    bool AClearMarks) {
+    if (FCharacterSetType != SBCS)
+        return Narrow(SelectedW(AFromPos, ATillPos, AClearMarks));
+    std::size_t Bytes = 0;
+    const TQzTextPos Start = Extent(AFromPos, ATillPos, Bytes);
+    const AnsiString Result(std::string_view(reinterpret_cast<const char*>(Start), Bytes), cSystemCodePage);
+    if (AClearMarks)
+        ClearMarks(AFromPos, ATillPos);
+    return Result;
+}
+
+UnicodeString TQzTextParser::SelectedW(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos,
+                                       bool AClearMarks) {
+    std::size_t Bytes = 0;
+    const TQzTextPos Start = Extent(AFromPos, ATillPos, Bytes);
+    const std::uint16_t CodePage = FCharacterSetType == SBCS ? FContentCodePage
+        : FCharacterSetType == DBCS                          ? cUtf16CodePage
+                                                             : cUtf8CodePage;
+    UnicodeString Result = CodePageToUnicode(CodePage, std::as_bytes(std::span(Start, Bytes)));
+    if (AClearMarks)
+        ClearMarks(AFromPos, ATillPos);
+    return Result;
+}
+
+} // namespace qz
