@@ -201,33 +201,16 @@ void TQzTextParser::Last() {
     }
 }
 
-TQzTextPos TQzTextParser::GetPos(TQzTextParserPosType APosType) const {
-    switch (APosType) {
-    case tpPrevPos: return FState.PrevPos;
-    case tpCurPos: return FState.CurPos;
-    case tpPeekPos: return FPeekPos;
-    case tpMarkPos1: return FMarkPos1;
-    case tpMarkPos2: return FMarkPos2;
-    case tpMarkPos3: return FMarkPos3;
-    default: throw Exception(u"Invalid TillPos specified!");
-    }
+void TQzTextParser::RaiseNoPlace() {
+    throw Exception(u"Invalid TillPos specified!");
 }
 
-TQzTextPos& TQzTextParser::Mark(TQzTextParserMarkPosType AMarkType) {
-    switch (AMarkType) {
-    case tpMarkPos1: return FMarkPos1;
-    case tpMarkPos2: return FMarkPos2;
-    case tpMarkPos3: return FMarkPos3;
-    default: throw Exception(u"Invalid MarkType specified!");
-    }
+void TQzTextParser::RaiseNoMark() {
+    throw Exception(u"Invalid MarkType specified!");
 }
 
-void TQzTextParser::SetMark(TQzTextParserMarkPosType AMarkType) {
-    Mark(AMarkType) = FState.CurPos;
-}
-
-void TQzTextParser::ClearMark(TQzTextParserMarkPosType AMarkType) {
-    Mark(AMarkType) = nullptr;
+void TQzTextParser::RaiseBadSelection() {
+    throw EAssertionFailed(u"The selection has a place that is not set, or ends before it starts");
 }
 
 void TQzTextParser::ClearMarks(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos) {
@@ -235,12 +218,6 @@ void TQzTextParser::ClearMarks(TQzTextParserPosType AFromPos, TQzTextParserPosTy
         if (Pos >= tpMarkPos1)
             ClearMark(Pos);
     }
-}
-
-std::int32_t TQzTextParser::SelectedCnt(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos) {
-    std::size_t Bytes = 0;
-    Extent(AFromPos, ATillPos, Bytes);
-    return static_cast<std::int32_t>(Bytes);
 }
 
 AnsiString TQzTextParser::Narrow(std::u16string_view AText) const {
@@ -260,9 +237,9 @@ AnsiString TQzTextParser::SelectedA(TQzTextParserPosType AFromPos, TQzTextParser
                                     bool AClearMarks) {
     if (FCharacterSetType != SBCS)
         return Narrow(SelectedW(AFromPos, ATillPos, AClearMarks));
-    std::size_t Bytes = 0;
-    const TQzTextPos Start = Extent(AFromPos, ATillPos, Bytes);
-    const AnsiString Result(std::string_view(reinterpret_cast<const char*>(Start), Bytes), cSystemCodePage);
+    const std::span<const std::byte> Bytes = SelectedBytes(AFromPos, ATillPos);
+    const AnsiString Result(std::string_view(reinterpret_cast<const char*>(Bytes.data()), Bytes.size()),
+                            cSystemCodePage);
     if (AClearMarks)
         ClearMarks(AFromPos, ATillPos);
     return Result;
@@ -270,12 +247,11 @@ AnsiString TQzTextParser::SelectedA(TQzTextParserPosType AFromPos, TQzTextParser
 
 UnicodeString TQzTextParser::SelectedW(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos,
                                        bool AClearMarks) {
-    std::size_t Bytes = 0;
-    const TQzTextPos Start = Extent(AFromPos, ATillPos, Bytes);
+    const std::span<const std::byte> Bytes = SelectedBytes(AFromPos, ATillPos);
     const std::uint16_t CodePage = FCharacterSetType == SBCS ? FContentCodePage
         : FCharacterSetType == DBCS                          ? cUtf16CodePage
                                                              : cUtf8CodePage;
-    UnicodeString Result = CodePageToUnicode(CodePage, std::as_bytes(std::span(Start, Bytes)));
+    UnicodeString Result = CodePageToUnicode(CodePage, Bytes);
     if (AClearMarks)
         ClearMarks(AFromPos, ATillPos);
     return Result;

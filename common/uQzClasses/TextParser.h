@@ -163,13 +163,35 @@ public:
     }
 
     // The place of that type, null when it is not set. Raises Exception, "Invalid TillPos specified!".
-    TQzTextPos GetPos(TQzTextParserPosType APosType) const;
+    TQzTextPos GetPos(TQzTextParserPosType APosType) const {
+        switch (APosType) {
+        case tpPrevPos: return FState.PrevPos;
+        case tpCurPos: return FState.CurPos;
+        case tpPeekPos: return FPeekPos;
+        case tpMarkPos1: return FMarkPos1;
+        case tpMarkPos2: return FMarkPos2;
+        case tpMarkPos3: return FMarkPos3;
+        }
+        RaiseNoPlace();
+    }
     // Set a mark to the current place, and take it away. Raise Exception, "Invalid MarkType specified!".
-    void SetMark(TQzTextParserMarkPosType AMarkType);
-    void ClearMark(TQzTextParserMarkPosType AMarkType);
+    void SetMark(TQzTextParserMarkPosType AMarkType) { Mark(AMarkType) = FState.CurPos; }
+    void ClearMark(TQzTextParserMarkPosType AMarkType) { Mark(AMarkType) = nullptr; }
     // Bytes between two places; tpPeekPos as the end means: the current character included. Asserts that both are set
     // and in order.
-    std::int32_t SelectedCnt(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos);
+    std::int32_t SelectedCnt(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos) {
+        return static_cast<std::int32_t>(SelectedBytes(AFromPos, ATillPos).size());
+    }
+    // The bytes themselves, where they lie; valid until the next step.
+    std::span<const std::byte> SelectedBytes(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos) {
+        const TQzTextPos Start = GetPos(AFromPos);
+        if (ATillPos == tpPeekPos)
+            return SelectedAndCurrent(AFromPos);
+        const TQzTextPos Till = GetPos(ATillPos);
+        if (Start == nullptr || Till < Start) [[unlikely]]
+            RaiseBadSelection();
+        return std::as_bytes(std::span(Start, Till));
+    }
     // The text between them, A in code page 0 (one byte a character: the bytes as they stand). AClearMarks takes those
     // of the two that are marks away.
     AnsiString SelectedA(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos, bool AClearMarks);
@@ -220,8 +242,7 @@ private:
 
     // Which bytes continue a run, made ready for the set that was asked for last.
     struct TByteClass {
-        TQzTextParserCharSet Set;
-        bool IsValid = false;
+        TQzTextParserCharSet Set; // at first the empty one, which contains nothing
         std::array<bool, 256> Contains{};
     };
 
@@ -234,9 +255,19 @@ private:
     bool IsAvailable(std::size_t ABytes);
     void Arrive();
     void SlowStep(std::size_t ALength);
-    TQzTextPos Extent(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos, std::size_t& ABytes);
+    std::span<const std::byte> SelectedAndCurrent(TQzTextParserPosType AFromPos);
+    [[noreturn]] static void RaiseNoPlace();
+    [[noreturn]] static void RaiseNoMark();
+    [[noreturn]] static void RaiseBadSelection();
     void ClearMarks(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos);
-    TQzTextPos& Mark(TQzTextParserMarkPosType AMarkType);
+    TQzTextPos& Mark(TQzTextParserMarkPosType AMarkType) {
+        switch (AMarkType) {
+        case tpMarkPos1: return FMarkPos1;
+        case tpMarkPos2: return FMarkPos2;
+        case tpMarkPos3: return FMarkPos3;
+        default: RaiseNoMark();
+        }
+    }
     const TByteClass& ClassOf(const TQzTextParserCharSet& ASet);
     const char16_t* WideTable();
     AnsiString Narrow(std::u16string_view AText) const;

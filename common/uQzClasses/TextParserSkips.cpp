@@ -33,6 +33,9 @@ struct TIsNot {
     bool operator()(TQzTextPos APos) const { return *APos != Byte; }
 };
 
+// A line feed in each kind of text, to ask a test about.
+constexpr std::uint8_t cLineFeed[] = {'\n', 0};
+
 template <class TTest> TQzTextPos ByteRunEnd(TQzTextPos ABegin, TQzTextPos AEnd, const TTest& ATest) {
     while (ABegin < AEnd && ATest(ABegin))
         ++ABegin;
@@ -48,7 +51,7 @@ TQzTextPos ByteRunEnd(TQzTextPos ABegin, TQzTextPos AEnd, const TIsNot& ATest) {
 
 const TQzTextParser::TByteClass& TQzTextParser::ClassOf(const TQzTextParserCharSet& ASet) {
     for (const TByteClass& Class : FClasses) {
-        if (Class.IsValid && Class.Set == ASet)
+        if (Class.Set == ASet)
             return Class;
     }
     TByteClass& Class = FClasses[FNextClass];
@@ -56,7 +59,6 @@ const TQzTextParser::TByteClass& TQzTextParser::ClassOf(const TQzTextParserCharS
     for (std::size_t I = 0; I < Class.Contains.size(); ++I)
         Class.Contains[I] = ASet.Contains(static_cast<char32_t>(I));
     Class.Set = ASet;
-    Class.IsValid = true;
     return Class;
 }
 
@@ -83,12 +85,17 @@ template <TQzCharacterSetType Kind> void TTextParserKind<Kind>::Next(TQzTextPars
         State.CurPos += cUnit;
         if (AParser.Left() < cUnit) [[unlikely]]
             AParser.Arrive();
-        Advance(State.CharsRead, cUnit);
         Advance(State.Position, cUnit);
+        // Apart from the other counter: the two as one vector would make each step wait for the one before.
         IsNewLine = !State.Eof && (Kind == DBCS ? UnitAt(State.CurPos) : *State.CurPos) == '\n';
+        Advance(State.CharsRead, cUnit);
     }
-    State.LineNr += IsNewLine ? 1 : 0;
-    State.ColNr = IsNewLine ? 1 : State.ColNr + 1;
+    if (IsNewLine) {
+        ++State.LineNr;
+        State.ColNr = 1;
+    } else {
+        ++State.ColNr;
+    }
 }
 
 // Passes the run of characters that hold the test, as far as the last one in memory. True when that one holds it too.
@@ -106,65 +113,65 @@ bool TTextParserKind<Kind>::Run(TQzTextParser& AParser, const TTest& ATest) {
         while (Here < LastOne && ATest(Here))
             Here += cUnit;
     }
-    // A line begins with the line feed on which a step lands.
-    const auto IsLineFeed = [](TQzTextPos APos) { return (Kind == DBCS ? UnitAt(APos) : *APos) == '\n'; };
+    if (Here == Start)
+        return ATest(Here);
+    // A line begins with the line feed on which a step lands; of a run without them that is the last step alone.
     TQzTextPos Line = nullptr;
-    std::int32_t Lines = 0;
-    for (TQzTextPos Pos = Start + cUnit; Pos <= Here; Pos += cUnit) {
+    for (TQzTextPos Pos = ATest(cLineFeed) ? Start + cUnit : Here; Pos <= Here; Pos += cUnit) {
         if constexpr (Kind == SBCS) {
             Pos = ByteRunEnd(Pos, Here + 1, TIsNot{'\n'});
             if (Pos > Here)
                 break;
         }
-        if (IsLineFeed(Pos)) {
-            ++Lines;
+        if ((Kind == DBCS ? UnitAt(Pos) : *Pos) == '\n') {
+            ++State.LineNr;
             Line = Pos;
         }
     }
-    if (Here != Start) {
-        State.PrevPos = Here - cUnit;
-        State.CurPos = Here;
-        State.LineNr += Lines;
-        const auto Columns = static_cast<std::int32_t>((Here - (Line == nullptr ? Start : Line)) / cUnit);
-        State.ColNr = Line == nullptr ? State.ColNr + Columns : 1 + Columns;
-        Advance(State.CharsRead, static_cast<std::size_t>(Here - Start));
-        Advance(State.Position, static_cast<std::size_t>(Here - Start));
-    }
+    const auto Columns = static_cast<std::int32_t>((Here - (Line == nullptr ? Start : Line)) / cUnit);
+    State.ColNr = Line == nullptr ? State.ColNr + Columns : 1 + Columns;
+    State.PrevPos = Here - cUnit;
+    State.CurPos = Here;
+    Advance(State.CharsRead, static_cast<std::size_t>(Here - Start));
+    Advance(State.Position, static_cast<std::size_t>(Here - Start));
     return ATest(Here);
 }
 
+// The forms are passed one by one, with all that is counted at hand.
 template <>
 template <class TTest>
 bool TTextParserKind<MBCS>::Run(TQzTextParser& AParser, const TTest& ATest) {
-    TQzTextParserState State = AParser.FState;
+    TQzTextParserState& State = AParser.FState;
+    const TQzTextPos Start = State.CurPos;
+    const TQzTextPos End = AParser.FBufEnd;
+    TQzTextPos Here = Start;
+    TQzTextPos Before = State.PrevPos;
+    std::int32_t Line = State.LineNr;
+    std::int32_t Column = State.ColNr;
     std::size_t Count = 0;
-    std::size_t Bytes = 0;
-    const auto Commit = [&] {
-        Advance(State.CharsRead, std::exchange(Count, 0));
-        Advance(State.Position, std::exchange(Bytes, 0));
-        AParser.FState = State;
-    };
     for (;;) {
-        const std::uint8_t First = *State.CurPos;
+        const std::uint8_t First = *Here;
         const std::size_t Length = StepLength(First);
-        // A form that is cut off: more may be had, or else the test may raise.
-        if (static_cast<std::size_t>(AParser.FBufEnd - State.CurPos) < Length) {
-            Commit();
-            AParser.IsAvailable(Length);
-            State = AParser.FState;
-        }
-        const bool Holds = ATest(State.CurPos);
-        if (!Holds || static_cast<std::size_t>(AParser.FBufEnd - State.CurPos) <= Length) {
-            Commit();
-            return Holds;
-        }
-        State.LineNr += First == '\n' ? 1 : 0;
-        State.ColNr = First == '\n' ? 1 : State.ColNr + 1;
-        State.PrevPos = State.CurPos;
-        State.CurPos += Length;
-        Bytes += Length;
+        // The last form, which may be cut off, is left to what follows.
+        if (static_cast<std::size_t>(End - Here) <= Length || !ATest(Here))
+            break;
+        Line += First == '\n' ? 1 : 0;
+        Column = First == '\n' ? 1 : Column + 1;
+        Before = Here;
+        Here += Length;
         ++Count;
     }
+    State.CurPos = Here;
+    State.PrevPos = Before;
+    State.LineNr = Line;
+    State.ColNr = Column;
+    Advance(State.CharsRead, Count);
+    Advance(State.Position, static_cast<std::size_t>(Here - Start));
+    if (static_cast<std::size_t>(End - Here) > StepLength(*Here))
+        return false;
+    // More may be had of a form that is cut off; the test may raise for one that the end cuts.
+    AParser.IsAvailable(StepLength(*Here));
+    return ATest(State.CurPos);
 }
 
 // The last character in memory is passed by a step, which fetches more.

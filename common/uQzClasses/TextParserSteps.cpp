@@ -83,23 +83,18 @@ void TQzTextParser::SkipChars(std::int32_t ACount) {
         NextChar();
 }
 
-// The start of what is selected, and its length.
-TQzTextPos TQzTextParser::Extent(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos,
-                                 std::size_t& ABytes) {
-    Assert(GetPos(AFromPos) != nullptr, u"The start of the selection is not set");
-    const std::ptrdiff_t Before = FState.CurPos - GetPos(AFromPos);
-    std::ptrdiff_t Count = 0;
-    if (ATillPos == tpPeekPos) {
+std::span<const std::byte> TQzTextParser::SelectedAndCurrent(TQzTextParserPosType AFromPos) {
+    const TQzTextPos Start = GetPos(AFromPos);
+    if (Start == nullptr || FState.CurPos < Start)
+        RaiseBadSelection();
+    std::ptrdiff_t Count = FState.CurPos - Start;
+    {
         const TLookAhead LookAhead(*this);
         Next();
-        Count = Before + (FState.CurPos - FPeekPos);
-    } else {
-        Assert(GetPos(ATillPos) != nullptr, u"The end of the selection is not set");
-        Count = GetPos(ATillPos) - GetPos(AFromPos);
+        Count += FState.CurPos - FPeekPos;
     }
-    Assert(Count >= 0, u"The selection ends before it starts");
-    ABytes = static_cast<std::size_t>(Count);
-    return GetPos(AFromPos);
+    // The step may have moved what is in memory.
+    return std::as_bytes(std::span(GetPos(AFromPos), static_cast<std::size_t>(Count)));
 }
 
 TQzTextPos TQzTextParser::SrcPeekNext(std::int32_t ACount) {

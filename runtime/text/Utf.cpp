@@ -10,13 +10,6 @@ using detail::BestUtfPath;
 using detail::DecodeUtf16;
 using detail::DecodeUtf8;
 
-namespace {
-
-// Texts below this many characters are done before the vectors are ready.
-constexpr std::size_t cShort = 24;
-
-} // namespace
-
 std::size_t Utf8ToUtf16Length(std::string_view AText) noexcept {
     return BestUtfPath().Utf8ToUtf16Length(AText);
 }
@@ -26,19 +19,11 @@ std::size_t Utf16ToUtf8Length(std::u16string_view AText) noexcept {
 }
 
 char16_t* Utf8ToUtf16(std::string_view AText, char16_t* ADest) noexcept {
-    if (AText.size() >= cShort)
-        return BestUtfPath().Utf8ToUtf16(AText, ADest);
-    const char* Here = AText.data();
-    const char* End = Here + AText.size();
-    return detail::ScalarUtf8ToUtf16(Here, End, End, ADest);
+    return BestUtfPath().Utf8ToUtf16(AText, ADest);
 }
 
 char* Utf16ToUtf8(std::u16string_view AText, char* ADest) noexcept {
-    if (AText.size() >= cShort)
-        return BestUtfPath().Utf16ToUtf8(AText, ADest);
-    const char16_t* Here = AText.data();
-    const char16_t* End = Here + AText.size();
-    return detail::ScalarUtf16ToUtf8(Here, End, ADest);
+    return BestUtfPath().Utf16ToUtf8(AText, ADest);
 }
 
 std::u16string Utf8ToUtf16(std::string_view AText) {
