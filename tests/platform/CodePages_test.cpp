@@ -1,24 +1,42 @@
 #include "platform/CodePages.h"
 
+#include <climits>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 namespace qz::platform {
 namespace {
 
-std::u16string Decoded(uint32_t APage, std::string_view ABytes) {
-    std::u16string Result = u"left over";
+using namespace std::string_view_literals;
+
+constexpr bool cOnWindows = QZ_TESTS_ON_WINDOWS != 0;
+const std::u16string cRefused = u"refused";
+
+std::span<const std::byte> BytesOf(std::string_view ABytes) {
+    return std::as_bytes(std::span(ABytes));
+}
+
+// Measures, converts with just the room that it takes, and compares the two lengths.
+std::u16string Decoded(uint32_t APage, std::string_view ABytes, TDecoding ADecoding = TDecoding::Lenient) {
     TError Error{1};
-    EXPECT_TRUE(CodePageToUtf16(APage, std::as_bytes(std::span(ABytes)), Result, Error)) << APage;
+    const size_t Length = CodePageToUtf16(APage, BytesOf(ABytes), {}, ADecoding, Error);
+    if (Error.Code != 0) {
+        EXPECT_EQ(Length, 0u) << APage;
+        return cRefused;
+    }
+    std::u16string Result(Length, u'#');
+    EXPECT_EQ(CodePageToUtf16(APage, BytesOf(ABytes), Result, ADecoding, Error), Length) << APage;
     EXPECT_EQ(Error.Code, 0) << APage;
     return Result;
 }
 
-std::string Encoded(uint32_t APage, std::u16string_view AText) {
-    std::string Result = "left over";
+std::string Encoded(uint32_t APage, std::u16string_view AText, TComposing AComposing = TComposing::Plain) {
     TError Error{1};
-    EXPECT_TRUE(Utf16ToCodePage(APage, AText, Result, Error)) << APage;
+    std::string Result(Utf16ToCodePage(APage, AText, {}, AComposing, Error), '#');
+    EXPECT_EQ(Error.Code, 0) << APage;
+    EXPECT_EQ(Utf16ToCodePage(APage, AText, Result, AComposing, Error), Result.size()) << APage;
     EXPECT_EQ(Error.Code, 0) << APage;
     return Result;
 }
@@ -26,28 +44,28 @@ std::string Encoded(uint32_t APage, std::u16string_view AText) {
 TEST(CodePages, ConvertsBothWays) {
     struct TCase {
         uint32_t Page;
-        std::string Bytes;
-        std::u16string Text;
+        std::string_view Bytes;
+        std::u16string_view Text;
     };
     const TCase Cases[] = {
         {1252, "", u""},
+        {932, "", u""},
         {1252, "\x80uro \xE4", u"€uro ä"},
         {1251, "\xC6\xE6", u"Жж"},
-        {1250, "\xB9\x9C", u"ąś"},
-        {437, "\x84\xE1", u"äß"},
-        {850, "\x84\xE1", u"äß"},
-        {28591, "\xA4\xE9", u"¤é"},
+        {37, "\xC1\x81\xF1", u"Aa1"},
         {28605, "\xA4\xE9", u"€é"},
-        {20866, "\xF6\xD6", u"Жж"},
         {932, "\x83\x65\x83\x58\x83\x67\xB1", u"テストｱ"},
-        {936, "\xB2\xE2\xCA\xD4", u"测试"},
+        {936, "\xB2\xE2\xCA\xD4\x80", u"测试€"},
         {949, "\xC5\xD7\xBD\xBA\xC6\xAE", u"테스트"},
         {950, "\xB4\xFA\xB8\xD5", u"測試"},
         {65001, "\xC3\xA4\xF0\x9F\x98\x80", u"ä\xD83D\xDE00"},
-        {1252, std::string("a\0b", 3), std::u16string(u"a\0b", 3)},
-        {932, std::string(3000, '\xB1'), std::u16string(3000, u'ｱ')},
-        // Each unit gives two bytes, which is more than the first guess at the size.
-        {936, std::string(3000, '\xB2'), std::u16string(1500, u'膊')},
+        {1252, "a\0b"sv, u"a\0b"sv},
+        // Longer than the blocks that are converted at once, and whatever is behind them.
+        {1252, "sixteen letters.sixteen lett\xE9rs.\x80 \x81\x9F",
+         u"sixteen letters.sixteen lettérs.€ \x81Ÿ"},
+        {1251, "sixteen letters.sixteen \xE6\xE6tters.tail", u"sixteen letters.sixteen жжtters.tail"},
+        {936, "sixteen letters.sixteen \xB2\xE2tters. and \xCA\xD4",
+         u"sixteen letters.sixteen 测tters. and 试"},
     };
     for (const TCase& Case : Cases) {
         EXPECT_EQ(Decoded(Case.Page, Case.Bytes), Case.Text) << Case.Page;
@@ -55,38 +73,149 @@ TEST(CodePages, ConvertsBothWays) {
     }
 }
 
-TEST(CodePages, ReplacesWhatHasNoCounterpart) {
-    EXPECT_EQ(Encoded(1252, u"aЖb"), "a?b");
-    EXPECT_EQ(Encoded(932, u"aéb").substr(0, 1), "a");
-    EXPECT_EQ(Encoded(1252, u"x\xD800y").substr(0, 1), "x");
-    EXPECT_EQ(Decoded(65001, "a\xFF"), u"a\xFFFD");
-    EXPECT_FALSE(Decoded(932, "a\x83").empty());
-    // Nothing of the text before must show in the next.
-    EXPECT_EQ(Decoded(932, "b"), u"b");
+TEST(CodePages, DecodesWhatMeansNothingOnlyLeniently) {
+    struct TCase {
+        uint32_t Page;
+        std::string_view Bytes;
+        std::u16string_view Lenient;
+        bool Strict;
+    };
+    const TCase Cases[] = {
+        {1252, "a\x81", u"a\x81", true},         // no letter, but a control character
+        {1253, "a\xAAz", u"a\xF8F9z", false},    // a place of its own for what the page leaves free
+        {932, "\x81\x45", u"・", true},          // the default itself
+        {932, "a\x83", u"a・", false},           // the end cuts a character off
+        {932, "\x83\x65\x83", u"テ・", false},   //
+        {932, "a\x83\0b"sv, u"a・\0b"sv, false}, // a zero is no trail byte
+        {932, "\x83\xFFz", u"・z", false},       // any other is
+        {932, "\x85\x40", u"・", false},         // nothing there
+        {936, "\x81\x7Fz", u"?z", false},        //
+        {936, "\xFF\x80", u"\xF8F5€", false},    //
+        {950, "\xFA\x40", u"\xE000", true},      // a user's own character
+        {65001, "a\xC3", u"a\xFFFD", true},      // knows no strictness
+        {20127, "a\xE1", u"aa", true},           // the eighth bit means nothing
+    };
+    for (const TCase& Case : Cases) {
+        EXPECT_EQ(Decoded(Case.Page, Case.Bytes), Case.Lenient) << Case.Page;
+        EXPECT_EQ(Decoded(Case.Page, Case.Bytes, TDecoding::Strict), Case.Strict ? Case.Lenient : cRefused)
+            << Case.Page;
+    }
 }
 
-TEST(CodePages, RefusesUnknownPages) {
-    for (const uint32_t Page : {1200u, 1201u, 12000u, 12001u, 4711u, 70000u}) {
-        for (const std::string_view Bytes : {"", "abc"}) {
-            std::u16string Text = u"left over";
-            std::string Out = "left over";
-            TError Error;
-            EXPECT_FALSE(CodePageToUtf16(Page, std::as_bytes(std::span(Bytes)), Text, Error)) << Page;
-            EXPECT_NE(Error.Code, 0);
-            EXPECT_EQ(Text, u"");
-            Error.Code = 0;
-            EXPECT_FALSE(Utf16ToCodePage(Page, std::u16string(Bytes.begin(), Bytes.end()), Out, Error))
+TEST(CodePages, EncodesWhatThePageLacksByItsNearest) {
+    struct TCase {
+        uint32_t Page;
+        std::u16string_view Text;
+        std::string_view Plain, Composite;
+    };
+    const TCase Cases[] = {
+        {1252, u"Ā\xFF21Ж", "AA?", "AA?"},
+        {37, u"Ж", "\x6F", "\x6F"},
+        {932, u"\xA5\x203E", "\\?", "\\?"},
+        {1252, u"\xD83D\xDE00z", "??z", "??z"},
+        {1252, u"\xD800", "?", "?"},
+        {1252,
+         u"e\x301"
+         u"a\x308z",
+         "e\xB4"
+         "a\xA8z",
+         "\xE9\xE4z"},
+        {1252, u"z\x301", "z\xB4", "z"},                 // composed, then the best fit
+        {1252, u"x\x301", "x\xB4", "x\xB4"},             // there is no such letter
+        {1252, u"e\x323\x302", "e?^", "?^"},             // there is, but the page lacks it
+        {1252, u"u\x308\x301", "u\xA8\xB4", "\xFC\xB4"}, // one mark only
+        {1252, u"\x301", "\xB4", "\xB4"},
+        {1251, u"и\x306", "\xE8?", "\xE9"},
+        {1258, u"ê\x301", "\xEA\xEC", "?"},
+        {932, u"か\x3099z", "\x82\xA9?z", "\x82\xAAz"},
+        {949, u"\x1100\x1161", "\xA4\xA1\xA4\xBF", "\xA4\xA1\xA4\xBF"}, // syllables are not made
+        {65001, u"e\x301", "e\xCC\x81", "e\xCC\x81"},
+    };
+    for (const TCase& Case : Cases) {
+        EXPECT_EQ(Encoded(Case.Page, Case.Text), Case.Plain) << Case.Page;
+        EXPECT_EQ(Encoded(Case.Page, Case.Text, TComposing::Composite), Case.Composite) << Case.Page;
+    }
+}
+
+TEST(CodePages, RefusesATargetThatIsTooSmall) {
+    for (const uint32_t Page : {1252u, 932u, 65001u}) {
+        TError Error;
+        std::vector<char16_t> Text(3);
+        std::vector<char> Bytes(3);
+        for (const TDecoding Decoding : {TDecoding::Lenient, TDecoding::Strict}) {
+            EXPECT_EQ(CodePageToUtf16(Page, BytesOf("abcd"), Text, Decoding, Error), 0u) << Page;
+            EXPECT_EQ(Error.Code, CodeOfTooSmallTarget()) << Page;
+        }
+        for (const TComposing Composing : {TComposing::Plain, TComposing::Composite}) {
+            EXPECT_EQ(Utf16ToCodePage(Page, u"\xFF71\xFF71\xFF71\xFF71", Bytes, Composing, Error), 0u)
                 << Page;
-            EXPECT_NE(Error.Code, 0);
-            EXPECT_EQ(Out, "");
+            EXPECT_EQ(Error.Code, CodeOfTooSmallTarget()) << Page;
         }
     }
+    TError Error;
+    std::vector<char> Bytes(3);
+    EXPECT_EQ(Utf16ToCodePage(932, u"aテ", Bytes, TComposing::Plain, Error), 3u);
+    EXPECT_EQ(Utf16ToCodePage(1252, u"abe\x301", Bytes, TComposing::Composite, Error), 3u);
+    EXPECT_EQ(Utf16ToCodePage(932, u"テテ", Bytes, TComposing::Plain, Error), 0u);
+    EXPECT_EQ(Error.Code, CodeOfTooSmallTarget());
+}
+
+TEST(CodePages, RefusesUnknownPagesAndTooMuchText) {
+    char Byte = 'a';
+    for (const uint32_t Page : {1u, 2u, 3u, 1200u, 1201u, 12000u, 12001u, 4711u, 70000u}) {
+        for (const size_t Length : {0u, 1u}) {
+            TError Error;
+            EXPECT_EQ(CodePageToUtf16(Page, BytesOf({&Byte, Length}), {}, TDecoding::Lenient, Error), 0u);
+            EXPECT_NE(Error.Code, 0) << Page;
+            Error.Code = 0;
+            EXPECT_EQ(Utf16ToCodePage(Page, std::u16string(Length, u'a'), {}, TComposing::Plain, Error), 0u);
+            EXPECT_NE(Error.Code, 0) << Page;
+        }
+        EXPECT_EQ(CodePageMaxCharSize(Page), 0u) << Page;
+    }
+    TError Error;
+    const std::span TooMuch(reinterpret_cast<const std::byte*>(&Byte), size_t{INT_MAX} + 1); // never read
+    EXPECT_EQ(CodePageToUtf16(1252, TooMuch, {}, TDecoding::Lenient, Error), 0u);
+    EXPECT_NE(Error.Code, 0);
 }
 
 TEST(CodePages, PageZeroIsTheSystems) {
     EXPECT_NE(SystemCodePage(), 0u);
     EXPECT_EQ(Encoded(0, u"aé"), Encoded(SystemCodePage(), u"aé"));
     EXPECT_EQ(Decoded(0, "abc"), u"abc");
+    EXPECT_EQ(CodePageMaxCharSize(0), CodePageMaxCharSize(SystemCodePage()));
+    EXPECT_EQ(CodePageMaxCharSize(65001), 4u);
+}
+
+TEST(CodePages, StateStaysWithinOneConversion) {
+    struct TCase {
+        uint32_t Page;
+        std::string_view Bytes;
+        std::u16string_view Text;
+    };
+    const TCase Cases[] = {
+        {50220, "a\x1B$B%F\x1B(B", u"aテ"},
+        {50221, "\x1B(I1\x1B(B", u"ｱ"},
+        {50225, "\x1B$)C\x0E\x45\x57\x0F", u"테"},
+        {51932, "\xA5\xC6\x8E\xB1", u"テｱ"},
+        {52936, "a~{2b~}", u"a测"},
+        {54936, "\xB2\xE2\x81\x30\x84\x36", u"测\xA5"},
+        {57004, "\xB3", u"க"},
+        {57009, "\xB3", u"ക"},
+        {65000, "+bUs-", u"测"},
+    };
+    for (const TCase& Case : Cases) {
+        if (CodePageMaxCharSize(Case.Page) == 0)
+            continue; // not every Windows has them all
+        EXPECT_EQ(Decoded(Case.Page, Case.Bytes), Case.Text) << Case.Page;
+        EXPECT_EQ(Decoded(Case.Page, Encoded(Case.Page, Case.Text)), Case.Text) << Case.Page;
+        // Longer than what the converter is given at a time.
+        std::u16string Long;
+        for (int I = 0; I < 3000; ++I)
+            Long += Case.Text;
+        EXPECT_EQ(Decoded(Case.Page, Encoded(Case.Page, Long)), Long) << Case.Page;
+    }
+    EXPECT_TRUE(cOnWindows || CodePageMaxCharSize(50220) == 5);
 }
 
 } // namespace

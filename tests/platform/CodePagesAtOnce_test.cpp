@@ -1,0 +1,40 @@
+// In a file that comes before the other tests of code pages, so that the pages have no tables yet.
+#include <barrier>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "platform/CodePages.h"
+
+namespace qz::platform {
+namespace {
+
+std::u16string RoundTrip(uint32_t APage, std::u16string_view AText) {
+    TError Error;
+    std::string Bytes(AText.size() * 2, '\0');
+    Bytes.resize(Utf16ToCodePage(APage, AText, Bytes, TComposing::Plain, Error));
+    std::u16string Result(Bytes.size(), u'\0');
+    const auto Source = std::as_bytes(std::span(Bytes));
+    Result.resize(CodePageToUtf16(APage, Source, Result, TDecoding::Strict, Error));
+    return Result;
+}
+
+TEST(CodePagesAtOnce, ManyThreadsMayComeFirst) {
+    constexpr int Count = 8;
+    std::barrier Start(Count);
+    std::vector<std::thread> Threads;
+    for (int I = 0; I < Count; ++I) {
+        Threads.emplace_back([&Start] {
+            Start.arrive_and_wait();
+            for (const uint32_t Page : {866u, 932u, 21866u, 936u, 1251u, 65001u})
+                EXPECT_EQ(RoundTrip(Page, u"Жж and ASCII"), u"Жж and ASCII") << Page;
+        });
+    }
+    for (std::thread& Thread : Threads)
+        Thread.join();
+}
+
+} // namespace
+} // namespace qz::platform
