@@ -58,15 +58,4 @@ QZ_API int CodeOfInvalidText() noexcept;
 // isn't known. Page 0 stands for SystemCodePage. Any thread.
 QZ_API uint32_t CodePageMaxCharSize(uint32_t APage);
 
-// Bytes in code page APage to UTF-16. Page 0 stands for SystemCodePage. Bytes that mean nothing give a
-// substitute character and never fail; a character that is cut off by the end counts as such. Fails, with
-// AOut empty, for a page that isn't known, for the UTF-16 and UTF-32 pages 1200, 1201, 12000 and 12001, and
-// beyond 2^31-1 bytes. Any thread.
-QZ_API bool CodePageToUtf16(uint32_t APage, std::span<const std::byte> ABytes, std::u16string& AOut,
-                            TError& AError);
-
-// UTF-16 to bytes in code page APage. A character that the page lacks gives its best fit, if the system has
-// one, or a "?". Fails as CodePageToUtf16.
-QZ_API bool Utf16ToCodePage(uint32_t APage, std::u16string_view AText, std::string& AOut, TError& AError);
-
 } // namespace qz::platform

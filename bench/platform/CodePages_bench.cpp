@@ -1,4 +1,4 @@
-// Text in code pages, long and short, beside iconv and beside a plain loop over a table of the page.
+// Text in code pages, long and short, beside iconv, ICU and a plain loop over a table of the page.
 #include <array>
 #include <cstddef>
 #include <span>
@@ -7,6 +7,7 @@
 
 #include <benchmark/benchmark.h>
 #include <iconv.h>
+#include <unicode/ucnv.h>
 
 #include "platform/CodePages.h"
 
@@ -119,14 +120,38 @@ void ByIconv(benchmark::State& AState, bool ADecodes) {
     AState.SetItemsProcessed(AState.iterations() * AState.range(1));
 }
 
+void ByIcu(benchmark::State& AState, bool ADecodes) {
+    const std::u16string Wide = Text(AState.range(0), AState.range(1));
+    const std::string Bytes = Encoded(AState.range(0), Wide);
+    UErrorCode Status = U_ZERO_ERROR;
+    UConverter* Converter = ucnv_open(("windows-" + std::to_string(AState.range(0))).c_str(), &Status);
+    std::vector<char16_t> Units(Wide.size() + 1);
+    std::vector<char> Out(Bytes.size() + 1);
+    for (auto _ : AState) {
+        if (ADecodes)
+            ucnv_toUChars(Converter, Units.data(), static_cast<int32_t>(Units.size()), Bytes.data(),
+                          static_cast<int32_t>(Bytes.size()), &Status);
+        else
+            ucnv_fromUChars(Converter, Out.data(), static_cast<int32_t>(Out.size()), Wide.data(),
+                            static_cast<int32_t>(Wide.size()), &Status);
+        benchmark::ClobberMemory();
+    }
+    if (U_FAILURE(Status))
+        AState.SkipWithError("not converted");
+    ucnv_close(Converter);
+    AState.SetItemsProcessed(AState.iterations() * AState.range(1));
+}
+
 const std::vector<std::vector<int64_t>> cAll = {{1252, 1251, 932}, {20, 100, 1 << 20}};
 const std::vector<std::vector<int64_t>> cSingle = {{1252, 1251}, {20, 100, 1 << 20}};
 
 BENCHMARK(Decode)->ArgsProduct(cAll);
 BENCHMARK(DecodeByLoop)->ArgsProduct(cSingle);
 BENCHMARK_CAPTURE(ByIconv, decode, true)->ArgsProduct(cAll);
+BENCHMARK_CAPTURE(ByIcu, decode, true)->ArgsProduct(cAll);
 BENCHMARK(Encode)->ArgsProduct(cAll);
 BENCHMARK(EncodeByLoop)->ArgsProduct(cSingle);
 BENCHMARK_CAPTURE(ByIconv, encode, false)->ArgsProduct(cAll);
+BENCHMARK_CAPTURE(ByIcu, encode, false)->ArgsProduct(cAll);
 
 } // namespace

@@ -92,17 +92,4 @@ size_t Utf16ToCodePage(uint32_t APage, std::u16string_view ASource, std::span<ch
     return AError.Code == 0 ? detail::StreamFromUtf16(Page, ASource, ATarget, AError) : 0;
 }
 
-bool CodePageToUtf16(uint32_t APage, std::span<const std::byte> ABytes, std::u16string& AOut,
-                     TError& AError) {
-    AOut.resize(CodePageToUtf16(APage, ABytes, {}, TDecoding::Lenient, AError));
-    CodePageToUtf16(APage, ABytes, AOut, TDecoding::Lenient, AError);
-    return AError.Code == 0;
-}
-
-bool Utf16ToCodePage(uint32_t APage, std::u16string_view AText, std::string& AOut, TError& AError) {
-    AOut.resize(Utf16ToCodePage(APage, AText, {}, TComposing::Plain, AError));
-    Utf16ToCodePage(APage, AText, AOut, TComposing::Plain, AError);
-    return AError.Code == 0;
-}
-
 } // namespace qz::platform

@@ -11,24 +11,6 @@ namespace qz::platform {
 
 namespace {
 
-// Writes the outcome of a step that gives a length, where 0 stands for failure.
-bool Succeeded(int ALength, TError& AError) {
-    AError.Code = ALength > 0 ? 0 : LastError();
-    return ALength > 0;
-}
-
-// Measures, makes room and converts: AStep fills the buffer that it is given and gives the length needed.
-template <class TOut, class TStep> bool Convert(TOut& AOut, TError& AError, const TStep& AStep) {
-    const int Length = AStep(nullptr, 0);
-    if (!Succeeded(Length, AError))
-        return false;
-    AOut.resize(static_cast<size_t>(Length));
-    if (Succeeded(AStep(AOut.data(), Length), AError))
-        return true;
-    AOut.clear();
-    return false;
-}
-
 // The numbers 1 to 3 stand for settings of the system, not for pages; they are no valid pages to it either.
 bool IsKnown(uint32_t APage) {
     return APage == CP_ACP || IsValidCodePage(APage) != 0;
@@ -76,7 +58,8 @@ int SizeOf(size_t ALength) {
 
 // The outcome of a conversion of some text, which the system tells by its length, 0 for failure.
 size_t Outcome(int ALength, TError& AError) {
-    return Succeeded(ALength, AError) ? static_cast<size_t>(ALength) : 0;
+    AError.Code = ALength > 0 ? 0 : LastError();
+    return ALength > 0 ? static_cast<size_t>(ALength) : 0;
 }
 
 } // namespace
@@ -118,29 +101,6 @@ size_t Utf16ToCodePage(uint32_t APage, std::u16string_view ASource, std::span<ch
         WideCharToMultiByte(Page, FlagsOf(Page, AComposing), detail::Wide(ASource.data()),
                             SizeOf(ASource.size()), ATarget.data(), SizeOf(ATarget.size()), nullptr, nullptr);
     return Outcome(Length, AError);
-}
-
-bool CodePageToUtf16(uint32_t APage, std::span<const std::byte> ABytes, std::u16string& AOut,
-                     TError& AError) {
-    AOut.clear();
-    if (!Prepare(APage, ABytes.size(), AError))
-        return AError.Code == 0;
-    const auto* Source = reinterpret_cast<const char*>(ABytes.data());
-    const auto Length = static_cast<int>(ABytes.size());
-    return Convert(AOut, AError, [&](char16_t* ATarget, int ASize) {
-        return MultiByteToWideChar(APage, 0, Source, Length, detail::Wide(ATarget), ASize);
-    });
-}
-
-bool Utf16ToCodePage(uint32_t APage, std::u16string_view AText, std::string& AOut, TError& AError) {
-    AOut.clear();
-    if (!Prepare(APage, AText.size(), AError))
-        return AError.Code == 0;
-    const wchar_t* Source = detail::Wide(AText.data());
-    const auto Length = static_cast<int>(AText.size());
-    return Convert(AOut, AError, [&](char* ATarget, int ASize) {
-        return WideCharToMultiByte(APage, 0, Source, Length, ATarget, ASize, nullptr, nullptr);
-    });
 }
 
 } // namespace qz::platform

@@ -5,14 +5,13 @@
 #include "platform/Files.h"
 #include "runtime/errors/Exceptions.h"
 #include "runtime/reflection/Describe.h"
+#include "runtime/streams/FileStream.h"
 #include "runtime/text/StringUtils.h"
 
 namespace qz {
 namespace {
 
 using TView = std::u16string_view;
-
-constexpr std::string_view cByteOrderMark = "\xEF\xBB\xBF";
 
 constexpr bool IsBlank(char16_t AChar) noexcept {
     return AChar <= u' ';
@@ -315,23 +314,31 @@ void TStrings::Split(TView AText, char16_t ADelimiter, char16_t AQuote, bool ASt
     }
 }
 
-void TStrings::LoadFromFile(const TStringArg& AFileName) {
+void TStrings::LoadFromFile(const TStringArg& AFileName, const TEncoding& AEncoding) {
     std::vector<std::byte> Bytes;
     platform::TError Error;
     if (!platform::ReadWholeFile(AFileName, Bytes, Error))
-        throw EFOpenError(u"Cannot open file \"%s\". %s", {AFileName.View(), SysErrorMessage(Error.Code)});
-    std::string_view Content(reinterpret_cast<const char*>(Bytes.data()), Bytes.size());
-    if (Content.starts_with(cByteOrderMark))
-        Content.remove_prefix(cByteOrderMark.size());
-    SetText(Content);
+        throw EFOpenError(SFOpenError, {AFileName.View(), SysErrorMessage(Error.Code)});
+    std::size_t Mark = 0;
+    const TEncoding Encoding = TEncoding::Detect(Bytes, AEncoding, Mark);
+    SetText(Encoding.GetString(std::span(Bytes).subspan(Mark)));
 }
 
 void TStrings::SaveToFile(const TStringArg& AFileName) const {
-    const std::string Content = ToUtf8(Text());
+    Save(AFileName, {}, TEncoding::UTF8());
+}
+
+void TStrings::SaveToFile(const TStringArg& AFileName, const TEncoding& AEncoding) const {
+    Save(AFileName, AEncoding.GetPreamble(), AEncoding);
+}
+
+void TStrings::Save(const TStringArg& AFileName, const TBytes& AMark, const TEncoding& AEncoding) const {
+    const TBytes Content = AEncoding.GetBytes(Text());
+    const std::span<const std::byte> Pieces[] = {std::as_bytes(std::span(AMark)),
+                                                 std::as_bytes(std::span(Content))};
     platform::TError Error;
-    if (!platform::WriteWholeFile(AFileName, std::as_bytes(std::span(Content)), Error))
-        throw EFCreateError(u"Cannot create file \"%s\". %s",
-                            {AFileName.View(), SysErrorMessage(Error.Code)});
+    if (!platform::WriteWholeFile(AFileName, Pieces, Error))
+        throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Error.Code)});
 }
 
 } // namespace qz

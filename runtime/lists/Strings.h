@@ -17,6 +17,7 @@
 #include "runtime/lists/DynArray.h"
 #include "runtime/lists/ListTypes.h"
 #include "runtime/objects/Persistent.h"
+#include "runtime/text/Encoding.h"
 #include "runtime/text/StringArg.h"
 
 namespace qz {
@@ -117,10 +118,12 @@ public:
     UnicodeString DelimitedText() const;
     void SetDelimitedText(const TStringArg& AText);
 
-    // Reads UTF-8, and nothing else, with or without a byte order mark; raises EFOpenError. Writes UTF-8 without one, as a whole or not
-    // at all; raises EFCreateError.
-    virtual void LoadFromFile(const TStringArg& AFileName);
+    // Reads text in the encoding of its byte order mark, in AEncoding without one; raises EFOpenError.
+    virtual void LoadFromFile(const TStringArg& AFileName, const TEncoding& AEncoding = TEncoding::UTF8());
+    // Writes UTF-8 without a byte order mark, as a whole or not at all; raises EFCreateError.
     virtual void SaveToFile(const TStringArg& AFileName) const;
+    // The same in another encoding, behind its mark if it has one.
+    void SaveToFile(const TStringArg& AFileName, const TEncoding& AEncoding) const;
 
     // Settings.
     char16_t Delimiter() const noexcept { return FDelimiter; } // a comma at first
@@ -153,6 +156,7 @@ protected:
     [[noreturn]] static void IndexError(int AIndex);
 
 private:
+    void Save(const TStringArg& AFileName, const TBytes& AMark, const TEncoding& AEncoding) const;
     UnicodeString Join(char16_t ADelimiter, char16_t AQuote, bool AStrict) const;
     void Split(std::u16string_view AText, char16_t ADelimiter, char16_t AQuote, bool AStrict);
 

@@ -321,6 +321,12 @@ TEST(StringList, FilesAreUtf8) {
     ASSERT_TRUE(platform::WriteWholeFile(Path, std::as_bytes(std::span(cMarked)), Error));
     Read.LoadFromFile(Path);
     EXPECT_EQ(LinesOf(Read), (TLines{u"x", u"y"}));
+    for (const std::uint16_t Page : std::initializer_list<std::uint16_t>{1200, 1201, 12000, 65001}) {
+        List.SaveToFile(Path, TEncoding(Page));
+        Read.Clear();
+        Read.LoadFromFile(Path, TEncoding(1252));
+        EXPECT_TRUE(Read.Equals(List)) << Page;
+    }
     EXPECT_THROW(Read.LoadFromFile(Directory / u"none"), EFOpenError);
     EXPECT_EQ(Read.Count(), 2);
     EXPECT_THROW(Read.SaveToFile(Directory / u"none/list.txt"), EFCreateError);
