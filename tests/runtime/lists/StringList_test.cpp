@@ -328,7 +328,7 @@ TEST(StringList, FilesAreUtf8) {
         EXPECT_TRUE(Read.Equals(List)) << Page;
     }
     EXPECT_THROW(Read.LoadFromFile(Directory / u"none"), EFOpenError);
-    EXPECT_EQ(Read.Count(), 2);
+    EXPECT_EQ(Read.Count(), 3);
     EXPECT_THROW(Read.SaveToFile(Directory / u"none/list.txt"), EFCreateError);
 }
 
