@@ -2,6 +2,7 @@
 // as the same text again.
 #include <cstdint>
 #include <cstdlib>
+#include <initializer_list>
 
 #include "common/uQzClasses/QzStringStream.h"
 #include "runtime/errors/Exceptions.h"
@@ -16,7 +17,7 @@ void Require(bool ACondition) {
 }
 
 void TrySaved(const qz::TQzStringStream& AStream) {
-    for (const std::uint16_t Page : {1200, 1201, 12000, 12001, 65001}) {
+    for (const std::uint16_t Page : std::initializer_list<std::uint16_t>{1200, 1201, 12000, 12001, 65001}) {
         qz::TQzMemoryStream Saved(64);
         AStream.SaveToStream(Saved, Page, true);
         qz::TQzStringStream Wide(65001, 16), Again(65001, 16);
