@@ -58,7 +58,7 @@ void TQzMemoryStream::Reallocate(std::size_t ANewSize) {
     if (!FFreeMem)
         throw Exception(u"It is not possible to resize the buffer!");
     std::size_t Size = 0;
-    if (__builtin_mul_overflow(ANewSize / FBlockSize + 1, FBlockSize, &Size))
+    if (__builtin_mul_overflow(ANewSize / FBlockSize + 1, FBlockSize, &Size) || Size > PTRDIFF_MAX)
         throw std::bad_alloc();
     void* Block = std::realloc(FBufferStart, Size);
     if (Block == nullptr)

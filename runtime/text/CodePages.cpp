@@ -42,7 +42,7 @@ bool IsMeasuring(std::size_t ALength, std::size_t ARoom, TError& AError) noexcep
 // Writes by AWrite what has ALength units, if it fits; gives the number written or asked for.
 template <class TUnit, class TWrite>
 std::size_t Deliver(std::size_t ALength, std::span<TUnit> ATarget, TError& AError, const TWrite& AWrite) {
-    if (!IsMeasuring(ALength, ATarget.size(), AError))
+    if (!IsMeasuring(ALength, ATarget.size(), AError) && ALength != 0)
         AWrite(ATarget.data());
     return AError.Code == 0 ? ALength : 0;
 }

@@ -31,7 +31,7 @@ constinit const TClassRec TSmallStream::ClassRec =
     DescribeClass<TSmallStream>(u"TSmallStream", {.Unit = u"Test"});
 
 std::unique_ptr<TQzMemoryStream> StreamOf(std::string_view ABytes) {
-    auto Stream = TQzMemoryStream::Create(16);
+    auto Stream = std::make_unique<TQzMemoryStream>(16);
     Stream->WriteBuffer(ABytes.data(), static_cast<std::int64_t>(ABytes.size()));
     Stream->SetPosition(0);
     return Stream;

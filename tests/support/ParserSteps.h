@@ -26,8 +26,9 @@ public:
     }
     std::int32_t Write(const void*, std::int32_t) override { return 0; }
     std::int64_t Seek(std::int64_t AOffset, TSeekOrigin AOrigin) override {
-        const std::int64_t From =
-            AOrigin == soBeginning ? 0 : std::int64_t(AOrigin == soEnd ? GetSize() : FPlace);
+        const std::int64_t From = AOrigin == soBeginning ? 0
+            : AOrigin == soEnd                           ? GetSize()
+                                                         : static_cast<std::int64_t>(FPlace);
         FPlace = static_cast<std::size_t>(From + AOffset);
         return From + AOffset;
     }
