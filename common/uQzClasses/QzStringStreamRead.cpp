@@ -89,7 +89,7 @@ AnsiString TQzStringStream::ReadAString(std::uint32_t ACount) {
         return AnsiString(Bytes.View(), cSystemCodePage);
     }
     const std::size_t Count = std::min<std::size_t>(ACount, Rest());
-    const AnsiString Text(std::string_view(reinterpret_cast<const char*>(FCurPos), Count), cSystemCodePage);
+    AnsiString Text(std::string_view(reinterpret_cast<const char*>(FCurPos), Count), cSystemCodePage);
     FCurPos += Count;
     return Text;
 }

@@ -238,8 +238,8 @@ AnsiString TQzTextParser::SelectedA(TQzTextParserPosType AFromPos, TQzTextParser
     if (FCharacterSetType != SBCS)
         return Narrow(SelectedW(AFromPos, ATillPos, AClearMarks));
     const std::span<const std::byte> Bytes = SelectedBytes(AFromPos, ATillPos);
-    const AnsiString Result(std::string_view(reinterpret_cast<const char*>(Bytes.data()), Bytes.size()),
-                            cSystemCodePage);
+    AnsiString Result(std::string_view(reinterpret_cast<const char*>(Bytes.data()), Bytes.size()),
+                      cSystemCodePage);
     if (AClearMarks)
         ClearMarks(AFromPos, ATillPos);
     return Result;

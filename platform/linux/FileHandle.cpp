@@ -72,6 +72,9 @@ bool TFileHandle::Close() noexcept {
     return File < 0 || close(File) == 0 || errno == EINTR;
 }
 
+// What these change is the file, so they are not const.
+// NOLINTBEGIN(readability-make-member-function-const)
+
 bool TFileHandle::Read(std::span<std::byte> ATarget, size_t& ADone, TError& AError) {
     const ssize_t Got = detail::ReadSome(static_cast<int>(FHandle), ATarget);
     ADone = static_cast<size_t>(std::max<ssize_t>(Got, 0));
@@ -103,5 +106,7 @@ bool TFileHandle::Flush(TError& AError) {
     const bool Ok = fsync(static_cast<int>(FHandle)) == 0 || errno == EINVAL || errno == EROFS;
     return Outcome(AError, Ok);
 }
+
+// NOLINTEND(readability-make-member-function-const)
 
 } // namespace qz::platform

@@ -2,11 +2,11 @@
 
 #include <cerrno>
 #include <cstdint>
+#include <ctime>
 #include <random>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <time.h>
 
 namespace qz::platform::detail {
 

@@ -52,6 +52,9 @@ bool TFileHandle::Close() noexcept {
     return File == cNone || CloseHandle(Handle(File)) != 0;
 }
 
+// What these change is the file, so they are not const.
+// NOLINTBEGIN(readability-make-member-function-const)
+
 bool TFileHandle::Read(std::span<std::byte> ATarget, size_t& ADone, TError& AError) {
     DWORD Got = 0;
     const auto Step = static_cast<DWORD>(std::min(ATarget.size(), cLargestStep));
@@ -86,5 +89,7 @@ bool TFileHandle::Flush(TError& AError) {
     // A handle that only reads has nothing to wait for.
     return Outcome(AError, FlushFileBuffers(Handle(FHandle)) != 0 || GetLastError() == ERROR_ACCESS_DENIED);
 }
+
+// NOLINTEND(readability-make-member-function-const)
 
 } // namespace qz::platform

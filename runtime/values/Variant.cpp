@@ -19,12 +19,21 @@ Variant::Variant(const Variant& AOther) noexcept : FType(AOther.FType) {
         FData.Integer = AOther.FData.Integer;
 }
 
-Variant::Variant(Variant&& AOther) noexcept : Variant(static_cast<const Variant&>(AOther)) {}
+Variant::Variant(Variant&& AOther) noexcept : FType(AOther.FType) {
+    if (IsWide())
+        new (&FData.Wide) UnicodeString(std::move(AOther.FData.Wide));
+    else if (FType == varString)
+        new (&FData.Narrow) TByteText(std::move(AOther.FData.Narrow));
+    else if (FType == varSingle || FType == varDouble)
+        FData.Real = AOther.FData.Real;
+    else
+        FData.Integer = AOther.FData.Integer;
+}
 
 Variant& Variant::operator=(Variant AOther) noexcept {
     if (this != &AOther) {
         std::destroy_at(this);
-        new (this) Variant(AOther);
+        new (this) Variant(std::move(AOther));
     }
     return *this;
 }
