@@ -9,8 +9,8 @@
 // Sharing: Open fails (ETXTBSY, ERROR_SHARING_VIOLATION) when a handle that is open denies what this one wants, or
 // when this one denies what a handle that is open does. Windows keeps to that for every program. Linux keeps to it
 // for regular files among the handles of this library, by locks on bytes far behind any content, in all processes
-// and on all file systems that have locks; where there are none, nothing is denied. A handle is for one thread at a
-// time. Paths are as in Files.h.
+// and on all file systems that have locks; where there are none, and while another program has locked the whole file,
+// nothing is denied. A handle is for one thread at a time. Paths are as in Files.h.
 #pragma once
 
 #include <cstddef>
@@ -52,7 +52,7 @@ public:
     ~TFileHandle() { Close(); }
 
     // Closes what is open and opens APath, at its first byte. A link is followed; a directory is refused. The handle
-    // is not passed on to child processes.
+    // is not passed on to programs that are started; a process that was forked shares it, and with it what it denies.
     bool Open(std::u16string_view APath, TFileAccess AAccess, TFileCreation ACreation, TFileSharing ASharing,
               TError& AError);
     bool IsOpen() const noexcept { return FHandle != cNone; }

@@ -135,17 +135,17 @@ void TQzStringStream::WriteText(std::u16string_view AText) {
     if (FCodePage == cUtf16CodePage)
         return WriteBuffer(AText.data(), static_cast<std::int64_t>(AText.size() * 2));
     std::array<char, 1024> Buffer;
-    if (AText.size() > Buffer.size() / 4) {
-        const RawByteString Bytes =
-            TQzEncoding::ConvertW(AText.data(), static_cast<std::int32_t>(AText.size()), FCodePage);
-        return WriteBuffer(Bytes.data(), Bytes.Length());
-    }
-    platform::TError Error;
-    const std::size_t Length =
-        EncodeCodePage(FCodePage, AText, Buffer, platform::TComposing::Composite, Error);
-    if (Error.Code != 0)
+    platform::TError Error{platform::CodeOfTooSmallTarget()};
+    std::size_t Length = 0;
+    if (AText.size() <= Buffer.size() / 4)
+        Length = EncodeCodePage(FCodePage, AText, Buffer, platform::TComposing::Composite, Error);
+    if (Error.Code == 0)
+        return WriteBuffer(Buffer.data(), static_cast<std::int64_t>(Length));
+    if (Error.Code != platform::CodeOfTooSmallTarget())
         RaiseCodePageError(FCodePage, Error);
-    WriteBuffer(Buffer.data(), static_cast<std::int64_t>(Length));
+    const RawByteString Bytes =
+        TQzEncoding::ConvertW(AText.data(), static_cast<std::int32_t>(AText.size()), FCodePage);
+    WriteBuffer(Bytes.data(), Bytes.Length());
 }
 
 void TQzStringStream::WriteChar(char AChar) {

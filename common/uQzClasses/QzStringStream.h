@@ -7,7 +7,7 @@
 //
 // What is written is converted to the stream's code page, what is read comes out in the form that is asked for.
 // Conversions are those of TQzEncoding: lenient, and EOSError naming the code page where the system cannot make them;
-// the content is then as it was before. A stream over a wrapped block can be read and overwritten but does not grow:
+// the content is then as it was before, or empty when it was to be replaced. A stream over a wrapped block can be read and overwritten but does not grow:
 // "It is not possible to resize the buffer!". A stream belongs to one thread at a time.
 #pragma once
 
@@ -50,6 +50,7 @@ public:
     UnicodeString GetAsString() const { return GetWString(); }
     Variant Value() const { return GetValue(); }
     Variant GetValue() const { return Variant(GetWString()); }
+    // Asserts that the code page is none of 1200, 1201, 12000 and 12001.
     RawByteString StringData(std::uint16_t ACodePage) const;
     // The number of 16-bit units that the content gives; in a single-byte code page its size.
     std::int64_t CharCnt() const { return GetCharCnt(); }
@@ -62,6 +63,9 @@ public:
     void SetAsUTF8(const UTF8String& AValue);
     // A text of any kind; any other variant raises Exception, "Unsupported type %d!", and leaves the content.
     void SetValue(const Variant& AValue);
+
+    // Takes the content, the code page and the position of another.
+    virtual void Assign(const TQzStringStream& ASource);
 
     // Write at the position, over what stands there and beyond the end. An 8-bit character or text is in code page 0.
     virtual void WriteChar(char AChar);
@@ -79,8 +83,6 @@ public:
     // A terminator at the end: the character 0 in the stream's code page.
     void WriteEOF() { AddChar(u'\0'); }
 
-    // Takes the content, the code page and the position of another.
-    virtual void Assign(const TQzStringStream& ASource);
     // Changes the code page. With AUpdateContent the content is converted and the position at the end; without it the
     // bytes stay and are another text from now on. Raises Exception, "The current codepage cannot be changed without
     // updating the content!", when there is content and one of the two code pages is 1200; "Updating the content is

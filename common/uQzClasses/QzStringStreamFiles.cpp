@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "common/uQzClasses/QzStringStream.h"
+#include "common/uQzClasses/StreamBuf.h"
 #include "common/uQzClasses/StreamText.h"
 #include "common/uQzTypes/QzCodePage.h"
 #include "common/uQzTypes/QzEncoding.h"
@@ -33,7 +34,11 @@ void TQzStringStream::LoadFromStream(TStream* AStream, bool AFreeStream, bool AF
     const std::int64_t Start = AStream->Position();
     const std::uint16_t CodePage = detail::SettleCodePage(*AStream, AFromStart, ADetectBOM, ACodePage);
     if (IsPlainCopy(CodePage, FCodePage)) {
-        CopyRest(*AStream);
+        // What has arrived as a whole is written at once.
+        const TQzReadBuf Rest(*AStream);
+        WriteBuffer(Rest.data(), static_cast<std::int64_t>(Rest.size()));
+        if (AStream->Position() < AStream->Size())
+            AStream->Seek(std::int64_t{0}, soEnd);
         return;
     }
     AStream->SetPosition(Start);

@@ -18,7 +18,7 @@ constexpr bool IsContinuation(std::uint8_t AByte) {
 // Whether the position is where a unit pair of UTF-8 is torn: the first of the two units moves on by three bytes, as any
 // lone surrogate takes, so that the fourth byte of the form stands for the second unit.
 bool TQzStringStream::IsAtLowSurrogate() const noexcept {
-    if (FCodePage != cUtf8CodePage || FCurPos - FBufferStart < 3 || Rest() == 0)
+    if (RealCodePage(FCodePage) != cUtf8CodePage || FCurPos - FBufferStart < 3 || Rest() == 0)
         return false;
     const std::string_view Form(reinterpret_cast<const char*>(FCurPos) - 3, 4);
     std::size_t Length = 0;
@@ -35,12 +35,16 @@ UnicodeString TQzStringStream::ReadRun(std::uint32_t ACount) {
     UnicodeString Text = TQzEncoding::ConvertB(Start, Window + (Torn ? 3 : 0), FCodePage);
     if (Torn)
         Text = UnicodeString(Text.View().substr(1));
+    const UnicodeString Ahead = Text;
     if (Text.size() > ACount)
         Text.SetLength(ACount);
     std::size_t Step = Text.size();
     if (FCodePageMaxCharSize != 1) {
-        // The second unit of a torn pair took one byte.
-        const std::u16string_view Whole = Text.View().substr(Torn ? 1 : 0);
+        // The second unit of a torn pair took one byte. Where a second unit cannot be read, it is passed with the first.
+        const bool Tears = Text.size() < Ahead.size() && IsHighSurrogate(Ahead.View()[ACount - 1]) &&
+            IsLowSurrogate(Ahead.View()[ACount]) && RealCodePage(FCodePage) != cUtf8CodePage;
+        const std::u16string_view Whole =
+            Ahead.View().substr(0, Text.size() + (Tears ? 1 : 0)).substr(Torn ? 1 : 0);
         Step = (Torn ? 1 : 0) +
             static_cast<std::size_t>(TQzEncoding::ConvertW(
                 Whole.data(), static_cast<std::int32_t>(Whole.size()), nullptr, 0, FCodePage));

@@ -65,7 +65,10 @@ bool QzStreamToWriteBuf(TStream& AStream, void*& ABuffer, std::size_t ASize) {
         ABuffer = NewBlock(ASize).release();
         return true;
     }
-    Memory->SetSize(Memory->Position() + static_cast<std::int64_t>(ASize));
+    const std::int64_t Position = Memory->Position();
+    if (ASize > static_cast<std::size_t>(INT64_MAX - Position))
+        throw std::bad_alloc();
+    Memory->SetSize(Position + static_cast<std::int64_t>(ASize));
     ABuffer = Memory->FCurPos;
     return false;
 }

@@ -19,7 +19,8 @@ namespace {
 std::size_t ReadFully(TStream& AStream, char* ABuffer, std::size_t ASize) {
     std::size_t Done = 0;
     while (Done < ASize) {
-        const std::int32_t Got = AStream.Read(ABuffer + Done, static_cast<std::int32_t>(ASize - Done));
+        const auto Step = static_cast<std::int32_t>(std::min<std::size_t>(ASize - Done, 1u << 30));
+        const std::int32_t Got = AStream.Read(ABuffer + Done, Step);
         if (Got <= 0)
             break;
         Done += static_cast<std::size_t>(Got);
@@ -30,8 +31,12 @@ std::size_t ReadFully(TStream& AStream, char* ABuffer, std::size_t ASize) {
 UnicodeString ReadUnits(TStream& AStream) {
     const std::int64_t Bytes = std::max<std::int64_t>(AStream.Size() - AStream.Position(), 0);
     UnicodeString Result = UnicodeString::ForOverwrite(static_cast<std::size_t>(Bytes / 2));
-    if (!Result.IsEmpty())
-        AStream.ReadBuffer(Result.UniqueData(), Bytes / 2 * 2);
+    if (Result.IsEmpty())
+        return Result;
+    auto* Target = reinterpret_cast<char*>(Result.UniqueData());
+    const std::size_t Units = ReadFully(AStream, Target, Result.size() * 2) / 2;
+    if (Units < Result.size())
+        Result.SetLength(Units);
     return Result;
 }
 
@@ -44,6 +49,8 @@ RawByteString ReadBytes(TStream& AStream, std::uint16_t ACodePage) {
 
 std::uint16_t detail::SettleCodePage(TStream& AStream, bool AFromStart, bool ADetectBOM,
                                      std::int32_t ASrcCodePage) {
+    if (ASrcCodePage > UINT16_MAX)
+        throw EArgumentOutOfRangeException(u"The code page %d is no number of 16 bits", {ASrcCodePage});
     if (AFromStart)
         AStream.SetPosition(0);
     const std::uint16_t Found = ADetectBOM ? QzGetCodePage(AStream) : std::uint16_t{0};

@@ -7,7 +7,7 @@
 // ADetectBOM a byte order mark gives the code page and is passed over. ASrcCodePage is the code page of the bytes; -1 for
 // none, which means that of the mark, and 0 without one. A code page that differs from that of a mark raises Exception,
 // "The specified encoding does not match the BOM of the stream!". With AFreeStream the stream is ended, on the way out
-// of an exception too.
+// of an exception too. A stream that ends before its size says so gives what it has.
 #pragma once
 
 #include <cstdint>

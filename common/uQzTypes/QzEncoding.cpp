@@ -50,7 +50,9 @@ std::u16string_view UnitsOf(const char16_t* ASrc, std::int32_t ALen) {
 }
 
 std::size_t RoomOf(const void* ATarget, std::int32_t ALength) {
-    return ATarget == nullptr || ALength < 0 ? 0 : static_cast<std::size_t>(ALength);
+    if (ALength < 0)
+        RaiseBadLength(ALength);
+    return ATarget == nullptr ? 0 : static_cast<std::size_t>(ALength);
 }
 
 std::int32_t Checked(std::size_t ACount, std::uint16_t ACodePage, TError AError) {

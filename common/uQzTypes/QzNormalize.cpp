@@ -29,6 +29,15 @@ bool IsCompatibleWith(char16_t AUnit, std::u16string_view AText) {
         Plain == AText;
 }
 
+// What the system's code page gives for a character that no page has.
+char DefaultByte() {
+    constexpr char16_t cNothing = 0xFFFF;
+    char Bytes[4] = {'?'};
+    TError Error;
+    EncodeCodePage(cSystemCodePage, {&cNothing, 1}, Bytes, platform::TComposing::Plain, Error);
+    return Bytes[0];
+}
+
 // The one byte above 0 that the system's code page has for the unit, exactly or as its best fit.
 std::optional<char16_t> SystemByte(char16_t AUnit) {
     char Byte = '\0';
@@ -36,8 +45,8 @@ std::optional<char16_t> SystemByte(char16_t AUnit) {
     if (EncodeCodePage(cSystemCodePage, {&AUnit, 1}, {&Byte, 1}, platform::TComposing::Plain, Error) != 1 ||
         Byte == '\0')
         return std::nullopt;
-    // The question mark stands for all that the code page lacks, but is the best fit of some other marks too.
-    if (Byte == '?' && !IsCompatibleWith(AUnit, u"?"))
+    // The byte that stands for all that the code page lacks is the best fit of some marks too.
+    if (Byte == DefaultByte() && !IsCompatibleWith(AUnit, u"?"))
         return std::nullopt;
     return static_cast<char16_t>(static_cast<unsigned char>(Byte));
 }

@@ -33,21 +33,34 @@ bool Lock(int AFile, short AType, off_t AStart, off_t ALength) {
     return fcntl(AFile, F_OFD_SETLK, &Where) == 0;
 }
 
-// Whether another open file holds a lock in the range.
+// Whether a lock was made by a program that knows nothing of the ranges, such as one on the whole file.
+bool IsForeign(const struct flock& ALock) {
+    return ALock.l_start < cFirstRange || ALock.l_len == 0 ||
+        ALock.l_start + ALock.l_len > cFirstRange + 4 * cRangeSize;
+}
+
+// Whether another open file of this library holds a lock in the range. Behind a foreign lock none can be seen.
 bool IsTaken(int AFile, TRange ARange) {
     struct flock Where {};
     Where.l_type = F_WRLCK;
     Where.l_whence = SEEK_SET;
     Where.l_start = StartOf(ARange);
     Where.l_len = cRangeSize;
-    return fcntl(AFile, F_OFD_GETLK, &Where) == 0 && Where.l_type != F_UNLCK;
+    return fcntl(AFile, F_OFD_GETLK, &Where) == 0 && Where.l_type != F_UNLCK && !IsForeign(Where);
 }
 
-bool IsLockConflict() {
-    return errno == EAGAIN || errno == EACCES;
+// Whether a place is refused to an exclusive lock because a handle of this library has it.
+bool IsOccupied(int AFile, off_t APlace) {
+    struct flock Where {};
+    Where.l_type = F_WRLCK;
+    Where.l_whence = SEEK_SET;
+    Where.l_start = APlace;
+    Where.l_len = 1;
+    const bool IsConflict = errno == EAGAIN || errno == EACCES;
+    return IsConflict && fcntl(AFile, F_OFD_GETLK, &Where) == 0 && !IsForeign(Where);
 }
 
-// False where locks are not to be had at all.
+// False where locks are not to be had at all, or a foreign one covers the range.
 bool Enter(int AFile, TRange ARange, bool ACanRead) {
     if (ACanRead)
         return Lock(AFile, F_RDLCK, StartOf(ARange), 1);
@@ -56,7 +69,7 @@ bool Enter(int AFile, TRange ARange, bool ACanRead) {
         const auto Place = static_cast<off_t>(1 + Random());
         if (Lock(AFile, F_WRLCK, StartOf(ARange) + Place, 1))
             return true;
-        if (!IsLockConflict())
+        if (!IsOccupied(AFile, StartOf(ARange) + Place))
             return false;
     }
 }

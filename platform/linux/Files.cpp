@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -11,6 +12,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include "platform/linux/FileSharing.h"
@@ -62,10 +64,21 @@ std::optional<struct stat> StatusOf(std::u16string_view APath) {
     return Status;
 }
 
+bool MakeRoom(std::vector<std::byte>& AOut, size_t ASize) {
+    try {
+        AOut.resize(ASize);
+    } catch (const std::exception&) {
+        errno = ENOMEM;
+        return false;
+    }
+    return true;
+}
+
 bool ReadAll(int AFile, size_t AExpected, std::vector<std::byte>& AOut) {
     size_t Length = 0;
     // One byte more than expected, so that the end shows without another growth.
-    AOut.resize(AExpected + 1);
+    if (!MakeRoom(AOut, AExpected + 1))
+        return false;
     for (;;) {
         const ssize_t Got = detail::ReadSome(AFile, std::span(AOut).subspan(Length));
         if (Got < 0)
@@ -75,8 +88,8 @@ bool ReadAll(int AFile, size_t AExpected, std::vector<std::byte>& AOut) {
             AOut.resize(Length);
             return true;
         }
-        if (Length == AOut.size())
-            AOut.resize(std::max<size_t>(AOut.size() * 2, 4096));
+        if (Length == AOut.size() && !MakeRoom(AOut, std::max<size_t>(AOut.size() * 2, 4096)))
+            return false;
     }
 }
 
@@ -88,8 +101,13 @@ bool WriteAll(int AFile, TPieces APieces) {
 }
 
 bool WriteInPlace(const char* APath, TPieces APieces, TError& AError) {
-    TFile File(APath, O_WRONLY | O_TRUNC | O_NOCTTY);
-    return Outcome(AError, File.IsOpen() && WriteAll(File.Handle(), APieces) && File.Close());
+    TFile File(APath, O_WRONLY | O_CREAT | O_NOCTTY, 0666);
+    if (File.IsOpen() && detail::IsDenied(File.Handle(), TFileAccess::Write))
+        return Fail(AError, ETXTBSY);
+    struct stat Status;
+    const bool Ok = File.IsOpen() && fstat(File.Handle(), &Status) == 0 &&
+        (!S_ISREG(Status.st_mode) || ftruncate(File.Handle(), 0) == 0) && WriteAll(File.Handle(), APieces);
+    return Outcome(AError, Ok && File.Close());
 }
 
 // A name beside APath that no other thread or process uses.
@@ -100,9 +118,39 @@ std::string NameBeside(const std::string& APath) {
     return Directory + ".qz" + std::to_string(getpid()) + "-" + std::to_string(++Counter) + ".tmp";
 }
 
-// The owner first, as a change of owner takes rights away.
-bool TakeRights(int AFile, const struct stat& AOld) {
-    return fchown(AFile, AOld.st_uid, AOld.st_gid) == 0 && fchmod(AFile, AOld.st_mode & 07777) == 0;
+// An attribute of the old file: the list of those who may use it, or one that a user set. False when the new file
+// cannot have it.
+bool TakeAttribute(int AFile, const std::string& APath, const char* AName) {
+    const ssize_t Size = getxattr(APath.c_str(), AName, nullptr, 0);
+    if (Size < 0)
+        return errno == ENODATA || errno == ENOTSUP;
+    std::vector<char> Value(static_cast<size_t>(Size));
+    const ssize_t Got = getxattr(APath.c_str(), AName, Value.data(), Value.size());
+    return Got >= 0 && fsetxattr(AFile, AName, Value.data(), static_cast<size_t>(Got), 0) == 0;
+}
+
+bool TakeAttributes(int AFile, const std::string& APath) {
+    const ssize_t Size = listxattr(APath.c_str(), nullptr, 0);
+    if (Size <= 0)
+        return Size == 0 || errno == ENOTSUP;
+    std::vector<char> Names(static_cast<size_t>(Size) + 1);
+    const ssize_t Got = listxattr(APath.c_str(), Names.data(), static_cast<size_t>(Size));
+    for (const char* Name = Names.data(); Name < Names.data() + Got; Name += std::strlen(Name) + 1) {
+        const std::string_view View(Name);
+        if ((View == "system.posix_acl_access" || View.starts_with("user.")) &&
+            !TakeAttribute(AFile, APath, Name))
+            return false;
+    }
+    return Got >= 0;
+}
+
+// The owner first, as a change of owner takes rights away. Any failure says that the rights cannot be kept.
+bool TakeRights(int AFile, const std::string& APath, const struct stat& AOld) {
+    const bool Ok = fchown(AFile, AOld.st_uid, AOld.st_gid) == 0 &&
+        fchmod(AFile, AOld.st_mode & 07777) == 0 && TakeAttributes(AFile, APath);
+    if (!Ok)
+        errno = EPERM;
+    return Ok;
 }
 
 bool WriteBeside(const std::string& APath, const struct stat* AOld, TPieces APieces, TError& AError) {
@@ -114,7 +162,7 @@ bool WriteBeside(const std::string& APath, const struct stat* AOld, TPieces APie
     } while (!File->IsOpen() && errno == EEXIST);
     if (!File->IsOpen())
         return Outcome(AError, false);
-    const bool Ok = (AOld == nullptr || TakeRights(File->Handle(), *AOld)) &&
+    const bool Ok = (AOld == nullptr || TakeRights(File->Handle(), APath, *AOld)) &&
         WriteAll(File->Handle(), APieces) && File->Close() && rename(Beside.c_str(), APath.c_str()) == 0;
     Outcome(AError, Ok);
     if (!Ok)
@@ -222,7 +270,8 @@ bool WriteWholeFile(std::u16string_view APath, TPieces APieces, TError& AError) 
     const bool Exists = lstat(Path->c_str(), &Old) == 0;
     if (Exists && S_ISDIR(Old.st_mode))
         return Fail(AError, EISDIR);
-    if (Exists && !S_ISREG(Old.st_mode))
+    // What has more than one name stays one file.
+    if (Exists && (!S_ISREG(Old.st_mode) || Old.st_nlink > 1))
         return WriteInPlace(Path->c_str(), APieces, AError);
     // A new file in its place would get around the write protection of the old one.
     if (Exists && faccessat(AT_FDCWD, Path->c_str(), W_OK, AT_EACCESS) != 0)

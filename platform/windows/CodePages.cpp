@@ -86,6 +86,7 @@ size_t CodePageToUtf16(uint32_t APage, std::span<const std::byte> ASource, std::
     if (!Prepare(APage, ASource.size(), AError))
         return 0;
     const uint32_t Page = RealPage(APage);
+    SetLastError(ERROR_SUCCESS); // which a text that gives nothing leaves
     const int Length =
         MultiByteToWideChar(Page, FlagsOf(Page, ADecoding), reinterpret_cast<const char*>(ASource.data()),
                             SizeOf(ASource.size()), detail::Wide(ATarget.data()), SizeOf(ATarget.size()));
@@ -97,6 +98,7 @@ size_t Utf16ToCodePage(uint32_t APage, std::u16string_view ASource, std::span<ch
     if (!Prepare(APage, ASource.size(), AError))
         return 0;
     const uint32_t Page = RealPage(APage);
+    SetLastError(ERROR_SUCCESS);
     const int Length =
         WideCharToMultiByte(Page, FlagsOf(Page, AComposing), detail::Wide(ASource.data()),
                             SizeOf(ASource.size()), ATarget.data(), SizeOf(ATarget.size()), nullptr, nullptr);

@@ -96,10 +96,21 @@ TDirEntry EntryOf(const std::u16string& ADirectory, const WIN32_FIND_DATAW& ADat
     return Result;
 }
 
+bool MakeRoom(std::vector<std::byte>& AOut, size_t ASize) {
+    try {
+        AOut.resize(ASize);
+    } catch (const std::exception&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return false;
+    }
+    return true;
+}
+
 bool ReadAll(HANDLE AFile, size_t AExpected, std::vector<std::byte>& AOut) {
     size_t Length = 0;
     // One byte more than expected, so that the end shows without another growth.
-    AOut.resize(AExpected + 1);
+    if (!MakeRoom(AOut, AExpected + 1))
+        return false;
     for (;;) {
         const auto Step = static_cast<DWORD>(std::min(AOut.size() - Length, cLargestStep));
         DWORD Got = 0;
@@ -112,8 +123,8 @@ bool ReadAll(HANDLE AFile, size_t AExpected, std::vector<std::byte>& AOut) {
             AOut.resize(Length);
             return true;
         }
-        if (Length == AOut.size())
-            AOut.resize(std::max<size_t>(AOut.size() * 2, 4096));
+        if (Length == AOut.size() && !MakeRoom(AOut, std::max<size_t>(AOut.size() * 2, 4096)))
+            return false;
     }
 }
 
@@ -164,7 +175,12 @@ bool WriteBeside(std::u16string_view APath, const std::u16string& ASystemPath, b
                      : MoveFileExW(Wide(Beside), Wide(ASystemPath), MOVEFILE_REPLACE_EXISTING) != 0;
         Outcome(AError, Ok);
     }
-    if (!Ok)
+    // The old file may be gone by then, and the new bytes are all that is left.
+    const bool IsHalfDone =
+        AError.Code == ERROR_UNABLE_TO_MOVE_REPLACEMENT || AError.Code == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
+    if (!Ok && IsHalfDone)
+        Ok = Outcome(AError, MoveFileExW(Wide(Beside), Wide(ASystemPath), MOVEFILE_REPLACE_EXISTING) != 0);
+    if (!Ok && (!AExists || GetFileAttributesW(Wide(ASystemPath)) != INVALID_FILE_ATTRIBUTES))
         DeleteFileW(Wide(Beside));
     return Ok;
 }

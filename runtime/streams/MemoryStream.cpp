@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <new>
+#include <utility>
 
 #include "platform/Files.h"
 #include "runtime/errors/Exceptions.h"
@@ -69,9 +71,16 @@ std::int32_t TMemoryStream::Write(const void* ABuffer, std::int32_t ACount) {
     std::int64_t End = 0;
     if (__builtin_add_overflow(FPosition, ACount, &End))
         throw std::bad_alloc();
+    // The block may move, and with it a source that lies in it.
+    const auto* Source = static_cast<const std::byte*>(ABuffer);
+    const std::less<> Before;
+    const auto* Start = static_cast<const std::byte*>(Memory());
+    const bool Inside = !Before(Source, Start) && Before(Source, Start + FCapacity);
+    const std::ptrdiff_t Offset = Inside ? Source - Start : 0;
     if (End > GetSize())
         SetSize(End);
-    std::memcpy(static_cast<std::byte*>(Memory()) + FPosition, ABuffer, static_cast<std::size_t>(ACount));
+    auto* Block = static_cast<std::byte*>(Memory());
+    std::memmove(Block + FPosition, Inside ? Block + Offset : Source, static_cast<std::size_t>(ACount));
     FPosition = End;
     return ACount;
 }
@@ -97,11 +106,16 @@ void TMemoryStream::Clear() {
 }
 
 void TMemoryStream::LoadFromStream(TStream& AStream) {
+    // The new content is complete before the old one goes.
+    TMemoryStream Fresh;
     AStream.SetPosition(0);
-    const std::int64_t Size = AStream.Size();
-    SetSize(Size);
+    Fresh.SetSize(AStream.Size());
+    AStream.ReadBuffer(Fresh.Memory(), Fresh.GetSize());
+    void* const Old = Memory();
+    SetPointer(Fresh.Memory(), Fresh.GetSize());
+    Fresh.SetPointer(Old, 0);
+    std::swap(FCapacity, Fresh.FCapacity);
     FPosition = 0;
-    AStream.ReadBuffer(Memory(), Size);
 }
 
 void TMemoryStream::LoadFromFile(const TStringArg& AFileName) {

@@ -61,7 +61,7 @@ public:
     TMemoryStream() = default;
     ~TMemoryStream() override;
 
-    // Always ACount; a negative count counts as 0.
+    // Always ACount; a negative count counts as 0. ABuffer may lie in the stream itself.
     std::int32_t Write(const void* ABuffer, std::int32_t ACount) override;
     // New bytes are 0. A position behind the new end moves to it. Raises std::bad_alloc and leaves the stream as it
     // was.
@@ -69,7 +69,8 @@ public:
     // No content and no memory, position 0.
     void Clear();
 
-    // Replace the content; the position is 0 then. From a stream: all of it, whatever its position.
+    // Replace the content; the position is 0 then. From a stream: all of it, whatever its position. When that raises,
+    // the content is as it was.
     void LoadFromStream(TStream& AStream);
     // Raises EFOpenError.
     void LoadFromFile(const TStringArg& AFileName);

@@ -56,7 +56,7 @@ public:
     void WriteBuffer(const void* ABuffer, std::int64_t ACount);
     void WriteBuffer(const TBytes& ABytes);
 
-    // Copies ACount bytes from the position of ASource to that of this stream; with 0, all of ASource from its start.
+    // Copies ACount bytes from the position of ASource to that of this stream; with 0 or less, all of ASource from its start.
     // The number copied. Raises as ReadBuffer and WriteBuffer do.
     std::int64_t CopyFrom(TStream& ASource, std::int64_t ACount = 0);
     // Copies what lies between the position of ASource and its end, which may be nothing.

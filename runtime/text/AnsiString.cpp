@@ -51,7 +51,7 @@ TByteText TByteText::Recode(const TByteText& AText, std::uint16_t ACodePage) {
     return Encode(AText.ToUnicode(), ACodePage);
 }
 
-void TByteText::SetLength(std::size_t ALength) {
+void TByteText::SetLength(std::size_t ALength, std::uint16_t ACodePage) {
     const std::size_t Old = size();
     if (ALength == 0) {
         *this = TByteText();
@@ -59,7 +59,8 @@ void TByteText::SetLength(std::size_t ALength) {
     }
     if (FData == nullptr || !Block()->IsUnique()) {
         TByteText Fresh;
-        Fresh.FData = TBlock::Allocate(1, CodePage(), ALength, ALength)->Data<char>();
+        Fresh.FData =
+            TBlock::Allocate(1, FData == nullptr ? ACodePage : CodePage(), ALength, ALength)->Data<char>();
         std::memcpy(Fresh.FData, data(), std::min(ALength, Old));
         std::swap(FData, Fresh.FData);
     } else if (ALength > static_cast<std::size_t>(Block()->Capacity)) {

@@ -67,8 +67,8 @@ public:
     // the system's.
     UnicodeString ToUnicode() const;
 
-    // Cuts or lengthens; new bytes are 0. The text becomes private.
-    void SetLength(std::size_t ALength);
+    // Cuts or lengthens; new bytes are 0. The text becomes private. An empty text takes ACodePage.
+    void SetLength(std::size_t ALength, std::uint16_t ACodePage = cSystemCodePage);
     // The bytes for writing; null for the empty text. The text becomes private.
     char* UniqueData();
     // Says that the bytes are in another page, without converting them.
@@ -124,6 +124,7 @@ public:
         return Result;
     }
 
+    void SetLength(std::size_t ALength) { TByteText::SetLength(ALength, Page); }
     // An empty text takes the code page of the other.
     TAnsiText& operator+=(const TAnsiText& AText) {
         AppendBytes(AText.View(), AText.CodePage());

@@ -205,6 +205,9 @@ TEST(StreamBuf, LendsMemoryAndReadsTheRestOfAnythingElse) {
         EXPECT_EQ(IsOwn ? 7 : 10, Stream->Size());
     }
     EXPECT_EQ("0123abc", Content(Own));
+    void* Buffer = nullptr;
+    EXPECT_THROW(QzStreamToWriteBuf(Own, Buffer, SIZE_MAX), std::bad_alloc);
+    EXPECT_EQ("0123abc", Content(Own));
 }
 
 } // namespace

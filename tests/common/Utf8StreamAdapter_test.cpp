@@ -7,6 +7,7 @@
 #include "runtime/errors/Exceptions.h"
 #include "runtime/reflection/Describe.h"
 #include "runtime/text/Utf.h"
+#include "tests/support/WatchedStream.h"
 
 namespace qz {
 namespace {
@@ -115,9 +116,14 @@ TEST(Utf8StreamAdapter, WritesAMarkOnceAndTellsWhetherAllWasTaken) {
 }
 
 TEST(Utf8StreamAdapter, EndsAStreamThatItOwns) {
-    TQzUTF8StreamAdapter Owner(StreamOf("x").release(), true); // a leak checker tells
-    EXPECT_EQ(2, Owner.Size());
-    EXPECT_EQ(0, Owner.Position());
+    int Ends = 0;
+    for (const bool Owns : {false, true}) {
+        TWatchedStream Kept(Ends);
+        TStream* Stream = Owns ? TWatchedStream::Create(Ends).release() : &Kept;
+        TQzUTF8StreamAdapter Adapter(Stream, Owns);
+        EXPECT_EQ(0, Adapter.Size());
+    }
+    EXPECT_EQ(3, Ends) << "both that were kept, and the one that was owned";
 }
 
 // Texts across the borders of the steps in which they are converted.

@@ -150,6 +150,9 @@ TEST(QzEncoding, LengthMinusOneEndsBeforeTheTerminator) {
         EXPECT_EQ(0, TQzEncoding::ConvertW(u"x", 0, Narrow, 4, Page));
     }
     EXPECT_THROW(TQzEncoding::ConvertA("x", -2, 1252), EArgumentOutOfRangeException);
+    EXPECT_THROW(TQzEncoding::ConvertA("x", 1, 1252, Target, -4), EArgumentOutOfRangeException);
+    platform::SetLastError(5);
+    EXPECT_EQ(u"", TQzEncoding::ConvertA("+", 1, 65000)) << "whatever failed before";
 }
 
 TEST(QzEncoding, SaysWhichPageCannotBeConverted) {
@@ -225,6 +228,7 @@ TEST(QzNormalize, DecomposedUnitsTakeTheSystemsByte) {
     EXPECT_EQ(u"\u0080", QzNormalizeString(UnicodeString(u"\u20AC"), NormalizationD));
     EXPECT_EQ(u"\u0416", QzNormalizeString(UnicodeString(u"\u0416"), NormalizationD)) << "the page lacks it";
     EXPECT_EQ(u"?", QzNormalizeString(UnicodeString(u"\uFF1F"), NormalizationD)) << "a best fit";
+    EXPECT_EQ(u"\u0416", QzSimplifyString(UnicodeString(u"\u0416")));
     EXPECT_EQ(u"Lodz", QzSimplifyString(UnicodeString(u"\u0141\u00F3d\u017A")));
 }
 

@@ -46,6 +46,10 @@ TEST(MemoryStream, WritesReadsAndSeeks) {
     EXPECT_EQ(0, Stream.Write(&Byte, -1));
     Stream.Clear();
     EXPECT_EQ(0, Stream.Size());
+    Stream.WriteBuffer(std::string(300, 'x').data(), 300);
+    Stream.SaveToStream(Stream);
+    Stream.SetPosition(0);
+    EXPECT_EQ(std::string(600, 'x'), Rest(Stream));
 }
 
 TEST(Stream, CopiesAllTheRestOrSoMuch) {
@@ -72,7 +76,10 @@ TEST(Stream, GoesOnUntilAllIsThereOrTheStreamEnds) {
     EXPECT_EQ("01234567", std::string(Buffer, 8));
     EXPECT_THROW(Source.ReadBuffer(Buffer, 8), EReadError);
     TMemoryStream Target;
+    Target.WriteBuffer("old", 3);
     EXPECT_THROW(Target.LoadFromStream(Source), EReadError);
+    Target.SetPosition(0);
+    EXPECT_EQ("old", Rest(Target));
 }
 
 class FileStream : public testing::Test {

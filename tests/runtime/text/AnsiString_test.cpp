@@ -38,6 +38,14 @@ TEST(AnsiString, RawBytesKeepTheirPage) {
     EXPECT_EQ(Raw.ToUnicode(), u"\u00E4");
 }
 
+TEST(AnsiString, AnEmptyTextThatGrowsIsInThePageOfItsType) {
+    UTF8String Text;
+    Text.SetLength(2);
+    EXPECT_EQ(65001, Text.CodePage());
+    std::memcpy(Text.UniqueData(), "\xC3\xA4", 2);
+    EXPECT_EQ(u"ä", Text.ToUnicode());
+}
+
 TEST(AnsiString, RefusesAPageThatTheSystemDoesNotKnow) {
     const RawByteString Text(std::string_view("x"), 12345);
     EXPECT_THROW(Text.ToUnicode(), EOSError);

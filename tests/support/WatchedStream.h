@@ -1,0 +1,22 @@
+// A stream in memory that counts its end.
+#pragma once
+
+#include "common/uQzClasses/QzMemoryStream.h"
+#include "runtime/reflection/Describe.h"
+
+namespace qz {
+
+class TWatchedStream : public TQzMemoryStream {
+    QZ_CLASS(TWatchedStream, TQzMemoryStream)
+
+public:
+    explicit TWatchedStream(int& AEnds) : TQzMemoryStream(16), FEnds(AEnds) {}
+    ~TWatchedStream() override { ++FEnds; }
+
+private:
+    int& FEnds;
+};
+inline constinit const TClassRec TWatchedStream::ClassRec =
+    DescribeClass<TWatchedStream>(u"TWatchedStream", {.Unit = u"Test"});
+
+} // namespace qz
