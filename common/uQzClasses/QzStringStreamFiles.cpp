@@ -55,7 +55,7 @@ RawByteString TQzStringStream::BytesToSave(std::uint16_t ACodePage) const {
 }
 
 void TQzStringStream::SaveToStream(TStream& AStream, std::uint16_t ACodePage, bool AWriteBOM) const {
-    const std::string_view Mark = AWriteBOM ? QzCodePageMark(ACodePage) : std::string_view();
+    const std::string_view Mark = AWriteBOM ? ByteOrderMark(ACodePage) : std::string_view();
     if (IsPlainCopy(FCodePage, ACodePage)) {
         AStream.WriteBuffer(Mark.data(), static_cast<std::int64_t>(Mark.size()));
         AStream.WriteBuffer(FBufferStart, static_cast<std::int64_t>(FContentSize));
@@ -67,7 +67,7 @@ void TQzStringStream::SaveToStream(TStream& AStream, std::uint16_t ACodePage, bo
 }
 
 void TQzStringStream::SaveToFile(const TStringArg& AFileName, std::uint16_t ACodePage, bool AWriteBOM) const {
-    const std::string_view Mark = AWriteBOM ? QzCodePageMark(ACodePage) : std::string_view();
+    const std::string_view Mark = AWriteBOM ? ByteOrderMark(ACodePage) : std::string_view();
     const bool AsItStands = IsPlainCopy(FCodePage, ACodePage);
     const RawByteString Converted = AsItStands ? RawByteString() : BytesToSave(ACodePage);
     const std::span<const std::byte> Pieces[] = {

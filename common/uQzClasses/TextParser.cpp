@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "common/uQzClasses/QzMemoryStream.h"
+#include "common/uQzClasses/TextParserKinds.h"
 #include "runtime/errors/DescribeException.h"
 #include "runtime/reflection/Describe.h"
 #include "runtime/streams/MemoryStream.h"
@@ -220,23 +221,10 @@ void TQzTextParser::ClearMarks(TQzTextParserPosType AFromPos, TQzTextParserPosTy
     }
 }
 
-AnsiString TQzTextParser::Narrow(std::u16string_view AText) const {
-    platform::TError Error;
-    const std::size_t Length =
-        EncodeCodePage(cSystemCodePage, AText, {}, platform::TComposing::Composite, Error);
-    AnsiString Result = AnsiString::ForOverwrite(Length);
-    if (Length != 0)
-        EncodeCodePage(cSystemCodePage, AText, {Result.UniqueData(), Length}, platform::TComposing::Composite,
-                       Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(cSystemCodePage, Error);
-    return Result;
-}
-
 AnsiString TQzTextParser::SelectedA(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos,
                                     bool AClearMarks) {
     if (FCharacterSetType != SBCS)
-        return Narrow(SelectedW(AFromPos, ATillPos, AClearMarks));
+        return detail::NarrowText(SelectedW(AFromPos, ATillPos, AClearMarks));
     const std::span<const std::byte> Bytes = SelectedBytes(AFromPos, ATillPos);
     AnsiString Result(std::string_view(reinterpret_cast<const char*>(Bytes.data()), Bytes.size()),
                       cSystemCodePage);

@@ -270,7 +270,6 @@ private:
     }
     const TByteClass& ClassOf(const TQzTextParserCharSet& ASet);
     const char16_t* WideTable();
-    AnsiString Narrow(std::u16string_view AText) const;
 
     std::unique_ptr<std::uint8_t[]> FBuffer;
     TQzTextPos FPeekPrevPos = nullptr;      // PrevPos when the look-ahead began

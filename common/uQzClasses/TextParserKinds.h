@@ -18,6 +18,11 @@ inline std::size_t StepLength(std::uint8_t AFirst) noexcept {
     return 1u + (AFirst >= 0xC0) + (AFirst >= 0xE0) + (AFirst >= 0xF0);
 }
 
+// The text in the system's code page.
+inline AnsiString NarrowText(std::u16string_view AText) {
+    return AnsiString::Encoded(AText, cSystemCodePage, platform::TComposing::Composite);
+}
+
 // The first byte of the unit in the system's code page.
 char NarrowUnit(char16_t AUnit);
 

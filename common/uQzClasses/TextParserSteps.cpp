@@ -201,7 +201,7 @@ UnicodeString TTextParserKind<Kind>::PeekStringW(TQzTextParser& AParser, std::in
 template <TQzCharacterSetType Kind>
 AnsiString TTextParserKind<Kind>::PeekStringA(TQzTextParser& AParser, std::int32_t ACount) {
     if constexpr (Kind != SBCS)
-        return AParser.Narrow(PeekStringW(AParser, ACount));
+        return NarrowText(PeekStringW(AParser, ACount));
     const std::span<const std::byte> Bytes = Ahead(AParser, ACount);
     return AnsiString(std::string_view(reinterpret_cast<const char*>(Bytes.data()), Bytes.size()),
                       cSystemCodePage);

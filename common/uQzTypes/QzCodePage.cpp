@@ -44,21 +44,6 @@ static_assert(std::ranges::is_sorted(cCodePageNames, {}, &TCodePageName::Number)
 static_assert(std::ranges::all_of(cByName,
                                   [](const TCodePageName& A) { return A.Name.size() <= cLongestName; }));
 
-// A byte order mark and its code page, the longer ones first as two of them begin alike.
-struct TMark {
-    std::string_view Bytes;
-    std::uint16_t CodePage;
-};
-constexpr TMark cMarks[] = {
-    {cQzUTF32BE, 12001}, {cQzUTF32LE, 12000}, {cQzUTF8, 65001}, {cQzUTF16BE, 1201}, {cQzUTF16LE, 1200},
-};
-
-const TMark* FindMark(std::string_view AText) {
-    const auto* Mark =
-        std::ranges::find_if(cMarks, [&](const TMark& A) { return AText.starts_with(A.Bytes); });
-    return Mark == std::end(cMarks) ? nullptr : Mark;
-}
-
 bool LooksLikeUtf16(std::string_view AText) {
     return AText.size() >= 3 && AText[0] != '\0' && AText[1] == '\0';
 }
@@ -93,9 +78,9 @@ UnicodeString QzCodePage(std::uint16_t ANumber) {
 std::uint16_t QzGetCodePage(const void* ABuffer, std::int32_t ASize) {
     const std::string_view Text(static_cast<const char*>(ABuffer),
                                 static_cast<std::size_t>(std::max(ASize, 0)));
-    if (const TMark* Mark = FindMark(Text))
-        return Mark->CodePage;
-    return LooksLikeUtf16(Text) ? 1200 : 0;
+    if (const std::uint16_t Found = CodePageOfMark(Text))
+        return Found;
+    return LooksLikeUtf16(Text) ? cUtf16CodePage : std::uint16_t{0};
 }
 
 std::uint16_t QzGetCodePage(TStream& AStream) {
@@ -111,16 +96,11 @@ std::uint16_t QzGetCodePage(TStream& AStream) {
         Size += static_cast<std::size_t>(Got);
     }
     const std::string_view Text(Buffer, Size);
-    const TMark* Mark = FindMark(Text);
-    AStream.SetPosition(Start + (Mark == nullptr ? 0 : static_cast<std::int64_t>(Mark->Bytes.size())));
-    if (Mark != nullptr)
-        return Mark->CodePage;
-    return LooksLikeUtf16(Text) ? 1200 : 0;
-}
-
-std::string_view QzCodePageMark(std::uint16_t ACodePage) noexcept {
-    const auto* Mark = std::ranges::find(cMarks, ACodePage, &TMark::CodePage);
-    return Mark == std::end(cMarks) ? std::string_view() : Mark->Bytes;
+    const std::uint16_t Found = CodePageOfMark(Text);
+    AStream.SetPosition(Start + static_cast<std::int64_t>(ByteOrderMark(Found).size()));
+    if (Found != 0)
+        return Found;
+    return LooksLikeUtf16(Text) ? cUtf16CodePage : std::uint16_t{0};
 }
 
 } // namespace qz

@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "runtime/streams/Stream.h"
+#include "runtime/text/CodePages.h"
 #include "runtime/text/StringArg.h"
 #include "runtime/text/UnicodeString.h"
 
@@ -36,7 +37,5 @@ QZ_API UnicodeString QzCodePage(std::uint16_t ANumber);
 QZ_API std::uint16_t QzGetCodePage(const void* ABuffer, std::int32_t ASize);
 // The same for what follows the position. The stream stands behind a mark that was found, else where it stood.
 QZ_API std::uint16_t QzGetCodePage(TStream& AStream);
-// The mark of a code page; empty for one that has none.
-QZ_API std::string_view QzCodePageMark(std::uint16_t ACodePage) noexcept;
 
 } // namespace qz

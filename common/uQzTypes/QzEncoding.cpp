@@ -64,18 +64,7 @@ std::int32_t Checked(std::size_t ACount, std::uint16_t ACodePage, TError AError)
 }
 
 RawByteString Encoded(std::u16string_view AText, std::uint16_t ACodePage) {
-    if (AText.empty())
-        return {};
-    TError Error;
-    const std::size_t Length = EncodeCodePage(ACodePage, AText, {}, TComposing::Composite, Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(ACodePage, Error);
-    RawByteString Result = RawByteString::ForOverwrite(Length, ACodePage);
-    if (Length != 0)
-        EncodeCodePage(ACodePage, AText, {Result.UniqueData(), Length}, TComposing::Composite, Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(ACodePage, Error);
-    return Result;
+    return RawByteString::Encoded(AText, ACodePage, TComposing::Composite);
 }
 
 } // namespace

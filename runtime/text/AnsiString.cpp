@@ -29,15 +29,15 @@ UnicodeString TByteText::ToUnicode() const {
     return CodePageToUnicode(CodePage(), Bytes());
 }
 
-TByteText TByteText::Encode(std::u16string_view AText, std::uint16_t ACodePage) {
-    using platform::TComposing;
+TByteText TByteText::Encode(std::u16string_view AText, std::uint16_t ACodePage,
+                            platform::TComposing AComposing) {
     if (AText.empty())
         return {};
     platform::TError Error;
-    const std::size_t Length = EncodeCodePage(ACodePage, AText, {}, TComposing::Plain, Error);
+    const std::size_t Length = EncodeCodePage(ACodePage, AText, {}, AComposing, Error);
     TByteText Result = ForOverwrite(Length, ACodePage);
     if (Length != 0)
-        EncodeCodePage(ACodePage, AText, {Result.FData, Length}, TComposing::Plain, Error);
+        EncodeCodePage(ACodePage, AText, {Result.FData, Length}, AComposing, Error);
     if (Error.Code != 0)
         RaiseCodePageError(ACodePage, Error);
     return Result;

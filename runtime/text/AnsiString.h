@@ -88,7 +88,8 @@ public:
 protected:
     void AppendBytes(std::string_view AText, std::uint16_t ACodePage);
     static TByteText ForOverwrite(std::size_t ALength, std::uint16_t ACodePage);
-    static TByteText Encode(std::u16string_view AText, std::uint16_t ACodePage);
+    static TByteText Encode(std::u16string_view AText, std::uint16_t ACodePage,
+                            platform::TComposing AComposing = platform::TComposing::Plain);
     static TByteText Recode(const TByteText& AText, std::uint16_t ACodePage);
 
 private:
@@ -124,6 +125,13 @@ public:
         return Result;
     }
 
+    // Text in another code page than the type's, composed or not; see platform/CodePages.h.
+    static TAnsiText Encoded(std::u16string_view AText, std::uint16_t ACodePage,
+                             platform::TComposing AComposing) {
+        TAnsiText Result;
+        static_cast<TByteText&>(Result) = Encode(AText, ACodePage, AComposing);
+        return Result;
+    }
     void SetLength(std::size_t ALength) { TByteText::SetLength(ALength, Page); }
     // An empty text takes the code page of the other.
     TAnsiText& operator+=(const TAnsiText& AText) {

@@ -20,6 +20,21 @@ using TSource = std::span<const std::byte>;
 
 std::atomic<std::uint16_t> SystemPage{0}; // 0 while nobody has asked
 
+struct TMark {
+    std::uint16_t CodePage;
+    std::string_view Bytes;
+};
+
+using namespace std::string_view_literals;
+// The marks of UTF-32 stand first, as one of them begins with one of UTF-16.
+constexpr TMark cMarks[] = {
+    {cUtf32SwappedCodePage, "\0\0\xFE\xFF"sv},
+    {cUtf32CodePage, "\xFF\xFE\0\0"sv},
+    {cUtf8CodePage, "\xEF\xBB\xBF"sv},
+    {cUtf16SwappedCodePage, "\xFE\xFF"sv},
+    {cUtf16CodePage, "\xFF\xFE"sv},
+};
+
 std::string_view Chars(TSource ASource) noexcept {
     return {reinterpret_cast<const char*>(ASource.data()), ASource.size()};
 }
@@ -212,6 +227,17 @@ UnicodeString CodePageToUnicode(std::uint16_t ACodePage, TSource ASource) {
     if (Error.Code != 0)
         RaiseCodePageError(ACodePage, Error);
     return Result;
+}
+
+std::string_view ByteOrderMark(std::uint16_t ACodePage) noexcept {
+    const auto* Mark = std::ranges::find(cMarks, ACodePage, &TMark::CodePage);
+    return Mark == std::end(cMarks) ? std::string_view() : Mark->Bytes;
+}
+
+std::uint16_t CodePageOfMark(std::string_view ABytes) noexcept {
+    const auto* Mark =
+        std::ranges::find_if(cMarks, [&](const TMark& A) { return ABytes.starts_with(A.Bytes); });
+    return Mark == std::end(cMarks) ? std::uint16_t{0} : Mark->CodePage;
 }
 
 void RaiseCodePageError(std::uint16_t ACodePage, TError AError) {

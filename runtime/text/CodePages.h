@@ -51,6 +51,11 @@ QZ_API std::size_t EncodeCodePage(std::uint16_t ACodePage, std::u16string_view A
                                   std::span<char> ATarget, platform::TComposing AComposing,
                                   platform::TError& AError);
 
+// The mark that opens a text in the page: of UTF-8, UTF-16 and UTF-32; empty for any other.
+QZ_API std::string_view ByteOrderMark(std::uint16_t ACodePage) noexcept;
+// The page whose mark ABytes begin with, 0 without one.
+QZ_API std::uint16_t CodePageOfMark(std::string_view ABytes) noexcept;
+
 // The whole text, leniently. Raises EOSError naming the page when the system cannot convert it.
 QZ_API UnicodeString CodePageToUnicode(std::uint16_t ACodePage, std::span<const std::byte> ASource);
 

@@ -12,21 +12,6 @@ using platform::TComposing;
 using platform::TDecoding;
 using platform::TError;
 
-struct TMark {
-    std::uint16_t CodePage;
-    std::string_view Bytes;
-};
-
-using namespace std::string_view_literals;
-// The marks of UTF-32 stand first, as one of them begins with one of UTF-16.
-constexpr TMark cMarks[] = {
-    {cUtf32SwappedCodePage, "\0\0\xFE\xFF"sv},
-    {cUtf32CodePage, "\xFF\xFE\0\0"sv},
-    {cUtf8CodePage, "\xEF\xBB\xBF"sv},
-    {cUtf16SwappedCodePage, "\xFE\xFF"sv},
-    {cUtf16CodePage, "\xFF\xFE"sv},
-};
-
 std::span<char> Chars(const TBytes& ABytes) {
     return {reinterpret_cast<char*>(ABytes.data()), ABytes.Length()};
 }
@@ -40,10 +25,8 @@ bool TEncoding::IsSingleByte() const {
 }
 
 TBytes TEncoding::GetPreamble() const {
-    const auto* Mark = std::ranges::find(cMarks, RealCodePage(FCodePage), &TMark::CodePage);
-    if (Mark == std::end(cMarks))
-        return {};
-    return TBytes(std::span(reinterpret_cast<const std::uint8_t*>(Mark->Bytes.data()), Mark->Bytes.size()));
+    const std::string_view Mark = ByteOrderMark(RealCodePage(FCodePage));
+    return TBytes(std::span(reinterpret_cast<const std::uint8_t*>(Mark.data()), Mark.size()));
 }
 
 std::size_t TEncoding::GetByteCount(const TStringArg& AText) const {
@@ -112,12 +95,9 @@ const TEncoding& TEncoding::BigEndianUnicode() {
 
 TEncoding TEncoding::Detect(std::span<const std::byte> ABytes, const TEncoding& ADefault,
                             std::size_t& AMarkLength) {
-    const std::string_view Text(reinterpret_cast<const char*>(ABytes.data()), ABytes.size());
-    const auto* Mark =
-        std::ranges::find_if(cMarks, [&](const TMark& A) { return Text.starts_with(A.Bytes); });
-    const bool Found = Mark != std::end(cMarks);
-    AMarkLength = Found ? Mark->Bytes.size() : 0;
-    return Found ? TEncoding(Mark->CodePage) : ADefault;
+    const std::uint16_t Found = CodePageOfMark({reinterpret_cast<const char*>(ABytes.data()), ABytes.size()});
+    AMarkLength = ByteOrderMark(Found).size();
+    return Found != 0 ? TEncoding(Found) : ADefault;
 }
 
 } // namespace qz

@@ -8,6 +8,7 @@
 #include "runtime/reflection/Describe.h"
 #include "runtime/streams/FileStream.h"
 #include "tests/platform/TemporaryDirectory.h"
+#include "tests/support/Message.h"
 #include "tests/support/SystemPage.h"
 #include "tests/support/WatchedStream.h"
 
@@ -18,15 +19,6 @@ using namespace std::string_literals;
 
 std::string Content(const TQzMemoryStream& AStream) {
     return {reinterpret_cast<const char*>(AStream.FBufferStart), AStream.FContentSize};
-}
-
-template <class TStep> UnicodeString Message(const TStep& AStep) {
-    try {
-        AStep();
-    } catch (const Exception& Error) {
-        return Error.Message();
-    }
-    return {};
 }
 
 AnsiString Ansi(std::string_view AText) {

@@ -7,6 +7,7 @@
 #include "runtime/errors/Exceptions.h"
 #include "runtime/reflection/Describe.h"
 #include "runtime/text/Utf.h"
+#include "tests/support/Message.h"
 #include "tests/support/WatchedStream.h"
 
 namespace qz {
@@ -40,15 +41,6 @@ std::unique_ptr<TQzMemoryStream> StreamOf(std::string_view ABytes) {
 
 std::string Content(const TQzMemoryStream& AStream) {
     return {reinterpret_cast<const char*>(AStream.FBufferStart), AStream.FContentSize};
-}
-
-template <class TStep> UnicodeString Message(const TStep& AStep) {
-    try {
-        AStep();
-    } catch (const Exception& Error) {
-        return Error.Message();
-    }
-    return {};
 }
 
 TEST(Utf8StreamAdapter, ReadsUnitsAndNoByteMoreThanTheyHave) {

@@ -4,19 +4,11 @@
 
 #include "common/uQzClasses/QzMemoryStream.h"
 #include "runtime/errors/Exceptions.h"
+#include "tests/support/Message.h"
 #include "tests/support/SystemPage.h"
 
 namespace qz {
 namespace {
-
-template <class TStep> UnicodeString Message(const TStep& AStep) {
-    try {
-        AStep();
-    } catch (const Exception& Error) {
-        return Error.Message();
-    }
-    return {};
-}
 
 TEST(QzCodePage, KnowsNamesInAnyCaseAndTheFirstOfTwo) {
     const std::pair<const char*, int> Cases[] = {
