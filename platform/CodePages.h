@@ -55,7 +55,7 @@ QZ_API int CodeOfTooSmallTarget() noexcept;
 QZ_API int CodeOfInvalidText() noexcept;
 
 // The most bytes that one character takes in code page APage, as the system counts them; 0 for a page that
-// isn't known. Page 0 stands for SystemCodePage. Any thread.
+// isn't known. Page 0 stands for SystemCodePage. Raises std::bad_alloc. Any thread.
 QZ_API uint32_t CodePageMaxCharSize(uint32_t APage);
 
 } // namespace qz::platform

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <climits>
 #include <clocale>
+#include <new>
 
 #include <langinfo.h>
 
@@ -69,6 +70,8 @@ uint32_t CodePageMaxCharSize(uint32_t APage) {
     const uint32_t Page = RealPage(APage);
     if (const detail::TCodePage* Tables = TablesOf(Page, Error))
         return Tables->IsDouble() ? 2 : 1;
+    if (Error.Code == ENOMEM)
+        throw std::bad_alloc(); // else the page would count as one that isn't known
     return detail::StreamMaxCharSize(Page);
 }
 
