@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "common/uQzClasses/QzMemoryStream.h"
 #include "common/uQzClasses/TextParserKinds.h"
@@ -25,13 +26,17 @@ bool IsRefused(std::uint16_t ACodePage) {
     throw Exception(u"The specified encoding is not supported!");
 }
 
-// The block of a stream in memory, null for any other stream.
-TQzTextPos MemoryOf(TStream* AStream) {
-    if (const auto* Own = dynamic_cast<TQzMemoryStream*>(AStream))
-        return Own->FBufferStart;
-    if (const auto* Runtime = dynamic_cast<TCustomMemoryStream*>(AStream))
-        return static_cast<TQzTextPos>(Runtime->Memory());
-    return nullptr;
+// Whether the stream lies in memory; AMemory receives its block, which may be null.
+bool IsInMemory(TStream* AStream, TQzTextPos& AMemory) {
+    if (const auto* Own = dynamic_cast<TQzMemoryStream*>(AStream)) {
+        AMemory = Own->FBufferStart;
+        return true;
+    }
+    if (const auto* Runtime = dynamic_cast<TCustomMemoryStream*>(AStream)) {
+        AMemory = static_cast<TQzTextPos>(Runtime->Memory());
+        return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -79,39 +84,39 @@ void TQzTextParser::Start(std::uint16_t AContentCodePage) {
 
 void TQzTextParser::SetContentCodePage(std::uint16_t AValue) {
     if ((FCharacterSetType == MBCS) != (AValue == cUtf8CodePage) ||
-        (FCharacterSetType == DBCS) != (AValue == cUtf16CodePage) || IsRefused(AValue))
+        (FCharacterSetType != DBCS && AValue == cUtf16CodePage) || IsRefused(AValue))
         RaiseNotSupported();
     FContentCodePage = AValue;
-    FWideTable.reset();
+    FWideTable = nullptr;
 }
 
 void TQzTextParser::First() {
+    FPeekPos = FPeekPrevPos = FMarkPos1 = FMarkPos2 = FMarkPos3 = nullptr;
+    if (FStream != nullptr && FChunked && FChunk != 1) {
+        FBuffer.reset();
+        FBufStart = FBufEnd = nullptr;
+        FFreeBuffer = false;
+    }
+    // At the end, should the stream raise.
+    FState = TQzTextParserState{.CurPos = FBufEnd, .Eof = true};
     if (FStream != nullptr) {
-        if (FChunked && FChunk != 1) {
-            FBuffer.reset();
-            FBufStart = FBufEnd = nullptr;
-            FFreeBuffer = false;
-        }
         if (FBufStart == nullptr) {
             FStream->SetPosition(static_cast<std::int64_t>(FFirstPos));
             FChunked = false;
             FLastChunk = true;
         }
-    }
-    FPeekPos = FPeekPrevPos = FMarkPos1 = FMarkPos2 = FMarkPos3 = nullptr;
-    FState = TQzTextParserState{.Eof = true};
-    if (FStream != nullptr)
         LoadFirst(static_cast<std::size_t>(
             std::max<std::int64_t>(FStream->Size() - static_cast<std::int64_t>(FFirstPos), 0)));
+    }
     FState.CurPos = FBufStart;
-    FState.Eof = !IsAvailable(Unit());
+    Arrive();
 }
 
 // Brings the first chunk into memory, unless it is there.
 void TQzTextParser::LoadFirst(std::size_t ATotal) {
-    if (TQzTextPos Memory = MemoryOf(FStream)) {
-        FBufStart = Memory + std::min(FFirstPos, static_cast<std::size_t>(FStream->Size()));
-        FBufEnd = FBufStart + ATotal;
+    if (TQzTextPos Memory = nullptr; IsInMemory(FStream, Memory)) {
+        FBufStart = Memory + (ATotal == 0 ? 0 : FFirstPos);
+        FState.CurPos = FBufEnd = FBufStart + ATotal;
         FStream->Seek(std::int64_t{0}, soEnd);
         return;
     }
@@ -119,14 +124,7 @@ void TQzTextParser::LoadFirst(std::size_t ATotal) {
         return;
     const std::size_t Length = std::min(ATotal, FChunkSize);
     auto Block = std::make_unique_for_overwrite<std::uint8_t[]>(std::max<std::size_t>(Length, 1));
-    std::size_t Done = 0;
-    while (Done < Length) {
-        const auto Step = static_cast<std::int32_t>(std::min<std::size_t>(Length - Done, 1u << 30));
-        const std::int32_t Got = FStream->Read(Block.get() + Done, Step);
-        if (Got <= 0)
-            break;
-        Done += static_cast<std::size_t>(Got);
-    }
+    const std::size_t Done = ReadChunk(Block.get(), Length);
     FBuffer = std::move(Block);
     FBufStart = FBuffer.get();
     FBufEnd = FBufStart + Done;
@@ -137,17 +135,33 @@ void TQzTextParser::LoadFirst(std::size_t ATotal) {
     FLastChunk = !FChunked || Done < Length;
 }
 
-// A block with the last ACarry bytes of what is in memory and a new chunk behind them.
+// As much of a chunk as the stream gives, behind the first ACarry bytes of the block.
+std::size_t TQzTextParser::ReadChunk(std::uint8_t* ABlock, std::size_t ASize) {
+    std::size_t Done = 0;
+    while (Done < ASize) {
+        const auto Step = static_cast<std::int32_t>(std::min<std::size_t>(ASize - Done, 1u << 30));
+        const std::int32_t Got = FStream->Read(ABlock + Done, Step);
+        if (Got <= 0)
+            break;
+        Done += static_cast<std::size_t>(Got);
+    }
+    return Done;
+}
+
+// A block with the last ACarry bytes of what is in memory and a new chunk behind them. When reading fails, the stream
+// goes back, so that nothing is lost to a later try; and First starts over in any case.
 std::unique_ptr<std::uint8_t[]> TQzTextParser::Grown(std::size_t ACarry, std::size_t& ARead) {
     auto Block = std::make_unique_for_overwrite<std::uint8_t[]>(FChunkSize + ACarry);
     std::memcpy(Block.get(), FBufEnd - ACarry, ACarry);
-    for (ARead = 0; ARead < FChunkSize;) {
-        const auto Step = static_cast<std::int32_t>(std::min<std::size_t>(FChunkSize - ARead, 1u << 30));
-        const std::int32_t Got = FStream->Read(Block.get() + ACarry + ARead, Step);
-        if (Got <= 0)
-            break;
-        ARead += static_cast<std::size_t>(Got);
+    const std::int64_t Start = FStream->Position();
+    const std::int32_t Chunk = std::exchange(FChunk, 0);
+    try {
+        ARead = ReadChunk(Block.get() + ACarry, FChunkSize);
+    } catch (...) {
+        FStream->SetPosition(Start);
+        throw;
     }
+    FChunk = Chunk;
     return Block;
 }
 
@@ -195,10 +209,11 @@ void TQzTextParser::Last() {
     FState.PrevPos = nullptr;
     for (FState.Eof = false; !FState.Eof;) {
         FState.CurPos = FBufEnd;
-        if (FLastChunk)
-            FState.Eof = true;
-        else
+        const bool IsLast = FLastChunk;
+        FState.Eof = true; // should reading fail
+        if (!IsLast)
             GetNextChunk();
+        FState.Eof = IsLast;
     }
 }
 

@@ -103,13 +103,15 @@ public:
     TQzTextParser& operator=(const TQzTextParser&) = delete;
     ~TQzTextParser() override;
 
+    // Takes the bytes from the current place on for text of another kind; the code page stays as it is.
     virtual void SetCharacterSetType(TQzCharacterSetType AValue);
     TQzCharacterSetType CharacterSetType() const noexcept { return FCharacterSetType; }
     // Takes the text to be in another code page of the same kind. Raises "The specified encoding is not supported!".
     void SetContentCodePage(std::uint16_t AValue);
     std::uint16_t ContentCodePage() const noexcept { return FContentCodePage; }
 
-    // Where the parser stands. Pointers are valid until the next step. Eof is named so as EOF is a macro of C.
+    // Where the parser stands. Pointers are valid until the next operation
+    // that steps, looks ahead or gives a character, as each of these may fetch more. Eof is named so as EOF is a macro of C.
     bool Eof() const noexcept { return FState.Eof; }
     std::int32_t LineNr() const noexcept { return FState.LineNr; }
     std::int32_t ColNr() const noexcept { return FState.ColNr; }
@@ -182,7 +184,7 @@ public:
     std::int32_t SelectedCnt(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos) {
         return static_cast<std::int32_t>(SelectedBytes(AFromPos, ATillPos).size());
     }
-    // The bytes themselves, where they lie; valid until the next step.
+    // The bytes themselves, where they lie; valid as pointers are.
     std::span<const std::byte> SelectedBytes(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos) {
         const TQzTextPos Start = GetPos(AFromPos);
         if (ATillPos == tpPeekPos)
@@ -249,6 +251,7 @@ private:
     void Start(std::uint16_t AContentCodePage);
     void LoadFirst(std::size_t ATotal);
     void GetNextChunk();
+    std::size_t ReadChunk(std::uint8_t* ABlock, std::size_t ASize);
     std::unique_ptr<std::uint8_t[]> Grown(std::size_t ACarry, std::size_t& ARead);
     std::size_t Unit() const noexcept { return FCharacterSetType == DBCS ? 2 : 1; }
     std::size_t Left() const noexcept { return static_cast<std::size_t>(FBufEnd - FState.CurPos); }
@@ -272,8 +275,8 @@ private:
     const char16_t* WideTable();
 
     std::unique_ptr<std::uint8_t[]> FBuffer;
-    TQzTextPos FPeekPrevPos = nullptr;      // PrevPos when the look-ahead began
-    std::unique_ptr<char16_t[]> FWideTable; // each byte of the code page, once it was needed
+    TQzTextPos FPeekPrevPos = nullptr;    // PrevPos when the look-ahead began
+    const char16_t* FWideTable = nullptr; // each byte of the code page, once it was needed
     TByteClass FClasses[2];
     int FNextClass = 0;
 };

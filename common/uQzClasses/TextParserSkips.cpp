@@ -91,10 +91,10 @@ template <TQzCharacterSetType Kind> void TTextParserKind<Kind>::Next(TQzTextPars
         Advance(State.CharsRead, cUnit);
     }
     if (IsNewLine) {
-        ++State.LineNr;
+        Advance(State.LineNr, 1);
         State.ColNr = 1;
     } else {
-        ++State.ColNr;
+        Advance(State.ColNr, 1);
     }
 }
 
@@ -124,12 +124,13 @@ bool TTextParserKind<Kind>::Run(TQzTextParser& AParser, const TTest& ATest) {
                 break;
         }
         if ((Kind == DBCS ? UnitAt(Pos) : *Pos) == '\n') {
-            ++State.LineNr;
+            Advance(State.LineNr, 1);
             Line = Pos;
         }
     }
-    const auto Columns = static_cast<std::int32_t>((Here - (Line == nullptr ? Start : Line)) / cUnit);
-    State.ColNr = Line == nullptr ? State.ColNr + Columns : 1 + Columns;
+    if (Line != nullptr)
+        State.ColNr = 1;
+    Advance(State.ColNr, static_cast<std::size_t>((Here - (Line == nullptr ? Start : Line)) / cUnit));
     State.PrevPos = Here - cUnit;
     State.CurPos = Here;
     Advance(State.CharsRead, static_cast<std::size_t>(Here - Start));
@@ -146,8 +147,8 @@ bool TTextParserKind<MBCS>::Run(TQzTextParser& AParser, const TTest& ATest) {
     const TQzTextPos End = AParser.FBufEnd;
     TQzTextPos Here = Start;
     TQzTextPos Before = State.PrevPos;
-    std::int32_t Line = State.LineNr;
-    std::int32_t Column = State.ColNr;
+    auto Line = static_cast<std::uint32_t>(State.LineNr);
+    auto Column = static_cast<std::uint32_t>(State.ColNr);
     std::size_t Count = 0;
     for (;;) {
         const std::uint8_t First = *Here;
@@ -155,16 +156,17 @@ bool TTextParserKind<MBCS>::Run(TQzTextParser& AParser, const TTest& ATest) {
         // The last form, which may be cut off, is left to what follows.
         if (static_cast<std::size_t>(End - Here) <= Length || !ATest(Here))
             break;
-        Line += First == '\n' ? 1 : 0;
-        Column = First == '\n' ? 1 : Column + 1;
+        const bool IsNewLine = First == '\n';
+        Line += IsNewLine ? 1u : 0u;
+        Column = IsNewLine ? 1 : Column + 1;
         Before = Here;
         Here += Length;
         ++Count;
     }
     State.CurPos = Here;
     State.PrevPos = Before;
-    State.LineNr = Line;
-    State.ColNr = Column;
+    State.LineNr = static_cast<std::int32_t>(Line);
+    State.ColNr = static_cast<std::int32_t>(Column);
     Advance(State.CharsRead, Count);
     Advance(State.Position, static_cast<std::size_t>(Here - Start));
     if (static_cast<std::size_t>(End - Here) > StepLength(*Here))
@@ -184,6 +186,8 @@ void TTextParserKind<Kind>::SkipBy(TQzTextParser& AParser, const TTest& ATest) {
 
 template <TQzCharacterSetType Kind>
 void TTextParserKind<Kind>::SkipWhileA(TQzTextParser& AParser, TQzTextParserSkipOp AOp, char AChar) {
+    if (AParser.FState.Eof || AOp == sopIn || AOp == sopNotIn)
+        return;
     const auto Char = static_cast<std::uint8_t>(AChar);
     if constexpr (Kind == MBCS) {
         if (Char >= 0x80) {
@@ -208,6 +212,8 @@ void TTextParserKind<Kind>::SkipWhileA(TQzTextParser& AParser, TQzTextParserSkip
 
 template <TQzCharacterSetType Kind>
 void TTextParserKind<Kind>::SkipWhileW(TQzTextParser& AParser, TQzTextParserSkipOp AOp, char16_t AChar) {
+    if (AParser.FState.Eof || AOp == sopIn || AOp == sopNotIn)
+        return;
     const char16_t* Table = Kind == SBCS ? AParser.WideTable() : nullptr;
     WithComparison(AOp, [&](auto ACompare) {
         SkipBy(AParser, [&](TQzTextPos APos) {
@@ -258,10 +264,13 @@ template <TQzCharacterSetType Kind> void TTextParserKind<Kind>::FillIn(TQzTextPa
 void TQzTextParser::SetCharacterSetType(TQzCharacterSetType AValue) {
     FCharacterSetType = AValue;
     switch (AValue) {
-    case SBCS: return detail::TTextParserKind<SBCS>::FillIn(*this);
-    case DBCS: return detail::TTextParserKind<DBCS>::FillIn(*this);
-    case MBCS: return detail::TTextParserKind<MBCS>::FillIn(*this);
+    case SBCS: detail::TTextParserKind<SBCS>::FillIn(*this); break;
+    case DBCS: detail::TTextParserKind<DBCS>::FillIn(*this); break;
+    case MBCS: detail::TTextParserKind<MBCS>::FillIn(*this); break;
     }
+    // A text that is under way may end here for this kind.
+    if (FState.CurPos != nullptr)
+        Arrive();
 }
 
 } // namespace qz

@@ -1,5 +1,6 @@
 // TQzTextParser: single steps, characters and look-ahead, for each kind of text.
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 
 #include "common/uQzClasses/TextParserKinds.h"
@@ -33,7 +34,7 @@ void TQzTextParser::Arrive() {
     FState.Eof = true; // should reading fail
     FState.Eof = !IsAvailable(Unit());
     if (FState.Eof)
-        FState.CurPos = FBufEnd; // half a unit is no character
+        FBufEnd = FState.CurPos; // half a unit is no character
 }
 
 // A step over a form of UTF-8 that goes to the end of what is in memory, or beyond.
@@ -49,23 +50,56 @@ void TQzTextParser::SlowStep(std::size_t ALength) {
     Arrive();
 }
 
-// What each byte means in the code page of the text.
-const char16_t* TQzTextParser::WideTable() {
-    if (FWideTable != nullptr)
-        return FWideTable.get();
-    auto Table = std::make_unique<char16_t[]>(256);
+namespace {
+
+// What each byte means in a code page. Tables are shared by all parsers and stay.
+struct TWideTable {
+    std::uint16_t CodePage;
+    char16_t Units[256];
+    const TWideTable* Next;
+};
+
+std::atomic<const TWideTable*> Tables{nullptr};
+
+const TWideTable* FindTable(const TWideTable* AFirst, std::uint16_t ACodePage) {
+    while (AFirst != nullptr && AFirst->CodePage != ACodePage)
+        AFirst = AFirst->Next;
+    return AFirst;
+}
+
+std::unique_ptr<TWideTable> MakeTable(std::uint16_t ACodePage) {
+    auto Table = std::make_unique<TWideTable>();
+    Table->CodePage = ACodePage;
     for (std::size_t I = 0; I < 256; ++I) {
         const auto Byte = static_cast<std::byte>(I);
         char16_t Units[8];
         platform::TError Error;
         const std::size_t Count =
-            DecodeCodePage(FContentCodePage, {&Byte, 1}, Units, platform::TDecoding::Lenient, Error);
+            DecodeCodePage(ACodePage, {&Byte, 1}, Units, platform::TDecoding::Lenient, Error);
         if (Error.Code != 0)
-            RaiseCodePageError(FContentCodePage, Error);
-        Table[I] = Count == 1 ? Units[0] : cReplacementChar;
+            RaiseCodePageError(ACodePage, Error);
+        Table->Units[I] = Count == 1 ? Units[0] : cReplacementChar;
     }
-    FWideTable = std::move(Table);
-    return FWideTable.get();
+    return Table;
+}
+
+} // namespace
+
+const char16_t* TQzTextParser::WideTable() {
+    if (FWideTable != nullptr)
+        return FWideTable;
+    const std::uint16_t CodePage = RealCodePage(FContentCodePage);
+    const TWideTable* First = Tables.load(std::memory_order_acquire);
+    const TWideTable* Table = FindTable(First, CodePage);
+    if (Table == nullptr) {
+        std::unique_ptr<TWideTable> Fresh = MakeTable(CodePage);
+        do
+            Fresh->Next = First;
+        while (!Tables.compare_exchange_weak(First, Fresh.get(), std::memory_order_acq_rel));
+        Table = Fresh.release();
+    }
+    FWideTable = Table->Units;
+    return FWideTable;
 }
 
 void TQzTextParser::NextChar() {

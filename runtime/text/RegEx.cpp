@@ -1,17 +1,23 @@
 #include "runtime/text/RegEx.h"
 
 #include <algorithm>
+#include <chrono>
 
 #include <pcre2.h>
 
 #include "runtime/errors/DescribeException.h"
+#include "runtime/text/Utf.h"
 
 namespace qz {
 namespace {
 
-constexpr std::uint32_t cMatchLimit = 2'000'000; // steps
-constexpr std::uint32_t cDepthLimit = 50'000;    // choices that are open at a time
-constexpr std::uint32_t cHeapLimit = 64 * 1024;  // KiB
+constexpr std::uint32_t cMatchLimit = 2'000'000; // steps at one place of the text
+constexpr std::uint32_t cHeapLimit = 64 * 1024;  // KiB for choices that are open
+
+// A search looks at its pace now and then. One that takes long, and gets on more slowly than any sound pattern, ends.
+constexpr std::size_t cWindow = 2048; // units between two looks
+constexpr std::chrono::seconds cPatience{3};
+constexpr double cLeastPace = 200'000; // units a second
 
 template <auto Free> struct TFree {
     template <class T> void operator()(T* AObject) const noexcept { Free(AObject); }
@@ -40,7 +46,8 @@ std::uint32_t FlagsOf(TRegExOptions AOptions) {
         {roSingleLine, PCRE2_DOTALL},
         {roIgnorePatternSpace, PCRE2_EXTENDED},
     };
-    std::uint32_t Flags = PCRE2_UTF | PCRE2_UCP | PCRE2_MATCH_INVALID_UTF | PCRE2_NEVER_BACKSLASH_C;
+    std::uint32_t Flags =
+        PCRE2_UTF | PCRE2_UCP | PCRE2_MATCH_INVALID_UTF | PCRE2_NEVER_BACKSLASH_C | PCRE2_USE_OFFSET_LIMIT;
     for (const auto& [Option, Flag] : cFlags)
         Flags |= AOptions.Contains(Option) ? Flag : 0;
     return Flags;
@@ -78,7 +85,6 @@ TRegEx::TRegEx(const TStringArg& APattern, TRegExOptions AOptions) {
     if (Code->Context == nullptr)
         throw std::bad_alloc();
     pcre2_set_match_limit(Code->Context.get(), cMatchLimit);
-    pcre2_set_depth_limit(Code->Context.get(), cDepthLimit);
     pcre2_set_heap_limit(Code->Context.get(), cHeapLimit);
     Code->MatchFlags = AOptions.Contains(roNotEmpty) ? PCRE2_NOTEMPTY : 0;
     // Where the machine has no such compiler, or not for this pattern, the pattern is interpreted.
@@ -93,7 +99,11 @@ public:
         : FCode(ACode),
           FText(AText),
           FData(ACode.NewMatchData()),
-          FNext(AStart) {}
+          FContext(pcre2_match_context_copy(ACode.Context.get())),
+          FNext(AStart) {
+        if (FContext == nullptr)
+            throw std::bad_alloc();
+    }
 
     // Behind an empty match the next one must not be empty at the same place.
     bool Find() {
@@ -101,15 +111,16 @@ public:
             return false;
         bool Found = Try(FNext, FWasEmpty ? PCRE2_NOTEMPTY_ATSTART | PCRE2_ANCHORED : 0);
         if (!Found && FWasEmpty) {
-            const bool IsPair = FText.size() - FNext >= 2 && (FText[FNext] & 0xFC00) == 0xD800 &&
-                (FText[FNext + 1] & 0xFC00) == 0xDC00;
-            FNext += IsPair ? 2 : 1;
+            FNext += IsWithinPair(FNext + 1) ? 2 : 1;
             Found = FNext <= FText.size() && Try(FNext, 0);
         }
         if (!Found)
             return false;
         FWasEmpty = First() == Behind();
+        FDone += Behind() - std::min(FNext, Behind()) + 16;
         FNext = Behind();
+        if ((++FMatches & 0xFF) == 0)
+            CheckPace();
         return true;
     }
     std::size_t First() const { return std::min(Ends()[0], Ends()[1]); }
@@ -128,25 +139,55 @@ public:
 private:
     const PCRE2_SIZE* Ends() const { return pcre2_get_ovector_pointer(FData.get()); }
 
+    bool IsWithinPair(std::size_t AAt) const {
+        return AAt > 0 && AAt < FText.size() && IsHighSurrogate(FText[AAt - 1]) && IsLowSurrogate(FText[AAt]);
+    }
+
+    // Looks for a match that begins at AStart or behind it, a stretch of the text at a time.
     bool Try(std::size_t AStart, std::uint32_t AFlags) {
-        const auto Run = [&](std::uint32_t AMore) {
+        for (;;) {
+            const bool IsLast = FText.size() - AStart <= cWindow || (AFlags & PCRE2_ANCHORED) != 0;
+            pcre2_set_offset_limit(FContext.get(), IsLast ? PCRE2_UNSET : AStart + cWindow);
+            if (Run(AStart, AFlags))
+                return true;
+            if (IsLast)
+                return false;
+            AStart += cWindow + 1;
+            AStart += IsWithinPair(AStart) ? 1 : 0;
+            FDone += cWindow;
+            CheckPace();
+        }
+    }
+
+    bool Run(std::size_t AStart, std::uint32_t AFlags) {
+        const auto Ask = [&](std::uint32_t AMore) {
             return pcre2_match(FCode.Code.get(), Units(FText), FText.size(), AStart,
-                               FCode.MatchFlags | AFlags | AMore, FData.get(), FCode.Context.get());
+                               FCode.MatchFlags | AFlags | AMore, FData.get(), FContext.get());
         };
-        int Outcome = Run(0);
+        int Outcome = Ask(0);
         if (Outcome == PCRE2_ERROR_JIT_STACKLIMIT)
-            Outcome = Run(PCRE2_NO_JIT);
+            Outcome = Ask(PCRE2_NO_JIT);
         if (Outcome < 0 && Outcome != PCRE2_ERROR_NOMATCH)
             throw ERegularExpressionError(u"Error in matching the regular expression: %s",
                                           {ErrorText(Outcome)});
         return Outcome >= 0;
     }
 
+    void CheckPace() const {
+        const std::chrono::duration<double> Taken = std::chrono::steady_clock::now() - FBegin;
+        if (Taken > cPatience && static_cast<double>(FDone) < Taken.count() * cLeastPace)
+            throw ERegularExpressionError(u"Error in matching the regular expression: time limit exceeded");
+    }
+
     const TCode& FCode;
     std::u16string_view FText;
     TMatchData FData;
+    THandle<pcre2_match_context, pcre2_match_context_free> FContext;
     std::size_t FNext;
     bool FWasEmpty = false;
+    std::chrono::steady_clock::time_point FBegin = std::chrono::steady_clock::now();
+    std::size_t FDone = 0; // units, and a little for each match
+    unsigned FMatches = 0;
 };
 
 TGroup TMatch::Place(int AGroup) const noexcept {
@@ -169,7 +210,7 @@ TMatch TRegEx::Match(const TStringArg& AText, int AStart) const {
     TMatch Result;
     TSearch Search(*FCode, AText, static_cast<std::size_t>(std::max(AStart, 1) - 1));
     if (Search.Find()) {
-        Result.FText = UnicodeString(AText.View());
+        Result.FText = AText.ToString();
         Result.FGroups = Search.Groups();
     }
     return Result;
@@ -180,7 +221,7 @@ std::vector<TMatch> TRegEx::Matches(const TStringArg& AText) const {
     UnicodeString Text;
     for (TSearch Search(*FCode, AText, 0); Search.Find();) {
         if (Result.empty())
-            Text = UnicodeString(AText.View());
+            Text = AText.ToString();
         TMatch& Match = Result.emplace_back();
         Match.FText = Text;
         Match.FGroups = Search.Groups();
@@ -188,28 +229,60 @@ std::vector<TMatch> TRegEx::Matches(const TStringArg& AText) const {
     return Result;
 }
 
+// The group that a place of the replacement names, from behind its dollar sign; AAt moves behind it. -1 when nothing
+// is named there.
+int TRegEx::GroupAt(std::u16string_view AReplacement, std::size_t& AAt) const {
+    const auto IsDigit = [](char16_t AChar) { return AChar >= u'0' && AChar <= u'9'; };
+    if (AAt < AReplacement.size() && IsDigit(AReplacement[AAt]))
+        return AReplacement[AAt++] - u'0';
+    const std::size_t End = AReplacement.find(u'}', AAt);
+    if (AAt >= AReplacement.size() || AReplacement[AAt] != u'{' || End == std::u16string_view::npos)
+        return -1;
+    const UnicodeString Name = AReplacement.substr(AAt + 1, End - AAt - 1);
+    AAt = End + 1;
+    int Group = 0;
+    if (Name.size() <= 5 && !Name.IsEmpty() && std::ranges::all_of(Name.View(), IsDigit)) {
+        for (const char16_t Digit : Name.View())
+            Group = Group * 10 + (Digit - u'0');
+    } else {
+        Group =
+            pcre2_substring_number_from_name(FCode->Code.get(), reinterpret_cast<PCRE2_SPTR>(Name.data()));
+    }
+    std::uint32_t Count = 0;
+    pcre2_pattern_info(FCode->Code.get(), PCRE2_INFO_CAPTURECOUNT, &Count);
+    if (Group < 0 || static_cast<std::uint32_t>(Group) > Count)
+        throw ERegularExpressionError(u"The regular expression has no group %s", {Name});
+    return Group;
+}
+
 UnicodeString TRegEx::Replace(const TStringArg& AText, const TStringArg& AReplacement) const {
     const std::u16string_view Text = AText;
     const std::u16string_view Replacement = AReplacement;
-    const TMatchData Data = FCode->NewMatchData();
-    constexpr std::uint32_t cFlags =
-        PCRE2_SUBSTITUTE_GLOBAL | PCRE2_SUBSTITUTE_OVERFLOW_LENGTH | PCRE2_SUBSTITUTE_UNSET_EMPTY;
-    UnicodeString Result = UnicodeString::ForOverwrite(Text.size() + Replacement.size() + 64);
-    for (;;) {
-        PCRE2_SIZE Length = Result.size();
-        const int Outcome =
-            pcre2_substitute(FCode->Code.get(), Units(Text), Text.size(), 0, cFlags | FCode->MatchFlags,
-                             Data.get(), FCode->Context.get(), Units(Replacement), Replacement.size(),
-                             reinterpret_cast<PCRE2_UCHAR*>(Result.UniqueData()), &Length);
-        if (Outcome >= 0) {
-            Result.SetLength(Length);
-            return Result;
+    UnicodeString Result;
+    std::size_t Start = 0;
+    for (TSearch Search(*FCode, Text, 0); Search.Find(); Start = Search.Behind()) {
+        Result += Text.substr(Start, Search.First() - Start);
+        const std::vector<TGroup> Groups = Search.Groups();
+        for (std::size_t At = 0; At < Replacement.size();) {
+            const std::size_t Dollar = std::min(Replacement.find(u'$', At), Replacement.size());
+            Result += Replacement.substr(At, Dollar - At);
+            At = Dollar + 1;
+            if (Dollar == Replacement.size())
+                break;
+            const int Group = GroupAt(Replacement, At);
+            if (Group < 0) {
+                Result += u'$';
+                At += At < Replacement.size() && Replacement[At] == u'$' ? 1 : 0;
+            } else if (static_cast<std::size_t>(Group) < Groups.size()) {
+                const TGroup& Place = Groups[static_cast<std::size_t>(Group)];
+                if (Place.Success)
+                    Result += Text.substr(static_cast<std::size_t>(Place.Index - 1),
+                                          static_cast<std::size_t>(Place.Length));
+            }
         }
-        if (Outcome != PCRE2_ERROR_NOMEMORY || Length <= Result.size())
-            throw ERegularExpressionError(u"Error in matching the regular expression: %s",
-                                          {ErrorText(Outcome)});
-        Result = UnicodeString::ForOverwrite(Length);
     }
+    Result += Text.substr(Start);
+    return Result;
 }
 
 TDynArray<UnicodeString> TRegEx::Split(const TStringArg& AText) const {

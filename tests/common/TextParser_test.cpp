@@ -5,6 +5,7 @@
 #include <random>
 
 #include "common/uQzClasses/QzMemoryStream.h"
+#include "runtime/streams/MemoryStream.h"
 #include "runtime/text/Encoding.h"
 #include "tests/support/ParserSteps.h"
 #include "tests/support/SystemPage.h"
@@ -211,6 +212,56 @@ TEST(TextParser, StartsWhereTheStreamStands) {
     Plain.FBytes.clear();
     Shrunk.First();
     EXPECT_TRUE(Shrunk.Eof());
+    TMemoryStream Emptied;
+    Emptied.WriteBuffer("abc", 3);
+    Emptied.SetPosition(0);
+    TQzTextParser Over(&Emptied, false, 1252);
+    Emptied.Clear();
+    Over.First();
+    EXPECT_TRUE(Over.Eof());
+    EXPECT_EQ(u'\0', Over.CurrChar());
+}
+
+// Nothing is read twice or lost, and no place is left behind, when the stream raises.
+TEST(TextParser, SurvivesAStreamThatRaises) {
+    for (const std::uint16_t CodePage : {std::uint16_t{1252}, std::uint16_t{1200}, std::uint16_t{65001}}) {
+        const std::string Bytes = BytesOf(u"abcdefghijkl", CodePage);
+        for (int FailAfter = 0; FailAfter < 6; ++FailAfter) {
+            TPlainStream Stream(Bytes);
+            TChunkedParser Parser(&Stream, CodePage, 4);
+            Parser.Next();
+            const auto Fails = [&](auto AStep) {
+                Stream.FFailAfter = FailAfter;
+                const UnicodeString Result = Outcome([&] { return AStep(), UnicodeString(); });
+                Stream.FFailAfter = -1;
+                Parser.CurrChar();
+                return !Result.IsEmpty();
+            };
+            Fails([&] { Parser.Last(); });
+            Parser.First();
+            EXPECT_EQ(u"abcdefghijkl", Parser.PeekString(99)) << FailAfter;
+            Fails([&] { Parser.First(); });
+            Parser.First();
+            const bool Failed = Fails([&] { Parser.SkipWhile(sopUnEq, u'l'); });
+            EXPECT_TRUE(Failed || Parser.CurrChar() == u'l');
+            Parser.First();
+            EXPECT_EQ(u"abcdefghijkl", Parser.PeekString(99)) << FailAfter;
+        }
+    }
+}
+
+TEST(TextParser, TakesTheRestForAnotherKindOfText) {
+    TQzTextParser Parser("abc", 3, 1252);
+    Parser.SkipChars(2);
+    Parser.SetCharacterSetType(DBCS);
+    EXPECT_TRUE(Parser.Eof()) << "half a unit is left";
+    EXPECT_EQ(u'\0', Parser.CurrChar());
+    Parser.SkipWhile(sopUnEq, u'x');
+    TQzTextParser Half("a\0b\0c", 5, 1200);
+    Half.Next();
+    EXPECT_EQ(2, Half.SelectedCnt(tpCurPos, tpPeekPos));
+    TQzTextParser One("a", 1, 1200);
+    EXPECT_TRUE(One.GetEOF());
 }
 
 // Whatever is asked for, in whatever chunks: a parser over a stream answers as one over memory.

@@ -16,7 +16,16 @@ class TPlainStream : public TStream {
 
 public:
     explicit TPlainStream(std::string_view ABytes) : FBytes(ABytes) {}
+    // Gives a byte at a time once it is to fail, and raises after so many.
     std::int32_t Read(void* ABuffer, std::int32_t ACount) override {
+        if (FFailAfter == 0) {
+            FFailAfter = -1;
+            throw EReadError(u"Stream read error");
+        }
+        if (FFailAfter > 0) {
+            --FFailAfter;
+            ACount = 1;
+        }
         const std::size_t Count =
             std::min(FBytes.size() - std::min(FPlace, FBytes.size()), std::size_t(ACount));
         if (Count != 0)
@@ -35,6 +44,7 @@ public:
     std::int64_t GetSize() override { return static_cast<std::int64_t>(FBytes.size()); }
 
     std::string FBytes;
+    int FFailAfter = -1;
 
 private:
     std::size_t FPlace = 0;

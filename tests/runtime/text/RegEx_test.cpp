@@ -52,6 +52,13 @@ TEST(RegEx, KeepsToItsOptions) {
 TEST(RegEx, ReplacesAndSplits) {
     EXPECT_EQ(u"b-a $ d-c", TRegEx(u"(\\w)(\\w)").Replace(u"ab $ cd", u"$2-$1"));
     EXPECT_EQ(u"x", TRegEx(u"a+").Replace(u"aaa", u"x"));
+    EXPECT_EQ(u"[a0 $ ${ $x]", TRegEx(u"(?<name>a)(b)?").Replace(u"a", u"[${name}${2}0 $$ ${ $x]"));
+    EXPECT_EQ(u"1", TRegEx(u"(a|b)*c?").Replace(UnicodeString(20000, u'a') + u"1", u""));
+    EXPECT_TRUE(TRegEx(u"(?:(a)|b)*$").IsMatch(UnicodeString(20000, u'a')));
+    UnicodeString Pairs = u"a";
+    while (Pairs.size() < 9000)
+        Pairs += u"\U0001F600";
+    EXPECT_EQ(9002, TRegEx(u"x").Match(Pairs + u"x").Index()) << "over stretches that pairs lie across";
     const UnicodeString Long(1000, u'a');
     EXPECT_EQ(UnicodeString(5000, u'b'), TRegEx(u"a").Replace(Long, u"bbbbb"));
     const auto Pieces = TRegEx(u",").Split(u"a,,b,");
@@ -68,7 +75,10 @@ TEST(RegEx, RaisesForBadAndHostilePatterns) {
     }
     EXPECT_THROW(TRegEx(u"\\C"), ERegularExpressionError) << "it would tear pairs";
     EXPECT_THROW(TRegEx(u"(a+)+$").IsMatch(UnicodeString(40, u'a') + u"b"), ERegularExpressionError);
-    EXPECT_THROW(TRegEx(u"a").Replace(u"a", u"${"), ERegularExpressionError);
+    EXPECT_THROW(TRegEx(u"a").Replace(u"a", u"${b}"), ERegularExpressionError);
+    EXPECT_THROW(TRegEx(u"a").Replace(u"a", u"$1${2}"), ERegularExpressionError);
+    EXPECT_THROW(TRegEx(u"(?:a|aa){18}[!?]").IsMatch(UnicodeString(1'000'000, u'a')),
+                 ERegularExpressionError);
 }
 
 } // namespace
