@@ -34,3 +34,21 @@
 // TQzTextParser, the scanner for text
 // of any 8-bit code page, UTF-16 and UTF-8.
 #include "common/uQzClasses/TextParser.h"
+// cQzSpace, cQzComma and the like,
+// the characters that parsers meet, by name.
+#include "common/uQzClasses/Characters.h"
+// TQzFileStream, a file as a stream,
+// to which texts are written as they stand.
+#include "common/uQzClasses/QzFileStream.h"
+// TQzStringList, a string list
+// that takes the pieces of a text.
+#include "common/uQzClasses/QzStringList.h"
+// TQzKeyDescStringList, keys paired with descriptions,
+// for lists to choose from.
+#include "common/uQzClasses/QzKeyDescStringList.h"
+// TQzObjectList, a list of objects
+// that holds references to those that count them.
+#include "common/uQzClasses/QzObjectList.h"
+// TQzMemoList, texts of many lines,
+// each under a code of its own.
+#include "common/uQzClasses/QzMemoList.h"

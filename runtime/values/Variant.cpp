@@ -3,10 +3,18 @@
 #include <memory>
 #include <new>
 
+#include "runtime/errors/DescribeException.h"
 #include "runtime/text/FloatText.h"
 #include "runtime/text/NumberText.h"
+#include "runtime/values/VariantItems.h"
 
 namespace qz {
+
+const TClassRec EVariantError::ClassRec = DescribeException<EVariantError>(u"EVariantError", u"Variants");
+const TClassRec EVariantInvalidOpError::ClassRec =
+    DescribeException<EVariantInvalidOpError>(u"EVariantInvalidOpError", u"Variants");
+const TClassRec EVariantTypeCastError::ClassRec =
+    DescribeException<EVariantTypeCastError>(u"EVariantTypeCastError", u"Variants");
 
 Variant::Variant(const Variant& AOther) noexcept : FType(AOther.FType) {
     if (IsWide())
@@ -15,6 +23,8 @@ Variant::Variant(const Variant& AOther) noexcept : FType(AOther.FType) {
         new (&FData.Narrow) TByteText(AOther.FData.Narrow);
     else if (FType == varSingle || FType == varDouble)
         FData.Real = AOther.FData.Real;
+    else if (VarIsArray(AOther))
+        FData.Items = detail::AddRef(AOther.FData.Items);
     else
         FData.Integer = AOther.FData.Integer;
 }
@@ -26,6 +36,8 @@ Variant::Variant(Variant&& AOther) noexcept : FType(AOther.FType) {
         new (&FData.Narrow) TByteText(std::move(AOther.FData.Narrow));
     else if (FType == varSingle || FType == varDouble)
         FData.Real = AOther.FData.Real;
+    else if (VarIsArray(AOther))
+        FData.Items = detail::TVariantAccess::Take(AOther);
     else
         FData.Integer = AOther.FData.Integer;
 }
@@ -43,6 +55,8 @@ Variant::~Variant() {
         std::destroy_at(&FData.Wide);
     else if (FType == varString)
         std::destroy_at(&FData.Narrow);
+    else if (VarIsArray(*this))
+        detail::Release(FData.Items);
 }
 
 Variant Variant::Null() noexcept {
@@ -52,6 +66,8 @@ Variant Variant::Null() noexcept {
 }
 
 UnicodeString VarToStr(const Variant& AValue) {
+    if (VarIsArray(AValue))
+        throw EVariantTypeCastError(u"A variant that is an array has no text");
     switch (AValue.FType) {
     case varEmpty:
     case varNull: return {};

@@ -4,14 +4,15 @@
 //     if (VarType(Value) == varUString)
 //         Show(VarToStr(Value));
 //
-// The type codes are those of OLE Automation. A Variant is 16 bytes; copies of texts share their characters. Different
-// variants may be used by different threads.
+// The type codes are those of OLE Automation. A Variant is 16 bytes; copies of texts share their characters, copies of
+// arrays (VariantArray.h) their elements until one is written to. Different variants may be used by different threads.
 #pragma once
 
 #include <concepts>
 #include <cstdint>
 #include <utility>
 
+#include "runtime/errors/Exceptions.h"
 #include "runtime/text/AnsiString.h"
 #include "runtime/text/UnicodeString.h"
 
@@ -27,6 +28,7 @@ inline constexpr TVarType varSingle = 4;
 inline constexpr TVarType varDouble = 5;
 inline constexpr TVarType varOleStr = 8;
 inline constexpr TVarType varBoolean = 11;
+inline constexpr TVarType varVariant = 12; // of the elements of an array alone
 inline constexpr TVarType varShortInt = 16;
 inline constexpr TVarType varByte = 17;
 inline constexpr TVarType varWord = 18;
@@ -35,6 +37,18 @@ inline constexpr TVarType varInt64 = 20;
 inline constexpr TVarType varUInt64 = 21;
 inline constexpr TVarType varString = 256;
 inline constexpr TVarType varUString = 258;
+inline constexpr TVarType varArray = 0x2000; // joined with the type of the elements
+
+QZ_PLAIN_EXCEPTION(EVariantError, Exception);
+// Values that do not go together in this operation.
+QZ_PLAIN_EXCEPTION(EVariantInvalidOpError, EVariantError);
+// A value that cannot be had in the form that is asked for.
+QZ_PLAIN_EXCEPTION(EVariantTypeCastError, EVariantError);
+
+namespace detail {
+struct TVariantItems;
+struct TVariantAccess;
+} // namespace detail
 
 class QZ_API Variant {
 public:
@@ -63,8 +77,14 @@ public:
 
     friend TVarType VarType(const Variant& AValue) noexcept { return AValue.FType; }
     friend QZ_API UnicodeString VarToStr(const Variant& AValue);
+    // Numbers by their value whatever their types, texts unit by unit, a number and a text by the number that is
+    // written there; True is -1 among numbers. Null is equal to null alone, an empty one also to 0 and the empty
+    // text. Raises EVariantTypeCastError for a text that should be a number or a boolean and is none, and
+    // EVariantInvalidOpError for an array.
+    friend QZ_API bool operator==(const Variant& ALeft, const Variant& ARight);
 
 private:
+    friend struct detail::TVariantAccess;
     template <class T> static constexpr TVarType CodeOf() noexcept {
         constexpr TVarType cSigned[] = {varShortInt, varSmallint, varInteger, varInt64};
         constexpr TVarType cUnsigned[] = {varByte, varWord, varLongWord, varUInt64};
@@ -80,6 +100,7 @@ private:
         double Real;
         UnicodeString Wide;
         TByteText Narrow;
+        detail::TVariantItems* Items; // counted
     };
 
     TVarType FType = varEmpty;
@@ -90,7 +111,11 @@ static_assert(sizeof(Variant) == 16);
 
 // The code of what the value is.
 TVarType VarType(const Variant& AValue) noexcept;
-// The value as text; empty for an empty or null one. A text of 8 bits is converted from its code page.
+inline bool VarIsArray(const Variant& AValue) noexcept {
+    return (VarType(AValue) & varArray) != 0;
+}
+// The value as text; empty for an empty or null one. A text of 8 bits is converted from its code page. Raises
+// EVariantTypeCastError for an array.
 QZ_API UnicodeString VarToStr(const Variant& AValue);
 
 } // namespace qz
