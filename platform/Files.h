@@ -50,11 +50,12 @@ QZ_API bool RemoveEmptyDirectory(std::u16string_view APath, TError& AError);
 QZ_API bool ReadWholeFile(std::u16string_view APath, std::vector<std::byte>& AOut, TError& AError);
 
 // Makes APieces, one behind the other, the whole content of the file. Readers find the old content or the new
-// one, never a part of it: the bytes go to a new file beside it, which then takes its name, its owner and its
-// access rights. A link, a device or a pipe is written in place, and so is a file of several names, one that can't be replaced with its
-// owner and rights kept, one that others have open (on Windows), or one in a directory that takes no new file. A
-// file that the caller may not write, or that a TFileHandle denies to writers, is left alone. On failure the old
-// content is untouched, unless it was being written in place. Not flushed to the disk.
+// one, never a part of it: the bytes go to a new file beside it, which then takes its name, its owner, its access
+// rights and, on Linux, the attributes that users gave it. Written in place, and so perhaps in part, are a link, a
+// device or a pipe, a file of several names, one that can't be replaced with its owner and rights kept, one that
+// others have open (on Windows), and one in a directory that takes no new file. A file that the caller may not
+// write, or that a TFileHandle denies to writers, is left alone. On failure the old content is untouched, unless it
+// was being written in place. Not flushed to the disk.
 QZ_API bool WriteWholeFile(std::u16string_view APath, std::span<const std::span<const std::byte>> APieces,
                            TError& AError);
 inline bool WriteWholeFile(std::u16string_view APath, std::span<const std::byte> ABytes, TError& AError) {

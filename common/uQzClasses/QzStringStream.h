@@ -7,8 +7,9 @@
 //
 // What is written is converted to the stream's code page, what is read comes out in the form that is asked for.
 // Conversions are those of TQzEncoding: lenient, and EOSError naming the code page where the system cannot make them;
-// the content is then as it was before, or empty when it was to be replaced. A stream over a wrapped block can be read and overwritten but does not grow:
-// "It is not possible to resize the buffer!". A stream belongs to one thread at a time.
+// the content is then as it was before, or empty when it was to be replaced. A stream over a wrapped block can be read
+// and overwritten but does not grow: "It is not possible to resize the buffer!". A stream belongs to one thread at a
+// time.
 #pragma once
 
 #include "common/uQzClasses/QzMemoryStream.h"
@@ -114,7 +115,7 @@ public:
                         std::int32_t ACodePage);
     // Writes all of the content in ACodePage, with AWriteBOM behind its mark if it has one. Content and position stay.
     void SaveToStream(TStream& AStream, std::uint16_t ACodePage, bool AWriteBOM) const;
-    // The same into a file, as a whole or not at all, apart from a link or a device, which is written in place. Raises
+    // The same into a file, as a whole or not at all, as far as platform/Files.h says of WriteWholeFile. Raises
     // EFCreateError.
     void SaveToFile(const TStringArg& AFileName, std::uint16_t ACodePage, bool AWriteBOM) const;
     void SaveToFile(const TStringArg& AFileName) const { SaveToFile(AFileName, FCodePage, true); }

@@ -149,16 +149,17 @@ std::size_t TQzTextParser::ReadChunk(std::uint8_t* ABlock, std::size_t ASize) {
 }
 
 // A block with the last ACarry bytes of what is in memory and a new chunk behind them. When reading fails, the stream
-// goes back, so that nothing is lost to a later try; and First starts over in any case.
+// goes back, so that nothing is lost to a later try.
 std::unique_ptr<std::uint8_t[]> TQzTextParser::Grown(std::size_t ACarry, std::size_t& ARead) {
     auto Block = std::make_unique_for_overwrite<std::uint8_t[]>(FChunkSize + ACarry);
     std::memcpy(Block.get(), FBufEnd - ACarry, ACarry);
     const std::int64_t Start = FStream->Position();
-    const std::int32_t Chunk = std::exchange(FChunk, 0);
+    const std::int32_t Chunk = std::exchange(FChunk, 2); // any but the first, for First to start over
     try {
         ARead = ReadChunk(Block.get() + ACarry, FChunkSize);
     } catch (...) {
         FStream->SetPosition(Start);
+        FChunk = Chunk;
         throw;
     }
     FChunk = Chunk;

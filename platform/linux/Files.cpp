@@ -101,7 +101,9 @@ bool WriteAll(int AFile, TPieces APieces) {
 }
 
 bool WriteInPlace(const char* APath, TPieces APieces, TError& AError) {
-    TFile File(APath, O_WRONLY | O_CREAT | O_NOCTTY, 0666);
+    // Made only where a link leads to nothing: some systems refuse to make what others own.
+    const bool IsThere = access(APath, F_OK) == 0;
+    TFile File(APath, O_WRONLY | O_NOCTTY | (IsThere ? 0 : O_CREAT), 0666);
     if (File.IsOpen() && detail::IsDenied(File.Handle(), TFileAccess::Write))
         return Fail(AError, ETXTBSY);
     struct stat Status;
@@ -124,7 +126,9 @@ bool TakeAttribute(int AFile, const std::string& APath, const char* AName) {
     const ssize_t Size = getxattr(APath.c_str(), AName, nullptr, 0);
     if (Size < 0)
         return errno == ENODATA || errno == ENOTSUP;
-    std::vector<char> Value(static_cast<size_t>(Size));
+    std::vector<std::byte> Value;
+    if (!MakeRoom(Value, static_cast<size_t>(Size)))
+        return false;
     const ssize_t Got = getxattr(APath.c_str(), AName, Value.data(), Value.size());
     return Got >= 0 && fsetxattr(AFile, AName, Value.data(), static_cast<size_t>(Got), 0) == 0;
 }
@@ -133,9 +137,12 @@ bool TakeAttributes(int AFile, const std::string& APath) {
     const ssize_t Size = listxattr(APath.c_str(), nullptr, 0);
     if (Size <= 0)
         return Size == 0 || errno == ENOTSUP;
-    std::vector<char> Names(static_cast<size_t>(Size) + 1);
-    const ssize_t Got = listxattr(APath.c_str(), Names.data(), static_cast<size_t>(Size));
-    for (const char* Name = Names.data(); Name < Names.data() + Got; Name += std::strlen(Name) + 1) {
+    std::vector<std::byte> Bytes;
+    if (!MakeRoom(Bytes, static_cast<size_t>(Size) + 1))
+        return false;
+    char* const Names = reinterpret_cast<char*>(Bytes.data());
+    const ssize_t Got = listxattr(APath.c_str(), Names, static_cast<size_t>(Size));
+    for (const char* Name = Names; Name < Names + Got; Name += std::strlen(Name) + 1) {
         const std::string_view View(Name);
         if ((View == "system.posix_acl_access" || View.starts_with("user.")) &&
             !TakeAttribute(AFile, APath, Name))
@@ -144,11 +151,18 @@ bool TakeAttributes(int AFile, const std::string& APath) {
     return Got >= 0;
 }
 
-// The owner first, as a change of owner takes rights away. Any failure says that the rights cannot be kept.
+bool DropAccessList(int AFile) {
+    return fremovexattr(AFile, "system.posix_acl_access") == 0 || errno == ENODATA || errno == ENOTSUP;
+}
+
+// The owner first, as a change of owner takes rights away. Any failure but a lack of space says that the
+// rights cannot be kept.
 bool TakeRights(int AFile, const std::string& APath, const struct stat& AOld) {
-    const bool Ok = fchown(AFile, AOld.st_uid, AOld.st_gid) == 0 &&
+    // A directory may have given the new file a list that the old one does not have.
+    const bool Ok = fchown(AFile, AOld.st_uid, AOld.st_gid) == 0 && DropAccessList(AFile) &&
         fchmod(AFile, AOld.st_mode & 07777) == 0 && TakeAttributes(AFile, APath);
-    if (!Ok)
+    const bool IsShort = errno == ENOSPC || errno == EDQUOT || errno == EIO || errno == ENOMEM;
+    if (!Ok && !IsShort)
         errno = EPERM;
     return Ok;
 }

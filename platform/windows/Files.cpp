@@ -284,7 +284,11 @@ bool WriteWholeFile(std::u16string_view APath, TPieces APieces, TError& AError) 
     if ((Attributes & FILE_ATTRIBUTE_READONLY) != 0)
         return Fail(AError, ERROR_ACCESS_DENIED);
     const bool IsLink = (Attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
-    if (Exists && (IsLink || GetFileType(Old.Handle()) != FILE_TYPE_DISK))
+    BY_HANDLE_FILE_INFORMATION Information{};
+    if (Exists)
+        GetFileInformationByHandle(Old.Handle(), &Information);
+    const bool HasOneName = Information.nNumberOfLinks <= 1;
+    if (Exists && (IsLink || !HasOneName || GetFileType(Old.Handle()) != FILE_TYPE_DISK))
         return WriteInPlace(Old, APieces, AError);
     Old.Close();
     if (WriteBeside(APath, *Path, Exists, APieces, AError))

@@ -35,7 +35,7 @@ public:
     std::int64_t GetSize() override { return FSize; }
 
     void SaveToStream(TStream& AStream) const;
-    // The file as a whole or not at all; raises EFCreateError.
+    // As a whole or not at all, as far as platform/Files.h says of WriteWholeFile; raises EFCreateError.
     void SaveToFile(const TStringArg& AFileName) const;
 
 protected:

@@ -14,8 +14,14 @@ namespace {
 constexpr std::uint32_t cMatchLimit = 2'000'000; // steps at one place of the text
 constexpr std::uint32_t cHeapLimit = 64 * 1024;  // KiB for choices that are open
 
-// A search looks at its pace now and then. One that takes long, and gets on more slowly than any sound pattern, ends.
-constexpr std::size_t cWindow = 2048; // units between two looks
+// What a search may take as a whole before it is watched, shared among the places of the text.
+constexpr std::size_t cSteps = 400'000'000;
+constexpr std::size_t cLeastSteps = 500;
+
+// A search that is watched looks at its pace now and then. One that takes long, and gets on more slowly than any sound
+// pattern, ends.
+constexpr std::size_t cWindow = 2048; // units between two looks, less in a long text
+constexpr std::size_t cWindowTimesText = 2'000'000'000;
 constexpr std::chrono::seconds cPatience{3};
 constexpr double cLeastPace = 200'000; // units a second
 
@@ -62,6 +68,8 @@ struct TRegEx::TCode {
     THandle<pcre2_code, pcre2_code_free> Code;
     THandle<pcre2_match_context, pcre2_match_context_free> Context;
     std::uint32_t MatchFlags = 0;
+    bool IsAnchored = false;   // matches where a search starts, if at all
+    bool IsOfOnePiece = false; // may ask where the search started, or end it
 
     TMatchData NewMatchData() const {
         TMatchData Data(pcre2_match_data_create_from_pattern(Code.get(), nullptr));
@@ -84,9 +92,13 @@ TRegEx::TRegEx(const TStringArg& APattern, TRegExOptions AOptions) {
     Code->Context.reset(pcre2_match_context_create(nullptr));
     if (Code->Context == nullptr)
         throw std::bad_alloc();
-    pcre2_set_match_limit(Code->Context.get(), cMatchLimit);
     pcre2_set_heap_limit(Code->Context.get(), cHeapLimit);
     Code->MatchFlags = AOptions.Contains(roNotEmpty) ? PCRE2_NOTEMPTY : 0;
+    std::uint32_t Options = 0;
+    pcre2_pattern_info(Code->Code.get(), PCRE2_INFO_ALLOPTIONS, &Options);
+    Code->IsAnchored = (Options & PCRE2_ANCHORED) != 0;
+    Code->IsOfOnePiece =
+        Pattern.find(u"\\G") != std::u16string_view::npos || Pattern.find(u"(*") != std::u16string_view::npos;
     // Where the machine has no such compiler, or not for this pattern, the pattern is interpreted.
     pcre2_jit_compile(Code->Code.get(), PCRE2_JIT_COMPLETE);
     FCode = std::move(Code);
@@ -119,8 +131,7 @@ public:
         FWasEmpty = First() == Behind();
         FDone += Behind() - std::min(FNext, Behind()) + 16;
         FNext = Behind();
-        if ((++FMatches & 0xFF) == 0)
-            CheckPace();
+        CheckPace();
         return true;
     }
     std::size_t First() const { return std::min(Ends()[0], Ends()[1]); }
@@ -143,34 +154,51 @@ private:
         return AAt > 0 && AAt < FText.size() && IsHighSurrogate(FText[AAt - 1]) && IsLowSurrogate(FText[AAt]);
     }
 
-    // Looks for a match that begins at AStart or behind it, a stretch of the text at a time.
+    // Looks for a match that begins at AStart or behind it.
     bool Try(std::size_t AStart, std::uint32_t AFlags) {
+        const std::size_t Rest = FText.size() - AStart;
+        if (FCode.IsAnchored || (AFlags & PCRE2_ANCHORED) != 0)
+            return Judge(Run(AStart, AFlags, cMatchLimit, PCRE2_UNSET));
+        const auto Limit = static_cast<std::uint32_t>(
+            std::clamp<std::size_t>(cSteps / (Rest + 1), cLeastSteps, cMatchLimit));
+        const int Outcome = Run(AStart, AFlags, Limit, PCRE2_UNSET);
+        const bool IsWatched = Outcome == PCRE2_ERROR_MATCHLIMIT && !FCode.IsOfOnePiece;
+        return IsWatched ? TryWatched(AStart, AFlags) : Judge(Outcome);
+    }
+
+    // The same, a stretch of the text at a time.
+    bool TryWatched(std::size_t AStart, std::uint32_t AFlags) {
+        const std::size_t Window =
+            std::clamp<std::size_t>(cWindowTimesText / (FText.size() + 1), 16, cWindow);
         for (;;) {
-            const bool IsLast = FText.size() - AStart <= cWindow || (AFlags & PCRE2_ANCHORED) != 0;
-            pcre2_set_offset_limit(FContext.get(), IsLast ? PCRE2_UNSET : AStart + cWindow);
-            if (Run(AStart, AFlags))
+            const bool IsLast = FText.size() - AStart <= Window;
+            if (Judge(Run(AStart, AFlags, cMatchLimit, IsLast ? PCRE2_UNSET : AStart + Window)))
                 return true;
             if (IsLast)
                 return false;
-            AStart += cWindow + 1;
+            AStart += Window + 1;
             AStart += IsWithinPair(AStart) ? 1 : 0;
-            FDone += cWindow;
+            FDone += Window;
             CheckPace();
         }
     }
 
-    bool Run(std::size_t AStart, std::uint32_t AFlags) {
+    int Run(std::size_t AStart, std::uint32_t AFlags, std::uint32_t ALimit, std::size_t ALastStart) {
+        pcre2_set_match_limit(FContext.get(), ALimit);
+        pcre2_set_offset_limit(FContext.get(), ALastStart);
         const auto Ask = [&](std::uint32_t AMore) {
             return pcre2_match(FCode.Code.get(), Units(FText), FText.size(), AStart,
                                FCode.MatchFlags | AFlags | AMore, FData.get(), FContext.get());
         };
-        int Outcome = Ask(0);
-        if (Outcome == PCRE2_ERROR_JIT_STACKLIMIT)
-            Outcome = Ask(PCRE2_NO_JIT);
-        if (Outcome < 0 && Outcome != PCRE2_ERROR_NOMATCH)
+        const int Outcome = Ask(0);
+        return Outcome == PCRE2_ERROR_JIT_STACKLIMIT ? Ask(PCRE2_NO_JIT) : Outcome;
+    }
+
+    static bool Judge(int AOutcome) {
+        if (AOutcome < 0 && AOutcome != PCRE2_ERROR_NOMATCH)
             throw ERegularExpressionError(u"Error in matching the regular expression: %s",
-                                          {ErrorText(Outcome)});
-        return Outcome >= 0;
+                                          {ErrorText(AOutcome)});
+        return AOutcome >= 0;
     }
 
     void CheckPace() const {
@@ -187,7 +215,6 @@ private:
     bool FWasEmpty = false;
     std::chrono::steady_clock::time_point FBegin = std::chrono::steady_clock::now();
     std::size_t FDone = 0; // units, and a little for each match
-    unsigned FMatches = 0;
 };
 
 TGroup TMatch::Place(int AGroup) const noexcept {

@@ -246,6 +246,11 @@ TEST(TextParser, SurvivesAStreamThatRaises) {
             EXPECT_TRUE(Failed || Parser.CurrChar() == u'l');
             Parser.First();
             EXPECT_EQ(u"abcdefghijkl", Parser.PeekString(99)) << FailAfter;
+            Parser.First();
+            Fails([&] { Parser.PeekString(6); });
+            Parser.SkipWhile(sopUnEq, u'l');
+            Parser.First();
+            EXPECT_EQ(u"abcdefghijkl", Parser.PeekString(99)) << "a read that was tried again";
         }
     }
 }

@@ -81,5 +81,17 @@ TEST(RegEx, RaisesForBadAndHostilePatterns) {
                  ERegularExpressionError);
 }
 
+// However long the text, and however slow the pattern is at first.
+TEST(RegEx, SearchesAsOneSearch) {
+    const UnicodeString Quoted = u"a\"" + UnicodeString(3000, u'x') + u"\"";
+    EXPECT_EQ(0u, TRegEx(u"\"[^\"]*\"(*SKIP)(*F)|x").Matches(Quoted).size());
+    const UnicodeString Far = UnicodeString(2049, u'a') + u"x" + UnicodeString(3000, u'a');
+    EXPECT_FALSE(TRegEx(u"\\Gx").IsMatch(Far));
+    EXPECT_FALSE(TRegEx(u"a(*COMMIT)z|x").IsMatch(Far));
+    EXPECT_FALSE(TRegEx(u"^x").IsMatch(Far));
+    EXPECT_FALSE(TRegEx(u"a++[xy]").IsMatch(UnicodeString(1'000'000, u'a')));
+    EXPECT_EQ(20001, TRegEx(u"(?:a|aa){12}[!?]|x").Match(UnicodeString(20000, u'a') + u"x").Index());
+}
+
 } // namespace
 } // namespace qz
