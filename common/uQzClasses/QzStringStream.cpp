@@ -8,6 +8,7 @@
 #include "common/uQzTypes/QzEncoding.h"
 #include "runtime/errors/Exceptions.h"
 #include "runtime/reflection/Describe.h"
+#include "runtime/values/VariantItems.h"
 
 namespace qz {
 namespace {
@@ -122,8 +123,9 @@ void TQzStringStream::SetAsUTF8(const UTF8String& AValue) {
 void TQzStringStream::SetValue(const Variant& AValue) {
     switch (const TVarType Type = VarType(AValue)) {
     case varOleStr:
-    case varUString:
-    case varString: return SetWString(VarToStr(AValue));
+    case varUString: return SetWString(VarToStr(AValue));
+    case varString:
+        return SetWString(CodePageToUnicode(cSystemCodePage, detail::TVariantAccess::Narrow(AValue).Bytes()));
     default: throw Exception(u"Unsupported type %d!", {Type});
     }
 }

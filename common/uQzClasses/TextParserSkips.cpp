@@ -151,6 +151,15 @@ bool TTextParserKind<MBCS>::Run(TQzTextParser& AParser, const TTest& ATest) {
     auto Column = static_cast<std::uint32_t>(State.ColNr);
     std::size_t Count = 0;
     for (;;) {
+        // ASCII within a line first, where all steps are alike.
+        const TQzTextPos From = Here;
+        while (Here < End - 1 && *Here < 0x80 && *Here != '\n' && ATest(Here))
+            ++Here;
+        if (Here != From) {
+            Before = Here - 1;
+            Column += static_cast<std::uint32_t>(Here - From);
+            Count += static_cast<std::size_t>(Here - From);
+        }
         const std::uint8_t First = *Here;
         const std::size_t Length = StepLength(First);
         // The last form, which may be cut off, is left to what follows.

@@ -32,6 +32,8 @@ struct TVariantAccess {
         Result.FData.Items = AItems.release();
         return Result;
     }
+    // The caller has seen that it is an 8-bit text.
+    static const TByteText& Narrow(const Variant& AText) noexcept { return AText.FData.Narrow; }
     // The elements of an array, which is empty from then on.
     static TVariantItems* Take(Variant& AArray) noexcept {
         AArray.FType = varEmpty;

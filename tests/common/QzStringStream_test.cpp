@@ -85,6 +85,9 @@ TEST_F(QzStringStream, KeepsEachTextInItsCodePage) {
 TEST_F(QzStringStream, TakesTextsAsTheyStandWhenMade) {
     EXPECT_EQ("a\0\x42\x30"s, Content(TQzStringStream(u"a\u3042")));
     EXPECT_EQ("\xE3\x81\x82", Content(TQzStringStream(UTF8String("\xE3\x81\x82"))));
+    TQzStringStream Labelled(1200, 16);
+    Labelled.SetValue(AnsiString("\x84", 850));
+    EXPECT_EQ(u"\u201E", Labelled.WString()) << "an 8-bit variant is in code page 0";
     TQzStringStream Bytes(Ansi("\xE4"), 850);
     EXPECT_EQ(u"\u00F5", Bytes.WString());
     EXPECT_EQ(0, Bytes.Position());
