@@ -24,20 +24,6 @@ TBlock NewBlock(std::size_t ASize) {
     return Block;
 }
 
-// As much of ASize bytes as the stream gives.
-std::size_t Fill(TStream& AStream, std::byte* ABlock, std::size_t ASize) {
-    constexpr std::size_t cLargestStep = std::size_t{1} << 30;
-    std::size_t Done = 0;
-    while (Done < ASize) {
-        const auto Step = static_cast<std::int32_t>(std::min(ASize - Done, cLargestStep));
-        const std::int32_t Got = AStream.Read(ABlock + Done, Step);
-        if (Got <= 0)
-            break;
-        Done += static_cast<std::size_t>(Got);
-    }
-    return Done;
-}
-
 } // namespace
 
 bool QzStreamToReadBuf(TStream& AStream, void*& ABuffer, std::size_t& ASize) {
@@ -54,7 +40,7 @@ bool QzStreamToReadBuf(TStream& AStream, void*& ABuffer, std::size_t& ASize) {
         return false;
     }
     TBlock Block = NewBlock(Size);
-    ASize = Fill(AStream, Block.get(), Size);
+    ASize = static_cast<std::size_t>(AStream.ReadUpTo(Block.get(), static_cast<std::int64_t>(Size)));
     ABuffer = Block.release();
     return true;
 }

@@ -15,26 +15,12 @@
 namespace qz {
 namespace {
 
-// Fills the buffer as far as the stream goes.
-std::size_t ReadFully(TStream& AStream, char* ABuffer, std::size_t ASize) {
-    std::size_t Done = 0;
-    while (Done < ASize) {
-        const auto Step = static_cast<std::int32_t>(std::min<std::size_t>(ASize - Done, 1u << 30));
-        const std::int32_t Got = AStream.Read(ABuffer + Done, Step);
-        if (Got <= 0)
-            break;
-        Done += static_cast<std::size_t>(Got);
-    }
-    return Done;
-}
-
 UnicodeString ReadUnits(TStream& AStream) {
     const std::int64_t Bytes = std::max<std::int64_t>(AStream.Size() - AStream.Position(), 0);
     UnicodeString Result = UnicodeString::ForOverwrite(static_cast<std::size_t>(Bytes / 2));
     if (Result.IsEmpty())
         return Result;
-    auto* Target = reinterpret_cast<char*>(Result.UniqueData());
-    const std::size_t Units = ReadFully(AStream, Target, Result.size() * 2) / 2;
+    const auto Units = static_cast<std::size_t>(AStream.ReadUpTo(Result.UniqueData(), Bytes / 2 * 2) / 2);
     if (Units < Result.size())
         Result.SetLength(Units);
     return Result;
@@ -97,7 +83,8 @@ void QzUTF8EncodeStream(TStream& ASource, TStream& ATarget, bool AWriteBOM) {
     std::size_t Kept = 0; // the first half of a pair that a step tore
     for (;;) {
         const std::size_t Room = (cUnits - Kept) * 2;
-        const std::size_t Got = ReadFully(ASource, reinterpret_cast<char*>(Units.data() + Kept), Room);
+        const auto Got =
+            static_cast<std::size_t>(ASource.ReadUpTo(Units.data() + Kept, static_cast<std::int64_t>(Room)));
         const std::size_t Count = Kept + Got / 2;
         const bool Last = Got < Room;
         Kept = !Last && IsHighSurrogate(Units[Count - 1]) ? 1 : 0;
@@ -112,7 +99,7 @@ void QzUTF8EncodeStream(TStream& ASource, TStream& ATarget, bool AWriteBOM) {
 void QzUTF8DecodeStream(TStream& ASource, TStream& ATarget) {
     const std::int64_t Start = ASource.Position();
     char Mark[cQzUTF8.size()];
-    const std::size_t Got = ReadFully(ASource, Mark, sizeof Mark);
+    const auto Got = static_cast<std::size_t>(ASource.ReadUpTo(Mark, sizeof Mark));
     if (std::string_view(Mark, Got) != cQzUTF8)
         ASource.SetPosition(Start);
     TQzUTF8StreamAdapter Adapter(&ASource, false);

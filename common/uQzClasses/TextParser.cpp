@@ -124,7 +124,8 @@ void TQzTextParser::LoadFirst(std::size_t ATotal) {
         return;
     const std::size_t Length = std::min(ATotal, FChunkSize);
     auto Block = std::make_unique_for_overwrite<std::uint8_t[]>(std::max<std::size_t>(Length, 1));
-    const std::size_t Done = ReadChunk(Block.get(), Length);
+    const auto Done =
+        static_cast<std::size_t>(FStream->ReadUpTo(Block.get(), static_cast<std::int64_t>(Length)));
     FBuffer = std::move(Block);
     FBufStart = FBuffer.get();
     FBufEnd = FBufStart + Done;
@@ -135,19 +136,6 @@ void TQzTextParser::LoadFirst(std::size_t ATotal) {
     FLastChunk = !FChunked || Done < Length;
 }
 
-// As much of a chunk as the stream gives, behind the first ACarry bytes of the block.
-std::size_t TQzTextParser::ReadChunk(std::uint8_t* ABlock, std::size_t ASize) {
-    std::size_t Done = 0;
-    while (Done < ASize) {
-        const auto Step = static_cast<std::int32_t>(std::min<std::size_t>(ASize - Done, 1u << 30));
-        const std::int32_t Got = FStream->Read(ABlock + Done, Step);
-        if (Got <= 0)
-            break;
-        Done += static_cast<std::size_t>(Got);
-    }
-    return Done;
-}
-
 // A block with the last ACarry bytes of what is in memory and a new chunk behind them. When reading fails, the stream
 // goes back, so that nothing is lost to a later try.
 std::unique_ptr<std::uint8_t[]> TQzTextParser::Grown(std::size_t ACarry, std::size_t& ARead) {
@@ -156,7 +144,8 @@ std::unique_ptr<std::uint8_t[]> TQzTextParser::Grown(std::size_t ACarry, std::si
     const std::int64_t Start = FStream->Position();
     const std::int32_t Chunk = std::exchange(FChunk, 2); // any but the first, for First to start over
     try {
-        ARead = ReadChunk(Block.get() + ACarry, FChunkSize);
+        ARead = static_cast<std::size_t>(
+            FStream->ReadUpTo(Block.get() + ACarry, static_cast<std::int64_t>(FChunkSize)));
     } catch (...) {
         FStream->SetPosition(Start);
         FChunk = Chunk;

@@ -251,7 +251,6 @@ private:
     void Start(std::uint16_t AContentCodePage);
     void LoadFirst(std::size_t ATotal);
     void GetNextChunk();
-    std::size_t ReadChunk(std::uint8_t* ABlock, std::size_t ASize);
     std::unique_ptr<std::uint8_t[]> Grown(std::size_t ACarry, std::size_t& ARead);
     std::size_t Unit() const noexcept { return FCharacterSetType == DBCS ? 2 : 1; }
     std::size_t Left() const noexcept { return static_cast<std::size_t>(FBufEnd - FState.CurPos); }

@@ -3,22 +3,18 @@
 #include <algorithm>
 
 #include "runtime/text/StringUtils.h"
+#include "runtime/text/Utf.h"
 
 namespace qz {
 namespace {
 
 using TView = std::u16string_view;
 
-constexpr bool IsHigh(char16_t AChar) noexcept {
-    return (AChar & 0xFC00) == 0xD800;
-}
-constexpr bool IsLow(char16_t AChar) noexcept {
-    return (AChar & 0xFC00) == 0xDC00;
-}
-
 // The units of the character at that place: two for a pair of surrogates, one for anything else.
 std::size_t UnitsAt(TView AText, std::size_t AIndex) noexcept {
-    return AIndex + 1 < AText.size() && IsHigh(AText[AIndex]) && IsLow(AText[AIndex + 1]) ? 2 : 1;
+    return AIndex + 1 < AText.size() && IsHighSurrogate(AText[AIndex]) && IsLowSurrogate(AText[AIndex + 1])
+        ? 2
+        : 1;
 }
 
 // The first character by AFirst, the others by ARest.

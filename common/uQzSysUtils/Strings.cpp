@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "runtime/errors/Exceptions.h"
+
 namespace qz {
 namespace {
 
@@ -22,6 +24,16 @@ template <class TTexts> bool IsIn(TView AText, const TTexts& ATexts) noexcept {
 std::size_t Missing(TView AText, int ALength) noexcept {
     const std::size_t Length = ALength < 0 ? 0 : static_cast<std::size_t>(ALength);
     return Length > AText.size() ? Length - AText.size() : 0;
+}
+
+template <class TTexts>
+UnicodeString ReplaceAll(const TStringArg& AText, const TTexts& AOld, const TTexts& ANew,
+                         TReplaceFlags AFlags) {
+    Assert(AOld.size() == ANew.size());
+    UnicodeString Result = AText.ToString();
+    for (auto Old = AOld.begin(), New = ANew.begin(); Old != AOld.end(); ++Old, ++New)
+        Result = StringReplace(Result, *Old, *New, AFlags);
+    return Result;
 }
 
 constexpr char16_t PadChar(char16_t APad) noexcept {
@@ -113,6 +125,16 @@ UnicodeString QzPadRight(const TStringArg& AText, int ALength, char16_t APad) {
     if (Count != 0)
         Result.Append(Count, PadChar(APad));
     return Result;
+}
+
+UnicodeString QzStringReplace(const TStringArg& AText, std::span<const UnicodeString> AOld,
+                              std::span<const UnicodeString> ANew, TReplaceFlags AFlags) {
+    return ReplaceAll(AText, AOld, ANew, AFlags);
+}
+
+UnicodeString QzStringReplace(const TStringArg& AText, std::initializer_list<TStringArg> AOld,
+                              std::initializer_list<TStringArg> ANew, TReplaceFlags AFlags) {
+    return ReplaceAll(AText, AOld, ANew, AFlags);
 }
 
 } // namespace qz

@@ -86,15 +86,7 @@ std::uint16_t QzGetCodePage(const void* ABuffer, std::int32_t ASize) {
 std::uint16_t QzGetCodePage(TStream& AStream) {
     const std::int64_t Start = AStream.Position();
     char Buffer[4];
-    std::size_t Size = 0;
-    // A stream may give less than it has at once.
-    while (Size < std::size(Buffer)) {
-        const std::int32_t Got =
-            AStream.Read(Buffer + Size, static_cast<std::int32_t>(std::size(Buffer) - Size));
-        if (Got <= 0)
-            break;
-        Size += static_cast<std::size_t>(Got);
-    }
+    const auto Size = static_cast<std::size_t>(AStream.ReadUpTo(Buffer, sizeof Buffer));
     const std::string_view Text(Buffer, Size);
     const std::uint16_t Found = CodePageOfMark(Text);
     AStream.SetPosition(Start + static_cast<std::int64_t>(ByteOrderMark(Found).size()));

@@ -36,15 +36,21 @@ std::int32_t TStream::Seek(std::int32_t AOffset, std::uint16_t AOrigin) {
     return static_cast<std::int32_t>(std::min<std::int64_t>(Position, INT32_MAX));
 }
 
-void TStream::ReadBuffer(void* ABuffer, std::int64_t ACount) {
+std::int64_t TStream::ReadUpTo(void* ABuffer, std::int64_t ACount) {
     auto* Target = static_cast<std::byte*>(ABuffer);
-    while (ACount > 0) {
-        const std::int32_t Got = Read(Target, StepOf(ACount, cLargestStep));
+    std::int64_t Done = 0;
+    while (Done < ACount) {
+        const std::int32_t Got = Read(Target + Done, StepOf(ACount - Done, cLargestStep));
         if (Got <= 0)
-            throw EReadError(u"Stream read error");
-        Target += Got;
-        ACount -= Got;
+            break;
+        Done += Got;
     }
+    return Done;
+}
+
+void TStream::ReadBuffer(void* ABuffer, std::int64_t ACount) {
+    if (ReadUpTo(ABuffer, ACount) < ACount)
+        throw EReadError(u"Stream read error");
 }
 
 void TStream::WriteBuffer(const void* ABuffer, std::int64_t ACount) {

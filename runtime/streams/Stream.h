@@ -50,6 +50,8 @@ public:
     std::int64_t Position() { return Seek(std::int64_t{0}, soCurrent); }
     void SetPosition(std::int64_t APosition) { Seek(APosition, soBeginning); }
 
+    // Reads ACount bytes, or what there is until a read gives nothing, in as many steps as it takes; the number read.
+    std::int64_t ReadUpTo(void* ABuffer, std::int64_t ACount);
     // All of the bytes, in as many steps as it takes. Raise EReadError, "Stream read error", and EWriteError, "Stream
     // write error", when the stream gives or takes no more; what was read or written before remains so.
     void ReadBuffer(void* ABuffer, std::int64_t ACount);

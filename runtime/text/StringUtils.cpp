@@ -49,8 +49,33 @@ constexpr char16_t Same(char16_t AChar) noexcept {
     return AChar;
 }
 
+constexpr std::size_t cBlock = 32;
+
+// Whether the first two characters of the piece stand side by side within a block. Without a branch, so that the
+// compiler compares many characters at a time.
+bool MayStartIn(const char16_t* ABlock, char16_t AFirst, char16_t ASecond) noexcept {
+    unsigned Found = 0;
+    for (std::size_t I = 0; I < cBlock; ++I)
+        Found |= static_cast<unsigned>(ABlock[I] == AFirst) & static_cast<unsigned>(ABlock[I + 1] == ASecond);
+    return Found != 0;
+}
+
+std::size_t FindShort(TView AText, TView APiece, std::size_t AFrom) {
+    if (APiece.size() < 2)
+        return AText.find(APiece, AFrom);
+    for (; AFrom + cBlock < AText.size(); AFrom += cBlock) {
+        if (!MayStartIn(AText.data() + AFrom, APiece[0], APiece[1]))
+            continue;
+        for (std::size_t I = AFrom; I < AFrom + cBlock; ++I)
+            if (AText[I] == APiece[0] && AText.substr(I, APiece.size()) == APiece)
+                return I;
+    }
+    return AText.find(APiece, AFrom);
+}
+
 std::size_t Find(TView AText, TView APiece, std::size_t AFrom) {
-    return APiece.size() <= cShortPiece ? AText.find(APiece, AFrom) : FindLong(AText, APiece, AFrom, Same);
+    return APiece.size() <= cShortPiece ? FindShort(AText, APiece, AFrom)
+                                        : FindLong(AText, APiece, AFrom, Same);
 }
 
 std::size_t FindText(TView AText, TView APiece) {
@@ -221,10 +246,12 @@ UnicodeString StringReplace(const TStringArg& AText, const TStringArg& AOld, con
     std::size_t Found = What.empty() ? TView::npos : Find(Where, What, 0);
     if (Found == TView::npos)
         return AText.ToString();
+    const TView New = ANew;
     UnicodeString Result;
+    Result.Reserve(Text.size() + (New.size() > What.size() ? Text.size() / 8 + New.size() : 0));
     std::size_t Done = 0;
     while (Found != TView::npos) {
-        Result.Append(Text.substr(Done, Found - Done)).Append(ANew);
+        Result.Append(Text.substr(Done, Found - Done)).Append(New);
         Done = Found + What.size();
         Found = AFlags.Contains(rfReplaceAll) ? Find(Where, What, Done) : TView::npos;
     }

@@ -149,29 +149,11 @@ QZ_STEP __m128i Compacted(__m128i ABytes, const TShuffle& AShuffle) noexcept {
 #include "runtime/text/UtfFromUtf16.inc"
 #include "runtime/text/UtfFromUtf32.inc"
 #include "runtime/text/UtfFromUtf8.inc"
+#include "runtime/text/UtfPath.inc"
 
 } // namespace
 
-const TUtfPath cUtfAvx2Path = {
-    .Name = "avx2",
-    .AsciiBytes = AsciiBytes,
-    .AsciiUnits = UnitsBelow<0xFF80>,
-    .Latin1Units = UnitsBelow<0xFF00>,
-    .WidenBytes = WidenBytes,
-    .NarrowUnits = NarrowUnits,
-    .SwapUnits = SwapUnits,
-    .Utf8ToUtf16Length = Utf8ToUtf16Length,
-    .Utf8ToUtf16 = Utf8ToUtf16,
-    .IsValidUtf8 = IsValidUtf8,
-    .Utf16ToUtf8Length = Utf16ToUtf8Length,
-    .Utf16ToUtf8 = Utf16ToUtf8,
-    .IsValidUtf16 = IsValidUtf16,
-    .Utf16ToUtf32Length = Utf16ToUtf32Length,
-    .Utf16ToUtf32 = Utf16ToUtf32,
-    .Utf32ToUtf16Length = Utf32ToUtf16Length,
-    .Utf32ToUtf16 = Utf32ToUtf16,
-    .IsValidUtf32 = IsValidUtf32,
-};
+const TUtfPath cUtfAvx2Path = PathOf("avx2");
 
 } // namespace qz::detail
 

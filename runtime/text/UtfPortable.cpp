@@ -163,27 +163,12 @@ std::byte* Utf16ToUtf32(std::u16string_view AText, std::endian AOrder, std::byte
     return ScalarUtf16ToUtf32(AText.data(), AText.data() + AText.size(), AOrder, ADest);
 }
 
+constexpr auto Utf32ToUtf16 = ScalarUtf32ToUtf16;
+
+#include "runtime/text/UtfPath.inc"
+
 } // namespace
 
-const TUtfPath cUtfPortablePath = {
-    .Name = "portable",
-    .AsciiBytes = AsciiBytes,
-    .AsciiUnits = UnitsBelow<0xFF80>,
-    .Latin1Units = UnitsBelow<0xFF00>,
-    .WidenBytes = WidenBytes,
-    .NarrowUnits = NarrowUnits,
-    .SwapUnits = SwapUnits,
-    .Utf8ToUtf16Length = Utf8ToUtf16Length,
-    .Utf8ToUtf16 = Utf8ToUtf16,
-    .IsValidUtf8 = IsValidUtf8,
-    .Utf16ToUtf8Length = Utf16ToUtf8Length,
-    .Utf16ToUtf8 = Utf16ToUtf8,
-    .IsValidUtf16 = IsValidUtf16,
-    .Utf16ToUtf32Length = Utf16ToUtf32Length,
-    .Utf16ToUtf32 = Utf16ToUtf32,
-    .Utf32ToUtf16Length = Utf32ToUtf16Length,
-    .Utf32ToUtf16 = ScalarUtf32ToUtf16,
-    .IsValidUtf32 = IsValidUtf32,
-};
+const TUtfPath cUtfPortablePath = PathOf("portable");
 
 } // namespace qz::detail

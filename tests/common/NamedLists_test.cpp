@@ -2,21 +2,16 @@
 
 #include "common/uQzClasses.h"
 #include "runtime/reflection/Describe.h"
+#include "tests/platform/TemporaryDirectory.h"
+#include "tests/support/Lines.h"
 #include "tests/support/Trace.h"
 
 namespace qz {
 namespace {
 
-UnicodeString Lines(const TStrings& AList) {
-    UnicodeString Result;
-    for (const UnicodeString& Each : AList)
-        Result += Each + u'|';
-    return Result;
-}
-
 TEST(QzFileStream, WritesBytesAndUnitsAsTheyStand) {
-    const UnicodeString Path = testing::TempDir() + "QzFileStream_test";
-    TQzFileStream File(Path, fmCreate);
+    const platform::TTemporaryDirectory Directory;
+    TQzFileStream File(Directory / u"file", fmCreate);
     File.WriteString(u"");
     File.WriteString(AnsiString());
     EXPECT_EQ(File.Size(), 0);

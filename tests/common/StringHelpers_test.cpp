@@ -4,16 +4,10 @@
 
 #include "common/uQzSysUtils.h"
 #include "runtime/time/DateTime.h"
+#include "tests/support/Lines.h"
 
 namespace qz {
 namespace {
-
-UnicodeString Lines(const TStrings& AList) {
-    UnicodeString Result;
-    for (const UnicodeString& Each : AList)
-        Result += Each + u'|';
-    return Result;
-}
 
 TEST(Tokenize, ByCharactersGivesTokensAndDelimiters) {
     const struct {
