@@ -153,8 +153,13 @@ void TQzStringStream::WriteText(std::u16string_view AText) {
 void TQzStringStream::WriteChar(char AChar) {
     if (FCodePage == cSystemCodePage)
         return WriteBuffer(&AChar, 1);
-    const UnicodeString Text = TQzEncoding::ConvertA(&AChar, 1, cSystemCodePage);
-    WriteChar(Text.IsEmpty() ? u'\0' : Text.View().front());
+    char16_t Units[8]{};
+    platform::TError Error;
+    DecodeCodePage(cSystemCodePage, std::as_bytes(std::span(&AChar, 1)), Units, platform::TDecoding::Lenient,
+                   Error);
+    if (Error.Code != 0)
+        RaiseCodePageError(cSystemCodePage, Error);
+    WriteChar(Units[0]);
 }
 
 void TQzStringStream::WriteChar(char16_t AChar) {

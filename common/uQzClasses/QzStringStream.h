@@ -126,6 +126,7 @@ private:
     void SetCodePage(std::uint16_t ACodePage);
     void WriteText(std::u16string_view AText);
     UnicodeString ReadRun(std::uint32_t ACount);
+    char16_t ReadConverted();
     RawByteString BytesToSave(std::uint16_t ACodePage) const;
 };
 

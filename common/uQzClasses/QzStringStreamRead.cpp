@@ -53,11 +53,33 @@ UnicodeString TQzStringStream::ReadRun(std::uint32_t ACount) {
     return Text;
 }
 
-char16_t TQzStringStream::ReadWChar() {
-    if (FCodePage != cUtf16CodePage) {
-        const UnicodeString Text = ReadRun(1);
-        return Text.IsEmpty() ? u'\0' : Text.View().front();
+// As ReadRun does for one unit, without a text in between.
+char16_t TQzStringStream::ReadConverted() {
+    if (Rest() == 0)
+        return u'\0';
+    if (IsAtLowSurrogate())
+        return ReadRun(1).View().front();
+    const std::size_t Window = std::min<std::size_t>(FCodePageMaxCharSize, Rest());
+    char16_t Units[8]{};
+    platform::TError Error;
+    const std::size_t Count = DecodeCodePage(FCodePage, std::as_bytes(std::span(FCurPos, Window)), Units,
+                                             platform::TDecoding::Lenient, Error);
+    std::size_t Step = 1;
+    if (Error.Code == 0 && FCodePageMaxCharSize != 1) {
+        const bool Tears = Count > 1 && IsHighSurrogate(Units[0]) && IsLowSurrogate(Units[1]) &&
+            RealCodePage(FCodePage) != cUtf8CodePage;
+        const std::size_t Whole = std::min<std::size_t>(Count, Tears ? 2 : 1);
+        Step = EncodeCodePage(FCodePage, {Units, Whole}, {}, platform::TComposing::Composite, Error);
     }
+    if (Error.Code != 0)
+        RaiseCodePageError(FCodePage, Error);
+    FCurPos += std::min(Step, Rest());
+    return Units[0];
+}
+
+char16_t TQzStringStream::ReadWChar() {
+    if (FCodePage != cUtf16CodePage)
+        return ReadConverted();
     char16_t Unit = 0;
     if (Rest() < sizeof Unit)
         return 0;
@@ -72,8 +94,12 @@ char TQzStringStream::ReadAChar() {
     if (FCodePage == cSystemCodePage)
         return static_cast<char>(*FCurPos++);
     const char16_t Unit = ReadWChar();
-    const RawByteString Bytes = TQzEncoding::ConvertW(&Unit, 1, cSystemCodePage);
-    return Bytes.IsEmpty() ? '\0' : Bytes[0];
+    char Bytes[8]{};
+    platform::TError Error;
+    EncodeCodePage(cSystemCodePage, {&Unit, 1}, Bytes, platform::TComposing::Composite, Error);
+    if (Error.Code != 0)
+        RaiseCodePageError(cSystemCodePage, Error);
+    return Bytes[0];
 }
 
 UnicodeString TQzStringStream::ReadWString(std::uint32_t ACount) {
