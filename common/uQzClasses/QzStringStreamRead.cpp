@@ -95,10 +95,7 @@ char TQzStringStream::ReadAChar() {
         return static_cast<char>(*FCurPos++);
     const char16_t Unit = ReadWChar();
     char Bytes[8]{};
-    platform::TError Error;
-    EncodeCodePage(cSystemCodePage, {&Unit, 1}, Bytes, platform::TComposing::Composite, Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(cSystemCodePage, Error);
+    TQzEncoding::ConvertW(&Unit, 1, Bytes, sizeof Bytes, cSystemCodePage);
     return Bytes[0];
 }
 

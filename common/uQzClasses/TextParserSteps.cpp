@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "common/uQzClasses/TextParserKinds.h"
+#include "common/uQzTypes/QzEncoding.h"
 #include "runtime/text/Utf.h"
 
 namespace qz {
@@ -275,11 +276,8 @@ const char* TTextParserKind<Kind>::AnsiAt(TQzTextParser& AParser, TQzTextPos APo
 char NarrowUnit(char16_t AUnit) {
     if (AUnit < 0x80)
         return static_cast<char>(AUnit);
-    char Bytes[8];
-    platform::TError Error;
-    EncodeCodePage(cSystemCodePage, {&AUnit, 1}, Bytes, platform::TComposing::Composite, Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(cSystemCodePage, Error);
+    char Bytes[8]{};
+    TQzEncoding::ConvertW(&AUnit, 1, Bytes, sizeof Bytes, cSystemCodePage);
     return Bytes[0];
 }
 
