@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <mutex>
 #include <string_view>
 
 #include <unicode/ucal.h>
@@ -136,6 +137,27 @@ void ReadDates(const std::string& ALocale, TLocale& AResult) {
     ReadAllNames(Gregorian, AResult);
 }
 
+// The locales of numbers, amounts, and dates and times, as ICU names them; empty for the neutral one.
+using TLocaleNames = std::array<std::string, 3>;
+
+TLocaleNames NamesOfEnvironment() {
+    const auto Name = [](const char* ACategory) {
+        return detail::IcuLocaleName(detail::PosixLocaleName(ACategory));
+    };
+    return {Name("LC_NUMERIC"), Name("LC_MONETARY"), Name("LC_TIME")};
+}
+
+TLocale ReadLocale(const TLocaleNames& ANames) {
+    TLocale Result;
+    if (!ANames[0].empty())
+        ReadNumbers(ANames[0], Result);
+    if (!ANames[1].empty())
+        ReadCurrency(ANames[1], Result);
+    if (!ANames[2].empty())
+        ReadDates(ANames[2], Result);
+    return Result;
+}
+
 } // namespace
 
 TLocale NeutralLocale() {
@@ -143,16 +165,14 @@ TLocale NeutralLocale() {
 }
 
 TLocale UserLocale() {
-    TLocale Result;
-    const auto Read = [&](const char* ACategory, void (*AReader)(const std::string&, TLocale&)) {
-        const std::string Name = detail::IcuLocaleName(detail::PosixLocaleName(ACategory));
-        if (!Name.empty())
-            AReader(Name, Result);
-    };
-    Read("LC_NUMERIC", ReadNumbers);
-    Read("LC_MONETARY", ReadCurrency);
-    Read("LC_TIME", ReadDates);
-    return Result;
+    // To open a locale in ICU takes a tenth of a millisecond, and what it says does not change with time.
+    static auto* const Lock = new std::mutex;
+    static auto* const Last = new std::pair<TLocaleNames, TLocale>;
+    const TLocaleNames Names = NamesOfEnvironment();
+    const std::lock_guard Hold(*Lock);
+    if (Last->first != Names)
+        *Last = {Names, ReadLocale(Names)};
+    return Last->second;
 }
 
 } // namespace qz::platform

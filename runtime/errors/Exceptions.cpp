@@ -44,6 +44,8 @@ constinit const TClassRec EClassNotFound::ClassRec =
     DescribeException<EClassNotFound>(u"EClassNotFound", cClassesUnit);
 constinit const TClassRec EPropertyError::ClassRec =
     DescribeException<EPropertyError>(u"EPropertyError", cErrorUnit);
+constinit const TClassRec EPropertyConvertError::ClassRec =
+    DescribeException<EPropertyConvertError>(u"EPropertyConvertError", u"System.TypInfo");
 constinit const TClassRec EThread::ClassRec = DescribeException<EThread>(u"EThread", cClassesUnit);
 constinit const TClassRec EStreamError::ClassRec =
     DescribeException<EStreamError>(u"EStreamError", cClassesUnit);

@@ -94,6 +94,8 @@ QZ_PLAIN_EXCEPTION(EStringListError, Exception);
 QZ_PLAIN_EXCEPTION(EComponentError, Exception);
 QZ_PLAIN_EXCEPTION(EClassNotFound, Exception);
 QZ_PLAIN_EXCEPTION(EPropertyError, Exception);
+// A value or a name that does not fit the type of a property, a set or an enumeration.
+QZ_PLAIN_EXCEPTION(EPropertyConvertError, Exception);
 QZ_PLAIN_EXCEPTION(EThread, Exception);
 QZ_PLAIN_EXCEPTION(EStreamError, Exception);
 QZ_PLAIN_EXCEPTION(EFCreateError, EStreamError);

@@ -1,5 +1,6 @@
 #include "runtime/reflection/BasicTypes.h"
 
+#include "runtime/lists/Set.h"
 #include "runtime/reflection/Describe.h"
 
 namespace qz {
@@ -64,7 +65,10 @@ constinit const TTypeInfo TInfo<TBytes>::Info =
 constinit const TTypeInfo TInfo<decltype(TGUID::D4)>::Info =
     DescribeOf<decltype(TGUID::D4), std::uint8_t>(tkArray, u"TGUIDTail", cSystem);
 constinit const TTypeInfo TInfo<TGUID>::Info = DescribeRecord<TGUID>(u"TGUID", cSystem, cGuidFields);
+constinit const TTypeInfo TInfo<TCharSet>::Info =
+    DescribeOf<TCharSet, char>(tkSet, u"TSysCharSet", u"System.SysUtils");
 constinit const TTypeInfo TInfo<void*>::Info = DescribeType<void*>(tkPointer, u"Pointer", cSystem);
 constinit const TTypeInfo TInfo<TClass>::Info = DescribeType<TClass>(tkClassRef, u"TClass", cSystem);
+constinit const TTypeInfo TInfo<IInterface>::Info = DescribeInterface<IInterface>(u"IInterface", cSystem);
 
 } // namespace qz

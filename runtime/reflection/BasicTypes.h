@@ -1,5 +1,5 @@
 // The descriptions of the types that the runtime knows by itself: integers, characters, floats, strings, arrays of
-// them, pointers and GUIDs.
+// bytes, sets of characters, pointers, interfaces and GUIDs. Dates, Currency, Variant and TValue stand in their own headers.
 //
 //     TypeInfo<int>()->Name;              // "Integer"
 //     TypeInfo<UnicodeString>()->Kind;    // tkUString
@@ -11,6 +11,10 @@
 #include "runtime/reflection/TypeInfo.h"
 #include "runtime/text/AnsiString.h"
 #include "runtime/text/Extended.h"
+
+namespace qz {
+class TCharSet;
+} // namespace qz
 
 QZ_TYPE_INFO(std::int8_t);
 QZ_TYPE_INFO(std::uint8_t);
@@ -34,5 +38,7 @@ QZ_TYPE_INFO(qz::RawByteString);
 QZ_TYPE_INFO(qz::TBytes);
 QZ_TYPE_INFO(qz::TGUID);
 QZ_TYPE_INFO(decltype(qz::TGUID::D4));
+QZ_TYPE_INFO(qz::TCharSet);
 QZ_TYPE_INFO(void*);
 QZ_TYPE_INFO(qz::TClass);
+QZ_TYPE_INFO(qz::IInterface);

@@ -12,6 +12,8 @@
 //
 //     constexpr TFieldInfo cPointFields[] = {Field<&TPoint::X>(u"X"), Field<&TPoint::Y>(u"Y")};
 //     const TTypeInfo TTypeDescription<TPoint>::Info = DescribeRecord<TPoint>(u"TPoint", u"Drawing", cPointFields);
+//
+//     const TTypeInfo TTypeDescription<IShape>::Info = DescribeInterface<IShape>(u"IShape", u"Drawing");
 #pragma once
 
 #include <functional>
@@ -19,16 +21,18 @@
 #include <new>
 #include <type_traits>
 
-#include "runtime/objects/Class.h"
-#include "runtime/objects/Object.h"
+#include "runtime/reflection/Transport.h"
 
 namespace qz {
 
 namespace detail {
 
 template <class T> constexpr TTypeOps OpsOf() noexcept {
-    // NOLINTNEXTLINE(bugprone-sizeof-expression): T may well be a pointer
-    TTypeOps Ops{sizeof(T), alignof(T), nullptr, nullptr, nullptr, nullptr, std::is_trivially_copyable_v<T>};
+    TTypeOps Ops{};
+    Ops.Size = sizeof(T); // NOLINT(bugprone-sizeof-expression): T may well be a pointer
+    Ops.Align = alignof(T);
+    Ops.IsTrivial = std::is_trivially_copyable_v<T>;
+    Ops.IsSmall = cIsSmall<T>;
     if constexpr (std::is_default_constructible_v<T>)
         Ops.Construct = [](void* ATarget) { new (ATarget) T(); };
     if constexpr (std::is_copy_constructible_v<T>)
@@ -39,6 +43,17 @@ template <class T> constexpr TTypeOps OpsOf() noexcept {
         Ops.Assign = [](void* ATarget, const void* ASource) {
             *static_cast<T*>(ATarget) = *static_cast<const T*>(ASource);
         };
+    if constexpr (cIsSmall<T>)
+        Ops.Relocate = [](void* ATarget, void* ASource) noexcept {
+            new (ATarget) T(std::move(*static_cast<T*>(ASource)));
+            std::destroy_at(static_cast<T*>(ASource));
+        };
+    if constexpr (requires(const T& AValue) { static_cast<bool>(AValue.Get() == nullptr); })
+        Ops.IsNull = [](const void* ASource) noexcept {
+            return static_cast<const T*>(ASource)->Get() == nullptr;
+        };
+    else if constexpr (requires(const T& AValue) { static_cast<bool>(AValue == nullptr); })
+        Ops.IsNull = [](const void* ASource) noexcept { return *static_cast<const T*>(ASource) == nullptr; };
     Ops.Destroy = [](void* ATarget) noexcept { std::destroy_at(static_cast<T*>(ATarget)); };
     return Ops;
 }
@@ -47,10 +62,18 @@ template <class T> inline constexpr TTypeOps cOps = OpsOf<T>();
 
 template <class TFamily, auto Make> inline constexpr typename TFamily::TMake cMakerFunction = Make;
 
-// The form in which a value of a property travels: an object as TObject*, anything else as itself.
-template <class T> struct TTransportOf { using Type = T; };
-template <std::derived_from<TObject> T> struct TTransportOf<T*> { using Type = TObject*; };
-template <class T> using TTransport = typename TTransportOf<T>::Type;
+template <class T, class TItem> constexpr TArrayOps ArrayOpsOf() noexcept {
+    return {[](const void* AArray) noexcept { return static_cast<const T*>(AArray)->size(); },
+            [](const void* AArray, std::size_t AIndex, void* ATarget) {
+                new (ATarget) TTransport<TItem>(ToTransport<TItem>((*static_cast<const T*>(AArray))[AIndex]));
+            },
+            [](void* AArray, std::size_t AIndex, const void* ASource) {
+                (*static_cast<T*>(AArray))[AIndex] =
+                    FromTransport<TItem>(*static_cast<const TTransport<TItem>*>(ASource));
+            }};
+}
+
+template <class T, class TItem> inline constexpr TArrayOps cArrayOps = ArrayOpsOf<T, TItem>();
 
 template <class T> struct TGetterOf;
 template <class C, class R> struct TGetterOf<R (C::*)() const> {
@@ -72,16 +95,13 @@ template <auto Member> void GetMember(const TObject& AObject, void* ATarget) {
     using TGetter = TGetterOf<decltype(Member)>;
     auto& Object =
         const_cast<typename TGetter::TClassType&>(static_cast<const typename TGetter::TClassType&>(AObject));
-    new (ATarget) TTransport<typename TGetter::TValueType>(std::invoke(Member, Object));
+    new (ATarget) TTransport<typename TGetter::TValueType>(
+        ToTransport<typename TGetter::TValueType>(std::invoke(Member, Object)));
 }
 
 template <class TValueType, class TClassType, class TSet>
 void SetMember(TClassType& AObject, TSet ASetter, const void* ASource) {
-    const auto& Value = *static_cast<const TTransport<TValueType>*>(ASource);
-    if constexpr (std::is_same_v<TTransport<TValueType>, TValueType>)
-        ASetter(AObject, Value);
-    else
-        ASetter(AObject, static_cast<TValueType>(Value));
+    ASetter(AObject, FromTransport<TValueType>(*static_cast<const TTransport<TValueType>*>(ASource)));
 }
 
 } // namespace detail
@@ -141,6 +161,7 @@ template <class T>
 constexpr TClassRec DescribeClass(std::u16string_view AName, const TClassDescription& AMore) noexcept {
     TClassRec Class;
     Class.Info.Kind = tkClass;
+    Class.Info.Ops = &detail::cOps<TObject*>;
     Class.Info.Name = AName;
     Class.Info.Unit = AMore.Unit;
     Class.Info.IsPublic = AMore.IsPublic;
@@ -200,6 +221,20 @@ constexpr TTypeInfo DescribeOf(TTypeKind AKind, std::u16string_view AName,
                                std::u16string_view AUnit) noexcept {
     TTypeInfo Info = DescribeType<T>(AKind, AName, AUnit);
     Info.Element = [] { return TypeInfo<TItem>(); };
+    if (AKind == tkArray || AKind == tkDynArray)
+        if constexpr (requires(T & AArray) { AArray[AArray.size()]; })
+            Info.Array = &detail::cArrayOps<T, TItem>;
+    return Info;
+}
+
+// An interface and the one that it extends.
+template <class I, class TParent = IInterface>
+    requires std::derived_from<I, TParent>
+constexpr TTypeInfo DescribeInterface(std::u16string_view AName, std::u16string_view AUnit) noexcept {
+    TTypeInfo Info = DescribeType<Ref<IInterface>>(tkInterface, AName, AUnit);
+    Info.Guid = &I::IID;
+    if constexpr (!std::is_same_v<I, TParent>)
+        Info.Base = [] { return TypeInfo<TParent>(); };
     return Info;
 }
 

@@ -12,12 +12,15 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <type_traits>
 
 #include "runtime/objects/Guid.h"
 #include "runtime/text/UnicodeString.h"
 
 namespace qz {
 
+class IInterface;
+template <class I> class Ref;
 class TObject;
 struct TClassRec;
 using TClass = const TClassRec*;
@@ -52,7 +55,7 @@ enum class TTypeKind : std::uint8_t {
 using enum TTypeKind;
 
 // How values of a type are handled in raw storage of its size and alignment. The source and the target of a copy
-// are distinct.
+// are distinct. An object is handled as a TObject*, an interface as a Ref<IInterface>.
 struct TTypeOps {
     std::size_t Size;
     std::size_t Align;
@@ -60,7 +63,19 @@ struct TTypeOps {
     void (*Copy)(void* ATarget, const void* ASource);   // into raw storage; null when values cannot be copied
     void (*Assign)(void* ATarget, const void* ASource); // into a living value; null as for Copy
     void (*Destroy)(void* ATarget) noexcept;
+    // Moves a value into raw storage and ends the source; null unless IsSmall.
+    void (*Relocate)(void* ATarget, void* ASource) noexcept;
+    // Whether the value refers to nothing; null for a type that always is a value.
+    bool (*IsNull)(const void* ASource) noexcept;
     bool IsTrivial; // a copy is a copy of the bytes
+    bool IsSmall;   // at most 16 bytes that can be moved without fail, so that a TValue keeps it in place
+};
+
+// How the elements of an array are reached, in the form in which values of their type are handled.
+struct TArrayOps {
+    std::size_t (*Length)(const void* AArray) noexcept;
+    void (*GetItem)(const void* AArray, std::size_t AIndex, void* ATarget); // constructs into raw storage
+    void (*SetItem)(void* AArray, std::size_t AIndex, const void* ASource);
 };
 
 // One value of an enumeration.
@@ -96,7 +111,7 @@ struct TTypeInfo {
     TTypeKind Kind = tkUnknown;
     std::u16string_view Name; // without the unit
     std::u16string_view Unit;
-    const TTypeOps* Ops = nullptr;           // null for a class: objects are handled by address
+    const TTypeOps* Ops = nullptr;           // never null in a description
     bool IsPublic = true;                    // has a qualified name that can be looked up
     bool IsSigned = false;                   // of an ordinal type
     PTypeInfo (*Base)() = nullptr;           // parent class or interface
@@ -105,8 +120,9 @@ struct TTypeInfo {
     std::span<const TPropInfo> Properties{}; // of a class: its own, the parent's come first
     std::span<const TFieldInfo> Fields{};    // of a record
     std::span<const TMethodInfo> Methods{};
-    TClass Class = nullptr;      // of a class
-    const TGUID* Guid = nullptr; // of an interface
+    TClass Class = nullptr;           // of a class
+    const TGUID* Guid = nullptr;      // of an interface
+    const TArrayOps* Array = nullptr; // of an array
 
     // Unit and name with a point between; the name alone when the type has no public unit.
     QZ_API UnicodeString QualifiedName() const;
@@ -118,6 +134,14 @@ struct TTypeInfo {
 template <class T> struct TTypeDescription;
 
 namespace detail {
+constexpr bool IsSmallSize(std::size_t ASize, std::size_t AAlign) noexcept {
+    return ASize <= 16 && AAlign <= alignof(void*);
+}
+// What TTypeOps::IsSmall says.
+template <class T>
+inline constexpr bool cIsSmall = // NOLINTNEXTLINE(bugprone-sizeof-expression): T may well be a pointer
+    IsSmallSize(sizeof(T), alignof(T)) && std::is_nothrow_move_constructible_v<T>;
+
 template <class T>
 concept CHasClassRec = requires {
     T::ClassRec;
@@ -126,10 +150,29 @@ template <class T>
 concept CHasTypeDescription = requires {
     TTypeDescription<T>::Info;
 };
+template <class T>
+concept CInterfaceType = requires {
+    T::IID;
+}
+&&!CHasClassRec<T>;
+
+// The type whose description is that of T.
+template <class T> struct TDescribedAs { using Type = T; };
+template <class I> struct TDescribedAs<Ref<I>> { using Type = I; };
+template <CInterfaceType I> struct TDescribedAs<I*> { using Type = I; };
+
+template <class T>
+concept CDescribed = CHasClassRec<std::remove_cv_t<std::remove_pointer_t<T>>> ||
+    CHasTypeDescription<typename TDescribedAs<T>::Type>;
 template <class T> constexpr PTypeInfo TypeInfoOf() noexcept;
 } // namespace detail
 
-// The description of T. An object type is described by its class, whether it is named as a class or a pointer.
+// Whether TypeInfo<T>() compiles.
+template <class T>
+concept CDescribedType = detail::CDescribed<std::remove_cv_t<T>>;
+
+// The description of T. An object type is described by its class, whether it is named as a class or a pointer, an
+// interface I also as I* and Ref<I>.
 template <class T> constexpr PTypeInfo TypeInfo() noexcept {
     return detail::TypeInfoOf<std::remove_cv_t<T>>();
 }
@@ -137,8 +180,8 @@ template <class T> constexpr PTypeInfo TypeInfo() noexcept {
 // The published property of that name, of AType or a parent class, ignoring case; null when there is none.
 QZ_API const TPropInfo* GetPropInfo(PTypeInfo AType, std::u16string_view AName) noexcept;
 
-// The ordinal at ASource, an integer, character or enumeration of 1 to 8 bytes, widened by its sign. AType is of an
-// ordinal kind.
+// The ordinal at ASource, an integer, character, enumeration or set of 1 to 8 bytes, widened by its sign. AType is of
+// an ordinal kind or a set.
 QZ_API std::int64_t ReadOrdinal(PTypeInfo AType, const void* ASource) noexcept;
 QZ_API void WriteOrdinal(PTypeInfo AType, void* ATarget, std::int64_t AValue) noexcept;
 
@@ -156,9 +199,9 @@ template <class T> constexpr PTypeInfo TypeInfoOf() noexcept {
         return &std::remove_cv_t<std::remove_pointer_t<T>>::ClassRec.Info;
     } else {
         static_assert(
-            CHasTypeDescription<T>,
+            CDescribed<T>,
             "this type has no description: announce it with QZ_TYPE_INFO in the header of the type");
-        return &TTypeDescription<T>::Info;
+        return &TTypeDescription<typename TDescribedAs<T>::Type>::Info;
     }
 }
 

@@ -1,6 +1,7 @@
 #include "runtime/text/FloatText.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <limits>
 #include <string>
@@ -129,23 +130,39 @@ bool IsTooLarge(std::string_view AText) noexcept {
     return Exponent > static_cast<std::int64_t>(Found) - Point;
 }
 
-// The number in the form that std::from_chars reads; empty when a character fits no number.
-std::string ToPlainNumber(std::u16string_view AText, char16_t ADecimalSeparator) {
-    std::string Result;
-    Result.reserve(AText.size());
-    for (const char16_t Char : AText) {
-        if (Char == ADecimalSeparator)
-            Result += '.';
-        else if ((Char >= u'0' && Char <= u'9') || Char == u'e' || Char == u'E' || Char == u'-' ||
-                 Char == u'+')
-            Result += static_cast<char>(Char);
-        else
-            return {};
+// A text in the form that std::from_chars reads, without memory of its own unless it is long.
+class TPlainNumber {
+public:
+    // Empty when a character fits no number.
+    TPlainNumber(std::u16string_view AText, char16_t ADecimalSeparator) {
+        if (AText.size() > FRoom.size())
+            FLong.resize(AText.size());
+        char* const Start = FLong.empty() ? FRoom.data() : FLong.data();
+        char* Place = Start;
+        for (const char16_t Char : AText) {
+            const bool IsDigit = Char >= u'0' && Char <= u'9';
+            if (!IsDigit && Char != ADecimalSeparator && Char != u'e' && Char != u'E' && Char != u'-' &&
+                Char != u'+')
+                return;
+            *Place++ = Char == ADecimalSeparator ? '.' : static_cast<char>(Char);
+        }
+        FText = {Start, AText.size()};
     }
-    return Result;
-}
+    TPlainNumber(const TPlainNumber&) = delete;
+    TPlainNumber& operator=(const TPlainNumber&) = delete;
 
+    std::string_view Text() const noexcept { return FText; }
+
+private:
+    std::array<char, 64> FRoom;
+    std::string FLong;
+    std::string_view FText;
+};
+
+// Nothing but "INF" and "NAN" with a sign has such a length and such letters.
 bool ReadSpecial(std::u16string_view AText, double& AValue) noexcept {
+    if (AText.size() < 3 || AText.size() > 4 || AText.back() < u'A')
+        return false;
     const bool IsNegative = AText.starts_with(u'-');
     if (SameText(AText, u"NAN"))
         AValue = std::numeric_limits<double>::quiet_NaN();
@@ -207,11 +224,11 @@ bool TryStrToFloat(const TStringArg& AText, double& AValue) {
 
 bool TryStrToFloat(const TStringArg& AText, double& AValue, const TFormatSettings& ASettings) {
     AValue = 0;
-    const UnicodeString Trimmed = Trim(AText.View());
+    const std::u16string_view Trimmed = TrimView(AText);
     if (ReadSpecial(Trimmed, AValue))
         return true;
-    const std::string Plain = ToPlainNumber(Trimmed, ASettings.DecimalSeparator);
-    std::string_view Number = Plain;
+    const TPlainNumber Plain(Trimmed, ASettings.DecimalSeparator);
+    std::string_view Number = Plain.Text();
     if (Number.starts_with('+') && !Number.starts_with("+-"))
         Number.remove_prefix(1);
     const char* End = Number.data() + Number.size();

@@ -3,6 +3,7 @@
 #include <array>
 #include <limits>
 #include <optional>
+#include <utility>
 
 #include "runtime/errors/Exceptions.h"
 #include "runtime/objects/Guid.h"
@@ -31,15 +32,16 @@ struct TNumber {
     bool IsHex;
 };
 
-// Takes off a prefix of hexadecimal numbers.
+// Takes off a prefix of hexadecimal numbers: "$", "x" or "0x".
 bool TakeHexPrefix(std::u16string_view& AText) noexcept {
-    for (const std::u16string_view Prefix : {u"$", u"x", u"X", u"0x", u"0X"}) {
-        if (AText.starts_with(Prefix)) {
-            AText.remove_prefix(Prefix.size());
-            return true;
-        }
-    }
-    return false;
+    const auto IsX = [](char16_t AChar) { return AChar == u'x' || AChar == u'X'; };
+    if (AText.empty())
+        return false;
+    const std::size_t Length = AText[0] == u'$' || IsX(AText[0]) ? 1
+        : AText[0] == u'0' && AText.size() > 1 && IsX(AText[1])  ? 2
+                                                                 : 0;
+    AText.remove_prefix(Length);
+    return Length != 0;
 }
 
 std::optional<TNumber> ReadNumber(std::u16string_view AText) noexcept {
@@ -84,14 +86,49 @@ template <class T> bool Fit(const std::optional<TNumber>& ANumber, T& AValue) no
     return true;
 }
 
+// As Fit of ReadNumber, the short way for most numbers.
+template <class T> bool TryRead(std::u16string_view AText, T& AValue) noexcept {
+    std::int64_t Plain = 0;
+    if (!detail::TryPlainInteger(AText, Plain))
+        return Fit(ReadNumber(AText), AValue);
+    const bool Fits = std::in_range<T>(Plain);
+    AValue = Fits ? static_cast<T>(Plain) : T{};
+    return Fits;
+}
+
 template <class T> T Require(const TStringArg& AText) {
     T Value;
-    if (!Fit(ReadNumber(AText), Value))
+    if (!TryRead(AText, Value))
         throw EConvertError(u"'%s' is not a valid integer value", {AText.View()});
     return Value;
 }
 
 } // namespace
+
+// Four digits at a time, since each step waits for the multiplication of the one before.
+bool detail::TryPlainInteger(std::u16string_view AText, std::int64_t& AValue) noexcept {
+    const bool IsNegative = AText.starts_with(u'-');
+    AText.remove_prefix(IsNegative ? 1 : 0);
+    if (AText.empty() || AText.size() > std::numeric_limits<std::int64_t>::digits10)
+        return false;
+    const auto Digit = [](char16_t AChar) { return static_cast<unsigned>(AChar - u'0'); };
+    const char16_t* Here = AText.data();
+    const char16_t* const End = Here + AText.size();
+    std::int64_t Value = 0;
+    for (; End - Here >= 4; Here += 4) {
+        const unsigned A = Digit(Here[0]), B = Digit(Here[1]), C = Digit(Here[2]), D = Digit(Here[3]);
+        if (A > 9 || B > 9 || C > 9 || D > 9)
+            return false;
+        Value = Value * 10000 + (A * 10 + B) * 100 + (C * 10 + D);
+    }
+    for (; Here != End; ++Here) {
+        if (Digit(*Here) > 9)
+            return false;
+        Value = Value * 10 + Digit(*Here);
+    }
+    AValue = IsNegative ? -Value : Value;
+    return true;
+}
 
 char16_t* detail::WriteDecimal(std::uint64_t AValue, char16_t* AEnd) noexcept {
     while (AValue >= 100) {
@@ -152,13 +189,13 @@ std::uint64_t StrToUInt64(const TStringArg& AText) {
 }
 
 bool TryStrToInt(const TStringArg& AText, std::int32_t& AValue) noexcept {
-    return Fit(ReadNumber(AText), AValue);
+    return TryRead(AText, AValue);
 }
 bool TryStrToInt64(const TStringArg& AText, std::int64_t& AValue) noexcept {
-    return Fit(ReadNumber(AText), AValue);
+    return TryRead(AText, AValue);
 }
 bool TryStrToUInt64(const TStringArg& AText, std::uint64_t& AValue) noexcept {
-    return Fit(ReadNumber(AText), AValue);
+    return TryRead(AText, AValue);
 }
 
 std::int32_t StrToIntDef(const TStringArg& AText, std::int32_t ADefault) noexcept {

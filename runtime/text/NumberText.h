@@ -53,6 +53,10 @@ namespace detail {
 // Room for the longest number: 20 digits and a sign.
 inline constexpr std::size_t cMaxIntLength = 24;
 
+// A number of up to 18 decimal digits, with a minus or none, and nothing else. False for any other text, which may yet be a
+// number.
+QZ_API bool TryPlainInteger(std::u16string_view AText, std::int64_t& AValue) noexcept;
+
 // Writes the digits of AValue so that they end at AEnd, and gives their start.
 QZ_API char16_t* WriteDecimal(std::uint64_t AValue, char16_t* AEnd) noexcept;
 QZ_API char16_t* WriteHex(std::uint64_t AValue, char16_t* AEnd) noexcept;

@@ -161,12 +161,16 @@ bool AnsiSameText(const TStringArg& ALeft, const TStringArg& ARight) {
     return platform::CompareStrings(ALeft, ARight, true) == 0;
 }
 
+std::u16string_view TrimView(std::u16string_view AText) noexcept {
+    while (!AText.empty() && AText.front() <= cLastBlank)
+        AText.remove_prefix(1);
+    while (!AText.empty() && AText.back() <= cLastBlank)
+        AText.remove_suffix(1);
+    return AText;
+}
+
 UnicodeString Trim(const TStringArg& AText) {
-    TView Text = AText;
-    while (!Text.empty() && Text.front() <= cLastBlank)
-        Text.remove_prefix(1);
-    while (!Text.empty() && Text.back() <= cLastBlank)
-        Text.remove_suffix(1);
+    const TView Text = TrimView(AText);
     return Text.size() == AText.View().size() ? AText.ToString() : UnicodeString(Text);
 }
 

@@ -52,6 +52,8 @@ QZ_API bool AnsiSameText(const TStringArg& ALeft, const TStringArg& ARight);
 QZ_API UnicodeString Trim(const TStringArg& AText);
 QZ_API UnicodeString TrimLeft(const TStringArg& AText);
 QZ_API UnicodeString TrimRight(const TStringArg& AText);
+// As Trim, without a copy: the result is part of AText.
+QZ_API std::u16string_view TrimView(std::u16string_view AText) noexcept;
 
 // The position of the first occurrence at or behind AOffset, or 0; an empty piece occurs nowhere. Searching takes
 // time in proportion to the text, whatever the piece.

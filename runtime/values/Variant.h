@@ -3,47 +3,40 @@
 //     Variant Value = u"text";
 //     if (VarType(Value) == varUString)
 //         Show(VarToStr(Value));
+//     Variant Price = Currency(19.99), Day = Date(), Object = Greeter;
+//     std::int32_t Number = VarToInteger(Variant(u"12"));        // VariantConvert.h
 //
-// The type codes are those of OLE Automation. A Variant is 16 bytes; copies of texts share their characters, copies of
-// arrays (VariantArray.h) their elements until one is written to. Different variants may be used by different threads.
+// A Variant is 16 bytes, and numbers are copied as such. Copies of texts share their characters, copies of arrays
+// (VariantArray.h) their elements until one is written to, copies of interfaces count. Floats of all kinds are kept bit by
+// bit. Different variants may be used by different threads; one that was moved from is empty.
 #pragma once
 
+#include <compare>
 #include <concepts>
 #include <cstdint>
+#include <cstring>
+#include <new>
 #include <utility>
 
 #include "runtime/errors/Exceptions.h"
+#include "runtime/objects/Interface.h"
 #include "runtime/text/AnsiString.h"
+#include "runtime/text/Extended.h"
 #include "runtime/text/UnicodeString.h"
+#include "runtime/time/DateTime.h"
+#include "runtime/values/Currency.h"
+#include "runtime/values/SystemDecimal.h"
+#include "runtime/values/VarTypes.h"
 
 namespace qz {
-
-using TVarType = std::uint16_t;
-
-inline constexpr TVarType varEmpty = 0;
-inline constexpr TVarType varNull = 1;
-inline constexpr TVarType varSmallint = 2;
-inline constexpr TVarType varInteger = 3;
-inline constexpr TVarType varSingle = 4;
-inline constexpr TVarType varDouble = 5;
-inline constexpr TVarType varOleStr = 8;
-inline constexpr TVarType varBoolean = 11;
-inline constexpr TVarType varVariant = 12; // of the elements of an array alone
-inline constexpr TVarType varShortInt = 16;
-inline constexpr TVarType varByte = 17;
-inline constexpr TVarType varWord = 18;
-inline constexpr TVarType varLongWord = 19;
-inline constexpr TVarType varInt64 = 20;
-inline constexpr TVarType varUInt64 = 21;
-inline constexpr TVarType varString = 256;
-inline constexpr TVarType varUString = 258;
-inline constexpr TVarType varArray = 0x2000; // joined with the type of the elements
 
 QZ_PLAIN_EXCEPTION(EVariantError, Exception);
 // Values that do not go together in this operation.
 QZ_PLAIN_EXCEPTION(EVariantInvalidOpError, EVariantError);
 // A value that cannot be had in the form that is asked for.
 QZ_PLAIN_EXCEPTION(EVariantTypeCastError, EVariantError);
+// A number that the form asked for does not hold.
+QZ_PLAIN_EXCEPTION(EVariantOverflowError, EVariantError);
 
 namespace detail {
 struct TVariantItems;
@@ -53,57 +46,131 @@ struct TVariantAccess;
 class QZ_API Variant {
 public:
     Variant() noexcept = default; // empty
-    Variant(bool AValue) noexcept : FType(varBoolean) { FData.Integer = AValue ? 1 : 0; }
+    Variant(std::same_as<bool> auto AValue) noexcept : FType(varBoolean) { FData.Integer = AValue ? -1 : 0; }
     template <std::integral T>
         requires(!std::same_as<T, bool> && !std::same_as<T, char> && !std::same_as<T, char8_t> &&
                  !std::same_as<T, char16_t> && !std::same_as<T, char32_t> && !std::same_as<T, wchar_t>)
     Variant(T AValue)
-    noexcept : FType(CodeOf<T>()) { FData.Integer = static_cast<std::int64_t>(AValue); }
-    Variant(float AValue) noexcept : FType(varSingle) { FData.Real = AValue; }
+    noexcept : FType(detail::VarTypeOf<T>()) { FData.Integer = static_cast<std::int64_t>(AValue); }
+    Variant(float AValue) noexcept : FType(varSingle) { FData.Single = AValue; }
     Variant(double AValue) noexcept : FType(varDouble) { FData.Real = AValue; }
+    Variant(Extended AValue) noexcept : Variant(AValue.Value) {}
+    template <class TTag> Variant(TDateTimeKind<TTag> AValue) noexcept : FType(varDate) {
+        FData.Real = AValue.Value;
+    }
+    Variant(Currency AValue) noexcept : FType(varCurrency) { FData.Integer = AValue.Units(); }
+    Variant(const TSysDecimal& AValue) noexcept
+        : FType(varDecimal),
+          FScale(AValue.Scale),
+          FSign(AValue.Sign),
+          FHigh(AValue.High) {
+        FData.Integer = static_cast<std::int64_t>(AValue.Low);
+    }
     // A text of any form that UnicodeString takes.
     template <class T>
         requires(std::convertible_to<const T&, UnicodeString> && !std::derived_from<T, WideString>)
     Variant(const T& AText) : FType(varUString) { new (&FData.Wide) UnicodeString(AText); }
     Variant(const WideString& AText) noexcept : FType(varOleStr) { new (&FData.Wide) UnicodeString(AText); }
     Variant(const AnsiString& AText) noexcept : FType(varString) { new (&FData.Narrow) TByteText(AText); }
-    Variant(const Variant& AOther) noexcept;
-    Variant(Variant&& AOther) noexcept;
-    Variant& operator=(Variant AOther) noexcept;
-    ~Variant();
+    // An interface, which the variant counts.
+    template <class I>
+    requires std::constructible_from<Ref<IInterface>, I*> Variant(const Ref<I>& AInterface) noexcept
+        : Variant(Ref<IInterface>(AInterface.Get()), varUnknown) {}
+    // An object, which somebody else owns and keeps alive.
+    template <std::derived_from<TObject> T> Variant(T* AObject) noexcept : FType(varObject) {
+        FData.Object = AObject;
+    }
+    Variant(const Variant& AOther) noexcept {
+        CopyBits(AOther);
+        if (IsManaged(FType))
+            Share(AOther);
+    }
+    Variant(Variant&& AOther) noexcept {
+        CopyBits(AOther);
+        AOther.FType = varEmpty;
+    }
+    Variant& operator=(const Variant& AOther) noexcept { return *this = Variant(AOther); }
+    // The old value ends when the new one is in its place.
+    Variant& operator=(Variant&& AOther) noexcept {
+        Variant Other(std::move(AOther));
+        const Variant Old(std::move(*this));
+        CopyBits(Other);
+        Other.FType = varEmpty;
+        return *this;
+    }
+    ~Variant() {
+        if (IsManaged(FType))
+            Drop();
+    }
 
     // The value that is null in the sense of databases.
-    static Variant Null() noexcept;
+    static Variant Null() noexcept { return Variant(0, varNull); }
+    // A result code, such as that of a parameter left out.
+    static Variant Error(std::int32_t ACode) noexcept { return Variant(ACode, varError); }
+    // An interface that is IDispatch of the system's automation, or has its operations in the same places: nothing
+    // checks that. The variant counts it.
+    static Variant Dispatch(IInterface* AInterface) noexcept {
+        return Variant(Ref<IInterface>(AInterface), varDispatch);
+    }
 
     friend TVarType VarType(const Variant& AValue) noexcept { return AValue.FType; }
-    friend QZ_API UnicodeString VarToStr(const Variant& AValue);
     // Numbers by their value whatever their types, texts unit by unit, a number and a text by the number that is
     // written there; True is -1 among numbers. Null is equal to null alone, an empty one also to 0 and the empty
-    // text. Raises EVariantTypeCastError for a text that should be a number or a boolean and is none, and
-    // EVariantInvalidOpError for an array.
+    // text, an interface or object to the same address. Raises EVariantTypeCastError for a text that should be a
+    // number, date or boolean and is none, and EVariantInvalidOpError for an array.
     friend QZ_API bool operator==(const Variant& ALeft, const Variant& ARight);
+    // By the same rules; what is neither equal nor in order, such as null and anything else, is unordered.
+    friend QZ_API std::partial_ordering operator<=>(const Variant& ALeft, const Variant& ARight);
 
 private:
     friend struct detail::TVariantAccess;
-    template <class T> static constexpr TVarType CodeOf() noexcept {
-        constexpr TVarType cSigned[] = {varShortInt, varSmallint, varInteger, varInt64};
-        constexpr TVarType cUnsigned[] = {varByte, varWord, varLongWord, varUInt64};
-        constexpr int cSize = sizeof(T) == 1 ? 0 : sizeof(T) == 2 ? 1 : sizeof(T) == 4 ? 2 : 3;
-        return std::signed_integral<T> ? cSigned[cSize] : cUnsigned[cSize];
+    Variant(std::int64_t AInteger, TVarType AType) noexcept : FType(AType) { FData.Integer = AInteger; }
+    Variant(Ref<IInterface> AInterface, TVarType AType) noexcept : FType(AType) {
+        FData.Interface = AInterface.Detach();
     }
-    bool IsWide() const noexcept { return FType == varUString || FType == varOleStr; }
+    // Whether copies count something.
+    static constexpr bool IsManaged(TVarType AType) noexcept {
+        constexpr std::uint32_t cSmall = 1U << varOleStr | 1U << varDispatch | 1U << varUnknown;
+        return AType < 32 ? (cSmall >> AType & 1) != 0 : AType != varObject;
+    }
+    // Values of every type may be moved as bytes.
+    void CopyBits(const Variant& AOther) noexcept {
+        std::memcpy(static_cast<void*>(this), static_cast<const void*>(&AOther), sizeof(Variant));
+    }
+    // Counts what the bytes copied from AOther refer to.
+    void Share(const Variant& AOther) noexcept {
+        if (FType == varUString || FType == varOleStr)
+            new (&FData.Wide) UnicodeString(AOther.FData.Wide);
+        else
+            ShareOther(AOther);
+    }
+    void Drop() noexcept {
+        if (FType == varUString || FType == varOleStr)
+            FData.Wide.~UnicodeString();
+        else
+            DropOther();
+    }
+    void ShareOther(const Variant& AOther) noexcept;
+    void DropOther() noexcept;
 
     union TData {
         TData() noexcept : Integer(0) {}
         ~TData() {} // NOLINT(modernize-use-equals-default): a union with strings has no other
-        std::int64_t Integer;
-        double Real;
+        std::int64_t
+            Integer; // all integers, booleans (-1 and 0), currency, error codes, the lower bits of a decimal
+        double Real; // dates too
+        float Single;
         UnicodeString Wide;
         TByteText Narrow;
         detail::TVariantItems* Items; // counted
+        IInterface* Interface;        // counted
+        TObject* Object;
     };
 
     TVarType FType = varEmpty;
+    std::uint8_t FScale = 0; // this and the next two of a decimal alone
+    std::uint8_t FSign = 0;
+    std::uint32_t FHigh = 0;
     TData FData;
 };
 
@@ -114,8 +181,11 @@ TVarType VarType(const Variant& AValue) noexcept;
 inline bool VarIsArray(const Variant& AValue) noexcept {
     return (VarType(AValue) & varArray) != 0;
 }
-// The value as text; empty for an empty or null one. A text of 8 bits is converted from its code page. Raises
-// EVariantTypeCastError for an array.
+// The value as text; empty for an empty or null one. A text of 8 bits is converted from its code page. Numbers and dates
+// are written by FloatToStr, DateTimeToStr, CurrToStr and DecimalToStr, an error by its code. Raises
+// EVariantTypeCastError for an array, an interface, an object, and a date out of range.
 QZ_API UnicodeString VarToStr(const Variant& AValue);
 
 } // namespace qz
+
+QZ_TYPE_INFO(qz::Variant);

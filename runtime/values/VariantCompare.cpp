@@ -2,81 +2,104 @@
 
 #include "runtime/text/FloatText.h"
 #include "runtime/text/NumberText.h"
-#include "runtime/values/VariantItems.h"
+#include "runtime/time/DateTimeText.h"
+#include "runtime/values/VariantConvert.h"
+#include "runtime/values/VariantKinds.h"
 
 namespace qz {
 namespace {
 
+using detail::KindOf;
+using detail::NumberAsDecimal;
+using detail::NumberAsReal;
+using detail::TTextOf;
 using detail::TVariantAccess;
+using detail::TVariantKind;
 
-enum class TKind : std::uint8_t { Empty, Null, Text, Boolean, Integer, Real };
-
-TKind KindOf(const Variant& AValue) noexcept {
-    switch (VarType(AValue)) {
-    case varEmpty: return TKind::Empty;
-    case varNull: return TKind::Null;
-    case varBoolean: return TKind::Boolean;
-    default:
-        return TVariantAccess::IsText(AValue) ? TKind::Text
-            : TVariantAccess::IsReal(AValue)  ? TKind::Real
-                                              : TKind::Integer;
-    }
+std::partial_ordering Reversed(std::partial_ordering AOrder) noexcept {
+    return std::is_lt(AOrder) ? std::partial_ordering::greater
+        : std::is_gt(AOrder)  ? std::partial_ordering::less
+                              : AOrder;
 }
 
-std::int64_t IntegerOf(const Variant& AValue) noexcept {
-    const std::int64_t Value = TVariantAccess::Integer(AValue);
-    return VarType(AValue) == varBoolean ? -Value : Value;
+// Floats by their value; whole numbers and decimals among themselves exactly.
+std::partial_ordering CompareNumbers(const Variant& ALeft, const Variant& ARight) noexcept {
+    const TVariantKind Left = KindOf(ALeft);
+    const TVariantKind Right = KindOf(ARight);
+    if (Left == TVariantKind::Real || Right == TVariantKind::Real)
+        return NumberAsReal(ALeft) <=> NumberAsReal(ARight);
+    if (Left == TVariantKind::Integer && Right == TVariantKind::Integer)
+        return TVariantAccess::Integer(ALeft) <=> TVariantAccess::Integer(ARight);
+    return NumberAsDecimal(ALeft) <=> NumberAsDecimal(ARight);
 }
 
-double RealOf(const Variant& AValue) noexcept {
-    if (TVariantAccess::IsReal(AValue))
-        return TVariantAccess::Real(AValue);
-    const std::int64_t Value = IntegerOf(AValue);
-    return VarType(AValue) == varUInt64 ? static_cast<double>(static_cast<std::uint64_t>(Value))
-                                        : static_cast<double>(Value);
-}
-
-bool SameIntegers(const Variant& ALeft, const Variant& ARight) noexcept {
-    const std::int64_t Left = IntegerOf(ALeft);
-    const std::int64_t Right = IntegerOf(ARight);
-    const bool SameSign = (VarType(ALeft) == varUInt64) == (VarType(ARight) == varUInt64);
-    return Left == Right && (SameSign || Left >= 0);
+[[noreturn]] void RaiseText(const UnicodeString& AText, const Variant& ANumber) {
+    throw EVariantTypeCastError(u"The text \"%s\" cannot be compared with a value of type %d",
+                                {AText, VarType(ANumber)});
 }
 
 // The text is read in the form of the other value.
-bool SameAsText(const Variant& AValue, const Variant& AText) {
-    const UnicodeString Text = VarToStr(AText);
-    if (bool Boolean = false; KindOf(AValue) == TKind::Boolean && TryStrToBool(Text, Boolean))
-        return Boolean == (TVariantAccess::Integer(AValue) != 0);
-    double Number = 0;
-    if (KindOf(AValue) == TKind::Boolean || !TryStrToFloat(Text, Number))
-        throw EVariantTypeCastError(u"The text \"%s\" cannot be compared with a value of type %d",
-                                    {Text, VarType(AValue)});
-    return Number == RealOf(AValue);
+std::partial_ordering CompareWithText(const Variant& ANumber, const Variant& AText) {
+    const TTextOf Source(AText);
+    const UnicodeString& Text = Source.Text();
+    if (VarType(ANumber) == varBoolean) {
+        bool Boolean = false;
+        if (!TryStrToBool(Text, Boolean))
+            RaiseText(Text, ANumber);
+        return CompareNumbers(ANumber, Boolean);
+    }
+    if (TDateTime Date; VarType(ANumber) == varDate && TryStrToDateTime(Text, Date))
+        return CompareNumbers(ANumber, Date);
+    if (TSysDecimal Decimal; KindOf(ANumber) != TVariantKind::Real && TryStrToDecimal(Text, Decimal))
+        return CompareNumbers(ANumber, Decimal);
+    double Real = 0;
+    if (!TryStrToFloat(Text, Real))
+        RaiseText(Text, ANumber);
+    return CompareNumbers(ANumber, Real);
 }
 
-bool SameAsEmpty(const Variant& AValue) {
-    return KindOf(AValue) == TKind::Text ? VarToStr(AValue).empty() : RealOf(AValue) == 0;
+// The first is of no higher kind than the second, and they are not both texts.
+std::partial_ordering CompareInOrder(const Variant& AFirst, const Variant& ASecond) {
+    const TVariantKind First = KindOf(AFirst);
+    const TVariantKind Second = KindOf(ASecond);
+    if (First == TVariantKind::Null || Second == TVariantKind::Null || Second == TVariantKind::Address) {
+        const bool IsSame = First == Second && TVariantAccess::Bits(AFirst) == TVariantAccess::Bits(ASecond);
+        return IsSame ? std::partial_ordering::equivalent : std::partial_ordering::unordered;
+    }
+    if (Second == TVariantKind::Empty)
+        return std::partial_ordering::equivalent;
+    if (First == TVariantKind::Empty)
+        return Second == TVariantKind::Text ? 0 <=> TTextOf(ASecond).Text().Length()
+                                            : CompareNumbers(0, ASecond);
+    return Second == TVariantKind::Text ? CompareWithText(AFirst, ASecond) : CompareNumbers(AFirst, ASecond);
 }
 
 } // namespace
 
-bool operator==(const Variant& ALeft, const Variant& ARight) {
-    if (VarIsArray(ALeft) || VarIsArray(ARight))
+std::partial_ordering operator<=>(const Variant& ALeft, const Variant& ARight) {
+    const TVariantKind Left = KindOf(ALeft);
+    const TVariantKind Right = KindOf(ARight);
+    if (Left == TVariantKind::Array || Right == TVariantKind::Array)
         throw EVariantInvalidOpError(u"A variant that is an array cannot be compared");
-    const TKind Left = KindOf(ALeft);
-    const TKind Right = KindOf(ARight);
-    if (Left == TKind::Null || Right == TKind::Null)
-        return Left == Right;
-    if (Left == TKind::Empty || Right == TKind::Empty)
-        return Left == Right || SameAsEmpty(Left == TKind::Empty ? ARight : ALeft);
-    if (Left == TKind::Text && Right == TKind::Text)
-        return VarToStr(ALeft) == VarToStr(ARight);
-    if (Left == TKind::Text || Right == TKind::Text)
-        return Left == TKind::Text ? SameAsText(ARight, ALeft) : SameAsText(ALeft, ARight);
-    if (Left == TKind::Real || Right == TKind::Real)
-        return RealOf(ALeft) == RealOf(ARight);
-    return SameIntegers(ALeft, ARight);
+    if (Left == TVariantKind::Text && Right == TVariantKind::Text)
+        return TTextOf(ALeft).Text() <=> TTextOf(ARight).Text();
+    return Left <= Right ? CompareInOrder(ALeft, ARight) : Reversed(CompareInOrder(ARight, ALeft));
+}
+
+bool operator==(const Variant& ALeft, const Variant& ARight) {
+    if (VarIsStr(ALeft) && VarIsStr(ARight)) {
+        const TTextOf Left(ALeft);
+        return Left.Text() == TTextOf(ARight).Text();
+    }
+    return std::is_eq(ALeft <=> ARight);
+}
+
+TVariantRelationship VarCompareValue(const Variant& ALeft, const Variant& ARight) {
+    const std::partial_ordering Order = ALeft <=> ARight;
+    return std::is_lt(Order) ? vrLessThan
+        : std::is_gt(Order)  ? vrGreaterThan
+        : std::is_eq(Order)  ? vrEqual
+                             : vrNotEqual;
 }
 
 } // namespace qz

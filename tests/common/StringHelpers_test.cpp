@@ -342,36 +342,10 @@ TEST(Compare, ArraysElementByElementOfTheFirst) {
         EXPECT_EQ(QzSameArray(cCases[I].Left, cCases[I].Right), cCases[I].Same) << I;
 }
 
-TEST(VariantArray, IsAValueWithBounds) {
-    Variant First = VarArrayCreate({-2, 1});
-    Variant Second = First;
-    VarArrayPut(First, First, -2);
-    VarArrayPut(First, u"x", 1);
-    EXPECT_EQ(VarType(VarArrayGet(Second, 1)), varEmpty) << "a copy of its own";
-    EXPECT_EQ(VarType(VarArrayGet(First, -2)), varArray | varVariant);
-    EXPECT_EQ(VarToStr(VarArrayGet(First, 1)), u"x");
-    EXPECT_EQ(VarArrayLowBound(First) * 10 + VarArrayHighBound(First), -19);
-    EXPECT_EQ(VarArrayHighBound(VarArrayOf({})), -1);
-    EXPECT_THROW(VarArrayGet(First, 2), EVariantBadIndexError);
-    EXPECT_THROW(VarArrayGet(First, INT32_MIN), EVariantBadIndexError);
-    EXPECT_THROW(VarArrayLowBound(First, 2), EVariantBadIndexError);
-    EXPECT_THROW(VarArrayLowBound(Variant(1)), EVariantInvalidOpError);
-    EXPECT_THROW(VarArrayCreate({1, -1}), EVariantArrayCreateError);
-    EXPECT_THROW(VarArrayCreate({0, 1}, varInteger), EVariantArrayCreateError);
-    EXPECT_THROW(VarToStr(First), EVariantTypeCastError);
-}
-
 TEST(CharCase, TakesAPairForOneDelimiter) {
     EXPECT_EQ(u"A\U0001F601b\U0001F600C",
               QzCharCase(WideString(UnicodeString(u"a\U0001F601b\U0001F600c")), rcUpperCamelCase,
                          WideString(UnicodeString(u"\U0001F600"))));
-}
-
-TEST(VariantArray, EndsHoweverDeepArraysLie) {
-    Variant Nested = 1;
-    for (int I = 0; I < 300000; ++I)
-        Nested = VarArrayOf({Nested});
-    EXPECT_TRUE(VarIsArray(Nested));
 }
 
 } // namespace

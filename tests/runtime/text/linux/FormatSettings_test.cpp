@@ -2,34 +2,12 @@
 #include "runtime/text/FormatSettings.h"
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
-
-#include <optional>
 
 #include "runtime/time/DateTimeText.h"
+#include "tests/support/LocaleOfTheEnvironment.h"
 
 namespace qz {
 namespace {
-
-class TLocaleOfTheEnvironment {
-public:
-    explicit TLocaleOfTheEnvironment(const char* AName) {
-        if (const char* Before = getenv("LC_ALL"))
-            FBefore = Before;
-        setenv("LC_ALL", AName, 1);
-    }
-    ~TLocaleOfTheEnvironment() {
-        if (FBefore)
-            setenv("LC_ALL", FBefore->c_str(), 1);
-        else
-            unsetenv("LC_ALL");
-    }
-    TLocaleOfTheEnvironment(const TLocaleOfTheEnvironment&) = delete;
-    TLocaleOfTheEnvironment& operator=(const TLocaleOfTheEnvironment&) = delete;
-
-private:
-    std::optional<std::string> FBefore;
-};
 
 TEST(FormatSettings, HoursCountToTwelveWhereTheLocaleDoes) {
     const TDateTime Value = EncodeTime(14, 5, 9, 0);

@@ -1,0 +1,488 @@
+#include "runtime/values/Value.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "runtime/lists/Set.h"
+#include "runtime/objects/InterfacedObject.h"
+#include "runtime/reflection/Describe.h"
+#include "runtime/text/FloatText.h"
+#include "runtime/text/Format.h"
+#include "runtime/text/NumberText.h"
+#include "tests/support/Message.h"
+#include "tests/support/Trace.h"
+
+namespace qz {
+namespace {
+
+enum class TSize : std::int16_t { szNone = -1, szSmall, szLarge = 40 };
+enum class TSide : std::uint8_t { sdLeft, sdRight, sdTop };
+using TSides = TSet<TSide, 8>;
+using TManySides = TSet<TSide, 64>;
+using TNumbers = TDynArray<int>;
+using TQuad = std::array<std::int64_t, 4>;
+using TEvent = std::function<void()>;
+
+class IShape : public IInterface {
+public:
+    static constexpr TGUID IID = Guid("{3C4E0F1A-8C0B-4F5E-9D11-52B6A7E0C101}");
+};
+class IRound : public IShape {
+public:
+    static constexpr TGUID IID = Guid("{3C4E0F1A-8C0B-4F5E-9D11-52B6A7E0C102}");
+};
+class IOther : public IInterface {
+public:
+    static constexpr TGUID IID = Guid("{3C4E0F1A-8C0B-4F5E-9D11-52B6A7E0C103}");
+};
+
+class TCircle : public TInterfacedObject, public IRound, public IOther {
+    QZ_CLASS(TCircle, TInterfacedObject)
+    QZ_INTERFACE_COUNTING(TInterfacedObject)
+
+protected:
+    ~TCircle() override { Note("freed", u"circle"); }
+};
+constinit const TClassRec TCircle::ClassRec = DescribeClass<TCircle>(
+    u"TCircle", {.Unit = u"Test", .Interfaces = Interfaces<TCircle, IRound, IShape, IOther>()});
+
+class TPlain : public TObject {
+    QZ_CLASS(TPlain, TObject)
+};
+constinit const TClassRec TPlain::ClassRec = DescribeClass<TPlain>(u"TPlain", {.Unit = u"Test"});
+
+// Tells of its copies, and refuses them on demand. Bytes makes it large or small.
+inline bool GRefuse = false;
+template <std::size_t Bytes> struct TNoted {
+    TNoted() = default;
+    TNoted(const TNoted& AOther) : Id(AOther.Id) {
+        if (GRefuse)
+            throw EAbort(u"no copy");
+        Note("copied", Name());
+    }
+    TNoted(TNoted&& AOther) noexcept : Id(std::exchange(AOther.Id, '-')) {}
+    TNoted& operator=(const TNoted&) = default;
+    ~TNoted() {
+        if (Id != '-')
+            Note("freed", Name());
+    }
+    UnicodeString Name() const { return static_cast<char16_t>(Id); }
+    char Id = 'a';
+    char Room[Bytes - 1] = {};
+};
+using TSmallNoted = TNoted<8>;
+using TLargeNoted = TNoted<40>;
+struct alignas(64) TAligned {
+    double X = 0;
+};
+
+} // namespace
+} // namespace qz
+
+QZ_TYPE_INFO(qz::TSize);
+QZ_TYPE_INFO(qz::TSide);
+QZ_TYPE_INFO(qz::TSides);
+QZ_TYPE_INFO(qz::TManySides);
+QZ_TYPE_INFO(qz::TNumbers);
+QZ_TYPE_INFO(qz::TQuad);
+QZ_TYPE_INFO(qz::TEvent);
+QZ_TYPE_INFO(qz::IShape);
+QZ_TYPE_INFO(qz::IRound);
+QZ_TYPE_INFO(qz::IOther);
+QZ_TYPE_INFO(qz::TSmallNoted);
+QZ_TYPE_INFO(qz::TLargeNoted);
+QZ_TYPE_INFO(qz::TAligned);
+QZ_TYPE_INFO(qz::ExceptionClass);
+
+namespace qz {
+
+template <class T> using TInfo = TTypeDescription<T>;
+constexpr TEnumItem cSizes[] = {{u"szNone", -1}, {u"szSmall", 0}, {u"szLarge", 40}};
+constexpr TEnumItem cSides[] = {{u"sdLeft", 0}, {u"sdRight", 1}, {u"sdTop", 2}};
+constinit const TTypeInfo TInfo<TSize>::Info = DescribeEnum<TSize>(u"TSize", u"Test", cSizes);
+constinit const TTypeInfo TInfo<TSide>::Info = DescribeEnum<TSide>(u"TSide", u"Test", cSides);
+constinit const TTypeInfo TInfo<TSides>::Info = DescribeOf<TSides, TSide>(tkSet, u"TSides", u"Test");
+constinit const TTypeInfo TInfo<TManySides>::Info =
+    DescribeOf<TManySides, TSide>(tkSet, u"TManySides", u"Test");
+constinit const TTypeInfo TInfo<TNumbers>::Info = DescribeOf<TNumbers, int>(tkDynArray, u"TNumbers", u"Test");
+constinit const TTypeInfo TInfo<TQuad>::Info = DescribeOf<TQuad, std::int64_t>(tkArray, u"TQuad", u"Test");
+constinit const TTypeInfo TInfo<TEvent>::Info = DescribeType<TEvent>(tkMethod, u"TEvent", u"Test");
+constinit const TTypeInfo TInfo<IShape>::Info = DescribeInterface<IShape>(u"IShape", u"Test");
+constinit const TTypeInfo TInfo<IRound>::Info = DescribeInterface<IRound, IShape>(u"IRound", u"Test");
+constinit const TTypeInfo TInfo<IOther>::Info = DescribeInterface<IOther>(u"IOther", u"Test");
+constinit const TTypeInfo TInfo<TSmallNoted>::Info = DescribeRecord<TSmallNoted>(u"TSmallNoted", u"Test");
+constinit const TTypeInfo TInfo<TLargeNoted>::Info = DescribeRecord<TLargeNoted>(u"TLargeNoted", u"Test");
+constinit const TTypeInfo TInfo<TAligned>::Info = DescribeRecord<TAligned>(u"TAligned", u"Test");
+constinit const TTypeInfo TInfo<ExceptionClass>::Info =
+    DescribeOf<ExceptionClass, Exception>(tkClassRef, u"ExceptionClass", u"Test");
+
+namespace {
+
+class Value : public testing::Test {
+protected:
+    void SetUp() override { TakeTrace(); }
+    void TearDown() override { GRefuse = false; }
+};
+
+// What a reading gives, as text; "-" when it is refused.
+template <class TRead> UnicodeString Got(const TRead& ARead) {
+    try {
+        return TValue(ARead()).ToString();
+    } catch (const EInvalidCast&) {
+        return u"-";
+    }
+}
+
+UnicodeString Address(const char16_t* AName, const void* APointer) {
+    return Format(u"(%s @ %s)", {AName, IntToHex(reinterpret_cast<std::uintptr_t>(APointer))});
+}
+
+TEST_F(Value, ReadsEachKindInEachWay) {
+    TPlain Plain;
+    const Ref<IRound> Round = TCircle::Create();
+    const UnicodeString cZero = u" @ 0000000000000000)";
+    const struct TRow {
+        TValue Value;
+        UnicodeString Text;                                              // ToString
+        const char16_t *Integer, *Ordinal, *Extended, *String, *Variant; // AsInteger and so on
+    } cRows[] = {
+        {{}, u"(empty)", u"-", u"-", u"-", u"-", u""},
+        {5, u"5", u"5", u"5", u"5", u"-", u"5"},
+        {std::int8_t{-5}, u"-5", u"-5", u"-5", u"-5", u"-", u"-5"},
+        {4000000000u, u"4000000000", u"-", u"4000000000", u"4000000000", u"-", u"4000000000"},
+        {7LL, u"7", u"7", u"7", u"7", u"-", u"7"},
+        {UINT64_MAX, u"18446744073709551615", u"-", u"-1", u"1.84467440737096E19", u"-",
+         u"18446744073709551615"},
+        {'A', u"A", u"-", u"65", u"-", u"A", u"A"},
+        {u'Ä', u"Ä", u"-", u"196", u"-", u"Ä", u"Ä"},
+        {true, u"True", u"-", u"1", u"-", u"-", u"True"},
+        {TSize::szLarge, u"szLarge", u"-", u"40", u"-", u"-", u"40"},
+        {TValue::FromOrdinal(TypeInfo<TSize>(), 7), u"7", u"-", u"7", u"-", u"-", u"7"},
+        {TSides{TSide::sdLeft, TSide::sdTop}, u"[sdLeft,sdTop]", u"-", u"5", u"-", u"-", u"5"},
+        {TManySides::FromBits(1ull << 40), u"[40]", u"-", u"1099511627776", u"-", u"-", u"1099511627776"},
+        {TCharSet{'A', 'z'}, u"[65,122]", u"-", u"-", u"-", u"-", u"-"},
+        {1.5f, u"1.5", u"-", u"-", u"1.5", u"-", u"1.5"},
+        {-2.25, u"-2.25", u"-", u"-", u"-2.25", u"-", u"-2.25"},
+        {Extended(2.5), u"2.5", u"-", u"-", u"2.5", u"-", u"2.5"},
+        {Currency(2.5), u"2.5", u"-", u"-", u"2.5", u"-", u"2.5"},
+        {TDate(45000), u"45000", u"-", u"-", u"45000", u"-", nullptr},
+        {"täxt", u"täxt", u"-", u"-", u"-", u"täxt", u"täxt"},
+        {WideString(u"w"), u"w", u"-", u"-", u"-", u"w", u"w"},
+        {UTF8String(u"ü"), u"ü", u"-", u"-", u"-", u"ü", u"ü"},
+        {Variant(u"v"), u"v", u"-", u"-", u"-", u"-", u"v"},
+        {Variant::Null(), u"", u"-", u"-", u"-", u"-", u""},
+        {&Plain, Address(u"TPlain", &Plain), u"-", u"-", u"-", u"-", u"-"},
+        {static_cast<TPlain*>(nullptr), u"(TPlain" + cZero, u"-", u"-", u"-", u"-", u"-"},
+        {Round, Address(u"IRound", Round.Get()), u"-", u"-", u"-", u"-", u"(interface)"},
+        {ClassOf<TPlain>(), u"TPlain", u"-", u"-", u"-", u"-", u"-"},
+        {static_cast<void*>(nullptr), u"(Pointer" + cZero, u"-", u"-", u"-", u"-", u"-"},
+        {TGUID(), u"(record)", u"-", u"-", u"-", u"-", u"-"},
+        {TNumbers{1}, u"(array)", u"-", u"-", u"-", u"-", u"-"},
+        {TQuad(), u"(array)", u"-", u"-", u"-", u"-", u"-"},
+        {TEvent(), u"(TEvent)", u"-", u"-", u"-", u"-", u"-"},
+        {TValue::From(TValue(5)), u"(record)", u"-", u"-", u"-", u"-", u"-"},
+    };
+    for (const TRow& Row : cRows) {
+        const TValue& V = Row.Value;
+        EXPECT_EQ(V.ToString(), Row.Text);
+        EXPECT_EQ(Got([&] { return V.AsInteger(); }), Row.Integer) << Row.Text;
+        EXPECT_EQ(Got([&] { return V.AsOrdinal(); }), Row.Ordinal) << Row.Text;
+        EXPECT_EQ(Got([&] { return V.AsExtended(); }), Row.Extended) << Row.Text;
+        EXPECT_EQ(Got([&] { return V.AsString(); }), Row.String) << Row.Text;
+        if (Row.Variant != nullptr) {
+            EXPECT_EQ(Got([&] { return V.AsVariant(); }), Row.Variant) << Row.Text;
+        }
+        EXPECT_EQ(Got([&] { return V.AsBoolean(); }), V.IsType<bool>() ? u"True" : u"-") << Row.Text;
+        // An integer is read as 64 bits where it is an ordinal; no value is a null reference.
+        const bool IsInteger = V.Kind() == tkInteger || V.Kind() == tkInt64;
+        EXPECT_EQ(Got([&] { return V.AsInt64(); }), IsInteger ? Row.Ordinal : u"-") << Row.Text;
+        const auto Readable = [&](TTypeKind AKind) { return V.Kind() == AKind || V.Kind() == tkUnknown; };
+        EXPECT_EQ(Got([&] { return V.AsObject(); }) != u"-", Readable(tkClass)) << Row.Text;
+        EXPECT_EQ(Got([&] { return V.AsInterface() == nullptr; }) != u"-", Readable(tkInterface)) << Row.Text;
+        EXPECT_EQ(Got([&] { return V.AsClass(); }) != u"-", Readable(tkClassRef)) << Row.Text;
+    }
+}
+
+TEST_F(Value, CastsWhereNothingIsLost) {
+    TPlain Plain;
+    const Ref<IRound> Round = TCircle::Create();
+    TObject* Object = dynamic_cast<TCircle*>(Round.Get());
+    const TValue cAsObject = TValue::Make(&Object, TypeInfo<TObject>());
+    const TObject* cNull = nullptr;
+    const TValue cNullObject = TValue::Make(&cNull, TypeInfo<TObject>());
+    constexpr double cTwo63 = 9223372036854775808.0;
+    const struct TRow {
+        TValue From;
+        PTypeInfo To;
+        UnicodeString Text; // of the result; "-" when there is none
+    } cRows[] = {
+        {255, TypeInfo<std::uint8_t>(), u"255"},
+        {256, TypeInfo<std::uint8_t>(), u"-"},
+        {-1, TypeInfo<std::uint64_t>(), u"-"},
+        {-129, TypeInfo<std::int8_t>(), u"-"},
+        {UINT64_MAX, TypeInfo<std::int64_t>(), u"-"},
+        {UINT64_MAX, TypeInfo<double>(), u"-"},
+        {1ull << 63, TypeInfo<double>(), FloatToStr(cTwo63)},
+        {INT64_MAX, TypeInfo<double>(), u"-"},
+        {INT64_MIN, TypeInfo<float>(), FloatToStr(-cTwo63)},
+        {16777217, TypeInfo<float>(), u"-"},
+        {16777217, TypeInfo<double>(), u"16777217"},
+        {0.1, TypeInfo<float>(), u"-"},
+        {0.5, TypeInfo<float>(), u"0.5"},
+        {1e300, TypeInfo<float>(), u"-"},
+        {std::nan(""), TypeInfo<float>(), u"NAN"},
+        {-INFINITY, TypeInfo<float>(), u"-INF"},
+        {TDateTime(1.5), TypeInfo<double>(), u"1.5"},
+        {2.5, TypeInfo<Currency>(), u"2.5"},
+        {0.00001, TypeInfo<Currency>(), u"-"},
+        {std::nan(""), TypeInfo<Currency>(), u"-"},
+        {2.0, TypeInfo<int>(), u"-"},
+        {'A', TypeInfo<int>(), u"-"},
+        {1, TypeInfo<bool>(), u"-"},
+        {u"t", TypeInfo<AnsiString>(), u"t"},
+        {UTF8String(u"ö"), TypeInfo<WideString>(), u"ö"},
+        {u"ö", TypeInfo<RawByteString>(), u"ö"},
+        {u"ö", TypeInfo<char16_t>(), u"ö"},
+        {u"ö", TypeInfo<char>(), u"-"},
+        {u"xy", TypeInfo<char16_t>(), u"-"},
+        {'x', TypeInfo<UnicodeString>(), u"x"},
+        {u"5", TypeInfo<int>(), u"-"},
+        {&Plain, TypeInfo<TObject>(), Address(u"TPlain", &Plain)},
+        {&Plain, TypeInfo<TCircle>(), u"-"},
+        {cAsObject, TypeInfo<TCircle>(), Address(u"TCircle", Object)},
+        {cAsObject, TypeInfo<IShape>(), Address(u"IShape", static_cast<IShape*>(Round.Get()))},
+        {&Plain, TypeInfo<IShape>(), u"-"},
+        {cNullObject, TypeInfo<TPlain>(), u"(TPlain @ 0000000000000000)"},
+        {cNullObject, TypeInfo<IShape>(), u"(IShape @ 0000000000000000)"},
+        {Round, TypeInfo<IShape>(), Address(u"IShape", Round.Get())},
+        {Round, TypeInfo<IOther>(), Address(u"IOther", As<IOther>(Round).Get())},
+        {As<IOther>(Round), TypeInfo<IRound>(), Address(u"IRound", Round.Get())},
+        {Round, TypeInfo<TCircle>(), u"-"},
+        {ClassOf<EAbort>(), TypeInfo<ExceptionClass>(), u"EAbort"},
+        {ClassOf<TPlain>(), TypeInfo<ExceptionClass>(), u"-"},
+        {ExceptionClass::Of<EAbort>(), TypeInfo<TClass>(), u"EAbort"},
+        {TSize::szSmall, TypeInfo<TSide>(), u"-"},
+        {TSide::sdTop, TypeInfo<Variant>(), u"2"},
+        {Variant(5), TypeInfo<int>(), u"-"},
+        {{}, TypeInfo<TPlain>(), u"(TPlain @ 0000000000000000)"},
+        {{}, TypeInfo<Variant>(), u""},
+        {{}, TypeInfo<int>(), u"-"},
+        {TGUID(), TypeInfo<TNumbers>(), u"-"},
+        {5, nullptr, u"-"},
+    };
+    for (const TRow& Row : cRows) {
+        const auto* Name = Row.To == nullptr ? u"nothing" : Row.To->Name.data();
+        EXPECT_EQ(Got([&] { return Row.From.Cast(Row.To); }), Row.Text)
+            << Row.From.ToString() << " to " << ToUtf8(Name);
+        TValue Result = u"as before";
+        EXPECT_EQ(Row.From.TryCast(Row.To, Result), Row.Text != u"-")
+            << Row.From.ToString() << " to " << ToUtf8(Name);
+        EXPECT_EQ(Result.TypeInfo(), Row.Text == u"-" ? TypeInfo<UnicodeString>() : Row.To);
+    }
+    EXPECT_EQ(Message([] { TValue(300).AsType<std::uint8_t>(); }),
+              u"A value of type Integer cannot be taken as Byte");
+}
+
+TEST_F(Value, GivesTypedValues) {
+    const TValue Text = u"text";
+    UnicodeString Wide = u"before";
+    int Number = 7;
+    EXPECT_FALSE(Text.TryAsType(Number));
+    EXPECT_EQ(Number, 7);
+    EXPECT_TRUE(Text.TryAsType(Wide));
+    EXPECT_EQ(Wide, u"text");
+    EXPECT_EQ(Text.AsType<WideString>(), u"text");
+    EXPECT_EQ(TValue(std::int16_t{-3}).AsType<std::int64_t>(), -3);
+    EXPECT_EQ(TValue(TSize::szLarge).AsType<TSize>(), TSize::szLarge);
+    TPlain Plain;
+    EXPECT_EQ(TValue(static_cast<TObject*>(&Plain)).AsType<TPlain*>(), &Plain);
+    EXPECT_EQ(TValue().AsType<TPlain*>(), nullptr);
+    {
+        const TValue Round = Ref<IRound>(TCircle::Create());
+        const Ref<IOther> Other = Round.AsType<Ref<IOther>>();
+        EXPECT_EQ(As<IRound>(Other).Get(), Round.AsInterface());
+        EXPECT_EQ(TakeTrace(), u"");
+    }
+    EXPECT_EQ(TakeTrace(), u"freed(circle) ");
+    const TValue Nested = TValue::From(TValue(5));
+    EXPECT_TRUE(Nested.IsType<TValue>());
+    EXPECT_EQ(Nested.AsType<TValue>().AsInteger(), 5);
+    EXPECT_THROW(TValue(5).AsType<TValue>(), EInvalidCast);
+}
+
+TEST_F(Value, TellsWhatIsEmpty) {
+    const struct TRow {
+        TValue Value;
+        bool IsEmpty;
+    } cRows[] = {
+        {{}, true},
+        {0, false},
+        {u"", false},
+        {Variant(), false},
+        {TNumbers(), true},
+        {TNumbers{0}, false},
+        {TEvent(), true},
+        {TEvent([] {}), false},
+        {TClass(), true},
+        {ClassOf<TPlain>(), false},
+        {TGUID(), false},
+        {Ref<IShape>(), true},
+        {TSides(), false},
+        {static_cast<TObject*>(nullptr), true},
+        {ExceptionClass(), true},
+        {static_cast<void*>(&GRefuse), false},
+    };
+    for (const TRow& Row : cRows)
+        EXPECT_EQ(Row.Value.IsEmpty(), Row.IsEmpty) << Row.Value.ToString();
+}
+
+TEST_F(Value, KnowsItsType) {
+    TPlain Plain;
+    const TValue AsObject = static_cast<TObject*>(&Plain);
+    EXPECT_TRUE(AsObject.IsType<TObject*>() && AsObject.IsType<TPlain*>() && !AsObject.IsType<TCircle*>());
+    const TValue Null = static_cast<TPlain*>(nullptr);
+    EXPECT_TRUE(Null.IsType<TObject*>());
+    EXPECT_EQ(TypeInfo<Ref<IRound>>(), TypeInfo<IRound*>());
+    EXPECT_EQ(TypeInfo<IRound>()->BaseType(), TypeInfo<IShape>());
+    const TValue Round = Ref<IRound>();
+    EXPECT_TRUE(Round.IsType<IShape>() && !Round.IsType<IOther>());
+    EXPECT_TRUE(TValue(5).IsType<int>() && !TValue(5).IsType<std::int64_t>() && !TValue().IsType(nullptr));
+}
+
+TEST_F(Value, TakesLiteralsAsTheirTypes) {
+    const struct TRow {
+        TValue Value;
+        PTypeInfo Type;
+    } cRows[] = {
+        {1L, sizeof(long) == 8 ? TypeInfo<std::int64_t>() : TypeInfo<int>()},
+        {1ULL, TypeInfo<std::uint64_t>()},
+        {u"x", TypeInfo<UnicodeString>()},
+        {std::string_view("x"), TypeInfo<UnicodeString>()},
+        {u8"x", TypeInfo<UnicodeString>()},
+        {UnicodeString(u"x")[0], TypeInfo<char16_t>()},
+        {TDateTime(1), TypeInfo<TDateTime>()},
+        {RawByteString(), TypeInfo<RawByteString>()},
+        {ClassRef<TObject>(), TypeInfo<TClass>()},
+    };
+    for (const TRow& Row : cRows)
+        EXPECT_EQ(Row.Value.TypeInfo(), Row.Type);
+    static_assert(!std::is_convertible_v<std::nullptr_t, TValue> && !std::is_convertible_v<wchar_t, TValue> &&
+                  !std::is_convertible_v<TPlain, TValue> && !std::is_convertible_v<std::vector<int>, TValue>);
+}
+
+TEST_F(Value, SharesLargeValuesAndMovesSmallOnes) {
+    {
+        const TSmallNoted Small;
+        TValue First = Small;
+        EXPECT_EQ(TakeTrace(), u"copied(a) ");
+        TValue Moved = std::move(First);
+        EXPECT_EQ(First.Kind(), tkUnknown);
+        TValue Copied = Moved;
+        EXPECT_EQ(TakeTrace(), u"copied(a) ");
+        Copied = 5;
+        EXPECT_EQ(TakeTrace(), u"freed(a) ");
+        Moved = std::move(*&Moved);
+        EXPECT_TRUE(Moved.IsType<TSmallNoted>());
+    }
+    EXPECT_EQ(TakeTrace(), u"freed(a) freed(a) "); // the value, the variable
+    {
+        TValue First = TLargeNoted();
+        const TValue Second = First;
+        EXPECT_EQ(First.GetReferenceToRawData(), Second.GetReferenceToRawData());
+        First = {};
+        EXPECT_EQ(TakeTrace(), u"");
+        EXPECT_EQ(Second.AsType<TLargeNoted>().Id, 'a');
+        EXPECT_EQ(TakeTrace(), u"copied(a) freed(a) ");
+    }
+    EXPECT_EQ(TakeTrace(), u"freed(a) ");
+    const TValue Aligned = TAligned{2.5};
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(Aligned.GetReferenceToRawData()) % alignof(TAligned), 0u);
+    EXPECT_EQ(Aligned.AsType<TAligned>().X, 2.5);
+}
+
+TEST_F(Value, ARefusedCopyLeavesTheOldValue) {
+    const TSmallNoted Small;
+    const TLargeNoted Large;
+    const TValue Kept = Small;
+    TValue Target = u"old";
+    GRefuse = true;
+    EXPECT_THROW(Target = Kept, EAbort);
+    EXPECT_THROW(Target = Small, EAbort);
+    EXPECT_THROW(Target = Large, EAbort);
+    EXPECT_THROW(TValue::Make(&Large, TypeInfo<TLargeNoted>()), EAbort);
+    EXPECT_EQ(Target.AsString(), u"old");
+    EXPECT_EQ(TakeTrace(), u"copied(a) ");
+}
+
+TEST_F(Value, MakesValuesFromRawData) {
+    EXPECT_EQ(TValue::Make(nullptr, TypeInfo<double>()).AsExtended(), 0.0);
+    EXPECT_EQ(TValue::Make(nullptr, TypeInfo<UnicodeString>()).AsString(), u"");
+    EXPECT_EQ(TValue::Make(nullptr, TypeInfo<TPlain>()).ToString(), u"(TPlain @ 0000000000000000)");
+    EXPECT_EQ(TValue::Make(nullptr, nullptr).Kind(), tkUnknown);
+    const std::uint8_t Byte = 2;
+    EXPECT_EQ(TValue::Make(&Byte, TypeInfo<TSide>()).ToString(), u"sdTop");
+    // Also a set of one byte is read as 32 bits.
+    std::uint32_t Bits;
+    const TValue Sides = TSides{TSide::sdRight};
+    std::memcpy(&Bits, Sides.GetReferenceToRawData(), sizeof Bits);
+    EXPECT_EQ(Bits, 2u);
+    EXPECT_EQ(Sides.GetDataSize(), 1u);
+
+    EXPECT_EQ(TValue::FromOrdinal(TypeInfo<char16_t>(), 0xE4).AsString(), u"ä");
+    EXPECT_EQ(TValue::FromOrdinal(TypeInfo<std::uint64_t>(), -1).ToString(), u"18446744073709551615");
+    EXPECT_THROW(TValue::FromOrdinal(TypeInfo<std::int8_t>(), 128), ERangeError);
+    EXPECT_THROW(TValue::FromOrdinal(TypeInfo<TSides>(), 256), ERangeError);
+    EXPECT_THROW(TValue::FromOrdinal(TypeInfo<double>(), 1), EInvalidCast);
+}
+
+TEST_F(Value, AVariantKeepsItsTypeOnTheWayThroughAValue) {
+    TPlain Plain;
+    const Variant cVariants[] = {std::int8_t{-1},
+                                 std::int16_t{-2},
+                                 3,
+                                 std::uint8_t{4},
+                                 std::uint16_t{5},
+                                 6u,
+                                 INT64_MIN,
+                                 UINT64_MAX,
+                                 1.5f,
+                                 -0.0,
+                                 true,
+                                 u"wide",
+                                 WideString(u"w"),
+                                 AnsiString("a"),
+                                 TDateTime(2.5),
+                                 Currency(1.25),
+                                 Variant(),
+                                 Variant::Null(),
+                                 Ref<IInterface>(TCircle::Create())};
+    for (const Variant& Each : cVariants) {
+        const Variant Back = TValue::FromVariant(Each).AsVariant();
+        EXPECT_EQ(VarType(Back), VarType(Each));
+        EXPECT_TRUE(Back == Each) << VarType(Each);
+    }
+    EXPECT_EQ(TValue::FromVariant(Variant(std::uint16_t{5})).TypeInfo(), TypeInfo<std::uint16_t>());
+    EXPECT_EQ(TValue::FromVariant(Variant(&Plain)).AsObject(), &Plain);
+}
+
+TEST_F(Value, ReachesTheElementsOfArrays) {
+    const TNumbers Numbers = {1, 2, 3};
+    TValue Dynamic = Numbers;
+    EXPECT_EQ(Dynamic.GetArrayLength(), 3u);
+    Dynamic.SetArrayElement(2, 7LL); // cast to the type of the elements
+    EXPECT_EQ(Numbers[2], 7);
+    EXPECT_EQ(Dynamic.GetArrayElement(2).TypeInfo(), TypeInfo<int>());
+    EXPECT_THROW(Dynamic.SetArrayElement(0, u"text"), EInvalidCast);
+    EXPECT_THROW(Dynamic.GetArrayElement(3), EArgumentOutOfRangeException);
+    EXPECT_THROW(TValue(5).GetArrayLength(), EInvalidCast);
+
+    TValue Fixed = TQuad{1, 2, 3, 4};
+    const TValue Copy = Fixed;
+    Fixed.SetArrayElement(0, 9);
+    EXPECT_EQ(Fixed.GetArrayElement(0).AsInt64(), 9);
+    EXPECT_EQ(Copy.GetArrayElement(0).AsInt64(), 1);
+}
+
+} // namespace
+} // namespace qz

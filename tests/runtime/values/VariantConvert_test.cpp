@@ -1,0 +1,260 @@
+#include "runtime/values/VariantConvert.h"
+
+#include <cmath>
+#include <functional>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "runtime/objects/InterfacedObject.h"
+#include "runtime/text/FloatText.h"
+#include "runtime/text/NumberText.h"
+#include "runtime/time/DateTimeText.h"
+#include "runtime/values/VariantArray.h"
+
+namespace qz {
+namespace {
+
+constexpr double cInf = std::numeric_limits<double>::infinity();
+
+// What a conversion gives, as text: "cast" and "over" for its exceptions.
+UnicodeString Outcome(const std::function<UnicodeString()>& AConversion) {
+    try {
+        return AConversion();
+    } catch (const EVariantTypeCastError&) {
+        return u"cast";
+    } catch (const EVariantOverflowError&) {
+        return u"over";
+    }
+}
+
+// Numbers are read and written in the neutral form.
+class VariantConvert : public testing::Test {
+protected:
+    VariantConvert() { SetDefaultFormatSettings(TFormatSettings::Neutral()); }
+    ~VariantConvert() override { SetDefaultFormatSettings(FBefore); }
+
+private:
+    TFormatSettings FBefore = DefaultFormatSettings();
+};
+
+struct TRow {
+    Variant Value;
+    TVarType Type;
+    const char16_t *Text, *Integer, *Int64, *UInt64, *Real, *Bool, *Currency, *Decimal;
+};
+
+std::vector<TRow> Rows() {
+    const TSysDecimal Third(333, true, 3);
+    return {
+        {{}, varEmpty, u"", u"0", u"0", u"0", u"0", u"0", u"0", u"0"},
+        {Variant::Null(), varNull, u"", u"cast", u"cast", u"cast", u"cast", u"cast", u"cast", u"cast"},
+        {std::int16_t{-7}, varSmallint, u"-7", u"-7", u"-7", u"over", u"-7", u"-1", u"-7", u"-7"},
+        {INT32_MIN, varInteger, u"-2147483648", u"-2147483648", u"-2147483648", u"over", u"-2147483648",
+         u"-1", u"-2147483648", u"-2147483648"},
+        {0.5F, varSingle, u"0.5", u"0", u"0", u"0", u"0.5", u"-1", u"0.5", u"0.5"},
+        {1.5, varDouble, u"1.5", u"2", u"2", u"2", u"1.5", u"-1", u"1.5", u"1.5"},
+        {2147483647.5, varDouble, u"2147483647.5", u"over", u"2147483648", u"2147483648", u"2147483647.5",
+         u"-1", u"2147483647.5", u"2147483647.5"},
+        {-1E30, varDouble, u"-1E30", u"over", u"over", u"over", u"-1E30", u"-1", u"over", u"over"},
+        {cInf, varDouble, u"INF", u"over", u"over", u"over", u"INF", u"-1", u"over", u"over"},
+        {std::nan(""), varDouble, u"NAN", u"over", u"over", u"over", u"NAN", u"-1", u"over", u"over"},
+        {9223372036854775808.0, varDouble, u"9.22337203685478E18", u"over", u"over", u"9223372036854775808",
+         u"9.22337203685478E18", u"-1", u"over", u"9223372036854775808"},
+        {Currency(-2.5), varCurrency, u"-2.5", u"-2", u"-2", u"over", u"-2.5", u"-1", u"-2.5", u"-2.5000"},
+        {TDateTime(1.25), varDate, u"12/31/1899 06:00:00", u"1", u"1", u"1", u"1.25", u"-1", u"1.25",
+         u"1.25"},
+        {TDateTime(1E9), varDate, u"cast", u"1000000000", u"1000000000", u"1000000000", u"1000000000", u"-1",
+         u"1000000000", u"1000000000"},
+        {WideString(u"0"), varOleStr, u"0", u"0", u"0", u"0", u"0", u"0", u"0", u"0"},
+        {Variant::Error(-2147352572), varError, u"-2147352572", u"-2147352572", u"-2147352572", u"over",
+         u"-2147352572", u"-1", u"-2147352572", u"-2147352572"},
+        {true, varBoolean, u"True", u"-1", u"-1", u"over", u"-1", u"-1", u"-1", u"-1"},
+        {false, varBoolean, u"False", u"0", u"0", u"0", u"0", u"0", u"0", u"0"},
+        {Third, varDecimal, u"-0.333", u"0", u"0", u"0", u"-0.333", u"-1", u"-0.333", u"-0.333"},
+        {std::int8_t{-128}, varShortInt, u"-128", u"-128", u"-128", u"over", u"-128", u"-1", u"-128",
+         u"-128"},
+        {std::uint8_t{255}, varByte, u"255", u"255", u"255", u"255", u"255", u"-1", u"255", u"255"},
+        {std::uint16_t{65535}, varWord, u"65535", u"65535", u"65535", u"65535", u"65535", u"-1", u"65535",
+         u"65535"},
+        {UINT32_MAX, varLongWord, u"4294967295", u"over", u"4294967295", u"4294967295", u"4294967295", u"-1",
+         u"4294967295", u"4294967295"},
+        {INT64_MIN, varInt64, u"-9223372036854775808", u"over", u"-9223372036854775808", u"over",
+         u"-9.22337203685478E18", u"-1", u"over", u"-9223372036854775808"},
+        {UINT64_MAX, varUInt64, u"18446744073709551615", u"over", u"over", u"18446744073709551615",
+         u"1.84467440737096E19", u"-1", u"over", u"18446744073709551615"},
+        {AnsiString(" 12"), varString, u" 12", u"12", u"12", u"12", u"12", u"-1", u"12", u"12"},
+        {u"$FFFFFFFF", varUString, u"$FFFFFFFF", u"-1", u"4294967295", u"4294967295", u"cast", u"cast",
+         u"cast", u"cast"},
+        {u"2.5", varUString, u"2.5", u"2", u"2", u"2", u"2.5", u"-1", u"2.5", u"2.5"},
+        {u"1e3", varUString, u"1e3", u"1000", u"1000", u"1000", u"1000", u"-1", u"1000", u"1000"},
+        {u"18446744073709551615", varUString, u"18446744073709551615", u"over", u"over",
+         u"18446744073709551615", u"1.84467440737096E19", u"-1", u"over", u"18446744073709551615"},
+        {u"True", varUString, u"True", u"cast", u"cast", u"cast", u"cast", u"-1", u"cast", u"cast"},
+        {u"", varUString, u"", u"cast", u"cast", u"cast", u"cast", u"cast", u"cast", u"cast"},
+        {static_cast<TObject*>(nullptr), varObject, u"cast", u"cast", u"cast", u"cast", u"cast", u"cast",
+         u"cast", u"cast"},
+        {Variant::Dispatch(nullptr), varDispatch, u"cast", u"cast", u"cast", u"cast", u"cast", u"cast",
+         u"cast", u"cast"},
+        {Ref<IInterface>(), varUnknown, u"cast", u"cast", u"cast", u"cast", u"cast", u"cast", u"cast",
+         u"cast"},
+        {VarArrayOf({1}), varArray | varVariant, u"cast", u"cast", u"cast", u"cast", u"cast", u"cast",
+         u"cast", u"cast"},
+    };
+}
+
+TEST_F(VariantConvert, EachTypeToEachValue) {
+    for (const TRow& Row : Rows()) {
+        const Variant& V = Row.Value;
+        SCOPED_TRACE(testing::Message() << VarType(V) << " " << UnicodeString(Row.Text));
+        EXPECT_EQ(VarType(V), Row.Type);
+        EXPECT_EQ(Outcome([&] { return VarToStr(V); }), Row.Text);
+        EXPECT_EQ(Outcome([&] { return VarToWStr(V); }), Row.Text);
+        EXPECT_EQ(Outcome([&] { return VarToLStr(V).ToUnicode(); }), Row.Text);
+        EXPECT_EQ(Outcome([&] { return IntToStr(VarToInteger(V)); }), Row.Integer);
+        EXPECT_EQ(Outcome([&] { return IntToStr(VarToInt64(V)); }), Row.Int64);
+        EXPECT_EQ(Outcome([&] { return IntToStr(VarToUInt64(V)); }), Row.UInt64);
+        EXPECT_EQ(Outcome([&] { return FloatToStr(VarToReal(V)); }), Row.Real);
+        EXPECT_EQ(Outcome([&] { return BoolToStr(VarToBool(V)); }), Row.Bool);
+        EXPECT_EQ(Outcome([&] { return CurrToStr(VarToCurrency(V)); }), Row.Currency);
+        EXPECT_EQ(Outcome([&] { return DecimalToStr(VarToDecimal(V)); }), Row.Decimal);
+    }
+}
+
+TEST_F(VariantConvert, AsTypeGivesTheTypeOrRaises) {
+    constexpr TVarType cTypes[] = {varSmallint, varInteger,  varSingle,  varDouble,  varCurrency, varDate,
+                                   varOleStr,   varError,    varBoolean, varDecimal, varByte,     varWord,
+                                   varShortInt, varLongWord, varInt64,   varUInt64,  varString,   varUString};
+    for (const TRow& Row : Rows()) {
+        for (const TVarType Type : cTypes) {
+            const UnicodeString Result =
+                Outcome([&] { return IntToStr(VarType(VarAsType(Row.Value, Type))); });
+            EXPECT_TRUE(Result == IntToStr(Type) || Result == u"over" || Result == u"cast") << Result;
+        }
+        EXPECT_EQ(VarType(VarAsType(Row.Value, Row.Type)), Row.Type);
+        EXPECT_EQ(Outcome([&] { return VarToStr(VarAsType(Row.Value, varRecord)); }), u"cast");
+    }
+    EXPECT_EQ(VarToStr(VarAsType(300, varSingle)), u"300");
+    EXPECT_EQ(VarToStr(VarAsType(u"12/31/1899", varDate)), u"12/31/1899");
+    EXPECT_THROW(VarAsType(256, varByte), EVariantOverflowError);
+    EXPECT_THROW(VarAsType(-129, varShortInt), EVariantOverflowError);
+    EXPECT_THROW(VarAsType(1E39, varSingle), EVariantOverflowError);
+    EXPECT_THROW(VarToDateTime(Variant(u"tomorrow")), EVariantTypeCastError);
+    EXPECT_EQ(VarToStrDef(Variant::Null(), u"none") + VarToStrDef({}, u"none"), u"none");
+    const Variant Bytes = VarAsType(VarArrayOf({1, u"2", 254.5}), varArray | varByte);
+    EXPECT_EQ(VarArrayData<std::uint8_t>(Bytes)[2], 254);
+    EXPECT_THROW(VarAsType(VarArrayOf({1, -2}), varArray | varByte), EVariantOverflowError);
+}
+
+TEST_F(VariantConvert, Kinds) {
+    const auto Kinds = [](const Variant& AValue) {
+        return UnicodeString(VarIsEmpty(AValue) ? u"empty " : u"") + (VarIsNull(AValue) ? u"null " : u"") +
+            (VarIsClear(AValue) ? u"clear " : u"") + (VarIsStr(AValue) ? u"text " : u"") +
+            (VarIsOrdinal(AValue) ? u"ordinal " : u"") + (VarIsFloat(AValue) ? u"float " : u"") +
+            (VarIsNumeric(AValue) ? u"number " : u"");
+    };
+    EXPECT_EQ(Kinds({}), u"empty clear ");
+    EXPECT_EQ(Kinds(Variant::Null()), u"null ");
+    EXPECT_EQ(Kinds(Ref<IInterface>()), u"clear ");
+    EXPECT_EQ(Kinds(u"1") + Kinds(AnsiString("1")) + Kinds(WideString()), u"text text text ");
+    EXPECT_EQ(Kinds(true) + Kinds(UINT64_MAX), u"ordinal number ordinal number ");
+    EXPECT_EQ(Kinds(1.0F) + Kinds(Currency()) + Kinds(TSysDecimal()),
+              u"float number float number float number ");
+    EXPECT_EQ(Kinds(TDateTime()) + Kinds(Variant::Error(1)) + Kinds(VarArrayOf({})), u"");
+}
+
+TEST_F(VariantConvert, Order) {
+    TInterfacedObject* const Object = TInterfacedObject::Create();
+    const Ref<IInterface> Interface = Object;
+    const struct {
+        Variant Left, Right;
+        TVariantRelationship Relation;
+    } cCases[] = {
+        {32768, 32767, vrGreaterThan},
+        {-1, UINT64_MAX, vrLessThan},
+        {INT64_MIN, 9223372036854775808U, vrLessThan},
+        {true, 0, vrLessThan},
+        {u"a", u"B", vrGreaterThan},
+        {AnsiString("abc"), WideString(u"abc"), vrEqual},
+        {Variant(), 1, vrLessThan},
+        {Variant(), u"a", vrLessThan},
+        {Variant::Null(), 1, vrNotEqual},
+        {std::nan(""), 1, vrNotEqual},
+        {Currency(0.1), u"0.1", vrEqual},
+        {Currency(0.1), 0.1, vrEqual},
+        {Currency::FromUnits(INT64_MAX), INT64_MAX, vrLessThan},
+        {9007199254740993, u"9007199254740992", vrGreaterThan},
+        {TSysDecimal(150, false, 2), TSysDecimal(15, false, 1), vrEqual},
+        {TSysDecimal(151, true, 2), TSysDecimal(15, true, 1), vrLessThan},
+        {TDateTime(2.5), u"01/01/1900 12:00:00", vrEqual},
+        {TDateTime(2.5), 2.25, vrGreaterThan},
+        {Variant::Error(5), Variant::Error(5), vrEqual},
+        {Interface, Variant::Dispatch(Interface), vrEqual},
+        {Interface, Ref<IInterface>(), vrNotEqual},
+        {Object, Object, vrEqual},
+        {Object, u"text", vrNotEqual},
+    };
+    for (std::size_t I = 0; I < std::size(cCases); ++I) {
+        const auto& [Left, Right, Relation] = cCases[I];
+        EXPECT_EQ(VarCompareValue(Left, Right), Relation) << I;
+        EXPECT_EQ(Left == Right, Relation == vrEqual) << I;
+        EXPECT_EQ(Right > Left, Relation == vrLessThan) << I;
+        EXPECT_EQ(Right < Left, Relation == vrGreaterThan) << I;
+    }
+    EXPECT_THROW(static_cast<void>(Variant(1) < Variant(u"one")), EVariantTypeCastError);
+    EXPECT_THROW(static_cast<void>(VarArrayOf({1}) < Variant(1)), EVariantInvalidOpError);
+}
+
+TEST(SysDecimal, TextAndRounding) {
+    const TFormatSettings& Neutral = TFormatSettings::Neutral();
+    const std::pair<const char16_t*, const char16_t*> cTexts[] = {
+        {u" -1.50 ", u"-1.50"},
+        {u"79228162514264337593543950335", u"79228162514264337593543950335"},
+        {u"79228162514264337593543950336", nullptr},
+        {u"0.0000000000000000000000000001", u"0.0000000000000000000000000001"},
+        {u"0.00000000000000000000000000005", u"0.0000000000000000000000000000"},
+        {u"0.000000000000000000000000000051", u"0.0000000000000000000000000001"},
+        {u"7.92281625142643375935439503359", u"7.922816251426433759354395034"},
+        {u"7922816251426433759354395033.59", u"7922816251426433759354395034"},
+        {u".5", u"0.5"},
+        {u"-0", u"0"},
+        {u".", nullptr},
+        {u"1.2.3", nullptr},
+        {u"1e3", nullptr},
+        {u"", nullptr},
+    };
+    for (const auto& [Text, Expected] : cTexts) {
+        TSysDecimal Value;
+        ASSERT_EQ(TryStrToDecimal(Text, Value, Neutral), Expected != nullptr) << UnicodeString(Text);
+        if (Expected != nullptr) {
+            EXPECT_EQ(DecimalToStr(Value, Neutral), Expected);
+            EXPECT_EQ(Value.ToDouble(), StrToFloat(Expected, Neutral));
+        }
+    }
+}
+
+TEST(SysDecimal, FromDoublesAndIntoCurrency) {
+    const TFormatSettings& Neutral = TFormatSettings::Neutral();
+    for (const double Value : {0.1, -1E-10, 123456.789, 1E28, -7.5E27, 4503599627370497.5}) {
+        TSysDecimal Decimal;
+        ASSERT_TRUE(TSysDecimal::TryFromDouble(Value, Decimal));
+        EXPECT_EQ(Decimal.ToDouble(), Value) << DecimalToStr(Decimal, Neutral);
+    }
+    TSysDecimal Decimal;
+    EXPECT_FALSE(TSysDecimal::TryFromDouble(1E29, Decimal) || TSysDecimal::TryFromDouble(cInf, Decimal));
+    EXPECT_TRUE(TSysDecimal::TryFromDouble(1E-300, Decimal) && Decimal.IsZero());
+
+    Currency Amount;
+    EXPECT_TRUE(TryStrToCurr(u"-922337203685477.58085", Amount, Neutral)) << "half to even";
+    EXPECT_EQ(Amount.Units(), INT64_MIN);
+    EXPECT_EQ(CurrToStr(Amount, Neutral), u"-922337203685477.5808");
+    EXPECT_FALSE(TryStrToCurr(u"922337203685477.5808", Amount, Neutral));
+    EXPECT_EQ(Currency(0.00005).Units() + Currency(-2.00015).Units(), -20002);
+    EXPECT_THROW(Currency(922337203685478), ERangeError);
+    EXPECT_THROW(Currency(1E15), ERangeError);
+    EXPECT_THROW(Currency::FromUnits(INT64_MAX) + Currency::FromUnits(1), ERangeError);
+    EXPECT_THROW(StrToCurr(u"much", Neutral), EConvertError);
+}
+
+} // namespace
+} // namespace qz

@@ -1,0 +1,193 @@
+#include "runtime/values/Variant.h"
+
+#include <bit>
+#include <cmath>
+#include <limits>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include "runtime/objects/InterfacedObject.h"
+#include "runtime/values/SystemVariant.h"
+#include "runtime/values/VariantArray.h"
+#include "runtime/values/VariantConvert.h"
+
+namespace qz {
+namespace {
+
+TEST(Variant, KeepsFloatsBitByBit) {
+    constexpr std::uint64_t cBits[] = {0x8000000000000000, 0x7FF0000000000123, 1, 0xFFF0000000000000};
+    for (const std::uint64_t Bits : cBits) {
+        const auto Value = std::bit_cast<double>(Bits);
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(VarToReal(Variant(Value))), Bits);
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(VarToDateTime(Variant(TDateTime(Value))).Value), Bits);
+    }
+    Variant Singles = VarArrayCreate({0, 0}, varSingle);
+    VarArrayPut(Singles, std::bit_cast<float>(0x80000001U), 0);
+    EXPECT_EQ(std::bit_cast<std::uint32_t>(VarArrayData<float>(Singles)[0]), 0x80000001U);
+}
+
+TEST(Variant, SharesAndCountsWhatItHolds) {
+    const UnicodeString Long(1 << 19, u'x');
+    const AnsiString Bytes("bytes");
+    TInterfacedObject* const Object = TInterfacedObject::Create();
+    const Ref<IInterface> Guard = Object;
+    {
+        const Variant Values[] = {Long, Bytes, Guard, Variant::Dispatch(Guard), Object};
+        Variant Copies[std::size(Values)];
+        for (std::size_t I = 0; I < std::size(Values); ++I)
+            Copies[I] = Values[I];
+        EXPECT_EQ(Long.RefCount() * 10 + Bytes.RefCount(), 33);
+        EXPECT_EQ(Object->RefCount(), 5);
+        EXPECT_EQ(VarToObject(Copies[4]), Object);
+        Copies[0] = std::move(Copies[2]);
+        Copies[3] = static_cast<const Variant&>(Copies[3]);
+        Variant& Same = Copies[3];
+        Copies[3] = std::move(Same);
+        EXPECT_TRUE(VarIsEmpty(Copies[2]));
+        EXPECT_EQ(Long.RefCount() * 10 + Object->RefCount(), 25);
+        EXPECT_EQ(VarToInterface(Copies[0]), Guard);
+    }
+    EXPECT_EQ(Long.RefCount() + Bytes.RefCount() + Object->RefCount(), 3);
+}
+
+TEST(Variant, ThreadsShareOneText) {
+    const Variant Text = UnicodeString(1000, u'y');
+    const Variant Array = VarArrayOf({Text, 1, VarArrayOf({Text})});
+    std::vector<std::thread> Threads;
+    for (int I = 0; I < 4; ++I)
+        Threads.emplace_back([&, I] {
+            for (int Round = 0; Round < 2000; ++Round) {
+                Variant Own = Text;
+                Variant List = Array;
+                VarArrayPut(List, I, 1);
+                Own = VarArrayGet(List, 0);
+                EXPECT_TRUE(Own == Text && VarArrayGet(List, 1) == Variant(I));
+            }
+        });
+    for (std::thread& Thread : Threads)
+        Thread.join();
+    EXPECT_EQ(VarToInteger(VarArrayGet(Array, 1)), 1);
+}
+
+TEST(VariantArray, IsAValueWithBounds) {
+    Variant First = VarArrayCreate({-2, 1});
+    Variant Second = First;
+    VarArrayPut(First, First, -2);
+    VarArrayPut(First, u"x", 1);
+    EXPECT_EQ(VarType(VarArrayGet(Second, 1)), varEmpty) << "a copy of its own";
+    EXPECT_EQ(VarType(VarArrayGet(First, -2)), varArray | varVariant);
+    EXPECT_EQ(VarToStr(VarArrayGet(First, 1)), u"x");
+    EXPECT_EQ(VarArrayLowBound(First) * 10 + VarArrayHighBound(First), -19);
+    EXPECT_EQ(VarArrayHighBound(VarArrayOf({})), -1);
+    EXPECT_EQ(VarArrayDimCount(First) * 10 + VarArrayDimCount(Variant(1)), 10);
+    for (const int Index : {2, -3, INT32_MIN, INT32_MAX})
+        EXPECT_THROW(VarArrayGet(First, Index), EVariantBadIndexError);
+    EXPECT_THROW(VarArrayGet(First, {0, 0}), EVariantBadIndexError);
+    EXPECT_THROW(VarArrayLowBound(First, 2), EVariantBadIndexError);
+    EXPECT_THROW(VarArrayLowBound(Variant(1)), EVariantInvalidOpError);
+    EXPECT_THROW(VarToStr(First), EVariantTypeCastError);
+}
+
+TEST(VariantArray, RefusesBoundsWithoutTakingMemory) {
+    for (const std::initializer_list<int> Bounds : {std::initializer_list<int>{1, -1},
+                                                    {INT32_MIN, INT32_MAX},
+                                                    {0, INT32_MAX, 0, 0},
+                                                    {0, 65535, 0, 65535, 0, 65535},
+                                                    {0, 1 << 20, 0, 1 << 20},
+                                                    {0},
+                                                    {},
+                                                    {0, INT32_MAX - 1}}) {
+        EXPECT_THROW(VarArrayCreate(Bounds, varSmallint), EVariantArrayCreateError);
+    }
+    for (const TVarType Type :
+         {varEmpty, varNull, varRecord, varAny, varStrArg, TVarType{15}, TVarType{varArray | 3}})
+        EXPECT_THROW(VarArrayCreate({0, 1}, Type), EVariantArrayCreateError) << Type;
+    Variant Array = VarArrayCreate({INT32_MAX - 1, INT32_MAX, INT32_MIN, INT32_MIN}, varString);
+    VarArrayPut(Array, u"end", {INT32_MAX, INT32_MIN});
+    EXPECT_THROW(VarArrayRedim(Array, INT32_MAX), EVariantArrayCreateError);
+    EXPECT_EQ(VarToStr(VarArrayGet(Array, {INT32_MAX, INT32_MIN})), u"end") << "unchanged";
+    EXPECT_EQ(VarArrayHighBound(VarArrayCreate({1, 0, 5, 7}, varByte), 1), 0);
+}
+
+TEST(VariantArray, PacksElementsOfEachType) {
+    const Variant cValues[] = {std::int16_t{-2},
+                               -3,
+                               2.5F,
+                               3.5,
+                               Currency(4.5),
+                               TDateTime(5.5),
+                               WideString(u"w"),
+                               true,
+                               u"u",
+                               INT8_MIN,
+                               UINT8_MAX,
+                               UINT16_MAX,
+                               UINT32_MAX,
+                               INT64_MIN,
+                               UINT64_MAX,
+                               AnsiString("a"),
+                               Variant::Error(-9),
+                               TSysDecimal(79, true, 28)};
+    for (const Variant& Value : cValues) {
+        const TVarType Type =
+            VarType(Value) == varInteger && VarToInteger(Value) == INT8_MIN ? varShortInt : VarType(Value);
+        Variant Array = VarArrayCreate({1, 2, 1, 3}, Type);
+        VarArrayPut(Array, Value, {2, 3});
+        const Variant Copy = Array;
+        VarArrayPut(Array, VarArrayGet(Array, {1, 1}), {2, 3});
+        EXPECT_EQ(VarType(Array), varArray | Type);
+        EXPECT_EQ(VarType(VarArrayGet(Copy, {2, 3})), Type);
+        EXPECT_TRUE(VarArrayGet(Copy, {2, 3}) == Value) << Type;
+        EXPECT_TRUE(VarArrayGet(Array, {2, 3}) == VarAsType({}, Type)) << Type;
+    }
+    Variant Grid = VarArrayCreate({0, 2, 10, 12}, varByte);
+    VarArrayPut(Grid, 7, {1, 11});
+    EXPECT_EQ(VarArrayData<std::uint8_t>(Grid).size(), 9U);
+    EXPECT_EQ(VarArrayData<std::uint8_t>(Grid)[4], 7) << "the first index counts fastest";
+    VarArrayRedim(Grid, 11);
+    VarArrayRedim(Grid, 13);
+    EXPECT_EQ(VarToInteger(VarArrayGet(Grid, {1, 11})) + VarToInteger(VarArrayGet(Grid, {1, 12})), 7);
+    const Variant Before = Grid;
+    VarArrayData<std::uint8_t>(Grid)[0] = 9;
+    EXPECT_EQ(VarToInteger(VarArrayGet(Before, {0, 10})), 0);
+    EXPECT_THROW(VarArrayPut(Grid, 256, {0, 10}), EVariantOverflowError);
+    EXPECT_THROW(VarArrayData<std::int8_t>(Grid), EVariantTypeCastError);
+    EXPECT_EQ(VarToInteger(VarArrayGet(Grid, {0, 10})), 9) << "unchanged";
+}
+
+TEST(VariantArray, CountsInterfacesAndDeepNests) {
+    TInterfacedObject* const Object = TInterfacedObject::Create();
+    const Ref<IInterface> Guard = Object;
+    {
+        Variant Array = VarArrayCreate({0, 9}, varUnknown);
+        for (int I = 0; I < 10; ++I)
+            VarArrayPut(Array, Guard, I);
+        Variant Copy = Array;
+        VarArrayRedim(Copy, 4);
+        VarArrayPut(Array, Variant(), 0);
+        EXPECT_EQ(Object->RefCount(), 15);
+        EXPECT_THROW(VarArrayPut(Array, 1, 1), EVariantTypeCastError);
+        EXPECT_THROW(VarAsType(Guard, varDispatch), EVariantTypeCastError);
+    }
+    EXPECT_EQ(Object->RefCount(), 1);
+    Variant Nested = 1;
+    for (int I = 0; I < 300000; ++I)
+        Nested = VarArrayOf({Nested});
+    EXPECT_TRUE(VarIsArray(Nested));
+}
+
+TEST(SystemVariant, IsAnErrorWhereThereAreNone) {
+    if (QZ_TESTS_ON_WINDOWS)
+        GTEST_SKIP() << "this system has them";
+    alignas(8) std::byte Room[24]{};
+    auto* Target = reinterpret_cast<tagVARIANT*>(Room);
+    const Ref<TInterfacedObject> Object = TInterfacedObject::Create();
+    for (const Variant& Value : {Variant(1), Variant(u"text"), VarArrayOf({1}), Variant(Object)})
+        EXPECT_THROW(VariantToSystem(Value, Target), EOSError);
+    EXPECT_THROW(VariantFromSystem(Target), EOSError);
+    EXPECT_EQ(Object->RefCount(), 1);
+}
+
+} // namespace
+} // namespace qz

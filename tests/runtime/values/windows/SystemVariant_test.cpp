@@ -1,0 +1,219 @@
+#include "runtime/values/SystemVariant.h"
+
+#include <cstring>
+
+#include <gtest/gtest.h>
+
+#include "platform/Module.h"
+#include "runtime/objects/InterfacedObject.h"
+#include "runtime/values/VariantArray.h"
+#include "runtime/values/VariantConvert.h"
+
+namespace {
+
+// What the system's headers say of these, as far as it is of use here.
+struct TSafeBound {
+    std::uint32_t Count;
+    std::int32_t Low;
+};
+
+} // namespace
+
+struct tagVARIANT {
+    std::uint16_t Type;
+    std::uint8_t Scale, Sign;
+    std::uint32_t High;
+    union {
+        std::int64_t Integer;
+        void* Pointer;
+    };
+    void* More;
+};
+
+namespace qz {
+namespace {
+
+// A function of the system's own.
+template <class T> T* Automation(const char* AName) {
+    return reinterpret_cast<T*>(platform::FindModuleFunction(u"oleaut32.dll", AName));
+}
+
+const auto AllocText = Automation<void*(const char*, std::uint32_t)>("SysAllocStringByteLen");
+const auto TextBytes = Automation<std::uint32_t(void*)>("SysStringByteLen");
+const auto CopyValue = Automation<std::int32_t(tagVARIANT*, const tagVARIANT*)>("VariantCopy");
+const auto ClearValue = Automation<std::int32_t(tagVARIANT*)>("VariantClear");
+const auto ChangeType =
+    Automation<std::int32_t(tagVARIANT*, const tagVARIANT*, std::uint16_t, std::uint16_t)>(
+        "VariantChangeType");
+const auto CreateArray = Automation<void*(std::uint16_t, std::uint32_t, TSafeBound*)>("SafeArrayCreate");
+const auto PutElement = Automation<std::int32_t(void*, std::int32_t*, void*)>("SafeArrayPutElement");
+const auto GetElement = Automation<std::int32_t(void*, std::int32_t*, void*)>("SafeArrayGetElement");
+
+struct TSystem : tagVARIANT {
+    TSystem() : tagVARIANT() {}
+    explicit TSystem(const Variant& AValue) : TSystem() { VariantToSystem(AValue, this); }
+    TSystem(const TSystem&) = delete;
+    TSystem& operator=(const TSystem&) = delete;
+    ~TSystem() { ClearValue(this); }
+};
+
+TEST(SystemVariantWindows, EachTypeThereAndBack) {
+    const Variant cValues[] = {{},
+                               Variant::Null(),
+                               std::int16_t{-2},
+                               INT32_MIN,
+                               2.5F,
+                               -0.0,
+                               Currency(-4.5),
+                               TDateTime(5.5),
+                               WideString(UnicodeString(u"a\0b", 3)),
+                               WideString(),
+                               Variant::Error(static_cast<std::int32_t>(0x80020004)),
+                               true,
+                               false,
+                               TSysDecimal(79, true, 28),
+                               std::int8_t{-8},
+                               UINT8_MAX,
+                               UINT16_MAX,
+                               UINT32_MAX,
+                               INT64_MIN,
+                               UINT64_MAX};
+    for (const Variant& Value : cValues) {
+        const TSystem There(Value);
+        EXPECT_EQ(There.Type, VarType(Value));
+        TSystem Copy; // the system can handle it
+        ASSERT_EQ(CopyValue(&Copy, &There), 0);
+        const Variant Back = VariantFromSystem(&Copy);
+        EXPECT_EQ(VarType(Back), VarType(Value));
+        EXPECT_TRUE(Back == Value) << VarToStr(Value);
+    }
+    const TSystem Text(u"12.5"), Narrow(AnsiString("12"));
+    TSystem Number;
+    ASSERT_EQ(ChangeType(&Number, &Narrow, 0, varInteger), 0);
+    EXPECT_TRUE(VariantFromSystem(&Number) == Variant(12) && Text.Type == varOleStr);
+}
+
+TEST(SystemVariantWindows, TextsOfAnyBytes) {
+    TSystem Odd;
+    Odd.Pointer = AllocText("\1\0\xFF", 3);
+    Odd.Type = varOleStr;
+    const Variant Bytes = VariantFromSystem(&Odd);
+    ASSERT_EQ(VarType(Bytes), varString);
+    const TSystem Again(Bytes);
+    EXPECT_EQ(TextBytes(Again.Pointer), 3U);
+    EXPECT_EQ(std::memcmp(Again.Pointer, "\1\0\xFF", 3), 0);
+    TSystem Null;
+    Null.Type = varOleStr;
+    EXPECT_TRUE(VariantFromSystem(&Null) == Variant(u"")) << "no text is an empty one";
+}
+
+TEST(SystemVariantWindows, FollowsReferencesAndKnowsMoreCodes) {
+    std::int32_t Number = -5;
+    TSystem Inner, Outer;
+    Inner.Type = varInteger | varByRef;
+    Inner.Pointer = &Number;
+    Outer.Type = varVariant | varByRef;
+    Outer.Pointer = &Inner;
+    EXPECT_TRUE(VariantFromSystem(&Outer) == Variant(-5));
+    Inner.Pointer = nullptr;
+    EXPECT_THROW(VariantFromSystem(&Outer), EOSError);
+    Outer.Pointer = &Outer;
+    EXPECT_THROW(VariantFromSystem(&Outer), EOSError);
+    Outer.Type = varEmpty;
+    Inner.Type = varEmpty;
+    const std::pair<int, TVarType> cCodes[] = {{22, varInteger}, {23, varLongWord}, {25, varError}};
+    for (const auto& [Code, Type] : cCodes) {
+        TSystem Value;
+        Value.Type = static_cast<std::uint16_t>(Code);
+        Value.Integer = 7;
+        EXPECT_EQ(VarType(VariantFromSystem(&Value)), Type);
+        EXPECT_EQ(VarToInteger(VariantFromSystem(&Value)), 7);
+    }
+    TSystem One;
+    One.Type = varBoolean;
+    One.Integer = 1;
+    EXPECT_TRUE(VariantFromSystem(&One) == Variant(true)) << "any number but 0";
+    for (const std::uint16_t Code : {varVariant, varRecord, std::uint16_t{15}, std::uint16_t{0x1003}}) {
+        TSystem Value;
+        Value.Type = Code;
+        EXPECT_THROW(VariantFromSystem(&Value), EVariantTypeCastError) << Code;
+        Value.Type = varEmpty;
+    }
+}
+
+TEST(SystemVariantWindows, ArraysOfAnyShape) {
+    Variant Grid = VarArrayCreate({1, 2, -1, 1}, varInteger);
+    for (int I = 1; I <= 2; ++I)
+        for (int J = -1; J <= 1; ++J)
+            VarArrayPut(Grid, 10 * I + J, {I, J});
+    const TSystem There(Grid);
+    std::int32_t Indexes[] = {2, -1}, Element = 0;
+    ASSERT_EQ(GetElement(There.Pointer, Indexes, &Element), 0);
+    EXPECT_EQ(Element, 19);
+    const Variant Back = VariantFromSystem(&There);
+    EXPECT_EQ(VarArrayLowBound(Back, 2) * 10 + VarArrayHighBound(Back, 2), -9);
+    EXPECT_EQ(VarToInteger(VarArrayGet(Back, {1, 1})), 11);
+
+    Variant Numbers = VarArrayCreate({0, 1}, varDecimal);
+    VarArrayPut(Numbers, TSysDecimal(15, true, 1), 1);
+    Variant Texts = VarArrayCreate({5, 6}, varUString);
+    VarArrayPut(Texts, u"x", 6);
+    const TSystem Nested(VarArrayOf({Numbers, Texts, VarArrayCreate({0, -1}, varByte), u"end", true}));
+    const Variant All = VariantFromSystem(&Nested);
+    EXPECT_TRUE(VarArrayGet(VarArrayGet(All, 0), 1) == Variant(-1.5));
+    EXPECT_TRUE(VarArrayGet(VarArrayGet(All, 1), 6) == Variant(u"x"));
+    EXPECT_EQ(VarType(VarArrayGet(All, 1)), varArray | varOleStr);
+    EXPECT_EQ(VarArrayHighBound(VarArrayGet(All, 2)), -1);
+    EXPECT_TRUE(VarArrayGet(All, 3) == Variant(u"end") && VarArrayGet(All, 4) == Variant(true));
+
+    Variant Deep = 1;
+    for (int I = 0; I < 101; ++I)
+        Deep = VarArrayOf({Deep});
+    TSystem Kept(7);
+    EXPECT_THROW(VariantToSystem(Deep, &Kept), EVariantTypeCastError);
+    EXPECT_TRUE(VariantFromSystem(&Kept) == Variant(7));
+    const TSystem AsDeepAsCanBe(VarArrayGet(Deep, 0));
+    EXPECT_EQ(VarArrayDimCount(VariantFromSystem(&AsDeepAsCanBe)), 1);
+}
+
+TEST(SystemVariantWindows, ArraysThatTheSystemMade) {
+    TSafeBound Bounds[] = {{2, 1}, {3, 0}};
+    TSystem Value;
+    Value.Pointer = CreateArray(17, 2, Bounds);
+    Value.Type = varArray | varByte;
+    std::int32_t Indexes[] = {2, 1};
+    std::uint8_t Byte = 200;
+    ASSERT_EQ(PutElement(Value.Pointer, Indexes, &Byte), 0);
+    const Variant Array = VariantFromSystem(&Value);
+    EXPECT_EQ(VarToInteger(VarArrayGet(Array, {2, 1})), 200);
+    TSystem Reference;
+    Reference.Type = varArray | varByte | varByRef;
+    Reference.Pointer = &Value.Pointer;
+    EXPECT_EQ(VarArrayData<std::uint8_t>(VariantFromSystem(&Reference))[3], 200);
+    Reference.Type = varEmpty;
+}
+
+TEST(SystemVariantWindows, CountsInterfacesExactly) {
+    TInterfacedObject* const Object = TInterfacedObject::Create();
+    const Ref<IInterface> Guard = Object;
+    for (const Variant& Value : {Variant(Guard), Variant::Dispatch(Guard), VarArrayOf({Guard}),
+                                 VarAsType(VarArrayOf({Guard}), varArray | varUnknown)}) {
+        const int Before = Object->RefCount();
+        {
+            TSystem There(Value);
+            EXPECT_EQ(Object->RefCount(), Before + 1);
+            const Variant Back = VariantFromSystem(&There);
+            EXPECT_EQ(VarType(Back), VarType(Value));
+            EXPECT_EQ(Object->RefCount(), Before + 2);
+            VariantToSystem(1, &There);
+            EXPECT_EQ(Object->RefCount(), Before + 1);
+            EXPECT_THROW(VariantToSystem(VarArrayOf({Guard, Object}), &There), EVariantTypeCastError);
+        }
+        EXPECT_EQ(Object->RefCount(), Before);
+    }
+    TSystem Nothing;
+    EXPECT_THROW(VariantToSystem(Object, &Nothing), EVariantTypeCastError);
+}
+
+} // namespace
+} // namespace qz
