@@ -1,4 +1,4 @@
-// Unit uQzTypes: the vocabulary of code pages and the conversions between them.
+// Unit uQzTypes: code pages and the conversions between them; the kinds of types; variants as plain values.
 #pragma once
 
 // QzCodePage and QzGetCodePage: code pages by number, by name
@@ -10,3 +10,26 @@
 // QzNormalizeString and QzSimplifyString: normal forms
 // and text without its accents.
 #include "common/uQzTypes/QzNormalize.h"
+// The vocabularies of types: kinds, schema types, JSON types.
+#include "common/uQzTypes/TypeKinds.h"
+// TQzTypes: conversions among them and the
+// codes of variants.
+#include "common/uQzTypes/QzTypes.h"
+// Texts of XML and JSON, arrays, and pointers to the value records, as
+// types with names of their own.
+#include "common/uQzTypes/NamedTypes.h"
+// QzVarInt and its kin: variants read
+// without conversion.
+#include "common/uQzTypes/VarStrict.h"
+// QzVarToInt and its kin: variants converted,
+// texts included.
+#include "common/uQzTypes/VarTolerant.h"
+// QzVarIsEmpty, QzVarArrayCount,
+// QzNullableBool.
+#include "common/uQzTypes/VarQueries.h"
+// Booleans and floats as text.
+#include "common/uQzTypes/TextValues.h"
+// Copies of texts as plain buffers.
+#include "common/uQzTypes/RawStrings.h"
+// IsDesigning.
+#include "common/uQzTypes/Designing.h"

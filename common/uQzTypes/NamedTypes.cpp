@@ -1,0 +1,29 @@
+#include "common/uQzTypes/NamedTypes.h"
+
+#include "runtime/reflection/Describe.h"
+
+namespace qz {
+namespace {
+
+constexpr std::u16string_view cUnit = u"uQzTypes";
+
+} // namespace
+
+template <class T> using TInfo = TTypeDescription<T>;
+
+constinit const TTypeInfo TInfo<QzXMLString>::Info =
+    DescribeType<QzXMLString>(tkUString, u"QzXMLString", cUnit);
+constinit const TTypeInfo TInfo<QzJSONString>::Info =
+    DescribeType<QzJSONString>(tkUString, u"QzJSONString", cUnit);
+constinit const TTypeInfo TInfo<TValArray>::Info =
+    DescribeOf<TValArray, TValue>(tkDynArray, u"TValArray", cUnit);
+constinit const TTypeInfo TInfo<TExtendedDynArray>::Info =
+    DescribeOf<TExtendedDynArray, Extended>(tkDynArray, u"TExtendedDynArray", cUnit);
+constinit const TTypeInfo TInfo<TVariantDynArray>::Info =
+    DescribeOf<TVariantDynArray, Variant>(tkDynArray, u"TVariantDynArray", cUnit);
+constinit const TTypeInfo TInfo<TDateTimeDynArray>::Info =
+    DescribeOf<TDateTimeDynArray, TDateTime>(tkDynArray, u"TDateTimeDynArray", cUnit);
+constinit const TTypeInfo TInfo<TUInt64DynArray>::Info =
+    DescribeOf<TUInt64DynArray, std::uint64_t>(tkDynArray, u"TUInt64DynArray", cUnit);
+
+} // namespace qz

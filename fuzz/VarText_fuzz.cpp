@@ -1,0 +1,62 @@
+// A text in a variant, of any kind of string: without the word to raise, no conversion raises, and each agrees with the one
+// that may.
+#include <cstdint>
+#include <cstdlib>
+
+#include "common/uQzTypes/VarTolerant.h"
+#include "runtime/errors/Exceptions.h"
+#include "runtime/values/VariantArray.h"
+#include "runtime/values/VariantConvert.h"
+
+namespace {
+
+void Require(bool ACondition) {
+    if (!ACondition)
+        std::abort();
+}
+
+// The default is no number that a text gives by chance in all functions.
+template <class T, class TDefault>
+void Check(T (*AConvert)(const qz::Variant&, TDefault, bool), const qz::Variant& AText, TDefault ADefault) {
+    const T Quiet = AConvert(AText, ADefault, false);
+    try {
+        const T Loud = AConvert(AText, ADefault, true);
+        Require(Loud == Quiet || Loud != Loud);
+        Require(AConvert(qz::VarArrayGet(qz::VarArrayOf({AText}), 0), ADefault, true) == Loud ||
+                Loud != Loud);
+    } catch (const qz::EConvertError&) {
+        Require(Quiet == static_cast<T>(ADefault));
+    }
+}
+
+void CheckText(const qz::Variant& AText) {
+    Check(qz::QzVarToShortint, AText, 77);
+    Check(qz::QzVarToInt, AText, 77);
+    Check(qz::QzVarToInt64, AText, 77);
+    Check(qz::QzVarToLongword, AText, 77);
+    Check(qz::QzVarToSingle, AText, 77.0F);
+    Check(qz::QzVarToExtended, AText, qz::Extended(77));
+    Check(qz::QzVarToDouble, AText, 77.0);
+    Check(qz::QzVarToDate, AText, qz::TDateTime(77));
+    Check(qz::QzVarToBool, AText, false);
+    Require(qz::QzVarToStr(AText, u"", true) == qz::VarToStr(AText));
+    for (const qz::TVarType Type :
+         {qz::varInteger, qz::varDouble, qz::varCurrency, qz::varDecimal, qz::varDate}) {
+        try {
+            const qz::Variant Number = qz::VarAsType(AText, Type);
+            if (Type != qz::varDate && Type != qz::varDouble)
+                Require(qz::VarAsType(qz::VarToStr(Number), Type) == Number);
+        } catch (const qz::EVariantError&) { // no such number
+        }
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {
+    const std::string_view Bytes(reinterpret_cast<const char*>(AData), ASize);
+    CheckText(qz::UnicodeString(Bytes));
+    CheckText(qz::AnsiString(Bytes));
+    CheckText(qz::WideString(qz::UnicodeString(Bytes)));
+    return 0;
+}
