@@ -31,10 +31,15 @@ std::uint32_t TQzComponent::_AddRef() {
 }
 
 // A component that is on its way out, itself or with its owner, is not ended by what its notifications take and drop.
-std::uint32_t TQzComponent::_Release() {
-    const std::int32_t Count = FRefCount.Decrement();
+bool TQzComponent::DropReference(std::int32_t& ACount) {
+    ACount = FRefCount.Decrement();
     const bool IsGoing = IsEnding() || (Owner() != nullptr && ComponentState().Contains(csDestroying));
-    if (Count == 0 && AutoDestroyPolicy() == radTrue && !IsGoing)
+    return ACount == 0 && AutoDestroyPolicy() == radTrue && !IsGoing;
+}
+
+std::uint32_t TQzComponent::_Release() {
+    std::int32_t Count = 0;
+    if (DropReference(Count))
         Free();
     return static_cast<std::uint32_t>(Count);
 }

@@ -79,6 +79,8 @@ protected:
     ~TQzComponent() override;
 
     void Notification(TComponent* AComponent, TOperation AOperation) override;
+    // Takes a reference back; true when the component has to end now. For a _Release that does more than that.
+    bool DropReference(std::int32_t& ACount);
 
 private:
     void AddBinding(TObject* ASource, const UnicodeString& ASourceProperty, TObject* ADest,

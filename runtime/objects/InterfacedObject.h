@@ -40,6 +40,16 @@ public:
     explicit TRefCount(std::int32_t ACount = 0) noexcept : FCount(ACount) {}
     std::int32_t Value() const noexcept { return FCount.load(std::memory_order_acquire); }
     std::int32_t Increment() noexcept { return FCount.fetch_add(1, std::memory_order_relaxed) + 1; }
+    // Takes one back unless it is the last, without the right to end anything; false then.
+    bool DecrementUnlessLast() noexcept {
+        std::int32_t Old = FCount.load(std::memory_order_relaxed);
+        while (Old > 1) {
+            if (FCount.compare_exchange_weak(Old, Old - 1, std::memory_order_release,
+                                             std::memory_order_relaxed))
+                return true;
+        }
+        return false;
+    }
     // Whoever takes the count to 0 sees all that the other holders did.
     std::int32_t Decrement() {
         const std::int32_t Old = FCount.fetch_sub(1, std::memory_order_acq_rel);

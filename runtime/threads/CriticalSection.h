@@ -7,6 +7,8 @@
 //     }
 #pragma once
 
+#include <mutex>
+
 #include "platform/Mutex.h"
 #include "runtime/objects/Object.h"
 
@@ -37,6 +39,8 @@ private:
 template <class TLock> class [[nodiscard]] TScopedLock {
 public:
     explicit TScopedLock(TLock& ALock) : FLock(ALock) { FLock.Enter(); }
+    // Of a lock that was entered before.
+    TScopedLock(TLock& ALock, std::adopt_lock_t) noexcept : FLock(ALock) {}
     TScopedLock(const TScopedLock&) = delete;
     TScopedLock& operator=(const TScopedLock&) = delete;
     ~TScopedLock() { FLock.Leave(); }

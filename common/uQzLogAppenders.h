@@ -1,0 +1,5 @@
+// Unit uQzLogAppenders: where messages go.
+#pragma once
+
+// TQzBaseAppender: the frame of all appenders.
+#include "common/uQzLogAppenders/BaseAppender.h"

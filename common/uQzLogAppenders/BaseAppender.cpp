@@ -1,0 +1,83 @@
+#include "common/uQzLogAppenders/BaseAppender.h"
+
+#include "common/uQzLogger/QzLogger.h"
+#include "common/uQzTypes/VarTolerant.h"
+
+namespace qz {
+
+constinit const TClassRec TQzBaseAppender::ClassRec = DescribeLogBase<TQzBaseAppender>(
+    u"TQzBaseAppender",
+    {.Unit = u"uQzLogAppenders", .Interfaces = Interfaces<TQzBaseAppender, IQzLogAppenderEx>()});
+
+void TQzBaseAppender::AfterConstruction() {
+    Inherited::AfterConstruction();
+    if (TQzLogger* Origin = LoggerOfOrigin()) {
+        if (const Ref<IQzLogConfigurator> Configurator = Origin->Configurator())
+            SetConfig(Configurator.Get());
+    }
+}
+
+void TQzBaseAppender::BeforeDestruction() {
+    LeaveLists(); // nothing is written from here on
+    Close();
+    Inherited::BeforeDestruction();
+}
+
+void TQzBaseAppender::Initialize() {
+    FInitialized = true;
+}
+
+void TQzBaseAppender::Close() {
+    const TScopedLock Hold(*this);
+    FInitialized = false;
+}
+
+void TQzBaseAppender::Write(const UnicodeString&, const UnicodeString&, TQzLogLevel, const UnicodeString&,
+                            PQzDataRec, TQzLogIndent) {
+    if (FInitialized)
+        return;
+    struct TDepth {
+        explicit TDepth(std::int32_t& ADepth) noexcept : Depth(ADepth) { ++Depth; }
+        ~TDepth() { --Depth; }
+        std::int32_t& Depth;
+    } const Depth(FInitializing);
+    Initialize();
+}
+
+void TQzBaseAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
+    if (AConfigurator == nullptr)
+        return;
+    const UnicodeString Layout =
+        QzVarToStr(AConfigurator->GetAppenderValue(Name(), u"Layout", mtkString, u""), {}, true);
+    if (!Layout.IsEmpty())
+        SetLayout(Layout);
+}
+
+void TQzBaseAppender::SetLayout(IQzLogLayout* ALayout) {
+    {
+        const TScopedLock Hold(*this);
+        FLayout = Ref<IQzLogLayout>(ALayout);
+    }
+    if (ALayout == nullptr)
+        return;
+    if (const auto Layout = As<_IQzLogLayout>(ALayout))
+        Layout->Initialize(this);
+}
+
+void TQzBaseAppender::SetLayout(TQzLogBaseClass AClass) {
+    const auto Layout =
+        As<IQzLogLayout>(MakeLogBase(AClass, LoggerOfOrigin(), AClass ? AClass->Name() : u""));
+    Assert(Layout != nullptr);
+    SetLayout(Layout.Get());
+}
+
+void TQzBaseAppender::SetLayout(const UnicodeString& AClassName) {
+    SetLayout(RegisteredLayouts().GetClass(AClassName));
+}
+
+Ref<IQzLogLayout> TQzBaseAppender::GetLayout() {
+    const TScopedLock Hold(*this);
+    return FLayout;
+}
+
+} // namespace qz

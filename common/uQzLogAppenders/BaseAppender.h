@@ -1,0 +1,70 @@
+// TQzBaseAppender: the frame of all appenders. It has a layout and a lock, and opens what it writes to at the first message.
+//
+//     class TMemoryAppender : public TQzBaseAppender {
+//         QZ_CLASS(TMemoryAppender, TQzBaseAppender)
+//     public:
+//         void Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
+//                    const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) override {
+//             const TScopedLock Hold(*this);
+//             Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
+//             Lines.Add(Layout()->FormatLine(ALogger, ALevel, AMessage, AValue, AIndent));
+//         }
+//     ...
+//
+// Made for a logger that has a configurator, an appender asks it for its values when it is complete. A closed appender
+// opens again at the next message. Descendants hold the lock over each operation.
+#pragma once
+
+#include "common/uQzLogger/LogBase.h"
+
+namespace qz {
+
+class QZ_API TQzBaseAppender : public TQzLogBase, public IQzLogAppenderEx {
+    QZ_CLASS(TQzBaseAppender, TQzLogBase)
+    QZ_LOG_BASE(TQzLogBase)
+
+public:
+    // Makes the appender open and closed. A descendant opens and closes its resource around these.
+    virtual void Initialize();
+    // Asks for "Layout", where AConfigurator is not null, and takes a layout of the class of that name.
+    virtual void SetConfig(IQzLogConfigurator* AConfigurator);
+    // Opens a closed appender. A descendant calls it before it writes.
+    void Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
+               const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) override;
+    void Close() override;
+    // The last of the three is what the others come to. A layout that cannot be made leaves the old one.
+    void SetLayout(IQzLogLayout* ALayout) override;
+    void SetLayout(TQzLogBaseClass AClass) override;
+    void SetLayout(const UnicodeString& AClassName) override;
+    Ref<IQzLogLayout> GetLayout();
+
+    // The lock of the appender, which re-enters.
+    void Lock() noexcept { FLock.Enter(); }
+    void Unlock() noexcept { FLock.Leave(); }
+    void Enter() noexcept { Lock(); }
+    void Leave() noexcept { Unlock(); }
+
+    void AfterConstruction() override;
+    // Leaves all lists, then closes the appender.
+    void BeforeDestruction() override;
+
+protected:
+    using TQzLogBase::TQzLogBase;
+    ~TQzBaseAppender() override = default;
+
+    bool IsAppender() const noexcept override { return true; }
+    // The layout, which may be null, and whether the appender is open; under the lock.
+    IQzLogLayout* Layout() const noexcept { return FLayout.Get(); }
+    bool IsInitialized() const noexcept { return FInitialized; }
+    // How many calls of Initialize are under way.
+    std::int32_t Initializing() const noexcept { return FInitializing; }
+    void SetInitialized(bool AValue) noexcept { FInitialized = AValue; }
+
+private:
+    Ref<IQzLogLayout> FLayout;
+    bool FInitialized = false;
+    std::int32_t FInitializing = 0;
+    TCriticalSection FLock;
+};
+
+} // namespace qz

@@ -1,0 +1,103 @@
+#include "common/uQzLogLayouts/SimpleLayout.h"
+
+#include <algorithm>
+
+#include "common/uQzLogger/DataRec.h"
+#include "runtime/time/DateTimeText.h"
+#include "runtime/time/LocalClock.h"
+
+namespace qz {
+
+constinit const TClassRec TQzSimpleLayout::ClassRec = DescribeLogBase<TQzSimpleLayout>(
+    u"TQzSimpleLayout",
+    {.Unit = u"uQzLogLayouts", .Interfaces = Interfaces<TQzSimpleLayout, IQzLogLayout, _IQzLogLayout>()});
+
+namespace {
+
+constexpr std::u16string_view cDash = u" - ";
+constexpr std::size_t cTimeLength = 23; // 2024-01-31 08:15:02:047
+
+// A pen that writes from one end of a text to the other.
+struct TPen {
+    char16_t* Place;
+
+    void Put(std::u16string_view AText) noexcept { Place = std::copy(AText.begin(), AText.end(), Place); }
+    void Put(char16_t AChar) noexcept { *Place++ = AChar; }
+    void PutNumber(unsigned ANumber, int ADigits) noexcept {
+        for (int I = ADigits; I-- > 0; ANumber /= 10)
+            Place[I] = static_cast<char16_t>(u'0' + ANumber % 10);
+        Place += ADigits;
+    }
+};
+
+void PutTime(TPen& APen) noexcept {
+    const TLocalInstant Now = LocalClock();
+    std::uint16_t Year = 0;
+    std::uint16_t Month = 0;
+    std::uint16_t Day = 0;
+    DecodeDate(static_cast<double>(Now.Day), Year, Month, Day);
+    const auto MSecs = static_cast<unsigned>(Now.MSecs);
+    APen.PutNumber(Year, 4);
+    APen.Put(u'-');
+    APen.PutNumber(Month, 2);
+    APen.Put(u'-');
+    APen.PutNumber(Day, 2);
+    APen.Put(u' ');
+    APen.PutNumber(MSecs / 3600000, 2);
+    APen.Put(u':');
+    APen.PutNumber(MSecs / 60000 % 60, 2);
+    APen.Put(u':');
+    APen.PutNumber(MSecs / 1000 % 60, 2);
+    APen.Put(u':');
+    APen.PutNumber(MSecs % 1000, 3);
+}
+
+} // namespace
+
+UnicodeString TQzSimpleLayout::GetHeader() {
+    return u"Log started on : " + DateTimeToStr(Now());
+}
+
+UnicodeString TQzSimpleLayout::GetFooter() {
+    return u"Log stopped on : " + DateTimeToStr(Now());
+}
+
+void TQzSimpleLayout::Initialize(TQzLogBase*) {}
+
+// The line of an entered method stands deeper already, that of a left one does not any more.
+std::size_t TQzSimpleLayout::Indent(TQzLogIndent AIndent) noexcept {
+    std::size_t Steps = FIndent.load(std::memory_order_relaxed);
+    if (AIndent == liIndentIncrease)
+        return FIndent.fetch_add(1, std::memory_order_relaxed) + 1;
+    if (AIndent == liIndentDecrease) {
+        while (Steps > 0 && !FIndent.compare_exchange_weak(Steps, Steps - 1, std::memory_order_relaxed)) {}
+        return Steps == 0 ? 0 : Steps - 1;
+    }
+    return Steps;
+}
+
+UnicodeString TQzSimpleLayout::FormatLine(const UnicodeString& ALogger, TQzLogLevel ALevel,
+                                          const UnicodeString& AMessage, PQzDataRec AValue,
+                                          TQzLogIndent AIndent) {
+    const std::size_t Spaces = 2 * Indent(AIndent);
+    const UnicodeString Value = AValue == nullptr ? UnicodeString() : QzDataRecToString(AValue);
+    const std::u16string_view Level = QzLogLevels[static_cast<std::size_t>(ALevel)];
+    const std::size_t Tail = AValue == nullptr ? 0 : cDash.size() + Value.size();
+    UnicodeString Result = UnicodeString::ForOverwrite(
+        Spaces + cTimeLength + 2 * cDash.size() + Level.size() + 1 + ALogger.size() + AMessage.size() + Tail);
+    TPen Pen{std::fill_n(Result.UniqueData(), Spaces, u' ')};
+    PutTime(Pen);
+    Pen.Put(cDash);
+    Pen.Put(Level);
+    Pen.Put(u' ');
+    Pen.Put(ALogger);
+    Pen.Put(cDash);
+    Pen.Put(AMessage);
+    if (AValue != nullptr) {
+        Pen.Put(cDash);
+        Pen.Put(Value);
+    }
+    return Result;
+}
+
+} // namespace qz

@@ -1,0 +1,165 @@
+// TQzLogBase, which appenders and layouts derive from, and the registries by which they are found by name.
+//
+//     class TMyAppender : public TQzBaseAppender {
+//         QZ_CLASS(TMyAppender, TQzBaseAppender)
+//     protected:
+//         using TQzBaseAppender::TQzBaseAppender;
+//         void Write(...) override;
+//     };
+//     const TClassRec TMyAppender::ClassRec = DescribeLogBase<TMyAppender>(u"TMyAppender", {.Unit = u"Demo"});
+//     RegisteredAppenders().Add(TQzLogBaseClass::Of<TMyAppender>());
+//
+// Appenders and layouts are counted, by any number of threads. One in a list of a logger may also be ended by Free, which
+// takes it out of all lists first, while other threads log.
+#pragma once
+
+#include <mutex>
+
+#include "common/uQzClasses/QzComponent.h"
+#include "common/uQzLogger/LogAppenderCore.h"
+#include "runtime/lists/List.h"
+#include "runtime/reflection/Describe.h"
+
+// In a class of an appender or layout with interfaces of its own: its part of those is the base's.
+#define QZ_LOG_BASE(ABase)                   \
+public:                                      \
+    QZ_INTERFACE_COUNTING(ABase)             \
+public:                                      \
+    UnicodeString GetName() const override { \
+        return ABase::GetName();             \
+    }                                        \
+    qz::TComponent* Component() override {   \
+        return ABase::Component();           \
+    }                                        \
+                                             \
+private:
+
+namespace qz {
+
+// The names of the classes of this library, and of two that only other modules can bring.
+inline constexpr TTextConstant QzFileAppender = u"TQzFileAppender";
+inline constexpr TTextConstant QzRollingFileAppender = u"TQzRollingFileAppender";
+inline constexpr TTextConstant QzDailyRollingFileAppender = u"TQzDailyRollingFileAppender";
+inline constexpr TTextConstant QzLogViewerAppenderServer = u"TQzLogViewerAppenderServer";
+inline constexpr TTextConstant QzLogViewerAppenderClient = u"TQzLogViewerAppenderClient";
+inline constexpr TTextConstant QzSimpleLayout = u"TQzSimpleLayout";
+inline constexpr TTextConstant QzXmlLayout = u"TQzXmlLayout";
+
+class QZ_API TQzLogBase : public TQzComponent, public IQzLogBase {
+    QZ_CLASS(TQzLogBase, TQzComponent)
+
+public:
+    using TVirtualCreate =
+        TVirtualConstructor<TQzLogBase, TQzLogBase*(TQzLogger* ALogger, const UnicodeString& AName)>;
+
+    // The name of the component.
+    UnicodeString GetName() const override { return Name(); }
+    TComponent* Component() override { return this; }
+    HRESULT QueryInterface(const TGUID& AIid, void** AObject) override {
+        return Inherited::QueryInterface(AIid, AObject);
+    }
+    std::uint32_t _AddRef() override { return Inherited::_AddRef(); }
+    std::uint32_t _Release() override;
+
+    void AfterConstruction() override;
+    // Leaves the lists of all loggers, then does as any component.
+    void BeforeDestruction() override;
+    void DestructionRefused() noexcept override;
+
+protected:
+    // ALogger is the one it is made for, and need not live longer. A name that begins with a digit is not taken, an empty
+    // one neither; any other that is no identifier raises EComponentError.
+    TQzLogBase(TQzLogger* ALogger, const UnicodeString& AName);
+    ~TQzLogBase() override;
+
+    // Whether it stands in AppenderInstances.
+    virtual bool IsAppender() const noexcept { return false; }
+    // Leaves the lists of all loggers, and waits until no message is on its way to it, as told in LogAppenderList.h.
+    void LeaveLists();
+    // The logger it was made for, while that lives; else null.
+    TQzLogger* LoggerOfOrigin() const noexcept { return FLogger.load(std::memory_order_relaxed); }
+
+private:
+    friend class TQzAppenderInstances;
+    friend void LinkAppender(TComponent* AComponent, TQzLogAppenderList& AList);
+    std::atomic<TQzLogger*> FLogger;
+    std::vector<std::weak_ptr<detail::TLogAppenderCore>>
+        FLists; // that may hold it; guarded by the instances' lock
+};
+
+// The classes of a kind, to be found by name.
+class QZ_API TQzLogBaseClassList : public TObject {
+    QZ_CLASS(TQzLogBaseClassList, TObject)
+
+public:
+    // Also registers the class with RegisterClass. One that is there already is not added again.
+    void Add(TQzLogBaseClass AClass);
+    // In any case of letters. Raises EListError, "Class %s not found!".
+    TQzLogBaseClass GetClass(const TStringArg& AName) const;
+
+private:
+    mutable std::mutex FLock;
+    TList<TClass> FList;
+};
+
+// Both live to the end of the program. Any thread.
+QZ_API TQzLogBaseClassList& RegisteredLayouts();
+QZ_API TQzLogBaseClassList& RegisteredAppenders();
+
+// All living appenders, in the order of their making.
+class QZ_API TQzAppenderInstances {
+public:
+    TQzAppenderInstances() = default;
+    TQzAppenderInstances(const TQzAppenderInstances&) = delete;
+    TQzAppenderInstances& operator=(const TQzAppenderInstances&) = delete;
+
+    // Any thread; the answers are of that moment.
+    int Count() const;
+    // The first of that name, case-sensitive; null when there is none.
+    Ref<IQzLogAppender> Find(std::u16string_view AName) const;
+    std::vector<Ref<IQzLogAppender>> Items() const;
+    // The lock by which appenders come and go.
+    void Enter() noexcept { FLock.Enter(); }
+    void Leave() noexcept { FLock.Leave(); }
+
+private:
+    friend class TQzLogBase;
+    friend class TQzLogger;
+    friend void LinkAppender(TComponent* AComponent, TQzLogAppenderList& AList);
+    void Enter(TQzLogBase* AItem);
+    void Leave(TQzLogBase* AItem) noexcept;
+    // Tells all that were made for the logger that it ends.
+    void LoseLogger(const TQzLogger* ALogger) noexcept;
+
+    mutable TCriticalSection FLock; // nothing is called under it but counting
+    TList<TQzLogBase*> FList;       // appenders and layouts
+};
+
+QZ_API TQzAppenderInstances& AppenderInstances();
+
+// A new object of the class, by its virtual constructor. Raises EInvalidOperation, "Class %s cannot be made", for a null
+// class or one without.
+QZ_API Ref<IQzLogBase> MakeLogBase(TQzLogBaseClass AClass, TQzLogger* ALogger, const UnicodeString& AName);
+
+// Has the component leave the list when it ends.
+void LinkAppender(TComponent* AComponent, TQzLogAppenderList& AList);
+
+namespace detail {
+
+template <class T> TQzLogBase* MakeLogBaseOf(TQzLogger* ALogger, const UnicodeString& AName) {
+    return T::Create(ALogger, AName);
+}
+template <class T>
+inline constexpr TMakerEntry cLogBaseMaker[] = {Maker<TQzLogBase::TVirtualCreate, &MakeLogBaseOf<T>>()};
+
+} // namespace detail
+
+// The record of the class of an appender or layout, which can then be made by name.
+template <std::derived_from<TQzLogBase> T>
+constexpr TClassRec DescribeLogBase(std::u16string_view AName, TClassDescription AMore) noexcept {
+    if (AMore.Makers.empty())
+        AMore.Makers = detail::cLogBaseMaker<T>;
+    return DescribeClass<T>(AName, AMore);
+}
+
+} // namespace qz

@@ -1,0 +1,70 @@
+// How a logger asks its configurator for its values.
+#include <vector>
+
+#include "common/uQzLogger/LogBase.h"
+#include "common/uQzLogger/LogTreeLock.h"
+#include "common/uQzLogger/QzLogger.h"
+#include "common/uQzTypes/VarTolerant.h"
+#include "runtime/values/VariantArray.h"
+
+namespace qz {
+
+using detail::TLogTreeLock;
+
+Ref<IQzLogConfigurator> TQzLogger::Configurator() const {
+    const TLogTreeLock Hold;
+    return FConfigurator;
+}
+
+void TQzLogger::SetConfig(IQzLogConfigurator* AConfigurator) {
+    const Ref<IQzLogConfigurator> Configurator(AConfigurator);
+    std::vector<Ref<IQzLogConfigurator>> Old; // ends with no lock held
+    {
+        const TLogTreeLock Hold;
+        Old.push_back(std::exchange(FConfigurator, Configurator));
+        std::vector<TQzLogger*> Nodes;
+        if (Configurator == nullptr)
+            Nodes.push_back(this);
+        while (!Nodes.empty()) {
+            TQzLogger* Node = Nodes.back();
+            Nodes.pop_back();
+            Old.push_back(std::exchange(Node->FConfigurator, {}));
+            Nodes.insert(Nodes.end(), Node->FChildLoggers->FList.begin(), Node->FChildLoggers->FList.end());
+        }
+    }
+    if (Configurator == nullptr)
+        return;
+    if (const auto Ex = As<IQzLogConfiguratorEx>(Configurator))
+        Ex->ConfigureLogger(*this);
+    ReadLevel(*Configurator);
+    ReadAppenders(*Configurator);
+}
+
+void TQzLogger::ReadLevel(IQzLogConfigurator& AConfigurator) {
+    const std::int32_t Level = QzVarToInt(
+        AConfigurator.GetLoggerValue(FullName(), u"Level", mtkInteger, static_cast<std::int32_t>(llDoNotLog)),
+        static_cast<std::int32_t>(llDoNotLog), true);
+    if (Level < static_cast<int>(llAll) || Level > static_cast<int>(llDoNotLog))
+        throw ERangeError(u"%d is not a log level", {Level});
+    SetLevel(static_cast<TQzLogLevel>(Level));
+    SetAdditive(QzVarToBool(AConfigurator.GetLoggerValue(FullName(), u"Additive", mtkBoolean, GetAdditive()),
+                            GetAdditive(), true));
+}
+
+void TQzLogger::ReadAppenders(IQzLogConfigurator& AConfigurator) {
+    const Variant Names = AConfigurator.GetLoggerValue(FullName(), u"Appenders", mtkArray, VarArrayOf({}));
+    if (!VarIsArray(Names))
+        return;
+    for (int I = VarArrayLowBound(Names); I <= VarArrayHighBound(Names); ++I) {
+        const UnicodeString Name = QzVarToStr(VarArrayGet(Names, I), {}, true);
+        const UnicodeString ClassName =
+            QzVarToStr(AConfigurator.GetAppenderValue(Name, u"class", mtkString, u""), {}, true);
+        Ref<IQzLogAppender> Appender = AppenderInstances().Find(Name);
+        if (Appender == nullptr && !ClassName.IsEmpty())
+            Appender = As<IQzLogAppender>(MakeLogBase(RegisteredAppenders().GetClass(ClassName), this, Name));
+        if (Appender != nullptr)
+            AddAppender(Appender.Get());
+    }
+}
+
+} // namespace qz
