@@ -1,7 +1,9 @@
 // A text in a variant, of any kind of string: without the word to raise, no conversion raises, and each agrees with the one
 // that may.
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <type_traits>
 
 #include "common/uQzTypes/VarTolerant.h"
 #include "runtime/errors/Exceptions.h"
@@ -15,15 +17,23 @@ void Require(bool ACondition) {
         std::abort();
 }
 
+// Equal, or both no number.
+template <class T> bool IsSame(T ALeft, T ARight) {
+    if constexpr (std::is_integral_v<T>)
+        return ALeft == ARight;
+    else
+        return ALeft == ARight ||
+            (std::isnan(static_cast<double>(ALeft)) && std::isnan(static_cast<double>(ARight)));
+}
+
 // The default is no number that a text gives by chance in all functions.
 template <class T, class TDefault>
 void Check(T (*AConvert)(const qz::Variant&, TDefault, bool), const qz::Variant& AText, TDefault ADefault) {
     const T Quiet = AConvert(AText, ADefault, false);
     try {
         const T Loud = AConvert(AText, ADefault, true);
-        Require(Loud == Quiet || Loud != Loud);
-        Require(AConvert(qz::VarArrayGet(qz::VarArrayOf({AText}), 0), ADefault, true) == Loud ||
-                Loud != Loud);
+        Require(IsSame(Loud, Quiet));
+        Require(IsSame(AConvert(qz::VarArrayGet(qz::VarArrayOf({AText}), 0), ADefault, true), Loud));
     } catch (const qz::EConvertError&) {
         Require(Quiet == static_cast<T>(ADefault));
     }

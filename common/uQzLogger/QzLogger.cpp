@@ -208,9 +208,10 @@ const UnicodeString& TQzLogger::FullName() const {
     for (; !Top->FHasFullName.load(std::memory_order_relaxed); Top = Top->FParent.Get())
         Nodes.push_back(Top);
     UnicodeString Result = Top->FFullName;
-    for (auto Node = Nodes.rbegin(); Node != Nodes.rend(); ++Node) {
+    std::reverse(Nodes.begin(), Nodes.end());
+    for (const TQzLogger* Node : Nodes) {
         Result += u'.';
-        Result += (*Node)->FName;
+        Result += Node->FName;
     }
     if (!Nodes.empty())
         FFullName = Result;
