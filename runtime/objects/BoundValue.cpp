@@ -3,25 +3,20 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <limits>
 #include <new>
 
 #include "runtime/errors/Exceptions.h"
 #include "runtime/reflection/BasicTypes.h"
+#include "runtime/reflection/RawValues.h"
 #include "runtime/text/FloatText.h"
 #include "runtime/text/NumberText.h"
 #include "runtime/text/StringUtils.h"
+#include "runtime/values/Currency.h"
 
 namespace qz {
 namespace {
 
 enum class TGroup : std::uint8_t { Ordinal, Float, Text, Object, Other };
-
-// An integer with the one bit that 64 cannot tell.
-struct TOrdinal {
-    std::int64_t Value;
-    bool IsLarge; // Value is the two's complement of a number above the signed ones
-};
 
 constexpr double cTwo63 = 9223372036854775808.0;
 
@@ -53,35 +48,12 @@ TGroup GroupOf(PTypeInfo AType) noexcept {
     throw ERangeError(u"The number is outside the range of type %s", {AType->Name});
 }
 
-TOrdinal OrdinalOf(PTypeInfo AType, const void* AData) noexcept {
-    const std::int64_t Value = ReadOrdinal(AType, AData);
-    return {Value, Value < 0 && !AType->IsSigned && AType->Ops->Size == 8};
-}
-
-double FloatOf(PTypeInfo AType, const void* AData) noexcept {
-    if (AType->Ops->Size == sizeof(float)) {
-        float Value;
-        std::memcpy(&Value, AData, sizeof Value);
-        return static_cast<double>(Value);
-    }
-    double Value;
-    std::memcpy(&Value, AData, sizeof Value);
-    return Value;
-}
-
-// The texts of tkUString and tkWString are UnicodeString and what derives from it, those of tkLString TByteText.
-UnicodeString TextOf(PTypeInfo AType, const void* AData) {
-    if (AType->Kind == tkLString)
-        return static_cast<const TByteText*>(AData)->ToUnicode();
-    return *static_cast<const UnicodeString*>(AData);
-}
-
-double NumberOf(TOrdinal AOrdinal) noexcept {
+double NumberOf(TWideOrdinal AOrdinal) noexcept {
     const auto Value = static_cast<double>(AOrdinal.Value);
     return AOrdinal.IsLarge ? Value + 2 * cTwo63 : Value;
 }
 
-TOrdinal Rounded(double AValue, PTypeInfo AType) {
+TWideOrdinal Rounded(double AValue, PTypeInfo AType) {
     const double Whole = std::nearbyint(AValue);
     if (Whole >= -cTwo63 && Whole < cTwo63)
         return {static_cast<std::int64_t>(Whole), false};
@@ -96,18 +68,11 @@ bool HasItem(PTypeInfo AType, std::int64_t AValue) noexcept {
                     [AValue](const TEnumItem& AItem) { return AItem.Value == AValue; });
 }
 
-bool InRange(PTypeInfo AType, TOrdinal AOrdinal) noexcept {
-    if (AType->Kind == tkEnumeration)
-        return !AOrdinal.IsLarge && HasItem(AType, AOrdinal.Value);
-    const std::size_t Size = AType->Ops->Size;
-    if (Size == 8)
-        return AType->IsSigned ? !AOrdinal.IsLarge : AOrdinal.IsLarge || AOrdinal.Value >= 0;
-    const int Bits = static_cast<int>(8 * Size) - (AType->IsSigned ? 1 : 0);
-    const std::int64_t Limit = std::int64_t{1} << Bits;
-    return !AOrdinal.IsLarge && AOrdinal.Value < Limit && AOrdinal.Value >= (AType->IsSigned ? -Limit : 0);
+bool InRange(PTypeInfo AType, TWideOrdinal AOrdinal) noexcept {
+    return HoldsOrdinal(AType, AOrdinal) && (AType->Kind != tkEnumeration || HasItem(AType, AOrdinal.Value));
 }
 
-TOrdinal OrdinalFromText(const UnicodeString& AText, PTypeInfo AType) {
+TWideOrdinal OrdinalFromText(const UnicodeString& AText, PTypeInfo AType) {
     if (AType == TypeInfo<bool>())
         return {StrToBool(AText) ? 1 : 0, false};
     if (AType->Kind == tkEnumeration) {
@@ -128,7 +93,7 @@ TOrdinal OrdinalFromText(const UnicodeString& AText, PTypeInfo AType) {
     return {StrToInt64(AText), false};
 }
 
-UnicodeString TextFromOrdinal(TOrdinal AOrdinal, PTypeInfo AType) {
+UnicodeString TextFromOrdinal(TWideOrdinal AOrdinal, PTypeInfo AType) {
     if (AType->Kind == tkEnumeration)
         for (const TEnumItem& Item : AType->Items)
             if (Item.Value == AOrdinal.Value)
@@ -139,12 +104,12 @@ UnicodeString TextFromOrdinal(TOrdinal AOrdinal, PTypeInfo AType) {
                             : IntToStr(AOrdinal.Value);
 }
 
-TOrdinal ToOrdinal(PTypeInfo AFrom, const void* AData, PTypeInfo ATo) {
-    TOrdinal Result{};
+TWideOrdinal ToOrdinal(PTypeInfo AFrom, const void* AData, PTypeInfo ATo) {
+    TWideOrdinal Result{};
     switch (GroupOf(AFrom)) {
-    case TGroup::Ordinal: Result = OrdinalOf(AFrom, AData); break;
-    case TGroup::Float: Result = Rounded(FloatOf(AFrom, AData), ATo); break;
-    case TGroup::Text: Result = OrdinalFromText(TextOf(AFrom, AData), ATo); break;
+    case TGroup::Ordinal: Result = ReadWideOrdinal(AFrom, AData); break;
+    case TGroup::Float: Result = Rounded(ReadFloat(AFrom, AData), ATo); break;
+    case TGroup::Text: Result = OrdinalFromText(ReadText(AFrom, AData), ATo); break;
     default: RaiseNoWay(AFrom, ATo);
     }
     if (ATo == TypeInfo<bool>())
@@ -156,47 +121,39 @@ TOrdinal ToOrdinal(PTypeInfo AFrom, const void* AData, PTypeInfo ATo) {
 
 double ToFloat(PTypeInfo AFrom, const void* AData, PTypeInfo ATo) {
     switch (GroupOf(AFrom)) {
-    case TGroup::Ordinal: return NumberOf(OrdinalOf(AFrom, AData));
-    case TGroup::Float: return FloatOf(AFrom, AData);
-    case TGroup::Text: return StrToFloat(TextOf(AFrom, AData));
+    case TGroup::Ordinal: return NumberOf(ReadWideOrdinal(AFrom, AData));
+    case TGroup::Float: return ReadFloat(AFrom, AData);
+    case TGroup::Text: return StrToFloat(ReadText(AFrom, AData));
     default: RaiseNoWay(AFrom, ATo);
     }
 }
 
 UnicodeString ToText(PTypeInfo AFrom, const void* AData, PTypeInfo ATo) {
     switch (GroupOf(AFrom)) {
-    case TGroup::Ordinal: return TextFromOrdinal(OrdinalOf(AFrom, AData), AFrom);
-    case TGroup::Float: return FloatToStr(FloatOf(AFrom, AData));
-    case TGroup::Text: return TextOf(AFrom, AData);
+    case TGroup::Ordinal: return TextFromOrdinal(ReadWideOrdinal(AFrom, AData), AFrom);
+    case TGroup::Float: return FloatToStr(ReadFloat(AFrom, AData));
+    case TGroup::Text: return ReadText(AFrom, AData);
     default: RaiseNoWay(AFrom, ATo);
     }
 }
 
-void WriteFloat(PTypeInfo AType, void* ATarget, double AValue) {
-    if (AType->Ops->Size != sizeof(float)) {
-        std::memcpy(ATarget, &AValue, sizeof AValue);
-        return;
-    }
-    if (std::isfinite(AValue) && std::abs(AValue) > static_cast<double>(std::numeric_limits<float>::max()))
+// ATarget is raw storage. Digits may get lost, the size of the number may not.
+void StoreFloat(PTypeInfo AType, void* ATarget, double AValue) {
+    Currency Amount;
+    if (AType == TypeInfo<Currency>() && !Currency::TryFromDouble(AValue, Amount))
         RaiseRange(AType);
-    const auto Value = static_cast<float>(AValue);
-    std::memcpy(ATarget, &Value, sizeof Value);
+    WriteFloat(AType, ATarget, AValue);
+    if (std::isfinite(AValue) && !std::isfinite(ReadFloat(AType, ATarget)))
+        RaiseRange(AType);
 }
 
 // ATarget is raw storage.
-void WriteText(PTypeInfo AType, void* ATarget, const UnicodeString& AText) {
-    if (AType == TypeInfo<UTF8String>())
-        new (ATarget) UTF8String(AText);
-    else if (AType == TypeInfo<AnsiString>())
-        new (ATarget) AnsiString(AText);
-    else if (AType == TypeInfo<RawByteString>())
-        new (ATarget) RawByteString(UTF8String(AText));
-    else if (AType->Kind == tkLString)
-        RaiseBadText(AText, AType);
-    else {
-        AType->Ops->Construct(ATarget);
-        *static_cast<UnicodeString*>(ATarget) = AText;
-    }
+void StoreText(PTypeInfo AType, void* ATarget, const UnicodeString& AText) {
+    AType->Ops->Construct(ATarget);
+    if (AssignText(AType, ATarget, AText))
+        return;
+    AType->Ops->Destroy(ATarget);
+    RaiseBadText(AText, AType);
 }
 
 } // namespace
@@ -248,8 +205,8 @@ void TBoundValue::Assign(const TBoundValue& ASource, PTypeInfo AType) {
         case TGroup::Ordinal:
             WriteOrdinal(AType, Target, ToOrdinal(From, ASource.Data(), AType).Value);
             break;
-        case TGroup::Float: WriteFloat(AType, Target, ToFloat(From, ASource.Data(), AType)); break;
-        case TGroup::Text: WriteText(AType, Target, ToText(From, ASource.Data(), AType)); break;
+        case TGroup::Float: StoreFloat(AType, Target, ToFloat(From, ASource.Data(), AType)); break;
+        case TGroup::Text: StoreText(AType, Target, ToText(From, ASource.Data(), AType)); break;
         default: RaiseNoWay(From, AType);
         }
     }
@@ -268,8 +225,8 @@ bool TBoundValue::SameAs(const TBoundValue& AOther) const {
         return false;
     switch (GroupOf(FType)) {
     case TGroup::Ordinal: return ReadOrdinal(FType, Data()) == ReadOrdinal(FType, AOther.Data());
-    case TGroup::Float: return FloatOf(FType, Data()) == FloatOf(FType, AOther.Data());
-    case TGroup::Text: return TextOf(FType, Data()) == TextOf(FType, AOther.Data());
+    case TGroup::Float: return ReadFloat(FType, Data()) == ReadFloat(FType, AOther.Data());
+    case TGroup::Text: return ReadText(FType, Data()) == ReadText(FType, AOther.Data());
     case TGroup::Object: return AsObject() == AOther.AsObject();
     default: return FType->Ops->IsTrivial && std::memcmp(Data(), AOther.Data(), FType->Ops->Size) == 0;
     }
