@@ -64,5 +64,7 @@ QZ_API TLocale NeutralLocale();
 // is the decimal one, and blanks of a special width in time patterns are plain ones. A separator of several
 // units is cut to its first. Any thread, as long as none changes the environment.
 QZ_API TLocale UserLocale();
+// What they say of the decimal separator alone.
+QZ_API char16_t UserDecimalSeparator();
 
 } // namespace qz::platform

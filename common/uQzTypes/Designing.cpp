@@ -10,28 +10,39 @@ namespace {
 
 enum class TAnswer : std::uint8_t { NotAsked, Yes, No };
 
-std::mutex GLock;
-UnicodeString GHost;
-TAnswer GAnswer = TAnswer::NotAsked;
+// It outlives the destructors of the program, which may ask.
+struct TDesignHost {
+    std::mutex Lock;
+    UnicodeString Name;
+    TAnswer Answer = TAnswer::NotAsked;
+};
 
+TDesignHost& DesignHost() {
+    static auto* const Result = new TDesignHost;
+    return *Result;
+}
+
+// A point in the name need not begin an extension.
 bool IsHost(std::u16string_view APath, std::u16string_view AHost) {
     APath.remove_prefix(APath.find_last_of(u"/\\") + 1);
-    return !AHost.empty() && SameText(APath.substr(0, APath.rfind(u'.')), AHost);
+    return !AHost.empty() && (SameText(APath, AHost) || SameText(APath.substr(0, APath.rfind(u'.')), AHost));
 }
 
 } // namespace
 
 bool IsDesigning() {
-    const std::lock_guard Hold(GLock);
-    if (GAnswer == TAnswer::NotAsked)
-        GAnswer = IsHost(platform::ExecutablePath(), GHost) ? TAnswer::Yes : TAnswer::No;
-    return GAnswer == TAnswer::Yes;
+    TDesignHost& Host = DesignHost();
+    const std::lock_guard Hold(Host.Lock);
+    if (Host.Answer == TAnswer::NotAsked)
+        Host.Answer = IsHost(platform::ExecutablePath(), Host.Name) ? TAnswer::Yes : TAnswer::No;
+    return Host.Answer == TAnswer::Yes;
 }
 
 void QzSetDesignHost(const UnicodeString& AName) {
-    const std::lock_guard Hold(GLock);
-    GHost = AName;
-    GAnswer = TAnswer::NotAsked;
+    TDesignHost& Host = DesignHost();
+    const std::lock_guard Hold(Host.Lock);
+    Host.Name = AName;
+    Host.Answer = TAnswer::NotAsked;
 }
 
 } // namespace qz

@@ -10,7 +10,7 @@
 namespace qz {
 
 // Whether the file of the process's program bears the name that QzSetDesignHost told, in any case of letters and whatever
-// its folder and extension. Found out at the first question and remembered until another name is told. Any thread.
+// its folder, with its extension or without. Found out at the first question and remembered until another name is told. Any thread.
 QZ_API bool IsDesigning();
 
 // Tells the name of the designer's program, without folder and extension. Empty, as it is at first: there is none.

@@ -26,7 +26,7 @@ using TValArray = TDynArray<TValue>;
 using TExtendedDynArray = TDynArray<Extended>;
 using TVariantDynArray = TDynArray<Variant>;
 using TDateTimeDynArray = TDynArray<TDateTime>;
-using TDateTyimeDynArray = TDynArray<TDateTime>; // the same type under another name
+using TDateTyimeDynArray = TDynArray<TDateTime>; // another name of the same type
 using TUInt64DynArray = TDynArray<std::uint64_t>;
 using TTypeKindArray = TDynArray<TTypeKind>; // one byte an element
 
@@ -75,3 +75,5 @@ QZ_TYPE_INFO(qz::TExtendedDynArray);
 QZ_TYPE_INFO(qz::TVariantDynArray);
 QZ_TYPE_INFO(qz::TDateTimeDynArray);
 QZ_TYPE_INFO(qz::TUInt64DynArray);
+QZ_TYPE_INFO(qz::TTypeKind);
+QZ_TYPE_INFO(qz::TTypeKindArray);

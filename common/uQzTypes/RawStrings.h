@@ -4,15 +4,16 @@
 //     ...
 //     QzStrDispose(Buffer);
 //
-// The caller owns a buffer and ends it by QzStrDispose, on any thread. 8-bit buffers are in the system's code page.
+// The caller owns a buffer and ends it by QzStrDispose, on any thread. A text of this language's own, such as "x", is taken as
+// 16 bits.
 #pragma once
 
 #include "runtime/text/AnsiString.h"
 
 namespace qz {
 
-// 8 bits: the text up to its first terminator, also of an empty text; 16-bit text is converted, and what the code page
-// lacks is its best fit or "?".
+// 8 bits: the bytes of the text up to the first terminator, also of an empty text; 16-bit text is converted to the system's
+// code page, and what that lacks is its best fit or "?".
 QZ_API char* QzStrNewA(const AnsiString& AText);
 QZ_API char* QzStrNewA(const WideString& AText);
 // 16 bits: the whole text, null for an empty one.

@@ -1,13 +1,14 @@
 #include "common/uQzTypes/TextValues.h"
 
+#include "platform/Locale.h"
 #include "runtime/text/FloatText.h"
 
 namespace qz {
 namespace {
 
 TFormatSettings OtherSeparators() {
-    TFormatSettings Result = TFormatSettings::Create();
-    const bool HasPoint = Result.DecimalSeparator == u'.';
+    TFormatSettings Result;
+    const bool HasPoint = platform::UserDecimalSeparator() == u'.';
     Result.DecimalSeparator = HasPoint ? u',' : u'.';
     Result.ThousandSeparator = HasPoint ? u'.' : u',';
     return Result;

@@ -2,7 +2,7 @@
 //
 //     QzStrToBool(u"yes");                     // true
 //     QzBoolToStr(IsOpen, u"open", u"shut");
-//     QzStrToFloat(u"1,5");                    // 1.5, as of "1.5", in every locale
+//     QzStrToFloat(u"1,5");                    // 1.5, as of "1.5"
 //
 // Any number of threads may call them.
 #pragma once
@@ -21,8 +21,9 @@ inline UnicodeString QzBoolToStr(bool AValue, const TStringArg& ATrueText, const
 }
 
 // Reads as StrToFloat does by the settings of the process. What fails is read once more by the settings of the system
-// with the other decimal separator: a point where theirs is something else, else a comma. Raises the EConvertError of
-// StrToFloat.
+// with the other decimal separator: a point where theirs is something else, else a comma. So a point and a comma are both
+// read as long as the process has kept the system's settings and these have one of the two. Raises the EConvertError
+// of StrToFloat.
 QZ_API Extended QzStrToFloat(const TStringArg& AText);
 // Gives the default instead.
 QZ_API Extended QzStrToFloatDef(const TStringArg& AText, Extended ADefault);

@@ -180,7 +180,7 @@ T Text(const Variant& AValue, const T& ADefault, bool ARaise, std::u16string_vie
 // An array whose elements are being written.
 struct TOpenArray {
     Variant Array;
-    int Next;
+    std::int64_t Next; // beyond the highest index at last
     int High;
 
     explicit TOpenArray(const Variant& AArray)
@@ -197,7 +197,7 @@ UnicodeString Lines(const Variant& AArray, const UnicodeString& ADefault, bool A
         if (Open.back().Next > Open.back().High) {
             Open.pop_back();
         } else {
-            const Variant Element = VarArrayGet(Open.back().Array, Open.back().Next++);
+            const Variant Element = VarArrayGet(Open.back().Array, static_cast<int>(Open.back().Next++));
             const int Dimensions = VarArrayDimCount(Element);
             if (Dimensions == 1) {
                 Open.emplace_back(Element);

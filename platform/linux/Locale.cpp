@@ -158,13 +158,8 @@ TLocale ReadLocale(const TLocaleNames& ANames) {
     return Result;
 }
 
-} // namespace
-
-TLocale NeutralLocale() {
-    return {};
-}
-
-TLocale UserLocale() {
+// What the environment says now, for the length of AUse.
+template <class TUse> auto WithUserLocale(const TUse& AUse) {
     // To open a locale in ICU takes a tenth of a millisecond, and what it says does not change with time.
     static auto* const Lock = new std::mutex;
     static auto* const Last = new std::pair<TLocaleNames, TLocale>;
@@ -172,7 +167,21 @@ TLocale UserLocale() {
     const std::lock_guard Hold(*Lock);
     if (Last->first != Names)
         *Last = {Names, ReadLocale(Names)};
-    return Last->second;
+    return AUse(Last->second);
+}
+
+} // namespace
+
+TLocale NeutralLocale() {
+    return {};
+}
+
+TLocale UserLocale() {
+    return WithUserLocale([](const TLocale& ALocale) { return ALocale; });
+}
+
+char16_t UserDecimalSeparator() {
+    return WithUserLocale([](const TLocale& ALocale) { return ALocale.DecimalSeparator; });
 }
 
 } // namespace qz::platform

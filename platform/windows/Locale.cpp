@@ -75,4 +75,10 @@ TLocale UserLocale() {
     return Result;
 }
 
+char16_t UserDecimalSeparator() {
+    char16_t Result = u'.';
+    ReadUnit(Result, LOCALE_SDECIMAL);
+    return Result;
+}
+
 } // namespace qz::platform

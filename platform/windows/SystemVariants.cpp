@@ -130,6 +130,10 @@ bool LockSystemArray(void* AArray, std::uint16_t AElements, TSystemArray& AConte
     if (!Succeed(SafeArrayAccessData(Array, &Data), AError))
         return false;
     AContent.Data = static_cast<std::byte*>(Data);
+    if (Data == nullptr && AContent.Count != 0) {
+        SafeArrayUnaccessData(Array);
+        return Succeed(E_INVALIDARG, AError);
+    }
     return true;
 }
 

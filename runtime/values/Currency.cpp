@@ -1,18 +1,10 @@
 #include "runtime/values/Currency.h"
 
-#include <cmath>
-
 #include "runtime/errors/Exceptions.h"
 #include "runtime/reflection/Describe.h"
 #include "runtime/values/SystemDecimal.h"
 
 namespace qz {
-namespace {
-
-constexpr double cTooManyUnits = 9223372036854775808.0; // 2^63
-
-} // namespace
-
 constinit const TTypeInfo TTypeDescription<Currency>::Info =
     DescribeType<Currency>(tkFloat, u"Currency", u"System");
 
@@ -20,12 +12,14 @@ void Currency::RaiseRange() {
     throw ERangeError(u"The amount does not fit into a currency");
 }
 
+// By the shortest decimal number that reads back as AValue, as texts are.
 bool Currency::TryFromDouble(double AValue, Currency& ACurrency) noexcept {
-    const double Units = std::nearbyint(AValue * static_cast<double>(cUnitsPerOne));
-    if (!(Units >= -cTooManyUnits && Units < cTooManyUnits))
-        return false;
-    ACurrency.FUnits = static_cast<std::int64_t>(Units);
-    return true;
+    TSysDecimal Decimal;
+    return TSysDecimal::TryFromDouble(AValue, Decimal) && Decimal.TryToCurrency(ACurrency);
+}
+
+double Currency::LargeToDouble(std::int64_t AUnits) noexcept {
+    return TSysDecimal::FromCurrency(FromUnits(AUnits)).ToDouble();
 }
 
 Currency::Currency(double AValue) {

@@ -25,7 +25,7 @@ public:
     static constexpr std::int64_t cUnitsPerOne = 10000;
 
     constexpr Currency() noexcept = default;
-    // Rounded to four decimals, halves to the even one. Raises ERangeError, also for what is no number.
+    // The shortest decimal number that reads back as AValue, rounded to four decimals, halves to the even one. Raises ERangeError, also for what is no number.
     QZ_API explicit Currency(double AValue);
     template <std::integral T>
         requires(!std::same_as<T, bool>)
@@ -39,7 +39,12 @@ public:
     QZ_API static bool TryFromDouble(double AValue, Currency& ACurrency) noexcept;
 
     constexpr std::int64_t Units() const noexcept { return FUnits; }
-    constexpr double ToDouble() const noexcept { return static_cast<double>(FUnits) / cUnitsPerOne; }
+    // The nearest double.
+    constexpr double ToDouble() const noexcept {
+        constexpr std::int64_t cExact = std::int64_t{1} << 53;
+        return -cExact <= FUnits && FUnits <= cExact ? static_cast<double>(FUnits) / cUnitsPerOne
+                                                     : LargeToDouble(FUnits);
+    }
 
     friend constexpr bool operator==(Currency ALeft, Currency ARight) noexcept = default;
     friend constexpr std::strong_ordering operator<=>(Currency ALeft, Currency ARight) noexcept = default;
@@ -48,6 +53,7 @@ public:
 
 private:
     [[noreturn]] QZ_API static void RaiseRange();
+    QZ_API static double LargeToDouble(std::int64_t AUnits) noexcept;
     template <std::integral T> static constexpr std::int64_t UnitsOf(T AValue) {
         constexpr std::int64_t cMost = std::numeric_limits<std::int64_t>::max() / cUnitsPerOne;
         if (std::cmp_greater(AValue, cMost) || std::cmp_less(AValue, -cMost))

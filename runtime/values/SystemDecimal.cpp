@@ -78,6 +78,11 @@ bool RoundUp(TSysDecimal& AValue, unsigned AFirst, bool AOthers) noexcept {
     return !IsUp || Increment(AValue);
 }
 
+TSysDecimal WithValidScale(TSysDecimal AValue) noexcept {
+    AValue.Scale = std::min(AValue.Scale, TSysDecimal::cMaxScale);
+    return AValue;
+}
+
 // The digits of the magnitude, at least one more than there are decimals.
 struct TDigits {
     std::array<char, cMaxDigits + 1> Text;
@@ -90,6 +95,7 @@ struct TDigits {
     std::string_view View() const noexcept { return {Text.data() + Start, Text.size() - Start}; }
 };
 
+// Both have a valid scale.
 std::strong_ordering CompareMagnitudes(const TSysDecimal& ALeft, const TSysDecimal& ARight) noexcept {
     if (ALeft.Scale == ARight.Scale)
         return ALeft.High != ARight.High ? ALeft.High <=> ARight.High : ALeft.Low <=> ARight.Low;
@@ -193,7 +199,7 @@ bool TSysDecimal::TryFromDouble(double AValue, TSysDecimal& ADecimal) noexcept {
 }
 
 TSysDecimal TSysDecimal::Rounded(std::uint8_t AScale) const noexcept {
-    TSysDecimal Result = *this;
+    TSysDecimal Result = WithValidScale(*this);
     unsigned First = 0;
     bool Others = false;
     for (; Result.Scale > AScale; --Result.Scale) {
@@ -207,11 +213,12 @@ TSysDecimal TSysDecimal::Rounded(std::uint8_t AScale) const noexcept {
 double TSysDecimal::ToDouble() const noexcept {
     if (Scale == 0 && High == 0)
         return IsNegative() ? -static_cast<double>(Low) : static_cast<double>(Low);
-    const TDigits Digits(*this);
+    const TSysDecimal Valid = WithValidScale(*this);
+    const TDigits Digits(Valid);
     std::array<char, cMaxDigits + 8> Text;
     char* End = std::ranges::copy(Digits.View(), Text.begin()).out;
     *End++ = 'e';
-    End = std::to_chars(End, Text.data() + Text.size(), -static_cast<int>(Scale)).ptr;
+    End = std::to_chars(End, Text.data() + Text.size(), -static_cast<int>(Valid.Scale)).ptr;
     double Result = 0;
     std::from_chars(Text.data(), End, Result);
     return IsNegative() ? -Result : Result;
@@ -237,7 +244,9 @@ std::strong_ordering operator<=>(const TSysDecimal& ALeft, const TSysDecimal& AR
     const bool IsRightNegative = ARight.IsNegative() && !ARight.IsZero();
     if (IsLeftNegative != IsRightNegative)
         return IsRightNegative <=> IsLeftNegative;
-    return IsLeftNegative ? CompareMagnitudes(ARight, ALeft) : CompareMagnitudes(ALeft, ARight);
+    const TSysDecimal Left = WithValidScale(ALeft);
+    const TSysDecimal Right = WithValidScale(ARight);
+    return IsLeftNegative ? CompareMagnitudes(Right, Left) : CompareMagnitudes(Left, Right);
 }
 
 UnicodeString DecimalToStr(const TSysDecimal& AValue) {
@@ -245,9 +254,10 @@ UnicodeString DecimalToStr(const TSysDecimal& AValue) {
 }
 
 UnicodeString DecimalToStr(const TSysDecimal& AValue, const TFormatSettings& ASettings) {
-    const TDigits Digits(AValue);
+    const TSysDecimal Valid = WithValidScale(AValue);
+    const TDigits Digits(Valid);
     const std::string_view All = Digits.View();
-    const std::size_t Whole = All.size() - AValue.Scale;
+    const std::size_t Whole = All.size() - Valid.Scale;
     std::array<char16_t, cMaxDigits + 3> Text;
     char16_t* End = Text.data();
     if (AValue.IsNegative() && !AValue.IsZero())

@@ -18,7 +18,7 @@ namespace qz {
 
 struct TSysDecimal {
     std::uint16_t Reserved = 0; // where a variant has its type
-    std::uint8_t Scale = 0;     // decimals, 0 to cMaxScale
+    std::uint8_t Scale = 0;     // decimals; more than cMaxScale count as so many
     std::uint8_t Sign = 0;      // cNegative or 0
     std::uint32_t High = 0;     // the upper 32 bits of the magnitude
     std::uint64_t Low = 0;      // the lower 64
@@ -34,8 +34,8 @@ struct TSysDecimal {
     // By value and exact.
     static QZ_API TSysDecimal FromInt64(std::int64_t AValue) noexcept;
     static QZ_API TSysDecimal FromCurrency(Currency AValue) noexcept;
-    // A whole number exactly, of any other the shortest decimal number that reads back as AValue, rounded to what fits.
-    // False, and ADecimal unchanged, for what is too large and for what is no number.
+    // A whole number exactly, of any other the shortest decimal number that reads back as AValue, rounded to what fits,
+    // halves away from zero. False, and ADecimal unchanged, for what is too large and for what is no number.
     static QZ_API bool TryFromDouble(double AValue, TSysDecimal& ADecimal) noexcept;
 
     bool IsNegative() const noexcept { return Sign != 0; }

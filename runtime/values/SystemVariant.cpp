@@ -64,7 +64,7 @@ public:
     }
 
 private:
-    std::array<std::byte, platform::cSystemVariantSize> FRoom{};
+    alignas(8) std::array<std::byte, platform::cSystemVariantSize> FRoom{};
 };
 
 [[noreturn]] void RaiseUnknown(TVarType AType) {
@@ -233,9 +233,17 @@ Variant ElementFrom(const std::byte* APlace, TVarType ACode, int ADepth) {
 
 detail::TVariantBound BoundOf(const TSystemBound& ABound) {
     constexpr std::int64_t cMost = std::numeric_limits<std::int32_t>::max();
-    if (ABound.Count > cMost || std::int64_t{ABound.Low} + ABound.Count - 1 > cMost)
+    const std::int64_t High = std::int64_t{ABound.Low} + ABound.Count - 1;
+    if (ABound.Count > cMost || High > cMost || High < std::numeric_limits<std::int32_t>::min())
         throw EVariantArrayCreateError(u"A variant array cannot have %d elements", {ABound.Count});
     return {ABound.Low, static_cast<std::int32_t>(ABound.Count)};
+}
+
+// The size of an element on the other side.
+std::size_t SystemSize(TVarType AType) noexcept {
+    return AType == varVariant ? platform::cSystemVariantSize
+        : AType == varDecimal  ? sizeof(TSysDecimal)
+                               : detail::ElementSize(AType);
 }
 
 Variant ArrayFrom(void* AArray, TVarType ACode, int ADepth) {
@@ -249,6 +257,9 @@ Variant ArrayFrom(void* AArray, TVarType ACode, int ADepth) {
         Bounds.push_back(BoundOf(Bound));
     const TVarType Type = TypeFor(Source.Elements);
     detail::TItemsPtr Items = detail::NewItems(Type, Bounds);
+    if (Items->Count != 0 && Source.ElementSize != SystemSize(Type))
+        throw EVariantArrayCreateError(u"The elements of a system array of type %d have %d bytes",
+                                       {Source.Elements, Source.ElementSize});
     if (Type == varVariant || Type == varDecimal || IsText(Type) || IsInterface(Type)) {
         for (std::size_t I = 0; I < Items->Count; ++I)
             detail::StoreItem(*Items, I,

@@ -42,10 +42,13 @@ inline constexpr TVarType varByRef = 0x4000; // only in the system's own variant
 
 namespace detail {
 
-// The code of a number by its width and sign.
 template <class T>
-    requires std::integral<T> || std::same_as<T, float> || std::same_as<T, double>
-consteval TVarType VarTypeOf() noexcept {
+concept CVariantNumber = std::same_as<T, float> || std::same_as<T, double> ||
+    (std::integral<T> && !std::same_as<T, bool> && !std::same_as<T, char> && !std::same_as<T, char8_t> &&
+     !std::same_as<T, char16_t> && !std::same_as<T, char32_t> && !std::same_as<T, wchar_t>);
+
+// The code of a number by its width and sign.
+template <CVariantNumber T> consteval TVarType VarTypeOf() noexcept {
     if (std::same_as<T, float>)
         return varSingle;
     if (std::same_as<T, double>)

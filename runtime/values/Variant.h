@@ -11,6 +11,7 @@
 // bit. Different variants may be used by different threads; one that was moved from is empty.
 #pragma once
 
+#include <algorithm>
 #include <compare>
 #include <concepts>
 #include <cstdint>
@@ -45,11 +46,11 @@ struct TVariantAccess;
 
 class QZ_API Variant {
 public:
+    // An integer has the type of its width and sign, so that a long is another one on Windows than on Linux.
     Variant() noexcept = default; // empty
     Variant(std::same_as<bool> auto AValue) noexcept : FType(varBoolean) { FData.Integer = AValue ? -1 : 0; }
     template <std::integral T>
-        requires(!std::same_as<T, bool> && !std::same_as<T, char> && !std::same_as<T, char8_t> &&
-                 !std::same_as<T, char16_t> && !std::same_as<T, char32_t> && !std::same_as<T, wchar_t>)
+        requires(detail::CVariantNumber<T>)
     Variant(T AValue)
     noexcept : FType(detail::VarTypeOf<T>()) { FData.Integer = static_cast<std::int64_t>(AValue); }
     Variant(float AValue) noexcept : FType(varSingle) { FData.Single = AValue; }
@@ -61,7 +62,7 @@ public:
     Variant(Currency AValue) noexcept : FType(varCurrency) { FData.Integer = AValue.Units(); }
     Variant(const TSysDecimal& AValue) noexcept
         : FType(varDecimal),
-          FScale(AValue.Scale),
+          FScale(std::min(AValue.Scale, TSysDecimal::cMaxScale)),
           FSign(AValue.Sign),
           FHigh(AValue.High) {
         FData.Integer = static_cast<std::int64_t>(AValue.Low);
@@ -114,7 +115,7 @@ public:
     }
 
     friend TVarType VarType(const Variant& AValue) noexcept { return AValue.FType; }
-    // Numbers by their value whatever their types, texts unit by unit, a number and a text by the number that is
+    // Numbers by their value whatever their types, where one of them is a float both as floats, texts unit by unit, a number and a text by the number that is
     // written there; True is -1 among numbers. Null is equal to null alone, an empty one also to 0 and the empty
     // text, an interface or object to the same address. Raises EVariantTypeCastError for a text that should be a
     // number, date or boolean and is none, and EVariantInvalidOpError for an array.

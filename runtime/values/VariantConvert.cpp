@@ -81,13 +81,17 @@ bool RoundDecimal(const TSysDecimal& AValue, TWhole& AWhole) noexcept {
 }
 
 bool ReadWhole(const UnicodeString& AText, TWhole& AWhole, const Variant& AValue, TVarType AType) {
+    AWhole.IsNegative = false;
+    if (AType == varUInt64 && TryStrToUInt64(AText, AWhole.Magnitude)) // "$FFFFFFFFFFFFFFFF" is no -1 there
+        return true;
     if (std::int64_t Signed = 0; TryStrToInt64(AText, Signed)) {
         AWhole = WholeOf(Signed);
         return true;
     }
-    AWhole.IsNegative = false;
     if (TryStrToUInt64(AText, AWhole.Magnitude))
         return true;
+    if (TSysDecimal Decimal; TryStrToDecimal(AText, Decimal))
+        return RoundDecimal(Decimal, AWhole);
     double Real = 0;
     if (!TryStrToFloat(AText, Real))
         RaiseCast(AValue, AType);

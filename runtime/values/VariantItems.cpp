@@ -53,10 +53,13 @@ void StoreBytes(std::byte* APlace, std::uint64_t ABits, std::size_t ASize) noexc
 
 // False when the count is beyond all bounds.
 bool CountItems(std::span<const TVariantBound> ABounds, std::size_t ASize, std::size_t& ACount) noexcept {
-    ACount = 1;
+    const auto IsEmpty = [](const TVariantBound& ABound) { return ABound.Count == 0; };
+    ACount = std::any_of(ABounds.begin(), ABounds.end(), IsEmpty) ? 0 : 1;
+    if (ACount == 0)
+        return true;
     for (const TVariantBound& Bound : ABounds) {
         const auto Count = static_cast<std::size_t>(Bound.Count);
-        if (Count != 0 && ACount > cMaxArrayBytes / ASize / Count)
+        if (ACount > cMaxArrayBytes / ASize / Count)
             return false;
         ACount *= Count;
     }

@@ -13,6 +13,7 @@
 #include "runtime/values/VariantArray.h"
 #include "runtime/values/VariantConvert.h"
 #include "tests/support/Message.h"
+#include "tests/support/SystemPage.h"
 
 namespace qz {
 namespace {
@@ -241,6 +242,12 @@ TEST(VarTolerant, CutsNumbersAndReadsTexts) {
     EXPECT_THROW(QzVarToInt(5000000000, 7, true), EVariantOverflowError);
     EXPECT_EQ(7, QzVarToByte(u"", 263, false));
     EXPECT_TRUE(std::isinf(QzVarToSingle(1e300, 0, true)));
+    EXPECT_TRUE(QzVarToBool(4294967297, true, false)); // the default: it has no 32 bits
+    EXPECT_FALSE(QzVarToBool(4294967297, false, false));
+    EXPECT_EQ(1.5F, QzVarToSingle(u"1,5", 0, true));
+    EXPECT_EQ(1.5, QzVarToDouble(AnsiString("1,5"), 0, true));
+    EXPECT_EQ(7.0, QzVarToExtended(u"1,5", 7, false));
+    EXPECT_EQ(u"1.5", QzVarToStr(VarAsType(u"1.50", varDecimal), u"", true));
     EXPECT_EQ(u"x", QzVarToStr(std::numeric_limits<std::uint64_t>::max(), u"x", false));
     const std::pair<UnicodeString, UnicodeString> Errors[] = {
         {u"'abc' is not a valid integer value", Message([] { QzVarToLongInt(u"abc", 7, true); })},
@@ -261,6 +268,15 @@ TEST(VarTolerant, ReadsIsoDatesWhateverTheSettings) {
     EXPECT_EQ(Day, QzVarToDate(DateTimeToStr(Day), 0, true));
     EXPECT_EQ(5.0, QzVarToDate(u"2016-02-30", 5, false));
     EXPECT_EQ(5.0, QzVarToDate(u"016-02-29", 5, false));
+    EXPECT_EQ(5.0, QzVarToDate(u"2016-02/29", 5, false));
+    const TFormatSettings Before = DefaultFormatSettings();
+    TFormatSettings Other = Before;
+    Other.DateSeparator = u'-';
+    Other.ShortDateFormat = u"dd-mm-yyyy";
+    SetDefaultFormatSettings(Other);
+    EXPECT_EQ(Day, QzVarToDate(u"2016-02-29", 0, true));
+    EXPECT_EQ(Day, QzVarToDate(u"29-02-2016", 0, true));
+    SetDefaultFormatSettings(Before);
 }
 
 TEST(VarTolerant, WritesArraysLineByLine) {
@@ -277,6 +293,8 @@ TEST(VarTolerant, WritesArraysLineByLine) {
     const Variant Mixed = VarArrayOf({1, Table, Variant(Ref<IInterface>()), 2});
     EXPECT_EQ(u"1\r\n-\r\n-\r\n2\r\n", QzVarToStr(Mixed, u"-", false));
     EXPECT_THROW(QzVarToStr(Mixed, u"-", true), EConvertError);
+    constexpr int cMost = std::numeric_limits<int>::max();
+    EXPECT_EQ(u"0\r\n0\r\n", QzVarToStr(VarArrayCreate({cMost - 1, cMost}, varInteger), u"", true));
     Variant Deep = 1;
     for (int I = 0; I < 50000; ++I)
         Deep = VarArrayOf({Deep});
@@ -325,6 +343,30 @@ TEST(TextValues, BooleansAndFloats) {
     EXPECT_EQ(1.5, QzStrToFloat(u"1,5"));
     EXPECT_EQ(-2.0, QzStrToFloatDef(u"1.5.2", -2));
     EXPECT_EQ(u"'1;5' is not a valid floating point value", Message([] { QzStrToFloat(u"1;5"); }));
+}
+
+// The other separator is that of the system, whatever the process has.
+TEST(TextValues, TheSecondTryGoesByTheSystem) {
+    const TFormatSettings Before = DefaultFormatSettings();
+    TFormatSettings Other = Before;
+    Other.DecimalSeparator = u';';
+    SetDefaultFormatSettings(Other);
+    const bool HasPoint = TFormatSettings::Create().DecimalSeparator == u'.';
+    EXPECT_EQ(HasPoint ? 1.5 : 7, QzStrToFloatDef(u"1,5", 7));
+    EXPECT_EQ(HasPoint ? 7 : 1.5, QzStrToFloatDef(u"1.5", 7));
+    EXPECT_EQ(1.5, QzStrToFloat(u"1;5"));
+    SetDefaultFormatSettings(Before);
+}
+
+TEST(RawStrings, ConvertByTheSystemsCodePage) {
+    const TSystemPage Page(1252);
+    char* const Narrow = QzStrNewA(WideString(u"\u20AC"));
+    EXPECT_STREQ("\x80", Narrow);
+    QzStrDispose(Narrow);
+    char16_t* const Wide = QzStrNewW(AnsiString("\x80"));
+    EXPECT_EQ(UnicodeString(u"\u20AC"), Wide);
+    QzStrDispose(Wide);
+    EXPECT_EQ("\x80", QzVarStrA(u"\u20AC", {}).View());
 }
 
 TEST(RawStrings, AreCopiesThatEndWithATerminator) {

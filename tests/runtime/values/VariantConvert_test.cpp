@@ -256,5 +256,27 @@ TEST(SysDecimal, FromDoublesAndIntoCurrency) {
     EXPECT_THROW(StrToCurr(u"much", Neutral), EConvertError);
 }
 
+// Amounts beyond the 53 bits of a float, and numbers that a float would not tell from their neighbours.
+TEST_F(VariantConvert, LosesNoDigitsOnTheWay) {
+    EXPECT_EQ(7719181370051520000, Currency(771918137005152.0).Units());
+    EXPECT_EQ(9223372036854775000, VarToCurrency(922337203685477.5).Units());
+    EXPECT_EQ(968283918692.1809, Currency::FromUnits(9682839186921809).ToDouble());
+    EXPECT_THROW(Currency(922337203685477.6), ERangeError);
+    EXPECT_THROW(Currency(std::ldexp(1.0, 63) / 10000), ERangeError);
+    EXPECT_EQ(std::numeric_limits<std::uint64_t>::max(), VarToUInt64(u"$FFFFFFFFFFFFFFFF"));
+    EXPECT_EQ(-1, VarToInt64(u"$FFFFFFFFFFFFFFFF"));
+    EXPECT_EQ(9007199254740993, VarToInt64(u"9007199254740993.0"));
+    EXPECT_EQ(std::numeric_limits<std::int64_t>::max(), VarToInt64(u"9223372036854775807.0"));
+    EXPECT_EQ(2, VarToInteger(u"2.5"));
+    EXPECT_EQ(u"0.0000000000000000000000000001",
+              DecimalToStr(TSysDecimal(1, false, 200), TFormatSettings::Neutral()));
+    EXPECT_EQ(28, VarToDecimal(TSysDecimal(1, false, 200)).Scale);
+    EXPECT_TRUE(TSysDecimal(0, true) == TSysDecimal(0, false));
+    EXPECT_EQ(std::numeric_limits<float>::infinity(), VarToReal(std::numeric_limits<float>::infinity()));
+    EXPECT_TRUE(Variant(true) == Variant(u"true"));
+    EXPECT_FALSE(Variant(false) == Variant(u"1"));
+    EXPECT_EQ(nullptr, VarToInterface(Variant::Dispatch(nullptr)).Get());
+}
+
 } // namespace
 } // namespace qz
