@@ -1,6 +1,8 @@
 #include "runtime/values/SystemVariant.h"
 
 #include <cstring>
+#include <limits>
+#include <memory>
 
 #include <gtest/gtest.h>
 
@@ -47,6 +49,9 @@ const auto ChangeType =
         "VariantChangeType");
 const auto CreateArray = Automation<void*(std::uint16_t, std::uint32_t, TSafeBound*)>("SafeArrayCreate");
 const auto PutElement = Automation<std::int32_t(void*, std::int32_t*, void*)>("SafeArrayPutElement");
+const auto AllocArray = Automation<std::int32_t(std::uint32_t, void**)>("SafeArrayAllocDescriptor");
+const auto AllocElements = Automation<std::int32_t(void*)>("SafeArrayAllocData");
+const auto FreeArray = Automation<std::int32_t(void*)>("SafeArrayDestroy");
 const auto GetElement = Automation<std::int32_t(void*, std::int32_t*, void*)>("SafeArrayGetElement");
 
 struct TSystem : tagVARIANT {
@@ -191,6 +196,34 @@ TEST(SystemVariantWindows, ArraysThatTheSystemMade) {
     Reference.Pointer = &Value.Pointer;
     EXPECT_EQ(VarArrayData<std::uint8_t>(VariantFromSystem(&Reference))[3], 200);
     Reference.Type = varEmpty;
+}
+
+// The head of an array may say anything of what follows it.
+TEST(SystemVariantWindows, ArraysThatLieAreRefused) {
+    struct THead {
+        std::uint16_t Dimensions, Features;
+        std::uint32_t ElementSize, Locks;
+        void* Data;
+        TSafeBound Bound;
+    };
+    const auto Read = [](std::uint32_t AElementSize, TSafeBound ABound, bool AHasData) {
+        void* Array = nullptr;
+        AllocArray(1, &Array);
+        auto* Head = static_cast<THead*>(Array);
+        Head->ElementSize = AElementSize;
+        Head->Bound = ABound;
+        if (AHasData)
+            AllocElements(Array);
+        tagVARIANT Value{};
+        Value.Type = varArray | varDouble;
+        Value.Pointer = Array;
+        const std::shared_ptr<void> Owner(Array, FreeArray);
+        return VariantFromSystem(&Value);
+    };
+    EXPECT_EQ(VarArrayHighBound(Read(8, {4, 1}, true)), 4);
+    EXPECT_THROW(Read(1, {4, 0}, true), EVariantArrayCreateError);
+    EXPECT_THROW(Read(8, {16, 0}, false), EOSError);
+    EXPECT_THROW(Read(8, {0, std::numeric_limits<std::int32_t>::min()}, false), EVariantArrayCreateError);
 }
 
 TEST(SystemVariantWindows, CountsInterfacesExactly) {
