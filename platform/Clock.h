@@ -30,4 +30,8 @@ QZ_API int64_t UtcNow100ns() noexcept;
 // The time in the system's time zone (Linux: TZ or /etc/localtime). All fields belong to the same instant.
 QZ_API TLocalTime LocalNow() noexcept;
 
+// The seconds to add to UTC for the local time now. Looks at the setting of the zone anew, which LocalNow need not do
+// (Linux: TZ, and /etc/localtime without it); the environment must not be changed meanwhile.
+QZ_API int32_t LocalOffsetSeconds() noexcept;
+
 } // namespace qz::platform

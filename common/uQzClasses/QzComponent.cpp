@@ -33,8 +33,10 @@ std::uint32_t TQzComponent::_AddRef() {
 // A component that is on its way out, itself or with its owner, is not ended by what its notifications take and drop.
 bool TQzComponent::DropReference(std::int32_t& ACount) {
     ACount = FRefCount.Decrement();
+    if (ACount != 0)
+        return false; // another thread may end it at any moment
     const bool IsGoing = IsEnding() || (Owner() != nullptr && ComponentState().Contains(csDestroying));
-    return ACount == 0 && AutoDestroyPolicy() == radTrue && !IsGoing;
+    return AutoDestroyPolicy() == radTrue && !IsGoing;
 }
 
 std::uint32_t TQzComponent::_Release() {

@@ -81,6 +81,8 @@ protected:
     void Notification(TComponent* AComponent, TOperation AOperation) override;
     // Takes a reference back; true when the component has to end now. For a _Release that does more than that.
     bool DropReference(std::int32_t& ACount);
+    // Counts a reference unless there is none left, as of a component that ends; false then.
+    bool TryAddReference() noexcept { return FRefCount.IncrementUnlessZero(); }
 
 private:
     void AddBinding(TObject* ASource, const UnicodeString& ASourceProperty, TObject* ADest,

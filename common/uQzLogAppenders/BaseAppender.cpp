@@ -1,5 +1,6 @@
 #include "common/uQzLogAppenders/BaseAppender.h"
 
+#include "common/uQzLogger/LogDrops.h"
 #include "common/uQzLogger/QzLogger.h"
 #include "common/uQzTypes/VarTolerant.h"
 
@@ -11,16 +12,19 @@ constinit const TClassRec TQzBaseAppender::ClassRec = DescribeLogBase<TQzBaseApp
 
 void TQzBaseAppender::AfterConstruction() {
     Inherited::AfterConstruction();
-    if (TQzLogger* Origin = LoggerOfOrigin()) {
+    if (const Ref<TQzLogger> Origin = LoggerOfOrigin()) {
         if (const Ref<IQzLogConfigurator> Configurator = Origin->Configurator())
             SetConfig(Configurator.Get());
     }
 }
 
 void TQzBaseAppender::BeforeDestruction() {
-    LeaveLists(); // nothing is written from here on
-    Close();
-    Inherited::BeforeDestruction();
+    Inherited::BeforeDestruction(); // nothing is written from here on
+    try {
+        Close();
+    } catch (...) {
+        detail::ReportDrop({}, this, Name());
+    }
 }
 
 void TQzBaseAppender::Initialize() {
@@ -66,7 +70,7 @@ void TQzBaseAppender::SetLayout(IQzLogLayout* ALayout) {
 
 void TQzBaseAppender::SetLayout(TQzLogBaseClass AClass) {
     const auto Layout =
-        As<IQzLogLayout>(MakeLogBase(AClass, LoggerOfOrigin(), AClass ? AClass->Name() : u""));
+        As<IQzLogLayout>(MakeLogBase(AClass, LoggerOfOrigin().Get(), AClass ? AClass->Name() : u""));
     Assert(Layout != nullptr);
     SetLayout(Layout.Get());
 }

@@ -31,8 +31,9 @@ public:
     // Opens a closed appender. A descendant calls it before it writes.
     void Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
                const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) override;
+    // What it raises when the appender ends is told as a dropped message (LogDrops.h).
     void Close() override;
-    // The last of the three is what the others come to. A layout that cannot be made leaves the old one.
+    // The first of the three is what the others come to. A layout that cannot be made leaves the old one.
     void SetLayout(IQzLogLayout* ALayout) override;
     void SetLayout(TQzLogBaseClass AClass) override;
     void SetLayout(const UnicodeString& AClassName) override;
@@ -41,11 +42,12 @@ public:
     // The lock of the appender, which re-enters.
     void Lock() noexcept { FLock.Enter(); }
     void Unlock() noexcept { FLock.Leave(); }
+    bool TryLock() noexcept { return FLock.TryEnter(); }
     void Enter() noexcept { Lock(); }
     void Leave() noexcept { Unlock(); }
 
     void AfterConstruction() override;
-    // Leaves all lists, then closes the appender.
+    // Leaves all lists, and closes the appender when nobody holds it any more.
     void BeforeDestruction() override;
 
 protected:

@@ -81,7 +81,7 @@ UnicodeString TQzSimpleLayout::FormatLine(const UnicodeString& ALogger, TQzLogLe
                                           TQzLogIndent AIndent) {
     const std::size_t Spaces = 2 * Indent(AIndent);
     const UnicodeString Value = AValue == nullptr ? UnicodeString() : QzDataRecToString(AValue);
-    const std::u16string_view Level = QzLogLevels[static_cast<std::size_t>(ALevel)];
+    const std::u16string_view Level = QzLogLevelName(ALevel);
     const std::size_t Tail = AValue == nullptr ? 0 : cDash.size() + Value.size();
     UnicodeString Result = UnicodeString::ForOverwrite(
         Spaces + cTimeLength + 2 * cDash.size() + Level.size() + 1 + ALogger.size() + AMessage.size() + Tail);

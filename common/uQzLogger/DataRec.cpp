@@ -65,6 +65,8 @@ void Dump(UnicodeString& AText, const TObject& AObject, const UnicodeString& AIn
             DumpFailure(AText, Prop, Indent, Error.ClassName(), Error.Message());
         } catch (const std::exception& Error) {
             DumpFailure(AText, Prop, Indent, u"std::exception", Error.what());
+        } catch (...) {
+            DumpFailure(AText, Prop, Indent, u"Unknown", {});
         }
     }
 }

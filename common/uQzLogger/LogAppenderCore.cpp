@@ -1,44 +1,133 @@
 #include "common/uQzLogger/LogAppenderCore.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "common/uQzLogger/LogDispatch.h"
-#include "common/uQzLogger/LogTreeLock.h"
 #include "common/uQzLogger/QzLogger.h"
 
 namespace qz::detail {
 
+// The gate for the length of a change, where the thread may wait for it or gets it at once. Else whoever holds it lets go
+// of what is removed.
+class TLogAppenderCore::TChange {
+public:
+    explicit TChange(TLogAppenderCore& ACore) : FCore(ACore) {
+        if (MayAwaitGate()) {
+            FCore.EnterGate();
+            FHasGate = true;
+        }
+    }
+    ~TChange() {
+        if (FHasGate || FCore.TryEnterGate(0))
+            FCore.LeaveGate();
+    }
+    TChange(const TChange&) = delete;
+    TChange& operator=(const TChange&) = delete;
+
+private:
+    TLogAppenderCore& FCore;
+    bool FHasGate = false;
+};
+
+void TLogAppenderCore::EnterGate() noexcept {
+    FGate.Enter();
+    ++ThisLogThread().Gates;
+}
+
+bool TLogAppenderCore::TryEnterGate(std::uint32_t ATimeOut) noexcept {
+    const bool Result = FGate.TryEnter(ATimeOut);
+    ThisLogThread().Gates += Result ? 1 : 0;
+    return Result;
+}
+
+// What is removed while somebody leaves is met by the second look: it was noted before the gate was tried in vain.
+void TLogAppenderCore::LeaveGate() noexcept {
+    TLogThread& Thread = ThisLogThread();
+    for (;;) {
+        if (FHasRemoved && !IsOnTheWayHere())
+            LetGo();
+        const bool IsLast = FGate.GetLockCount() == 1;
+        FGate.Leave();
+        --Thread.Gates;
+        if (!IsLast || !FHasRemoved || !TryEnterGate(0))
+            break;
+    }
+    if (Thread.Gates == 0 && Thread.Waiting != nullptr)
+        SendWaiting();
+}
+
+bool TLogAppenderCore::IsOnTheWayHere() const noexcept {
+    const TLogDispatch* Present = ThisLogThread().Present;
+    return Present != nullptr && Present->Core == this;
+}
+
+// The caller holds the gate. Appenders may end here.
+void TLogAppenderCore::LetGo() noexcept {
+    std::vector<Ref<IQzLogAppender>> Removed; // ends behind the lock
+    const std::lock_guard Hold(FLock);
+    FHasRemoved = false;
+    Removed.swap(FRemoved);
+}
+
 TAppenderSnapshot TLogAppenderCore::Items() const {
     const std::lock_guard Hold(FLock);
-    return FItems;
+    return FSnapshot;
 }
 
 bool TLogAppenderCore::Holds(const IQzLogAppender* AAppender) const {
     const std::lock_guard Hold(FLock);
-    return std::any_of(FItems->begin(), FItems->end(),
-                       [AAppender](const Ref<IQzLogAppender>& AItem) { return AItem.Get() == AAppender; });
+    return std::find(FSnapshot->begin(), FSnapshot->end(), AAppender) != FSnapshot->end();
 }
 
-bool TLogAppenderCore::Add(IQzLogAppender* AAppender) {
+Ref<IQzLogAppender> TLogAppenderCore::Item(int AIndex) const {
+    const std::lock_guard Hold(FLock);
+    const auto Index = static_cast<std::size_t>(AIndex);
+    return AIndex >= 0 && Index < FItems.size() ? FItems[Index] : Ref<IQzLogAppender>();
+}
+
+// The caller holds the inner lock and has made all that may fail.
+void TLogAppenderCore::Publish(TAppenderSnapshot ASnapshot) noexcept {
+    FCount.store(static_cast<int>(ASnapshot->size()), std::memory_order_relaxed);
+    FSnapshot = std::move(ASnapshot);
+    FVersion.fetch_add(1, std::memory_order_release);
+}
+
+void TLogAppenderCore::Add(IQzLogAppender* AAppender) {
+    const TChange Change(*this);
     {
-        TAppenderSnapshot Old;
         const std::lock_guard Hold(FLock);
-        const auto IsIt = [AAppender](const Ref<IQzLogAppender>& AItem) { return AItem.Get() == AAppender; };
-        if (std::any_of(FItems->begin(), FItems->end(), IsIt))
-            return false;
-        auto Fresh = std::make_shared<TAppenders>(*FItems);
-        Fresh->emplace_back(AAppender);
-        Old = Replace(std::move(Fresh));
+        if (std::find(FSnapshot->begin(), FSnapshot->end(), AAppender) != FSnapshot->end())
+            return;
+        auto Fresh = std::make_shared<std::vector<IQzLogAppender*>>(*FSnapshot);
+        Fresh->push_back(AAppender);
+        FItems.emplace_back(AAppender);
+        Publish(std::move(Fresh));
     }
     Changed();
-    return true;
 }
 
-TAppenderSnapshot TLogAppenderCore::Replace(TAppenderSnapshot AItems) {
-    FCount.store(static_cast<int>(AItems->size()), std::memory_order_relaxed);
-    FVersion.fetch_add(1, std::memory_order_release);
-    FItems.swap(AItems);
-    return AItems;
+void TLogAppenderCore::Remove(const TComponent* AComponent) {
+    const TChange Change(*this);
+    const auto IsMeant = [AComponent](IQzLogAppender* AItem) {
+        return AComponent == nullptr || AItem->Component() == AComponent;
+    };
+    {
+        const std::lock_guard Hold(FLock);
+        auto Fresh = std::make_shared<std::vector<IQzLogAppender*>>();
+        std::remove_copy_if(FSnapshot->begin(), FSnapshot->end(), std::back_inserter(*Fresh), IsMeant);
+        if (Fresh->size() == FSnapshot->size())
+            return;
+        FRemoved.reserve(FRemoved.size() + FItems.size());
+        const auto First =
+            std::stable_partition(FItems.begin(), FItems.end(),
+                                  [&](const Ref<IQzLogAppender>& AItem) { return !IsMeant(AItem.Get()); });
+        std::move(First, FItems.end(), std::back_inserter(FRemoved));
+        FItems.erase(First, FItems.end());
+        FHasRemoved = true;
+        Publish(std::move(Fresh));
+    }
+    Changed();
 }
 
 void TLogAppenderCore::Changed() {
@@ -50,13 +139,6 @@ void TLogAppenderCore::Changed() {
 void TLogAppenderCore::LoseLogger() {
     const TLogTreeLock Hold;
     FLogger = nullptr;
-}
-
-void TLogAppenderCore::AwaitWrites() {
-    if (IsDispatching() || TLogTreeLock::IsHeldByThisThread())
-        return;
-    FGate.Enter();
-    FGate.Leave();
 }
 
 } // namespace qz::detail

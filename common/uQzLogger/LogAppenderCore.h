@@ -1,10 +1,9 @@
 // The appenders of one logger as dispatch and changes share them. Internal.
 //
-// Two locks guard a list. The gate is held while appenders are written to, and by whoever walks the list; the other one
-// is held for moments only, and nothing is called under it but Component of the appenders. A change replaces the items under the second lock and then
-// waits at the gate until no message is on its way to those that were there before. A thread that is itself writing to an
-// appender, or holds the lock of the tree, does not wait: whoever it waited for might wait for it. The old items live as
-// long as some message is on its way to them.
+// Two locks guard a list. The gate is held while appenders are written to, by whoever walks the list, and by a change; the
+// other one is held for moments, and nothing is called under it but Component of the appenders. A thread that may not wait
+// for the gate (LogTreeLock.h) changes the items without it. What it removes lives on until somebody who holds the gate
+// lets go of it, since messages on their way do not count what they write to.
 #pragma once
 
 #include <atomic>
@@ -13,71 +12,74 @@
 #include <vector>
 
 #include "common/uQzLogger/LogInterfaces.h"
-#include "common/uQzThreads/CriticalSection.h"
+#include "common/uQzLogger/LogTreeLock.h"
 
 namespace qz::detail {
 
-using TAppenders = std::vector<Ref<IQzLogAppender>>;
-using TAppenderSnapshot = std::shared_ptr<const TAppenders>;
+using TAppenderSnapshot = std::shared_ptr<const std::vector<IQzLogAppender*>>;
 
 class TLogAppenderCore {
 public:
     explicit TLogAppenderCore(TQzLogger* ALogger) noexcept : FLogger(ALogger) {}
 
-    TQzCriticalSection& Gate() noexcept { return FGate; }
+    // The gate, which re-enters. Leaving it lets go of what was removed, unless a message of this thread is on its way.
+    void EnterGate() noexcept;
+    bool TryEnterGate(std::uint32_t ATimeOut) noexcept;
+    void LeaveGate() noexcept;
 
     // Any thread.
     bool IsEmpty() const noexcept { return FCount.load(std::memory_order_relaxed) == 0; }
     int Count() const noexcept { return FCount.load(std::memory_order_relaxed); }
     // Counts the changes.
     std::uint32_t Version() const noexcept { return FVersion.load(std::memory_order_acquire); }
-    // Never null.
+    // Never null. The caller holds the gate as long as it uses them.
     TAppenderSnapshot Items() const;
     bool Holds(const IQzLogAppender* AAppender) const;
+    // Null for an index outside.
+    Ref<IQzLogAppender> Item(int AIndex) const;
 
-    // False when it is there already.
-    bool Add(IQzLogAppender* AAppender);
-    // Takes out what ACondition says, and waits as told above. The items before the change, which the caller drops when it
-    // holds no lock; null when nothing changed.
-    template <class TCondition> TAppenderSnapshot RemoveIf(const TCondition& ACondition) {
-        const auto Fresh = std::make_shared<TAppenders>();
-        TAppenderSnapshot Old;
-        {
-            const std::lock_guard Hold(FLock);
-            for (const Ref<IQzLogAppender>& Item : *FItems) {
-                if (!ACondition(*Item))
-                    Fresh->push_back(Item);
-            }
-            if (Fresh->size() != FItems->size())
-                Old = Replace(Fresh);
-        }
-        if (Old != nullptr) {
-            Changed();
-            AwaitWrites();
-        }
-        return Old;
-    }
+    // At the end; nothing when it is there already.
+    void Add(IQzLogAppender* AAppender);
+    // Those of that component, or all for null. Waits until no message is on its way to them, where the thread may.
+    void Remove(const TComponent* AComponent);
 
     // Keeps all changes out, for a moment.
-    void LockItems() { FLock.lock(); }
+    bool TryLockItems() { return FLock.try_lock(); }
     void UnlockItems() { FLock.unlock(); }
 
-    // Tells the logger that it has other appenders. It has no logger any more after LoseLogger.
-    void Changed();
+    // There is no logger any more to be told of changes.
     void LoseLogger();
 
 private:
-    TAppenderSnapshot Replace(TAppenderSnapshot AItems);
-    void AwaitWrites();
+    class TChange;
+    void Publish(TAppenderSnapshot ASnapshot) noexcept;
+    void Changed();
+    void LetGo() noexcept;
+    bool IsOnTheWayHere() const noexcept;
 
     TQzCriticalSection FGate;
     mutable std::mutex FLock; // innermost
-    TAppenderSnapshot FItems = std::make_shared<TAppenders>();
+    std::vector<Ref<IQzLogAppender>> FItems;
+    std::vector<Ref<IQzLogAppender>> FRemoved;
+    TAppenderSnapshot FSnapshot = std::make_shared<const std::vector<IQzLogAppender*>>();
     std::atomic<int> FCount{0};
+    std::atomic<bool> FHasRemoved{false};
     std::atomic<std::uint32_t> FVersion{0};
     TQzLogger* FLogger; // guarded by the lock of the tree
 };
 
 using TLogAppenderCorePtr = std::shared_ptr<TLogAppenderCore>;
+
+// Holds the gate for a block.
+class [[nodiscard]] TLogGate {
+public:
+    explicit TLogGate(TLogAppenderCore& ACore) noexcept : FCore(ACore) { FCore.EnterGate(); }
+    ~TLogGate() { FCore.LeaveGate(); }
+    TLogGate(const TLogGate&) = delete;
+    TLogGate& operator=(const TLogGate&) = delete;
+
+private:
+    TLogAppenderCore& FCore;
+};
 
 } // namespace qz::detail

@@ -13,14 +13,17 @@ namespace {
 
 // A new appender, and a layout for it where there is a way to set one.
 Ref<IQzLogAppender> MakeAppender(TQzLogger& ALogger, TQzLogBaseClass AClass) {
-    Ref<IQzLogAppender> Result = As<IQzLogAppender>(MakeLogBase(AClass, &ALogger, AClass->Name()));
+    Ref<IQzLogAppender> Result =
+        As<IQzLogAppender>(MakeLogBase(AClass, &ALogger, AClass ? AClass->Name() : u""));
     Assert(Result != nullptr);
     return Result;
 }
 
 IQzLogAppenderEx& WithLayout(const Ref<IQzLogAppender>& AAppender) {
-    // Both interfaces bear one identifier.
-    return static_cast<IQzLogAppenderEx&>(*AAppender);
+    auto* Result = dynamic_cast<IQzLogAppenderEx*>(AAppender.Get());
+    if (Result == nullptr)
+        throw EIntfCastError(u"The appender %s has no layout", {AAppender->GetName()});
+    return *Result;
 }
 
 } // namespace
@@ -36,15 +39,15 @@ TQzLogAppenderList::~TQzLogAppenderList() {
 }
 
 bool TQzLogAppenderList::Lock(const TStringArg&, bool) {
-    FCore->Gate().Enter();
+    FCore->EnterGate();
     return true;
 }
 
 Ref<IQzLogAppender> TQzLogAppenderList::GetAppender(int AIndex) const {
-    const detail::TAppenderSnapshot Items = FCore->Items();
-    if (AIndex < 0 || static_cast<std::size_t>(AIndex) >= Items->size())
+    Ref<IQzLogAppender> Result = FCore->Item(AIndex);
+    if (Result == nullptr)
         detail::RaiseOutOfRange();
-    return (*Items)[static_cast<std::size_t>(AIndex)];
+    return Result;
 }
 
 void TQzLogAppenderList::Add(IQzLogAppender* AAppender) {
@@ -79,22 +82,18 @@ Ref<IQzLogAppender> TQzLogAppenderList::Add(const UnicodeString& AAppenderName,
 }
 
 void TQzLogAppenderList::Remove(IQzLogAppender* AAppender) {
-    if (AAppender != nullptr)
-        RemoveComponent(AAppender->Component());
-}
-
-void TQzLogAppenderList::RemoveComponent(const TComponent* AComponent) {
-    FCore->RemoveIf([AComponent](IQzLogAppender& AItem) { return AItem.Component() == AComponent; });
+    if (TComponent* Component = AAppender == nullptr ? nullptr : AAppender->Component())
+        FCore->Remove(Component);
 }
 
 void TQzLogAppenderList::Clear() {
-    FCore->RemoveIf([](IQzLogAppender&) { return true; });
+    FCore->Remove(nullptr);
 }
 
 void TQzLogAppenderList::Notification(TComponent* AComponent, TOperation AOperation) {
     Inherited::Notification(AComponent, AOperation);
     if (AOperation == opRemove && !IsEnding())
-        RemoveComponent(AComponent);
+        FCore->Remove(AComponent);
 }
 
 } // namespace qz

@@ -6,9 +6,11 @@
 //     List.Add(QzFileAppender, QzSimpleLayout);
 //
 // Any thread may change the list at any time, also an appender while it writes: what is added meanwhile gets the next
-// message, what is removed gets no more. A call that removes returns when no message is on its way to what it removed,
-// unless the thread is itself writing to an appender or getting a logger. An appender that is freed leaves all lists by
-// itself; one that does not derive from TQzLogBase must not be freed while other threads change the lists it is in.
+// message, what is removed gets no more. A change waits for the lock of the list, and returns when no message is on its way to
+// what it removed; a thread that is writing to an appender, holds the lock of some list, or is being asked by a logger for
+// its values, does not wait, so that its changes may be met by others while they hold the lock. An appender that is freed
+// leaves all lists by itself; one that does not derive from TQzLogBase must not be freed while other threads change the
+// lists it is in.
 #pragma once
 
 #include "common/uQzLogger/LogAppenderCore.h"
@@ -20,10 +22,11 @@ class QZ_API TQzLogAppenderList : public TComponent {
     QZ_CLASS(TQzLogAppenderList, TComponent)
 
 public:
-    // Holds up the messages of the logger on other threads. Waits as long as it takes and gives true; the arguments are
-    // not used. The lock re-enters.
+    // Holds up the messages of the logger on other threads, and all messages of this one, until Unlock. Waits as long as it
+    // takes and gives true; the arguments are not used. The lock re-enters. An appender that writes must not lock the list of
+    // another logger.
     bool Lock(const TStringArg& AName, bool ARaise);
-    void Unlock() noexcept { FCore->Gate().Leave(); }
+    void Unlock() noexcept { FCore->LeaveGate(); }
 
     int Count() const noexcept { return FCore->Count(); }
     // Raises EArgumentOutOfRangeException. Hold the lock from Count on.
@@ -33,7 +36,7 @@ public:
     void Add(IQzLogAppender* AAppender);
     // A new appender of that class with the name of the class, of a class of that name in RegisteredAppenders, with a new
     // layout of that class or name. Raises EListError, "Class %s not found!", for an unknown name, and EAssertionFailed for a
-    // class of something else.
+    // class of something else. An appender that knows no layouts raises EIntfCastError.
     Ref<IQzLogAppender> Add(TQzLogBaseClass AClass);
     Ref<IQzLogAppender> Add(const UnicodeString& AClassName);
     Ref<IQzLogAppender> Add(TQzLogBaseClass AAppenderClass, TQzLogBaseClass ALayoutClass);
@@ -50,8 +53,6 @@ protected:
     void Notification(TComponent* AComponent, TOperation AOperation) override;
 
 private:
-    void RemoveComponent(const TComponent* AComponent);
-
     TQzLogger* FLogger;
     detail::TLogAppenderCorePtr FCore;
 };

@@ -15,74 +15,84 @@ constinit const TClassRec TQzLogBase::ClassRec = DescribeClass<TQzLogBase>(
 constinit const TClassRec TQzLogBaseClassList::ClassRec =
     DescribeClass<TQzLogBaseClassList>(u"TQzLogBaseClassList", {.Unit = u"uQzLogger"});
 
+namespace {
+
+// Of an appender for which a reference was counted.
+Ref<IQzLogAppender> AppenderOf(TQzLogBase* ABase) noexcept {
+    return Ref<IQzLogAppender>::Attach(
+        static_cast<IQzLogAppender*>(ABase->FindInterface(IQzLogAppender::IID)));
+}
+
+} // namespace
+
 TQzLogBase::TQzLogBase(TQzLogger* ALogger, const UnicodeString& AName)
     : Inherited(nullptr),
       FLogger(ALogger) {
     if (!AName.IsEmpty() && (AName[0] < u'0' || AName[0] > u'9'))
         SetName(AName);
+    const TScopedLock Hold(AppenderInstances().FLock);
+    AppenderInstances().FList.Add(this);
 }
 
 TQzLogBase::~TQzLogBase() {
-    AppenderInstances().Leave(this);
+    const TScopedLock Hold(AppenderInstances().FLock);
+    AppenderInstances().FList.Remove(this);
 }
 
-// The last reference goes under the lock by which an appender is found, so that nobody finds one that ends.
-std::uint32_t TQzLogBase::_Release() {
-    std::int32_t Count = 0;
-    bool Ends = false;
-    {
-        TQzAppenderInstances& All = AppenderInstances();
-        const TScopedLock Hold(All);
-        Ends = DropReference(Count);
-        if (Ends)
-            All.Leave(this);
-    }
-    if (Ends)
-        Free();
-    return static_cast<std::uint32_t>(Count);
+void TQzLogBase::FinishCreate() {
+    Inherited::FinishCreate();
+    SetComplete(true);
 }
 
-void TQzLogBase::AfterConstruction() {
-    Inherited::AfterConstruction();
-    AppenderInstances().Enter(this);
+void TQzLogBase::SetComplete(bool AValue) noexcept {
+    const TScopedLock Hold(AppenderInstances().FLock);
+    FIsComplete = AValue;
 }
 
+// An appender that nobody holds is in no list.
 void TQzLogBase::BeforeDestruction() {
-    AppenderInstances().Leave(this);
-    LeaveLists();
+    SetComplete(false);
+    if (RefCount() != 0)
+        LeaveLists();
     Inherited::BeforeDestruction();
 }
 
 void TQzLogBase::DestructionRefused() noexcept {
     Inherited::DestructionRefused();
-    AppenderInstances().Enter(this);
+    SetComplete(true);
+}
+
+Ref<TQzLogger> TQzLogBase::LoggerOfOrigin() const {
+    const TScopedLock Hold(AppenderInstances().FLock);
+    return FLogger != nullptr && FLogger->TryAddRef() ? Ref<TQzLogger>::Attach(FLogger) : Ref<TQzLogger>();
 }
 
 void TQzLogBase::LeaveLists() {
     std::vector<detail::TLogAppenderCorePtr> Cores;
     {
-        const TScopedLock Hold(AppenderInstances());
+        const TScopedLock Hold(AppenderInstances().FLock);
         for (const auto& List : FLists) {
             if (auto Core = List.lock())
                 Cores.push_back(std::move(Core));
         }
     }
     for (const auto& Core : Cores)
-        Core->RemoveIf([this](IQzLogAppender& AItem) { return AItem.Component() == this; });
+        Core->Remove(this);
 }
 
 void LinkAppender(TComponent* AComponent, TQzLogAppenderList& AList) {
-    const TScopedLock Hold(AppenderInstances());
+    const TScopedLock Hold(AppenderInstances().FLock);
     auto* Base = dynamic_cast<TQzLogBase*>(AComponent);
     if (Base == nullptr) {
         if (AComponent != nullptr)
             AComponent->FreeNotification(&AList);
         return;
     }
-    std::erase_if(Base->FLists, [](const auto& AItem) { return AItem.expired(); });
-    const auto IsIt = [&AList](const auto& AItem) { return AItem.lock() == AList.Core(); };
-    if (std::none_of(Base->FLists.begin(), Base->FLists.end(), IsIt))
-        Base->FLists.emplace_back(AList.Core());
+    if (Base->FLists.size() >= Base->FSweepAt) {
+        std::erase_if(Base->FLists, [](const auto& AItem) { return AItem.expired(); });
+        Base->FSweepAt = std::max<std::size_t>(16, 2 * Base->FLists.size());
+    }
+    Base->FLists.insert(AList.Core());
 }
 
 Ref<IQzLogBase> MakeLogBase(TQzLogBaseClass AClass, TQzLogger* ALogger, const UnicodeString& AName) {
@@ -93,6 +103,7 @@ Ref<IQzLogBase> MakeLogBase(TQzLogBaseClass AClass, TQzLogger* ALogger, const Un
 }
 
 void TQzLogBaseClassList::Add(TQzLogBaseClass AClass) {
+    Assert(static_cast<bool>(AClass));
     RegisterClass(AClass);
     const std::lock_guard Hold(FLock);
     if (!FList.Contains(AClass))
@@ -128,46 +139,34 @@ TQzAppenderInstances& AppenderInstances() {
 }
 
 int TQzAppenderInstances::Count() const {
-    const TScopedLock Hold(FLock);
-    return static_cast<int>(std::count_if(FList.begin(), FList.end(),
-                                          [](const TQzLogBase* AItem) { return AItem->IsAppender(); }));
+    return static_cast<int>(Items().size());
 }
 
 Ref<IQzLogAppender> TQzAppenderInstances::Find(std::u16string_view AName) const {
     const TScopedLock Hold(FLock);
     for (TQzLogBase* Item : FList) {
-        if (Item->IsAppender() && Item->Name() == AName)
-            return AsInterface<IQzLogAppender>(Item);
+        if (Item->FIsComplete && Item->IsAppender() && Item->Name() == AName && Item->TryAddReference())
+            return AppenderOf(Item);
     }
     return {};
 }
 
 std::vector<Ref<IQzLogAppender>> TQzAppenderInstances::Items() const {
+    std::vector<Ref<IQzLogAppender>> Result; // ends behind the lock, if it does not get there
     const TScopedLock Hold(FLock);
-    std::vector<Ref<IQzLogAppender>> Result;
+    Result.reserve(static_cast<std::size_t>(FList.Count()));
     for (TQzLogBase* Item : FList) {
-        if (Item->IsAppender())
-            Result.push_back(AsInterface<IQzLogAppender>(Item));
+        if (Item->FIsComplete && Item->IsAppender() && Item->TryAddReference())
+            Result.push_back(AppenderOf(Item));
     }
     return Result;
-}
-
-void TQzAppenderInstances::Enter(TQzLogBase* AItem) {
-    const TScopedLock Hold(FLock);
-    if (!FList.Contains(AItem))
-        FList.Add(AItem);
-}
-
-void TQzAppenderInstances::Leave(TQzLogBase* AItem) noexcept {
-    const TScopedLock Hold(FLock);
-    FList.Remove(AItem);
 }
 
 void TQzAppenderInstances::LoseLogger(const TQzLogger* ALogger) noexcept {
     const TScopedLock Hold(FLock);
     for (TQzLogBase* Item : FList) {
-        if (Item->LoggerOfOrigin() == ALogger)
-            Item->FLogger.store(nullptr, std::memory_order_relaxed);
+        if (Item->FLogger == ALogger)
+            Item->FLogger = nullptr;
     }
 }
 

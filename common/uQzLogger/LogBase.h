@@ -9,11 +9,12 @@
 //     const TClassRec TMyAppender::ClassRec = DescribeLogBase<TMyAppender>(u"TMyAppender", {.Unit = u"Demo"});
 //     RegisteredAppenders().Add(TQzLogBaseClass::Of<TMyAppender>());
 //
-// Appenders and layouts are counted, by any number of threads. One in a list of a logger may also be ended by Free, which
-// takes it out of all lists first, while other threads log.
+// Appenders and layouts are counted, by any number of threads. One in the lists of loggers may also be ended by Free while
+// other threads log: it leaves all lists first. If somebody else holds it, Free raises, and it is in no list any more.
 #pragma once
 
 #include <mutex>
+#include <set>
 
 #include "common/uQzClasses/QzComponent.h"
 #include "common/uQzLogger/LogAppenderCore.h"
@@ -35,6 +36,10 @@ public:                                      \
 private:
 
 namespace qz {
+
+namespace detail {
+struct TForkLocks;
+}
 
 // The names of the classes of this library, and of two that only other modules can bring.
 inline constexpr TTextConstant QzFileAppender = u"TQzFileAppender";
@@ -59,9 +64,10 @@ public:
         return Inherited::QueryInterface(AIid, AObject);
     }
     std::uint32_t _AddRef() override { return Inherited::_AddRef(); }
-    std::uint32_t _Release() override;
+    std::uint32_t _Release() override { return Inherited::_Release(); }
 
-    void AfterConstruction() override;
+    // Called by Create when the object is complete: from then on AppenderInstances knows it.
+    void FinishCreate();
     // Leaves the lists of all loggers, then does as any component.
     void BeforeDestruction() override;
     void DestructionRefused() noexcept override;
@@ -74,17 +80,21 @@ protected:
 
     // Whether it stands in AppenderInstances.
     virtual bool IsAppender() const noexcept { return false; }
-    // Leaves the lists of all loggers, and waits until no message is on its way to it, as told in LogAppenderList.h.
-    void LeaveLists();
     // The logger it was made for, while that lives; else null.
-    TQzLogger* LoggerOfOrigin() const noexcept { return FLogger.load(std::memory_order_relaxed); }
+    Ref<TQzLogger> LoggerOfOrigin() const;
 
 private:
     friend class TQzAppenderInstances;
+    friend struct detail::TForkLocks;
     friend void LinkAppender(TComponent* AComponent, TQzLogAppenderList& AList);
-    std::atomic<TQzLogger*> FLogger;
-    std::vector<std::weak_ptr<detail::TLogAppenderCore>>
-        FLists; // that may hold it; guarded by the instances' lock
+    void LeaveLists();
+    void SetComplete(bool AValue) noexcept;
+
+    // All of these are guarded by the lock of the instances.
+    TQzLogger* FLogger;
+    bool FIsComplete = false;
+    std::set<std::weak_ptr<detail::TLogAppenderCore>, std::owner_less<>> FLists; // that may hold it
+    std::size_t FSweepAt = 16; // the size at which the gone are dropped
 };
 
 // The classes of a kind, to be found by name.
@@ -92,7 +102,7 @@ class QZ_API TQzLogBaseClassList : public TObject {
     QZ_CLASS(TQzLogBaseClassList, TObject)
 
 public:
-    // Also registers the class with RegisterClass. One that is there already is not added again.
+    // Also registers the class with RegisterClass; null raises EAssertionFailed. One that is there already is not added again.
     void Add(TQzLogBaseClass AClass);
     // In any case of letters. Raises EListError, "Class %s not found!".
     TQzLogBaseClass GetClass(const TStringArg& AName) const;
@@ -106,7 +116,7 @@ private:
 QZ_API TQzLogBaseClassList& RegisteredLayouts();
 QZ_API TQzLogBaseClassList& RegisteredAppenders();
 
-// All living appenders, in the order of their making.
+// All living appenders that somebody holds, in the order of their making.
 class QZ_API TQzAppenderInstances {
 public:
     TQzAppenderInstances() = default;
@@ -118,21 +128,17 @@ public:
     // The first of that name, case-sensitive; null when there is none.
     Ref<IQzLogAppender> Find(std::u16string_view AName) const;
     std::vector<Ref<IQzLogAppender>> Items() const;
-    // The lock by which appenders come and go.
-    void Enter() noexcept { FLock.Enter(); }
-    void Leave() noexcept { FLock.Leave(); }
 
 private:
     friend class TQzLogBase;
     friend class TQzLogger;
+    friend struct detail::TForkLocks;
     friend void LinkAppender(TComponent* AComponent, TQzLogAppenderList& AList);
-    void Enter(TQzLogBase* AItem);
-    void Leave(TQzLogBase* AItem) noexcept;
     // Tells all that were made for the logger that it ends.
     void LoseLogger(const TQzLogger* ALogger) noexcept;
 
     mutable TCriticalSection FLock; // nothing is called under it but counting
-    TList<TQzLogBase*> FList;       // appenders and layouts
+    TList<TQzLogBase*> FList;       // appenders and layouts, also those that are not complete
 };
 
 QZ_API TQzAppenderInstances& AppenderInstances();

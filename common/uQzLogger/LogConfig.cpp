@@ -59,6 +59,7 @@ void TQzLogger::ReadAppenders(IQzLogConfigurator& AConfigurator) {
         const UnicodeString Name = QzVarToStr(VarArrayGet(Names, I), {}, true);
         const UnicodeString ClassName =
             QzVarToStr(AConfigurator.GetAppenderValue(Name, u"class", mtkString, u""), {}, true);
+        const TLogTreeLock Hold; // one appender of a name, whoever asks
         Ref<IQzLogAppender> Appender = AppenderInstances().Find(Name);
         if (Appender == nullptr && !ClassName.IsEmpty())
             Appender = As<IQzLogAppender>(MakeLogBase(RegisteredAppenders().GetClass(ClassName), this, Name));

@@ -1,7 +1,8 @@
 #include "common/uQzLogger/LogDispatch.h"
 
 #include <algorithm>
-#include <vector>
+#include <deque>
+#include <memory>
 
 #include "common/uQzLogger/DataRec.h"
 #include "common/uQzLogger/LogAppenderCore.h"
@@ -9,9 +10,8 @@
 #include "common/uQzLogger/QzLogger.h"
 
 namespace qz::detail {
-namespace {
 
-// A message that an appender logged while it wrote.
+// A message of a thread that could not send it when it arose.
 struct TWaitingMessage {
     Ref<TQzLogger> Logger;
     UnicodeString Source;
@@ -20,18 +20,18 @@ struct TWaitingMessage {
     TValue Value;
     bool HasValue;
     TQzLogIndent Indent;
-    std::vector<const IQzLogAppender*> Skipped; // the appenders that were writing when it arose
-};
-
-// The message that a thread is on the way with, and those that arose from it.
-struct TDispatch {
-    const IQzLogAppender* Writing = nullptr;
-    Ref<IQzLogAppender> Failed; // the one that raised
     std::vector<const IQzLogAppender*> Skipped;
-    std::vector<TWaitingMessage> Waiting;
 };
 
-thread_local TDispatch* GDispatch = nullptr;
+struct TWaitingMessages {
+    std::deque<TWaitingMessage> Items;
+    int Arisen = 0; // since the thread was free
+};
+
+namespace {
+
+// Appenders that log with each message would set off a flood: what goes beyond is dropped.
+constexpr int cMostWaiting = 1000;
 
 // An object may be gone when its turn comes, so that its text is taken at once.
 TValue Keep(PQzDataRec AValue) {
@@ -42,94 +42,145 @@ TValue Keep(PQzDataRec AValue) {
     return *AValue;
 }
 
-void Enqueue(TQzLogger& ALogger, const TLogMessage& AMessage) {
-    TDispatch& Present = *GDispatch;
-    TWaitingMessage Message{Ref<TQzLogger>(&ALogger), AMessage.Source,      AMessage.Level,
-                            AMessage.Text.ToString(), Keep(AMessage.Value), AMessage.Value != nullptr,
-                            AMessage.Indent,          Present.Skipped};
-    if (Present.Writing != nullptr)
-        Message.Skipped.push_back(Present.Writing);
-    Present.Waiting.push_back(std::move(Message));
-}
-
-void WriteToAppenders(TQzLogger& ALogger, const TLogMessage& AMessage, const UnicodeString& AText) {
-    TLogAppenderCore& Core = ALogger.AppenderCore();
-    TDispatch& Present = *GDispatch;
-    const TScopedLock Hold(Core.Gate());
-    const std::uint32_t Version = Core.Version();
-    const TAppenderSnapshot Items = Core.Items();
-    for (const Ref<IQzLogAppender>& Item : *Items) {
-        IQzLogAppender* Appender = Item.Get();
-        const bool IsSkipped =
-            std::find(Present.Skipped.begin(), Present.Skipped.end(), Appender) != Present.Skipped.end();
-        if (IsSkipped || (Core.Version() != Version && !Core.Holds(Appender)))
-            continue;
-        Present.Writing = Appender;
-        try {
-            Appender->Write(AMessage.Source, ALogger.FullName(), AMessage.Level, AText, AMessage.Value,
-                            AMessage.Indent);
-        } catch (...) {
-            Present.Failed = Item;
-            throw;
+void Enqueue(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept {
+    try {
+        TLogThread& Thread = ThisLogThread();
+        if (Thread.Waiting == nullptr)
+            Thread.Waiting = std::make_unique<TWaitingMessages>().release();
+        if (++Thread.Waiting->Arisen > cMostWaiting)
+            return CountDrop();
+        if (!ALogger.TryAddRef())
+            return CountDrop();
+        TWaitingMessage Message{Ref<TQzLogger>::Attach(&ALogger),
+                                AMessage.Source,
+                                AMessage.Level,
+                                AMessage.Text.ToString(),
+                                Keep(AMessage.Value),
+                                AMessage.Value != nullptr,
+                                AMessage.Indent,
+                                {}};
+        if (const TLogDispatch* Present = Thread.Present) {
+            Message.Skipped = Present->Skipped;
+            for (const IQzLogAppender* Appender : {Present->Writing, Present->Failed}) {
+                if (Appender != nullptr)
+                    Message.Skipped.push_back(Appender);
+            }
         }
-        Present.Writing = nullptr;
+        Thread.Waiting->Items.push_back(std::move(Message));
+    } catch (...) {
+        CountDrop();
     }
 }
 
-void Walk(TQzLogger& ALogger, const TLogMessage& AMessage) {
+void WriteTo(TLogDispatch& APresent, IQzLogAppender& AAppender, const TQzLogger& ALogger,
+             const TLogMessage& AMessage, const UnicodeString& AText) {
+    APresent.Writing = &AAppender;
+    try {
+        AAppender.Write(AMessage.Source, ALogger.FullName(), AMessage.Level, AText, AMessage.Value,
+                        AMessage.Indent);
+    } catch (...) {
+        APresent.Failed = &AAppender;
+        APresent.FailedName = AAppender.GetName();
+        throw;
+    }
+    APresent.Writing = nullptr;
+}
+
+void WriteToAppenders(TLogDispatch& APresent, const TQzLogger& ALogger, const TLogMessage& AMessage,
+                      const UnicodeString& AText) {
+    TLogAppenderCore& Core = ALogger.AppenderCore();
+    struct THere {
+        THere(TLogDispatch& AOf, const TLogAppenderCore* ACore) noexcept : Of(AOf) { Of.Core = ACore; }
+        ~THere() {
+            Of.Core = nullptr;
+            Of.Writing = nullptr;
+        }
+        TLogDispatch& Of;
+    };
+    const TLogGate Gate(Core);
+    const THere Here(APresent, &Core);
+    const std::uint32_t Version = Core.Version();
+    const TAppenderSnapshot Items = Core.Items();
+    for (IQzLogAppender* Appender : *Items) {
+        const bool IsSkipped =
+            std::find(APresent.Skipped.begin(), APresent.Skipped.end(), Appender) != APresent.Skipped.end();
+        if (!IsSkipped && (Core.Version() == Version || Core.Holds(Appender)))
+            WriteTo(APresent, *Appender, ALogger, AMessage, AText);
+    }
+}
+
+void Walk(TLogDispatch& APresent, TQzLogger& ALogger, const TLogMessage& AMessage) {
     UnicodeString Text;
     bool HasText = false;
-    for (TQzLogger* Node = &ALogger; Node != nullptr; Node = Node->NextOnTheWay()) {
+    for (const TQzLogger* Node = &ALogger; Node != nullptr; Node = Node->NextOnTheWay()) {
         if (AMessage.Level < Node->GetLevel() || Node->AppenderCore().IsEmpty())
             continue;
         if (!HasText)
             Text = AMessage.Text.ToString();
         HasText = true;
-        WriteToAppenders(*Node, AMessage, Text);
+        Node->FullName(); // found out before the gate
+        WriteToAppenders(APresent, *Node, AMessage, Text);
     }
 }
 
-// What was raised ends the way of the message, and is told when no lock is held any more.
-void WalkQuietly(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept {
+// What was raised ends the way of the message, and is told when no gate is held any more. The thread is sending.
+void Send(TQzLogger& ALogger, const TLogMessage& AMessage,
+          std::vector<const IQzLogAppender*> ASkipped) noexcept {
+    TLogThread& Thread = ThisLogThread();
+    TLogDispatch Present;
+    Present.Skipped = std::move(ASkipped);
+    Thread.Present = &Present;
     try {
-        Walk(ALogger, AMessage);
+        Walk(Present, ALogger, AMessage);
     } catch (...) {
-        GDispatch->Writing = nullptr;
-        const Ref<IQzLogAppender> Failed = std::move(GDispatch->Failed);
-        ReportDrop(ALogger, Failed.Get());
+        ReportDrop(ALogger.FullName(), Present.Failed, Present.FailedName);
+    }
+    Thread.Present = nullptr;
+}
+
+// The thread is sending.
+void SendAllWaiting() noexcept {
+    TLogThread& Thread = ThisLogThread();
+    while (Thread.Waiting != nullptr) {
+        if (Thread.Waiting->Items.empty()) {
+            const std::unique_ptr<TWaitingMessages> Done(std::exchange(Thread.Waiting, nullptr));
+            continue;
+        }
+        TWaitingMessage Message = std::move(Thread.Waiting->Items.front());
+        Thread.Waiting->Items.pop_front();
+        Send(*Message.Logger,
+             {Message.Source, Message.Level, TStringArg(Message.Text),
+              Message.HasValue ? &Message.Value : nullptr, Message.Indent},
+             std::move(Message.Skipped));
     }
 }
 
-void SendWaiting(TDispatch& APresent) noexcept {
-    for (std::size_t I = 0; I < APresent.Waiting.size(); ++I) {
-        TWaitingMessage Message = std::move(APresent.Waiting[I]);
-        APresent.Skipped = std::move(Message.Skipped);
-        WalkQuietly(*Message.Logger,
-                    {Message.Source, Message.Level, TStringArg(Message.Text),
-                     Message.HasValue ? &Message.Value : nullptr, Message.Indent});
-    }
+bool IsFree(const TLogThread& AThread) {
+    return AThread.Gates == 0 && !AThread.IsSending && !TLogTreeLock::IsHeldByThisThread();
 }
 
 } // namespace
 
-bool IsDispatching() noexcept {
-    return GDispatch != nullptr;
+void SendWaiting() noexcept {
+    TLogThread& Thread = ThisLogThread();
+    if (!IsFree(Thread))
+        return;
+    Thread.IsSending = true;
+    SendAllWaiting();
+    Thread.IsSending = false;
 }
 
 void Dispatch(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept {
-    if (GDispatch != nullptr) {
-        try {
-            Enqueue(ALogger, AMessage);
-        } catch (...) {
-            ReportDrop(ALogger, nullptr);
-        }
-        return;
-    }
-    TDispatch Present;
-    GDispatch = &Present;
-    WalkQuietly(ALogger, AMessage);
-    SendWaiting(Present);
-    GDispatch = nullptr;
+    TLogThread& Thread = ThisLogThread();
+    if (!IsFree(Thread))
+        return Enqueue(ALogger, AMessage);
+    const bool IsCounted = ALogger.TryAddRef(); // an appender may end the tree
+    Thread.IsSending = true;
+    Send(ALogger, AMessage, {});
+    SendAllWaiting();
+    Thread.IsSending = false;
+    if (IsCounted)
+        ALogger._Release();
 }
 
 } // namespace qz::detail

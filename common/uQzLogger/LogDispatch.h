@@ -1,7 +1,9 @@
 // The way of one message from its logger to the root. Internal.
 #pragma once
 
-#include "common/uQzLogger/LogTypes.h"
+#include <vector>
+
+#include "common/uQzLogger/LogInterfaces.h"
 #include "runtime/text/StringArg.h"
 
 namespace qz {
@@ -9,6 +11,8 @@ namespace qz {
 class TQzLogger;
 
 namespace detail {
+
+class TLogAppenderCore;
 
 struct TLogMessage {
     const UnicodeString& Source;
@@ -18,11 +22,17 @@ struct TLogMessage {
     TQzLogIndent Indent;
 };
 
+// The message that a thread is on the way with.
+struct TLogDispatch {
+    const TLogAppenderCore* Core = nullptr;  // the list whose appenders are being written to
+    const IQzLogAppender* Writing = nullptr; // the one that is
+    const IQzLogAppender* Failed = nullptr;  // the one that raised; perhaps gone by now
+    UnicodeString FailedName;
+    std::vector<const IQzLogAppender*> Skipped; // those that were writing when the message arose
+};
+
 // Offers the message to the logger and its ancestors; see IQzLogger. Nothing is raised.
 void Dispatch(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept;
-
-// Whether this thread is on the way with a message.
-bool IsDispatching() noexcept;
 
 } // namespace detail
 

@@ -67,23 +67,31 @@ std::uint64_t QzDroppedLogMessages() noexcept {
     return Drops().Count.load(std::memory_order_relaxed);
 }
 
-void detail::LockDrops() {
-    Drops().Lock.lock();
+bool detail::TryLockDrops() {
+    return Drops().Lock.try_lock();
 }
 
 void detail::UnlockDrops() {
     Drops().Lock.unlock();
 }
 
-void detail::ReportDrop(const TQzLogger& ALogger, const IQzLogAppender* AAppender) noexcept {
+void detail::ForgetTelling() noexcept {
+    Drops().IsTelling.store(false, std::memory_order_relaxed);
+}
+
+void detail::CountDrop() noexcept {
+    Drops().Count.fetch_add(1, std::memory_order_relaxed);
+}
+
+void detail::ReportDrop(const UnicodeString& ALogger, const void* AAppender,
+                        const UnicodeString& AAppenderName) noexcept {
     TDrops& All = Drops();
-    All.Count.fetch_add(1, std::memory_order_relaxed);
+    CountDrop();
     if (All.IsTelling.exchange(true, std::memory_order_acquire))
         return;
     try {
         if (const auto Hook = HookFor(All, AAppender)) {
-            TQzLogDrop Drop{
-                ALogger.FullName(), AAppender == nullptr ? UnicodeString() : AAppender->GetName(), {}, {}};
+            TQzLogDrop Drop{ALogger, AAppenderName, {}, {}};
             Describe(Drop);
             (*Hook)(Drop);
         }

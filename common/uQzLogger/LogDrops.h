@@ -14,7 +14,8 @@ namespace qz {
 
 // A message that did not reach all of its appenders.
 struct TQzLogDrop {
-    UnicodeString Logger;    // the full name of the logger where the message began
+    UnicodeString
+        Logger; // the full name of the logger where the message began; empty for an appender that ends
     UnicodeString Appender;  // the name of the appender that raised; empty for one without a name, or none
     UnicodeString ClassName; // the class of what was raised; empty for what is no Exception
     UnicodeString Message;   // its message
@@ -23,8 +24,8 @@ struct TQzLogDrop {
 using TQzLogDropHook = std::function<void(const TQzLogDrop& ADrop)>;
 
 // Sets the hook of the process; an empty one takes it away. It is called on the logging thread, with no lock held, at most
-// once a second for each appender, and never while it runs already, on this or another thread. It may log. What it raises
-// is dropped. Any thread; a call of the old hook may still be on its way.
+// once a second for each appender, and never while it runs already, on this or another thread. It may log; its messages go
+// past the appender that raised. What it raises is dropped. Any thread; a call of the old hook may still be on its way.
 QZ_API void QzSetLogDropHook(TQzLogDropHook AHook);
 
 // The number of messages so far whose way ended with an exception. Any thread.
@@ -32,11 +33,16 @@ QZ_API std::uint64_t QzDroppedLogMessages() noexcept;
 
 namespace detail {
 
-// Counts a drop and tells the hook; for a handler of exceptions. AAppender is alive, or null.
-void ReportDrop(const TQzLogger& ALogger, const IQzLogAppender* AAppender) noexcept;
-// The lock that a report takes.
-void LockDrops();
+// Counts a drop.
+void CountDrop() noexcept;
+// The same, and tells the hook; for a handler of exceptions. AAppender serves to tell appenders apart and may be gone, or
+// null.
+void ReportDrop(const UnicodeString& ALogger, const void* AAppender,
+                const UnicodeString& AAppenderName) noexcept;
+// The lock that a report takes, and the end of what a thread was about that a child of fork() does not have.
+bool TryLockDrops();
 void UnlockDrops();
+void ForgetTelling() noexcept;
 
 } // namespace detail
 

@@ -1,6 +1,8 @@
 // What keeps a child of fork() able to log: no other thread holds a lock of the loggers at that moment.
 #include "common/uQzLogger/LogFork.h"
 
+#include <chrono>
+#include <thread>
 #include <vector>
 
 #include "common/uQzLogAppenders/BaseAppender.h"
@@ -8,102 +10,127 @@
 #include "common/uQzLogger/LogTreeLock.h"
 #include "common/uQzLogger/QzLogger.h"
 #include "platform/Fork.h"
-#include "platform/Threads.h"
 
 namespace qz::detail {
-namespace {
 
-constexpr std::uint32_t cTryTime = 20; // milliseconds
-constexpr int cTries = 100;
+// All locks of loggers and appenders. They are tried, never waited for, and given back when one cannot be had: whoever
+// holds that one may be waiting for another.
+struct TForkLocks {
+    bool TryTake() {
+        if (!Own.TryEnter())
+            return false;
+        HasOwn = true;
+        if (TryGates() && TryTree() && TryLists() && TryAppenders() && TryLockDrops())
+            return HasDrops = true;
+        GiveBack();
+        return false;
+    }
 
-// The locks that are held over a fork, in the order in which they were taken. Made by the forking thread.
-struct THeldLocks {
+    void GiveBack() {
+        if (std::exchange(HasDrops, false))
+            UnlockDrops();
+        for (TQzBaseAppender* Appender : std::exchange(Appenders, {}))
+            Appender->Unlock();
+        if (std::exchange(HasInstances, false))
+            AppenderInstances().FLock.Leave();
+        for (TLogAppenderCore* List : std::exchange(Lists, {}))
+            List->UnlockItems();
+        const bool HadTree = std::exchange(HasTree, false);
+        if (HadTree)
+            TLogTreeLock::Leave();
+        for (const TLogAppenderCorePtr& Gate : std::exchange(Gates, {}))
+            Gate->LeaveGate();
+        if (std::exchange(HasOwn, false))
+            Own.Leave();
+    }
+
+private:
+    // The gates come before the lock of the tree, as for a message.
+    bool TryGates() {
+        if (!TLogTreeLock::TryEnter(0))
+            return false;
+        std::vector<TLogAppenderCorePtr> All = TQzLogger::AllAppenders();
+        TLogTreeLock::Leave();
+        for (TLogAppenderCorePtr& Gate : All) {
+            if (!Gate->TryEnterGate(0))
+                return false;
+            Gates.push_back(std::move(Gate));
+        }
+        return true;
+    }
+    // Loggers that came to be meanwhile mean another try.
+    bool TryTree() {
+        HasTree = TLogTreeLock::TryEnter(0);
+        return HasTree && TQzLogger::AllAppenders() == Gates;
+    }
+    bool TryLists() {
+        for (const TLogAppenderCorePtr& Gate : Gates) {
+            if (!Gate->TryLockItems())
+                return false;
+            Lists.push_back(Gate.get());
+        }
+        return true;
+    }
+    bool TryAppenders() {
+        TQzAppenderInstances& All = AppenderInstances();
+        HasInstances = All.FLock.TryEnter();
+        if (!HasInstances)
+            return false;
+        for (TQzLogBase* Item : All.FList) {
+            auto* Appender = Item->FIsComplete ? dynamic_cast<TQzBaseAppender*>(Item) : nullptr;
+            if (Appender == nullptr)
+                continue;
+            if (!Appender->TryLock())
+                return false;
+            Appenders.push_back(Appender);
+        }
+        return true;
+    }
+
+    TCriticalSection Own; // who forks, forks alone
     std::vector<TLogAppenderCorePtr> Gates;
-    std::vector<Ref<IQzLogAppender>> Appenders;
+    std::vector<TLogAppenderCore*> Lists;
+    std::vector<TQzBaseAppender*> Appenders; // alive as long as the instances are locked
+    bool HasOwn = false;
+    bool HasTree = false;
+    bool HasInstances = false;
+    bool HasDrops = false;
 };
 
-// Who forks, forks alone.
-TCriticalSection& ForkLock() {
-    static auto* const Result = new TCriticalSection;
+namespace {
+
+constexpr int cTries = 2000;
+constexpr std::chrono::milliseconds cPause{1};
+
+TForkLocks& ForkLocks() {
+    static auto* const Result = new TForkLocks;
     return *Result;
 }
 
-THeldLocks& HeldLocks() {
-    static auto* const Result = new THeldLocks;
-    return *Result;
-}
-
-void LeaveGates(std::vector<TLogAppenderCorePtr>& AGates) {
-    for (const TLogAppenderCorePtr& Gate : AGates)
-        Gate->Gate().Leave();
-    AGates.clear();
-}
-
-// All or none: a thread may hold one gate and wait for another.
-bool TryEnterGates(std::vector<TLogAppenderCorePtr>& AGates) {
-    for (TLogAppenderCorePtr& Gate : TQzLogger::AllAppenders()) {
-        if (!Gate->Gate().TryEnter(cTryTime)) {
-            LeaveGates(AGates);
-            return false;
-        }
-        AGates.push_back(std::move(Gate));
-    }
-    return true;
-}
-
-// The gates come before the lock of the tree, as for a message. Loggers that come to be meanwhile mean another try.
-bool TryTakeLocks(THeldLocks& AHeld) {
-    if (!TryEnterGates(AHeld.Gates))
-        return false;
-    TLogTreeLock::Section().Enter();
-    if (AHeld.Gates.size() == TQzLogger::AllAppenders().size())
-        return true;
-    TLogTreeLock::Section().Leave();
-    LeaveGates(AHeld.Gates);
-    return false;
-}
+thread_local bool GHasForkLocks = false;
 
 void TakeLocks() {
-    ForkLock().Enter();
-    THeldLocks& Held = HeldLocks();
-    bool Done = false;
-    // A thread that keeps a list locked for seconds has its child go without that one.
-    for (int Try = 0; Try < cTries && !Done; ++Try)
-        Done = TryTakeLocks(Held);
-    if (!Done)
-        TLogTreeLock::Section().Enter();
-    Held.Appenders = AppenderInstances().Items();
-    for (const auto& Appender : Held.Appenders) {
-        if (auto* Base = dynamic_cast<TQzBaseAppender*>(Appender->Component()))
-            Base->Lock();
+    for (int Try = 0; Try < cTries && !GHasForkLocks; ++Try) {
+        GHasForkLocks = ForkLocks().TryTake();
+        if (!GHasForkLocks)
+            std::this_thread::sleep_for(cPause);
     }
-    for (const TLogAppenderCorePtr& List : Held.Gates)
-        List->LockItems();
-    AppenderInstances().Enter();
-    LockDrops();
 }
 
 void GiveLocksBack() {
-    THeldLocks& Held = HeldLocks();
-    UnlockDrops();
-    AppenderInstances().Leave();
-    for (const TLogAppenderCorePtr& List : Held.Gates)
-        List->UnlockItems();
-    for (const auto& Appender : Held.Appenders) {
-        if (auto* Base = dynamic_cast<TQzBaseAppender*>(Appender->Component()))
-            Base->Unlock();
-    }
-    TLogTreeLock::Section().Leave();
-    LeaveGates(Held.Gates);
-    const auto Appenders = std::move(Held.Appenders); // may end here, with no lock held
-    Held.Appenders.clear();
-    ForkLock().Leave();
+    if (std::exchange(GHasForkLocks, false))
+        ForkLocks().GiveBack();
+}
+
+void BeginChild() {
+    ForgetTelling();
+    GiveLocksBack();
 }
 
 } // namespace
 
 void WatchForks() {
-    platform::AroundFork(TakeLocks, GiveLocksBack);
+    platform::AroundFork(TakeLocks, GiveLocksBack, BeginChild);
 }
 
 } // namespace qz::detail

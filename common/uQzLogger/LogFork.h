@@ -3,7 +3,8 @@
 
 namespace qz::detail {
 
-// Has all locks of the loggers and appenders free in a child. Called once, at the start of the program.
+// Has all locks of the loggers and appenders free in a child, unless some thread keeps one for two seconds on end. Called
+// once, at the start of the program.
 void WatchForks();
 
 } // namespace qz::detail

@@ -1,21 +1,51 @@
-// The lock of the tree of loggers. Internal.
+// What a thread that logs holds and waits with. Internal.
+//
+// Two kinds of locks are held while the code of others runs: the lock of the tree, one for all loggers, while a
+// configurator is asked, and the gate of a list of appenders, while they write. Nobody who holds one of them waits for a
+// gate, and messages of such a thread wait until it holds neither.
 #pragma once
 
 #include "common/uQzThreads/CriticalSection.h"
 
 namespace qz::detail {
 
-// Holds the lock, which is one for all trees, re-enters, and outlives the destructors of the program. Whoever holds it
-// waits for no message: only the locks of lists are taken inside.
+class TLogAppenderCore;
+struct TLogDispatch;
+struct TWaitingMessages;
+
+// What a thread is about. Without a destructor, for it may be asked to the very end of the thread.
+struct TLogThread {
+    int Gates = 0;                       // how many it holds
+    bool IsSending = false;              // it is on the way with a message
+    TLogDispatch* Present = nullptr;     // that message
+    TWaitingMessages* Waiting = nullptr; // messages that arose meanwhile; owned
+};
+
+TLogThread& ThisLogThread() noexcept;
+
+// Sends what waits, if the thread is free to.
+void SendWaiting() noexcept;
+
+// Holds the lock of the tree. It re-enters, and outlives the destructors of the program.
 class [[nodiscard]] TLogTreeLock {
 public:
-    TLogTreeLock() { Section().Enter(); }
-    ~TLogTreeLock() { Section().Leave(); }
+    TLogTreeLock() { Enter(); }
+    ~TLogTreeLock() { Leave(); }
     TLogTreeLock(const TLogTreeLock&) = delete;
     TLogTreeLock& operator=(const TLogTreeLock&) = delete;
 
-    static TQzCriticalSection& Section();
+    static void Enter() { Section().Enter(); }
+    static bool TryEnter(std::uint32_t ATimeOut) { return Section().TryEnter(ATimeOut); }
+    static void Leave() noexcept;
     static bool IsHeldByThisThread();
+
+private:
+    static TQzCriticalSection& Section();
 };
+
+// Whether the thread may wait for a gate.
+inline bool MayAwaitGate() {
+    return ThisLogThread().Gates == 0 && !TLogTreeLock::IsHeldByThisThread();
+}
 
 } // namespace qz::detail

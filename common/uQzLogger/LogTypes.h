@@ -27,6 +27,11 @@ using enum TQzLogLevel;
 inline constexpr std::u16string_view QzLogLevels[] = {u"All",  u"Trace", u"Debug", u"Info",
                                                       u"Warn", u"Error", u"Fatal", u"Disabled"};
 
+// The name, empty for what is no level.
+constexpr std::u16string_view QzLogLevelName(TQzLogLevel ALevel) noexcept {
+    return ALevel <= llDoNotLog ? QzLogLevels[static_cast<int>(ALevel)] : std::u16string_view();
+}
+
 // Whether the lines from this one on stand deeper, as deep, or less deep.
 enum class TQzLogIndent : std::uint8_t { liIndentNone, liIndentIncrease, liIndentDecrease };
 using enum TQzLogIndent;

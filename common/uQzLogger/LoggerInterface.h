@@ -3,15 +3,16 @@
 //     Ref<IQzLogger> Log = Logger().GetLogger("app.db");
 //     Log->Info("connected");
 //     Log->Debug("%s took %d ms", {Query, 17});
-//     Log->Error("failed", Failure);
+//     Log->Fatal("failed", Failure);
 //
 // A message goes to the appenders of the logger if its level is not below the logger's, then in the same way to those of
 // the parent, and so on as long as the loggers are additive. Nothing that an appender or layout raises reaches the
 // caller; LogDrops.h tells of it. A bad pattern raises EConvertError from the operation itself, before anything is
 // logged. Texts are formatted whether or not somebody takes them: ask IsEnabledFor first where that costs too much.
 //
-// Any thread may call any operation. A message that an appender logs while it writes goes its way when the present
-// message has gone its own, and is not given to the appenders that were writing when it arose.
+// Any thread may call any operation. A message that arises while the thread writes to an appender, is asked by a logger for
+// its values, or holds the lock of a list or of the tree, goes its way when that is over, and is not given to the appenders
+// that were writing when it arose. Of more than 1000 such messages in a row the rest is dropped.
 #pragma once
 
 #include "common/uQzLogger/LogData.h"
@@ -102,13 +103,13 @@ public:
     virtual void LogValue(TQzLogLevel ALevel, const TStringArg& AMessage, const TValue& AValue,
                           TQzLogIndent AIndent = liIndentNone) = 0;
 
-    // Appenders; see TQzLogAppenderList. No message reaches an appender any more when the call that removed it has
-    // returned, unless it was made while the thread was writing to an appender or getting a logger.
+    // Appenders; see TQzLogAppenderList, also for when a call that removes one waits for messages on their way to it.
     virtual void AddAppender(IQzLogAppender* AAppender) = 0;
     virtual Ref<IQzLogAppender> AddAppender(TQzLogBaseClass AClass) = 0;
     virtual void RemoveAppender(IQzLogAppender* AAppender) = 0;
     virtual void ClearAppenders() = 0;
-    // Holds up the messages of this logger, for a walk through the list, until UnLockAppenders on the same thread.
+    // Holds up the messages of this logger, and all of this thread, for a walk through the list, until UnLockAppenders on
+    // the same thread.
     virtual TQzLogAppenderList* LockAppenders() = 0;
     virtual void UnLockAppenders() = 0;
 

@@ -11,7 +11,14 @@ constinit const TClassRec TQzLoggerList::ClassRec =
 
 namespace {
 
+using detail::TLogTreeLock;
+
 constexpr std::uint32_t cLockTime = 1000; // milliseconds
+constexpr std::u16string_view cAction = u".LoggerList.Remove";
+
+struct [[nodiscard]] TUnlock {
+    ~TUnlock() { TLogTreeLock::Leave(); }
+};
 
 } // namespace
 
@@ -21,35 +28,37 @@ void TQzLoggerList::BeforeDestruction() {
 }
 
 bool TQzLoggerList::Lock(const TStringArg& AName, bool ARaise) {
-    if (FLock.TryEnter(cLockTime))
+    if (TLogTreeLock::TryEnter(cLockTime))
         return true;
     if (ARaise)
         throw Exception(SLockFailed, {AName.View()});
     return false;
 }
 
-void TQzLoggerList::LockForChange() {
-    if (!FLock.TryEnter(cLockTime))
-        throw Exception(SLockFailed, {FLogger.FullName() + u".LoggerList.Remove"});
+void TQzLoggerList::Unlock() noexcept {
+    TLogTreeLock::Leave();
+}
+
+void TQzLoggerList::LockForChange(std::u16string_view AAction) {
+    if (!TLogTreeLock::TryEnter(cLockTime))
+        throw Exception(SLockFailed, {FLogger.FullNameIfKnown() + AAction});
 }
 
 void TQzLoggerList::AddLogger(TQzLogger* ALogger) {
-    const detail::TLogTreeLock Tree;
-    LockForChange();
-    const TScopedLock Hold(FLock, std::adopt_lock);
+    LockForChange(cAction);
+    const TUnlock Hold;
     FList.Add(ALogger);
 }
 
 void TQzLoggerList::RemoveLogger(TQzLogger* ALogger) {
-    const detail::TLogTreeLock Tree;
-    LockForChange();
-    const TScopedLock Hold(FLock, std::adopt_lock);
+    LockForChange(cAction);
+    const TUnlock Hold;
     FList.Remove(ALogger);
 }
 
 TQzLogger* TQzLoggerList::FindLogger(const TStringArg& AFullName) {
-    LockForChange();
-    const TScopedLock Hold(FLock, std::adopt_lock);
+    LockForChange(cAction);
+    const TUnlock Hold;
     for (int I = Count(); I-- > 0;) {
         if (FList[I]->IsNamed(AFullName))
             return FList[I];

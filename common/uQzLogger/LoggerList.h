@@ -5,12 +5,11 @@
 //     for (int I = 0; I < List.Count(); ++I) Show(List.GetLogger(I)->GetName());
 //     List.Unlock();
 //
-// Loggers come and go on any thread: who walks the list holds its lock, briefly, since nobody gets a new logger
-// meanwhile.
+// Loggers come and go on any thread: who walks the list holds its lock, briefly, since nobody gets a logger or changes one
+// meanwhile. It is the lock of the whole tree.
 #pragma once
 
 #include "common/uQzLogger/LoggerInterface.h"
-#include "common/uQzThreads/CriticalSection.h"
 #include "runtime/lists/List.h"
 
 namespace qz {
@@ -25,9 +24,9 @@ public:
     // Raises EAssertionFailed, "Assertion failure", while loggers are in the list.
     void BeforeDestruction() override;
 
-    // Tries for a second. Then raises Exception, SLockFailed with the name, or gives false when ARaise is false.
+    // Re-enters. Tries for a second. Then raises Exception, SLockFailed with the name, or gives false when ARaise is false.
     bool Lock(const TStringArg& AName, bool ARaise);
-    void Unlock() noexcept { FLock.Leave(); }
+    void Unlock() noexcept;
 
     // Each raises as Lock does, under the name of the owner and ".LoggerList.Remove".
     void AddLogger(TQzLogger* ALogger);
@@ -35,19 +34,18 @@ public:
     // The last one of that full name, case-sensitive; null when there is none. It is good as long as somebody holds it.
     TQzLogger* FindLogger(const TStringArg& AFullName);
 
-    // Without a lock.
+    // The caller holds the lock.
     int Count() const noexcept { return FList.Count(); }
     Ref<IQzLogger> GetLogger(int AIndex) const;
 
 private:
     friend class TQzLogger;
-    void LockForChange();
-    // The last one of that last part of the name. The caller holds a lock.
+    void LockForChange(std::u16string_view AAction);
+    // The last one of that last part of the name. The caller holds the lock.
     TQzLogger* FindPart(std::u16string_view AName) const noexcept;
 
     TQzLogger& FLogger;
     TList<TQzLogger*> FList;
-    TQzCriticalSection FLock;
 };
 
 } // namespace qz

@@ -24,7 +24,11 @@ public:
     }
     TQzMethodScope(IQzLogger* ALogger, const TObject* AObject, const TStringArg& AMethod,
                    TQzLogLevel ALevel = llTrace)
-        : TQzMethodScope(ALogger, UnicodeString(AObject->ClassName()) + u'.' + AMethod.View(), ALevel) {}
+        : TQzMethodScope(
+              ALogger,
+              UnicodeString(AObject == nullptr ? std::u16string_view(u"nil") : AObject->ClassName()) + u'.' +
+                  AMethod.View(),
+              ALevel) {}
     ~TQzMethodScope() {
         if (FLogger != nullptr)
             FLogger->ExitMethod(FMethod, FLevel);

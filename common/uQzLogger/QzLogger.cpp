@@ -31,11 +31,24 @@ std::unordered_set<TQzLogger*>& AllLoggers() {
     return *Result;
 }
 
-// Ends the tree with the program.
-struct TUnit {
-    TUnit() { detail::WatchForks(); }
-    ~TUnit() { CloseRootLogger(); }
-} GUnit;
+} // namespace
+
+// Begins and ends with the program. The root stays: threads may still log through it.
+struct TLogUnit {
+    TLogUnit() {
+        RegisteredLayouts();
+        RegisteredAppenders();
+        detail::WatchForks();
+    }
+    ~TLogUnit() {
+        if (TQzLogger* Root = GRoot.load(std::memory_order_acquire))
+            Root->Retire();
+    }
+};
+
+namespace {
+
+const TLogUnit cUnit;
 
 } // namespace
 
@@ -45,7 +58,7 @@ TQzLogger::TQzLogger(TQzLogger* AParent, const UnicodeString& AName)
       FAppenders(TQzLogAppenderList::Create(this)),
       FCore(FAppenders->Core()),
       FParent(AParent),
-      FChildLoggers(TQzLoggerList::Create(*this)),
+      FChildLoggers(TQzLoggerList::Create(*this).release()),
       FEndsByCount(AParent != nullptr),
       FTakenFrom(cNobody) {}
 
@@ -98,10 +111,15 @@ void CloseRootLogger() {
         Root->FEndsByCount = true;
         Root->DetachChildren(false);
     }
-    Root->ClearAppenders();
-    const Ref<IQzLogConfigurator> Configurator = Root->Configurator();
+    Root->Retire();
+}
+
+// Lets go of what the application gave the logger.
+void TQzLogger::Retire() {
+    ClearAppenders();
+    Ref<IQzLogConfigurator> Configurator; // ends behind the lock
     const TLogTreeLock Hold;
-    Root->FConfigurator = {};
+    std::swap(Configurator, FConfigurator);
 }
 
 HRESULT TQzLogger::QueryInterface(const TGUID& AIid, void** AObject) {
@@ -113,34 +131,35 @@ std::uint32_t TQzLogger::_AddRef() {
     return static_cast<std::uint32_t>(FRefCount.Increment());
 }
 
-// The last reference goes under the lock by which a logger is found, so that nobody finds one that ends.
-std::int32_t TQzLogger::DropReference() {
+// The last reference goes under the lock by which a logger is found, so that nobody finds one that ends. True when this
+// logger ends by it; else it may be gone already.
+bool TQzLogger::DropReference(std::int32_t& ACount) {
+    ACount = 1;
     if (FRefCount.DecrementUnlessLast())
-        return 1;
+        return false;
     const TLogTreeLock Hold;
-    const std::int32_t Count = FRefCount.Decrement();
-    if (EndsNow(Count))
+    ACount = FRefCount.Decrement();
+    const bool Ends = ACount == 0 && FEndsByCount && !FIsEnding;
+    if (Ends)
         LeaveParent();
-    return Count;
+    return Ends;
 }
 
-// Waits for the list as long as it takes: an ending logger has nobody to tell that it could not leave.
+// The caller holds the lock of the tree.
 void TQzLogger::LeaveParent() {
-    if (FParent == nullptr)
-        return;
-    const TScopedLock List(FParent->FChildLoggers->FLock);
-    FParent->FChildLoggers->FList.Remove(this);
+    if (FParent != nullptr)
+        FParent->FChildLoggers->FList.Remove(this);
 }
 
 // A parent may end with its last child, and so on up the tree, which may be high.
 std::uint32_t TQzLogger::_Release() {
-    const std::int32_t Count = DropReference();
-    TQzLogger* Ending = EndsNow(Count) ? this : nullptr;
+    std::int32_t Count = 0;
+    TQzLogger* Ending = DropReference(Count) ? this : nullptr;
     while (Ending != nullptr) {
-        Ref<TQzLogger> Parent = Ending->FParent;
+        TQzLogger* Parent = Ref<TQzLogger>(Ending->FParent).Detach();
         Ending->Free();
-        TQzLogger* Next = Parent.Detach();
-        Ending = Next != nullptr && Next->EndsNow(Next->DropReference()) ? Next : nullptr;
+        std::int32_t Left = 0;
+        Ending = Parent != nullptr && Parent->DropReference(Left) ? Parent : nullptr;
     }
     return static_cast<std::uint32_t>(Count);
 }
@@ -166,15 +185,14 @@ void TQzLogger::BeforeDestruction() {
 }
 
 void TQzLogger::ClearChildLoggers() {
-    const TLogTreeLock Hold;
-    FChildLoggers->LockForChange();
-    const TScopedLock List(FChildLoggers->FLock, std::adopt_lock);
+    FChildLoggers->LockForChange(u".ClearChildLoggers");
     DetachChildren(false);
+    TLogTreeLock::Leave();
 }
 
-// ALetGo is for a parent that ends although it has children; a message on its way would miss it.
+// ALetGo is for a parent that ends although it has children; a message on its way would miss it. The caller holds the lock
+// of the tree.
 void TQzLogger::DetachChildren(bool ALetGo) {
-    const TScopedLock List(FChildLoggers->FLock);
     while (!FChildLoggers->FList.IsEmpty()) {
         TQzLogger* Child = FChildLoggers->FList.Last();
         Child->FullName();
@@ -187,12 +205,12 @@ void TQzLogger::DetachChildren(bool ALetGo) {
 }
 
 bool TQzLogger::Lock(const TStringArg&, bool) {
-    TLogTreeLock::Section().Enter();
+    TLogTreeLock::Enter();
     return true;
 }
 
 void TQzLogger::Unlock() {
-    TLogTreeLock::Section().Leave();
+    TLogTreeLock::Leave();
 }
 
 Ref<IQzLogger> TQzLogger::GetParentLogger() const {
@@ -219,6 +237,10 @@ const UnicodeString& TQzLogger::FullName() const {
     return FFullName;
 }
 
+UnicodeString TQzLogger::FullNameIfKnown() const {
+    return FHasFullName.load(std::memory_order_acquire) ? FFullName : FName;
+}
+
 bool TQzLogger::IsNamed(std::u16string_view AFullName) const noexcept {
     for (const TQzLogger* Node = this; Node != nullptr; Node = Node->FParent.Get()) {
         if (Node->FHasFullName.load(std::memory_order_acquire))
@@ -234,12 +256,8 @@ bool TQzLogger::IsNamed(std::u16string_view AFullName) const noexcept {
 }
 
 Ref<TQzLogger> TQzLogger::Child(std::u16string_view AName) {
-    {
-        FChildLoggers->LockForChange();
-        const TScopedLock List(FChildLoggers->FLock, std::adopt_lock);
-        if (TQzLogger* Found = FChildLoggers->FindPart(AName))
-            return Found;
-    }
+    if (TQzLogger* Found = FChildLoggers->FindPart(AName))
+        return Found;
     Ref<TQzLogger> Result(TQzLogger::Create(this, AName));
     if (TQzLogger* Root = GRoot.load(std::memory_order_relaxed)) {
         if (const Ref<IQzLogConfigurator> Configurator = Root->FConfigurator)
@@ -329,7 +347,7 @@ void TQzLogger::ClearAppenders() {
 }
 
 TQzLogAppenderList* TQzLogger::LockAppenders() {
-    FCore->Gate().Enter();
+    FCore->EnterGate();
     return FAppenders.get();
 }
 

@@ -10,8 +10,8 @@
 // be had again afterwards, also from destructors that run later. A logger that outlives its root writes to its own
 // appenders and walks no further. After a fork the child can log.
 //
-// A message that no appender takes costs one comparison: each logger knows the lowest level at which an appender on the
-// way to the root would be called.
+// A message that no appender takes costs one comparison beside what its arguments cost (a narrow text is converted, a u""
+// text is not): each logger knows the lowest level at which an appender on the way to the root would be called.
 #pragma once
 
 #include <atomic>
@@ -50,7 +50,8 @@ public:
     // Tree.
     Ref<IQzLogger> GetLogger(const TStringArg& AName) override;
     Ref<IQzLogger> GetLogger(const TObject* AObject) override;
-    // Lets go of all children, which are then without parent. Raises as TQzLoggerList::Lock does.
+    // Lets go of all children, which are then without parent. Raises as TQzLoggerList::Lock does, under the full name and
+    // ".ClearChildLoggers".
     void ClearChildLoggers();
     // One lock for all trees, which re-enters and waits as long as it takes. Always true; the arguments are not used.
     bool Lock(const TStringArg& AName, bool ARaise);
@@ -138,6 +139,10 @@ public:
     }
     detail::TLogAppenderCore& AppenderCore() const noexcept { return *FCore; }
     void AppendersChanged();
+    // Counts a reference unless there is none left, as of a logger that ends.
+    bool TryAddRef() noexcept { return FRefCount.IncrementUnlessZero(); }
+    // The full name, which is not worked out for this.
+    UnicodeString FullNameIfKnown() const;
     bool IsNamed(std::u16string_view AFullName) const noexcept;
     // Of all living loggers.
     static std::vector<detail::TLogAppenderCorePtr> AllAppenders();
@@ -163,8 +168,9 @@ private:
     void LeaveParent();
     void ReadLevel(IQzLogConfigurator& AConfigurator);
     void ReadAppenders(IQzLogConfigurator& AConfigurator);
-    std::int32_t DropReference();
-    bool EndsNow(std::int32_t ACount) const noexcept { return ACount == 0 && FEndsByCount && !FIsEnding; }
+    bool DropReference(std::int32_t& ACount);
+    void Retire();
+    friend struct TLogUnit;
 
     UnicodeString FName;
     mutable UnicodeString FFullName; // set once, when it is first asked for
@@ -175,7 +181,7 @@ private:
     // The parent is held as long as this logger lives, so that a message on its way never meets a dead one.
     Ref<TQzLogger> FParent;
     std::atomic<bool> FIsOrphan{false}; // there is no parent any more as far as anybody can tell
-    std::unique_ptr<TQzLoggerList> FChildLoggers;
+    TOwned<TQzLoggerList> FChildLoggers;
     std::atomic<bool> FParentLevel{true};
     std::atomic<TQzLogLevel> FLevel{llDebug};
     std::atomic<bool> FAdditive{true};

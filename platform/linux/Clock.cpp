@@ -36,4 +36,12 @@ TLocalTime LocalNow() noexcept {
     };
 }
 
+int32_t LocalOffsetSeconds() noexcept {
+    tzset();
+    const time_t Now = time(nullptr);
+    tm Parts{};
+    localtime_r(&Now, &Parts);
+    return static_cast<int32_t>(Parts.tm_gmtoff);
+}
+
 } // namespace qz::platform

@@ -6,8 +6,8 @@
 
 namespace qz::platform {
 
-void AroundFork(void (*ABefore)(), void (*AAfter)()) {
-    if (pthread_atfork(ABefore, AAfter, AAfter) != 0)
+void AroundFork(void (*ABefore)(), void (*AInParent)(), void (*AInChild)()) {
+    if (pthread_atfork(ABefore, AInParent, AInChild) != 0)
         throw std::bad_alloc();
 }
 

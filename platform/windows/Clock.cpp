@@ -56,4 +56,8 @@ TLocalTime LocalNow() noexcept {
     };
 }
 
+int32_t LocalOffsetSeconds() noexcept {
+    return LocalNow().OffsetMinutes * 60;
+}
+
 } // namespace qz::platform

@@ -263,7 +263,7 @@ void TComponent::BeforeDestruction() {
 }
 
 bool TComponent::BeginDestruction() noexcept {
-    return !std::exchange(FEnding, true);
+    return !FEnding.exchange(true);
 }
 
 void TComponent::DestructionRefused() noexcept {

@@ -14,6 +14,7 @@
 // A component, its owner and its partners belong to one thread.
 #pragma once
 
+#include <atomic>
 #include <memory>
 #include <vector>
 
@@ -134,7 +135,7 @@ private:
     std::vector<TComponent*> FPartners; // each of them holds this one too
     std::unique_ptr<TObservers> FObservers;
     TComponentState FState;
-    bool FEnding = false;
+    std::atomic<bool> FEnding{false}; // asked on the thread of a last reference too
 };
 
 using TComponentClass = ClassRef<TComponent>;

@@ -40,6 +40,15 @@ public:
     explicit TRefCount(std::int32_t ACount = 0) noexcept : FCount(ACount) {}
     std::int32_t Value() const noexcept { return FCount.load(std::memory_order_acquire); }
     std::int32_t Increment() noexcept { return FCount.fetch_add(1, std::memory_order_relaxed) + 1; }
+    // Adds one unless there is none, as of an object that ends; false then.
+    bool IncrementUnlessZero() noexcept {
+        std::int32_t Old = FCount.load(std::memory_order_relaxed);
+        while (Old > 0) {
+            if (FCount.compare_exchange_weak(Old, Old + 1, std::memory_order_relaxed))
+                return true;
+        }
+        return false;
+    }
     // Takes one back unless it is the last, without the right to end anything; false then.
     bool DecrementUnlessLast() noexcept {
         std::int32_t Old = FCount.load(std::memory_order_relaxed);
