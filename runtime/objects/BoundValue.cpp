@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <new>
 
 #include "runtime/errors/Exceptions.h"
-#include "runtime/reflection/BasicTypes.h"
+#include "runtime/reflection/EnumNames.h"
+#include "runtime/reflection/Properties.h"
 #include "runtime/reflection/RawValues.h"
 #include "runtime/text/FloatText.h"
 #include "runtime/text/NumberText.h"
-#include "runtime/text/StringUtils.h"
-#include "runtime/values/Currency.h"
+#include "runtime/values/ValueAccess.h"
+#include "runtime/values/VariantConvert.h"
 
 namespace qz {
 namespace {
@@ -48,11 +48,6 @@ TGroup GroupOf(PTypeInfo AType) noexcept {
     throw ERangeError(u"The number is outside the range of type %s", {AType->Name});
 }
 
-double NumberOf(TWideOrdinal AOrdinal) noexcept {
-    const auto Value = static_cast<double>(AOrdinal.Value);
-    return AOrdinal.IsLarge ? Value + 2 * cTwo63 : Value;
-}
-
 TWideOrdinal Rounded(double AValue, PTypeInfo AType) {
     const double Whole = std::nearbyint(AValue);
     if (Whole >= -cTwo63 && Whole < cTwo63)
@@ -73,12 +68,12 @@ bool InRange(PTypeInfo AType, TWideOrdinal AOrdinal) noexcept {
 }
 
 TWideOrdinal OrdinalFromText(const UnicodeString& AText, PTypeInfo AType) {
-    if (AType == TypeInfo<bool>())
+    if (AType->IsBoolean)
         return {StrToBool(AText) ? 1 : 0, false};
     if (AType->Kind == tkEnumeration) {
-        for (const TEnumItem& Item : AType->Items)
-            if (SameText(Item.Name, AText))
-                return {Item.Value, false};
+        std::int64_t Value = 0;
+        if (TryGetEnumValue(AType, AText, Value))
+            return {Value, false};
         RaiseBadText(AText, AType);
     }
     if (AType->Kind == tkChar || AType->Kind == tkWChar) {
@@ -95,140 +90,147 @@ TWideOrdinal OrdinalFromText(const UnicodeString& AText, PTypeInfo AType) {
 
 UnicodeString TextFromOrdinal(TWideOrdinal AOrdinal, PTypeInfo AType) {
     if (AType->Kind == tkEnumeration)
-        for (const TEnumItem& Item : AType->Items)
-            if (Item.Value == AOrdinal.Value)
-                return Item.Name;
+        return GetEnumName(AType, AOrdinal.Value);
     if (AType->Kind == tkChar || AType->Kind == tkWChar)
         return static_cast<char16_t>(AOrdinal.Value);
     return AOrdinal.IsLarge ? UIntToStr(static_cast<std::uint64_t>(AOrdinal.Value))
                             : IntToStr(AOrdinal.Value);
 }
 
-TWideOrdinal ToOrdinal(PTypeInfo AFrom, const void* AData, PTypeInfo ATo) {
-    TWideOrdinal Result{};
-    switch (GroupOf(AFrom)) {
-    case TGroup::Ordinal: Result = ReadWideOrdinal(AFrom, AData); break;
-    case TGroup::Float: Result = Rounded(ReadFloat(AFrom, AData), ATo); break;
-    case TGroup::Text: Result = OrdinalFromText(ReadText(AFrom, AData), ATo); break;
-    default: RaiseNoWay(AFrom, ATo);
-    }
-    if (ATo == TypeInfo<bool>())
-        return {Result.Value != 0 ? 1 : 0, false};
-    if (!InRange(ATo, Result))
-        RaiseRange(ATo);
+UnicodeString TextOf(const TValue& AFrom, PTypeInfo ATo) {
+    UnicodeString Result;
+    if (!ReadText(AFrom.TypeInfo(), AFrom.GetReferenceToRawData(), Result))
+        RaiseNoWay(AFrom.TypeInfo(), ATo);
     return Result;
 }
 
-double ToFloat(PTypeInfo AFrom, const void* AData, PTypeInfo ATo) {
-    switch (GroupOf(AFrom)) {
-    case TGroup::Ordinal: return NumberOf(ReadWideOrdinal(AFrom, AData));
-    case TGroup::Float: return ReadFloat(AFrom, AData);
-    case TGroup::Text: return StrToFloat(ReadText(AFrom, AData));
-    default: RaiseNoWay(AFrom, ATo);
+TWideOrdinal OrdinalOf(const TValue& AFrom) noexcept {
+    return ReadWideOrdinal(AFrom.TypeInfo(), AFrom.GetReferenceToRawData());
+}
+
+double FloatOf(const TValue& AFrom) noexcept {
+    return ReadFloat(AFrom.TypeInfo(), AFrom.GetReferenceToRawData());
+}
+
+bool IsCurrency(PTypeInfo AType) noexcept {
+    return AType == TypeInfo<Currency>();
+}
+
+std::int64_t ToBoolean(const TValue& AFrom, PTypeInfo ATo) {
+    switch (GroupOf(AFrom.TypeInfo())) {
+    case TGroup::Ordinal: return AFrom.AsOrdinal() != 0 ? 1 : 0;
+    case TGroup::Float: return FloatOf(AFrom) != 0 ? 1 : 0;
+    case TGroup::Text: return OrdinalFromText(TextOf(AFrom, ATo), ATo).Value;
+    default: RaiseNoWay(AFrom.TypeInfo(), ATo);
     }
 }
 
-UnicodeString ToText(PTypeInfo AFrom, const void* AData, PTypeInfo ATo) {
-    switch (GroupOf(AFrom)) {
-    case TGroup::Ordinal: return TextFromOrdinal(ReadWideOrdinal(AFrom, AData), AFrom);
-    case TGroup::Float: return FloatToStr(ReadFloat(AFrom, AData));
-    case TGroup::Text: return ReadText(AFrom, AData);
-    default: RaiseNoWay(AFrom, ATo);
+std::int64_t ToOrdinal(const TValue& AFrom, PTypeInfo ATo) {
+    if (ATo->IsBoolean)
+        return ToBoolean(AFrom, ATo);
+    PTypeInfo From = AFrom.TypeInfo();
+    TWideOrdinal Result{};
+    switch (GroupOf(From)) {
+    case TGroup::Ordinal: Result = OrdinalOf(AFrom); break;
+    case TGroup::Float:
+        Result = IsCurrency(From) ? TWideOrdinal{VarToInt64(AFrom.AsCurrency()), false}
+                                  : Rounded(FloatOf(AFrom), ATo);
+        break;
+    case TGroup::Text: Result = OrdinalFromText(TextOf(AFrom, ATo), ATo); break;
+    default: RaiseNoWay(From, ATo);
     }
+    if (!InRange(ATo, Result))
+        RaiseRange(ATo);
+    return Result.Value;
 }
 
-// ATarget is raw storage. Digits may get lost, the size of the number may not.
-void StoreFloat(PTypeInfo AType, void* ATarget, double AValue) {
-    Currency Amount;
-    if (AType == TypeInfo<Currency>() && !Currency::TryFromDouble(AValue, Amount))
-        RaiseRange(AType);
-    WriteFloat(AType, ATarget, AValue);
-    if (std::isfinite(AValue) && !std::isfinite(ReadFloat(AType, ATarget)))
-        RaiseRange(AType);
+TValue ToFloat(const TValue& AFrom, PTypeInfo ATo) {
+    double Number = 0;
+    switch (GroupOf(AFrom.TypeInfo())) {
+    case TGroup::Ordinal: Number = NumberOf(OrdinalOf(AFrom)); break;
+    case TGroup::Float: Number = FloatOf(AFrom); break;
+    case TGroup::Text:
+        if (IsCurrency(ATo))
+            return StrToCurr(TextOf(AFrom, ATo));
+        Number = StrToFloat(TextOf(AFrom, ATo));
+        break;
+    default: RaiseNoWay(AFrom.TypeInfo(), ATo);
+    }
+    return detail::TValueAccess::Make(ATo, [&](void* ATarget) { StoreFloat(ATo, ATarget, Number); });
 }
 
-// ATarget is raw storage.
-void StoreText(PTypeInfo AType, void* ATarget, const UnicodeString& AText) {
-    AType->Ops->Construct(ATarget);
-    if (AssignText(AType, ATarget, AText))
-        return;
-    AType->Ops->Destroy(ATarget);
-    RaiseBadText(AText, AType);
+TValue ToText(const TValue& AFrom, PTypeInfo ATo) {
+    PTypeInfo From = AFrom.TypeInfo();
+    UnicodeString Text;
+    switch (GroupOf(From)) {
+    case TGroup::Ordinal: Text = TextFromOrdinal(OrdinalOf(AFrom), From); break;
+    case TGroup::Float:
+        Text = IsCurrency(From) ? CurrToStr(AFrom.AsCurrency()) : FloatToStr(FloatOf(AFrom));
+        break;
+    case TGroup::Text: Text = TextOf(AFrom, ATo); break;
+    default: RaiseNoWay(From, ATo);
+    }
+    TValue Result = TValue::Make(nullptr, ATo);
+    if (!AssignText(ATo, detail::TValueAccess::Data(Result), Text))
+        RaiseBadText(Text, ATo);
+    return Result;
+}
+
+TValue ToObject(const TValue& AFrom, PTypeInfo ATo) {
+    TValue Result;
+    if (!AFrom.TryCast(ATo, Result))
+        RaiseNoWay(AFrom.TypeInfo(), ATo);
+    return Result;
+}
+
+TValue Converted(const TValue& AFrom, PTypeInfo ATo) {
+    if (AFrom.TypeInfo() == ATo && ATo->Ops->Copy != nullptr)
+        return AFrom;
+    switch (GroupOf(ATo)) {
+    case TGroup::Ordinal: return TValue::FromOrdinal(ATo, ToOrdinal(AFrom, ATo));
+    case TGroup::Float: return ToFloat(AFrom, ATo);
+    case TGroup::Text: return ToText(AFrom, ATo);
+    case TGroup::Object: return ToObject(AFrom, ATo);
+    default: RaiseNoWay(AFrom.TypeInfo(), ATo);
+    }
 }
 
 } // namespace
 
 TObject* TBoundValue::AsObject() const noexcept {
-    return FType != nullptr && FType->Kind == tkClass ? *static_cast<TObject* const*>(Data()) : nullptr;
-}
-
-void TBoundValue::Clear() noexcept {
-    if (PTypeInfo Old = std::exchange(FType, nullptr); Old != nullptr && Old->Ops != nullptr)
-        Old->Ops->Destroy(const_cast<void*>(Data()));
-    ::operator delete(std::exchange(FHeap, nullptr));
-}
-
-// Raw storage for a value of the type, which FType then announces.
-void* TBoundValue::Room(PTypeInfo AType) {
-    Clear();
-    if (AType->Ops == nullptr && AType->Kind != tkClass)
-        throw EConvertError(u"Values of type %s cannot be kept", {AType->Name});
-    if (AType->Ops != nullptr && AType->Ops->Size > cRoom)
-        FHeap = ::operator new(AType->Ops->Size);
-    return const_cast<void*>(Data());
+    return FValue.Kind() == tkClass ? FValue.AsObject() : nullptr;
 }
 
 void TBoundValue::Read(const TObject& AObject, const TPropInfo& AProp) {
-    PTypeInfo Type = AProp.PropType();
-    AProp.Get(AObject, Room(Type));
-    FType = Type;
+    FValue = GetProp(AObject, AProp);
 }
 
 void TBoundValue::SetObject(TObject* AObject, PTypeInfo AClass) {
-    new (Room(AClass)) TObject*(AObject);
-    FType = AClass;
+    FValue = TValue::Make(&AObject, AClass);
 }
 
 void TBoundValue::Assign(const TBoundValue& ASource, PTypeInfo AType) {
-    PTypeInfo From = ASource.FType;
-    if (From == nullptr)
+    if (ASource.Type() == nullptr)
         throw EConvertError(u"There is no value to convert to %s", {AType->Name});
-    if (AType->Kind == tkClass)
-        return AssignObject(ASource, AType);
-    void* Target = Room(AType);
-    if (From == AType) {
-        if (AType->Ops->Copy == nullptr)
-            RaiseNoWay(From, AType);
-        AType->Ops->Copy(Target, ASource.Data());
-    } else {
-        switch (GroupOf(AType)) {
-        case TGroup::Ordinal:
-            WriteOrdinal(AType, Target, ToOrdinal(From, ASource.Data(), AType).Value);
-            break;
-        case TGroup::Float: StoreFloat(AType, Target, ToFloat(From, ASource.Data(), AType)); break;
-        case TGroup::Text: StoreText(AType, Target, ToText(From, ASource.Data(), AType)); break;
-        default: RaiseNoWay(From, AType);
-        }
-    }
-    FType = AType;
-}
-
-void TBoundValue::AssignObject(const TBoundValue& ASource, PTypeInfo AType) {
-    TObject* Object = ASource.AsObject();
-    if (ASource.FType->Kind != tkClass || (Object != nullptr && !Object->InheritsFrom(AType->Class)))
-        RaiseNoWay(Object == nullptr ? ASource.FType : &Object->ClassType()->Info, AType);
-    SetObject(Object, AType);
+    FValue = Converted(ASource.FValue, AType);
 }
 
 bool TBoundValue::SameAs(const TBoundValue& AOther) const {
-    if (FType == nullptr || FType != AOther.FType)
+    PTypeInfo Type = FValue.TypeInfo();
+    if (Type == nullptr || Type != AOther.Type())
         return false;
-    switch (GroupOf(FType)) {
-    case TGroup::Ordinal: return ReadOrdinal(FType, Data()) == ReadOrdinal(FType, AOther.Data());
-    case TGroup::Float: return ReadFloat(FType, Data()) == ReadFloat(FType, AOther.Data());
-    case TGroup::Text: return ReadText(FType, Data()) == ReadText(FType, AOther.Data());
+    switch (GroupOf(Type)) {
+    case TGroup::Ordinal: return FValue.AsOrdinal() == AOther.FValue.AsOrdinal();
+    case TGroup::Float:
+        return IsCurrency(Type) ? FValue.AsCurrency() == AOther.FValue.AsCurrency()
+                                : FloatOf(FValue) == FloatOf(AOther.FValue);
+    case TGroup::Text: {
+        UnicodeString Text;
+        UnicodeString Other;
+        return ReadText(Type, Data(), Text) && ReadText(Type, AOther.Data(), Other) && Text == Other;
+    }
     case TGroup::Object: return AsObject() == AOther.AsObject();
-    default: return FType->Ops->IsTrivial && std::memcmp(Data(), AOther.Data(), FType->Ops->Size) == 0;
+    default: return Type->Ops->IsTrivial && std::memcmp(Data(), AOther.Data(), Type->Ops->Size) == 0;
     }
 }
 

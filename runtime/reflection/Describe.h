@@ -31,8 +31,9 @@ template <class T> constexpr TTypeOps OpsOf() noexcept {
     TTypeOps Ops{};
     Ops.Size = sizeof(T); // NOLINT(bugprone-sizeof-expression): T may well be a pointer
     Ops.Align = alignof(T);
-    Ops.IsTrivial = std::is_trivially_copyable_v<T>;
+    Ops.IsTrivial = std::is_trivially_copyable_v<T> && std::is_copy_constructible_v<T>;
     Ops.IsSmall = cIsSmall<T>;
+    Ops.MovesAsBytes = std::is_trivially_copyable_v<T> || !cIsSmall<T>;
     if constexpr (std::is_default_constructible_v<T>)
         Ops.Construct = [](void* ATarget) { new (ATarget) T(); };
     if constexpr (std::is_copy_constructible_v<T>)
@@ -183,26 +184,45 @@ template <class TFamily, auto Make> constexpr TMakerEntry Maker() noexcept {
     return {&TFamily::Family, &detail::cMakerFunction<TFamily, Make>};
 }
 
-// A type that is described by its kind and C++ type alone.
+namespace detail {
+// Calls of these end the compilation, with their names in the message.
+void ItemsHaveToAscend();
+void FloatsHave4Or8Bytes();
+
 template <class T>
-constexpr TTypeInfo DescribeType(TTypeKind AKind, std::u16string_view AName,
-                                 std::u16string_view AUnit) noexcept {
+constexpr TTypeInfo InfoOf(TTypeKind AKind, std::u16string_view AName, std::u16string_view AUnit) noexcept {
     TTypeInfo Info;
     Info.Kind = AKind;
     Info.Name = AName;
     Info.Unit = AUnit;
     Info.IsSigned = std::is_signed_v<T>;
-    Info.Ops = &detail::cOps<T>;
+    Info.IsBoolean = std::is_same_v<T, bool>;
+    Info.Ops = &cOps<T>;
     return Info;
 }
+} // namespace detail
 
-// An enumeration with its values in ascending order.
+// A type that is described by its kind and C++ type alone. A float of other than 4 or 8 bytes does not compile.
+template <class T>
+consteval TTypeInfo DescribeType(TTypeKind AKind, std::u16string_view AName,
+                                 std::u16string_view AUnit) noexcept {
+    if (AKind == tkFloat && sizeof(T) != sizeof(float) && sizeof(T) != sizeof(double))
+        detail::FloatsHave4Or8Bytes();
+    return detail::InfoOf<T>(AKind, AName, AUnit);
+}
+
+// An enumeration with its values in ascending order; otherwise it does not compile. Of several names for one value the
+// first is the one that is told.
 template <class T>
     requires std::is_enum_v<T>
-constexpr TTypeInfo DescribeEnum(std::u16string_view AName, std::u16string_view AUnit,
+consteval TTypeInfo DescribeEnum(std::u16string_view AName, std::u16string_view AUnit,
                                  std::span<const TEnumItem> AItems) noexcept {
-    TTypeInfo Info = DescribeType<T>(tkEnumeration, AName, AUnit);
+    for (std::size_t I = 1; I < AItems.size(); ++I)
+        if (AItems[I].Value < AItems[I - 1].Value)
+            detail::ItemsHaveToAscend();
+    TTypeInfo Info = detail::InfoOf<T>(tkEnumeration, AName, AUnit);
     Info.IsSigned = std::is_signed_v<std::underlying_type_t<T>>;
+    Info.IsBoolean = std::is_same_v<std::underlying_type_t<T>, bool>;
     Info.Items = AItems;
     return Info;
 }
@@ -210,7 +230,7 @@ constexpr TTypeInfo DescribeEnum(std::u16string_view AName, std::u16string_view 
 template <class T>
 constexpr TTypeInfo DescribeRecord(std::u16string_view AName, std::u16string_view AUnit,
                                    std::span<const TFieldInfo> AFields = {}) noexcept {
-    TTypeInfo Info = DescribeType<T>(tkRecord, AName, AUnit);
+    TTypeInfo Info = detail::InfoOf<T>(tkRecord, AName, AUnit);
     Info.Fields = AFields;
     return Info;
 }
@@ -219,7 +239,7 @@ constexpr TTypeInfo DescribeRecord(std::u16string_view AName, std::u16string_vie
 template <class T, class TItem>
 constexpr TTypeInfo DescribeOf(TTypeKind AKind, std::u16string_view AName,
                                std::u16string_view AUnit) noexcept {
-    TTypeInfo Info = DescribeType<T>(AKind, AName, AUnit);
+    TTypeInfo Info = detail::InfoOf<T>(AKind, AName, AUnit);
     Info.Element = [] { return TypeInfo<TItem>(); };
     if (AKind == tkArray || AKind == tkDynArray)
         if constexpr (requires(T & AArray) { AArray[AArray.size()]; })
@@ -231,7 +251,7 @@ constexpr TTypeInfo DescribeOf(TTypeKind AKind, std::u16string_view AName,
 template <class I, class TParent = IInterface>
     requires std::derived_from<I, TParent>
 constexpr TTypeInfo DescribeInterface(std::u16string_view AName, std::u16string_view AUnit) noexcept {
-    TTypeInfo Info = DescribeType<Ref<IInterface>>(tkInterface, AName, AUnit);
+    TTypeInfo Info = detail::InfoOf<Ref<IInterface>>(tkInterface, AName, AUnit);
     Info.Guid = &I::IID;
     if constexpr (!std::is_same_v<I, TParent>)
         Info.Base = [] { return TypeInfo<TParent>(); };

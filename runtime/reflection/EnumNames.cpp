@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstring>
 
 #include "runtime/errors/Exceptions.h"
 #include "runtime/text/NumberText.h"
@@ -56,6 +55,23 @@ std::uint64_t ItemBit(PTypeInfo ASet, std::u16string_view AName) {
     return std::uint64_t{1} << Value;
 }
 
+UnicodeString BitsToString(PTypeInfo AType, const void* ASource, std::size_t ASize, bool ABrackets) {
+    UnicodeString Result;
+    if (ABrackets)
+        Result += u'[';
+    const auto* Bytes = static_cast<const unsigned char*>(ASource);
+    const char16_t* Comma = u"";
+    for (unsigned I = 0; I < 8 * ASize; ++I)
+        if ((Bytes[I / 8] >> (I % 8) & 1) != 0) {
+            Result += Comma;
+            Result += ItemName(AType, I);
+            Comma = u",";
+        }
+    if (ABrackets)
+        Result += u']';
+    return Result;
+}
+
 } // namespace
 
 UnicodeString GetEnumName(PTypeInfo AType, std::int64_t AValue) {
@@ -79,27 +95,12 @@ int GetEnumValue(PTypeInfo AType, const TStringArg& AName) noexcept {
 }
 
 UnicodeString SetToString(PTypeInfo AType, const void* ASource, bool ABrackets) {
-    UnicodeString Result;
-    if (ABrackets)
-        Result += u'[';
-    const auto* Bytes = static_cast<const unsigned char*>(ASource);
-    const char16_t* Comma = u"";
-    for (unsigned I = 0; I < 8 * AType->Ops->Size; ++I)
-        if ((Bytes[I / 8] >> (I % 8) & 1) != 0) {
-            Result += Comma;
-            Result += ItemName(AType, I);
-            Comma = u",";
-        }
-    if (ABrackets)
-        Result += u']';
-    return Result;
+    return BitsToString(AType, ASource, AType->Ops->Size, ABrackets);
 }
 
 UnicodeString SetToString(PTypeInfo AType, std::int64_t AValue, bool ABrackets) {
-    unsigned char Bytes[64] = {}; // the set's size may be more than that of the value
     static_assert(std::endian::native == std::endian::little);
-    std::memcpy(Bytes, &AValue, sizeof AValue);
-    return SetToString(AType, Bytes, ABrackets);
+    return BitsToString(AType, &AValue, std::min(AType->Ops->Size, sizeof AValue), ABrackets);
 }
 
 std::int64_t StringToSet(PTypeInfo AType, const TStringArg& AText) {

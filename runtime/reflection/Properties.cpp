@@ -66,22 +66,23 @@ void Write(TObject& AObject, const TPropInfo& AProp, const TValue& AValue) {
     AProp.Set(AObject, AValue.GetReferenceToRawData());
 }
 
-void WriteFloatProp(TObject& AObject, const TPropInfo& AProp, double AValue) {
-    PTypeInfo Type = AProp.PropType();
-    if (Type == TypeInfo<Currency>())
-        return Write(AObject, AProp, Currency(AValue));
-    Write(AObject, AProp,
-          detail::TValueAccess::Make(Type, [&](void* ATarget) { WriteFloat(Type, ATarget, AValue); }));
+TValue MakeFloat(PTypeInfo AType, double AValue) {
+    return detail::TValueAccess::Make(AType, [&](void* ATarget) { StoreFloat(AType, ATarget, AValue); });
+}
+
+// A number as an ordinal. The 64 bits of an enumeration or a set may be given with or without a sign.
+std::int64_t OrdinalFromNumber(PTypeInfo AType, const Variant& AValue) {
+    if (AType->IsBoolean)
+        return VarToBool(AValue) ? 1 : 0;
+    const bool IsUnsigned = !AType->IsSigned && AType->Ops->Size == sizeof(std::uint64_t) &&
+        (AType->Kind == tkInt64 || VarType(AValue) == varUInt64);
+    return IsUnsigned ? static_cast<std::int64_t>(VarToUInt64(AValue)) : VarToInt64(AValue);
 }
 
 // What a variant says about an ordinal type.
 std::int64_t OrdinalFrom(PTypeInfo AType, const Variant& AValue) {
-    if (!VarIsStr(AValue)) {
-        if (VarType(AValue) == varBoolean)
-            return VarToBool(AValue) ? 1 : 0;
-        return AType->Kind == tkInt64 && !AType->IsSigned ? static_cast<std::int64_t>(VarToUInt64(AValue))
-                                                          : VarToInt64(AValue);
-    }
+    if (!VarIsStr(AValue))
+        return OrdinalFromNumber(AType, AValue);
     const UnicodeString Text = VarToStr(AValue);
     if (AType->Kind == tkSet)
         return StringToSet(AType, Text);
@@ -94,6 +95,25 @@ std::int64_t OrdinalFrom(PTypeInfo AType, const Variant& AValue) {
     if (IsTextKind(AType->Kind))
         return TValue(Text).Cast(AType).AsOrdinal();
     return AType->IsSigned ? VarToInt64(AValue) : static_cast<std::int64_t>(VarToUInt64(AValue));
+}
+
+// What a variant says about any type that has variants.
+TValue ValueFrom(const TPropInfo& AProp, const Variant& AValue) try {
+    PTypeInfo Type = AProp.PropType();
+    if (IsOrdinal(Type))
+        return TValue::FromOrdinal(Type, OrdinalFrom(Type, AValue));
+    if (Type == TypeInfo<Currency>())
+        return VarToCurrency(AValue);
+    if (IsFloat(Type))
+        return MakeFloat(
+            Type, IsDateType(Type) && VarIsStr(AValue) ? VarToDateTime(AValue).Value : VarToReal(AValue));
+    if (IsText(Type))
+        return TValue(VarToStr(AValue)).Cast(Type);
+    if (Type->Kind == tkVariant)
+        return AValue;
+    RaiseType(AProp);
+} catch (const EVariantOverflowError& E) {
+    throw ERangeError(E.Message());
 }
 
 Variant OrdinalVariant(const TValue& AValue, bool APreferStrings) {
@@ -167,21 +187,7 @@ Variant GetPropValue(const TObject& AObject, const TPropArg& AProp, bool APrefer
 
 void SetPropValue(TObject& AObject, const TPropArg& AProp, const Variant& AValue) {
     const TPropInfo& Prop = AProp.Of(AObject);
-    PTypeInfo Type = Prop.PropType();
-    if (IsOrdinal(Type))
-        Write(AObject, Prop, TValue::FromOrdinal(Type, OrdinalFrom(Type, AValue)));
-    else if (Type == TypeInfo<Currency>())
-        Write(AObject, Prop, VarToCurrency(AValue));
-    else if (IsFloat(Type))
-        WriteFloatProp(AObject, Prop,
-                       IsDateType(Type) && VarIsStr(AValue) ? VarToDateTime(AValue).Value
-                                                            : VarToReal(AValue));
-    else if (IsText(Type))
-        Write(AObject, Prop, TValue(VarToStr(AValue)).Cast(Type));
-    else if (Type->Kind == tkVariant)
-        Write(AObject, Prop, AValue);
-    else
-        RaiseType(Prop);
+    Write(AObject, Prop, ValueFrom(Prop, AValue));
 }
 
 std::int64_t GetOrdProp(const TObject& AObject, const TPropArg& AProp) {
@@ -206,7 +212,8 @@ double GetFloatProp(const TObject& AObject, const TPropArg& AProp) {
 }
 
 void SetFloatProp(TObject& AObject, const TPropArg& AProp, double AValue) {
-    WriteFloatProp(AObject, Checked(AObject, AProp, IsFloat), AValue);
+    const TPropInfo& Prop = Checked(AObject, AProp, IsFloat);
+    Write(AObject, Prop, MakeFloat(Prop.PropType(), AValue));
 }
 
 TObject* GetObjectProp(const TObject& AObject, const TPropArg& AProp, TClass AClass) {

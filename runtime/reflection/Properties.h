@@ -111,21 +111,25 @@ QZ_API void SetProp(TObject& AObject, const TPropArg& AProp, const TValue& AValu
 
 // A property as a variant. With APreferStrings a character is a text, an enumeration its name, a set the names of its
 // items as SetToString writes them; without, each is its ordinal, and a Boolean a Boolean. Any float and date is a
-// double, a Currency a Currency. Objects, interfaces, records, arrays, events and pointers raise
-// EPropertyConvertError.
+// double, a Currency a Currency. A set of more than 64 bits is had as names alone. Objects, interfaces, records, arrays,
+// events and pointers raise EPropertyConvertError.
 QZ_API Variant GetPropValue(const TObject& AObject, const TPropArg& AProp, bool APreferStrings = true);
-// The other way round: a text names a value of an enumeration or the items of a set, anything else is converted as
-// VariantConvert.h tells. Raises EPropertyConvertError, "Invalid property element: %s", for a name that is none, and
-// ERangeError for a number that does not fit.
+// The other way round: a text names a value of an enumeration or the items of a set, any number but 0 is True for a
+// Boolean, anything else is converted as VariantConvert.h tells. Raises EPropertyConvertError, "Invalid property element:
+// %s", for a name that is none, and for a set of more than 64 bits as for objects; ERangeError for a number that does not
+// fit; EVariantTypeCastError for a text that is no number, date or Boolean where one is due, EInvalidCast where it is no
+// character or no text of the property's code page.
 QZ_API void SetPropValue(TObject& AObject, const TPropArg& AProp, const Variant& AValue);
 
-// Integers, characters, enumerations, sets of up to 64 bits. A number that does not fit raises ERangeError.
+// Integers, characters, enumerations, sets of up to 64 bits. A number that does not fit raises ERangeError; a Boolean
+// takes 0 and 1.
 QZ_API std::int64_t GetOrdProp(const TObject& AObject, const TPropArg& AProp);
 QZ_API void SetOrdProp(TObject& AObject, const TPropArg& AProp, std::int64_t AValue);
-// Texts and characters. A text of another length than one raises EInvalidCast when it is set as a character.
+// Texts and characters. A text that is not one character, of Latin-1 for a char, raises EInvalidCast when it is set as a
+// character.
 QZ_API UnicodeString GetStrProp(const TObject& AObject, const TPropArg& AProp);
 QZ_API void SetStrProp(TObject& AObject, const TPropArg& AProp, const UnicodeString& AValue);
-// Floats and dates. A number that a narrower type does not hold is rounded.
+// Floats and dates. A number is rounded to a narrower type; a finite one outside its range raises ERangeError.
 QZ_API double GetFloatProp(const TObject& AObject, const TPropArg& AProp);
 QZ_API void SetFloatProp(TObject& AObject, const TPropArg& AProp, double AValue);
 // Objects. One that does not derive from AClass, where given, is read as null. One that does not fit the type of the

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <new>
 
+#include "runtime/errors/Exceptions.h"
 #include "runtime/reflection/BasicTypes.h"
 #include "runtime/time/DateTime.h"
 #include "runtime/values/Currency.h"
@@ -24,12 +25,19 @@ TWideOrdinal ReadWideOrdinal(PTypeInfo AType, const void* ASource) noexcept {
 }
 
 bool HoldsOrdinal(PTypeInfo AType, TWideOrdinal AOrdinal) noexcept {
+    if (AType->IsBoolean)
+        return !AOrdinal.IsLarge && (AOrdinal.Value == 0 || AOrdinal.Value == 1);
     const std::size_t Size = AType->Ops->Size;
     if (Size == 8)
         return AType->IsSigned ? !AOrdinal.IsLarge : AOrdinal.IsLarge || AOrdinal.Value >= 0;
     const int Bits = static_cast<int>(8 * Size) - (AType->IsSigned ? 1 : 0);
     const std::int64_t Limit = std::int64_t{1} << Bits;
     return !AOrdinal.IsLarge && AOrdinal.Value < Limit && AOrdinal.Value >= (AType->IsSigned ? -Limit : 0);
+}
+
+double NumberOf(TWideOrdinal AOrdinal) noexcept {
+    return AOrdinal.IsLarge ? static_cast<double>(static_cast<std::uint64_t>(AOrdinal.Value))
+                            : static_cast<double>(AOrdinal.Value);
 }
 
 double ReadFloat(PTypeInfo AType, const void* ASource) noexcept {
@@ -62,20 +70,36 @@ bool WriteFloat(PTypeInfo AType, void* ATarget, double AValue) noexcept {
     return true;
 }
 
+void StoreFloat(PTypeInfo AType, void* ATarget, double AValue) {
+    if (WriteFloat(AType, ATarget, AValue))
+        return;
+    Currency Amount;
+    const bool InRange = AType == TypeInfo<Currency>() ? Currency::TryFromDouble(AValue, Amount)
+                                                       : std::isfinite(ReadFloat(AType, ATarget));
+    if (!InRange)
+        throw ERangeError(u"The number is outside the range of type %s", {AType->Name});
+}
+
 bool IsDateType(PTypeInfo AType) noexcept {
     return AType == TypeInfo<TDateTime>() || AType == TypeInfo<TDate>() || AType == TypeInfo<TTime>();
 }
 
-UnicodeString ReadText(PTypeInfo AType, const void* ASource) {
+bool ReadText(PTypeInfo AType, const void* ASource, UnicodeString& AText) {
     switch (AType->Kind) {
-    case tkChar: return AnsiString(std::string_view(static_cast<const char*>(ASource), 1)).ToUnicode();
-    case tkWChar: return *static_cast<const char16_t*>(ASource);
-    case tkLString: return static_cast<const TByteText*>(ASource)->ToUnicode();
-    default: return *static_cast<const UnicodeString*>(ASource);
+    case tkChar: AText = char16_t{*static_cast<const unsigned char*>(ASource)}; return true;
+    case tkWChar: AText = *static_cast<const char16_t*>(ASource); return true;
+    case tkLString: break;
+    default: AText = *static_cast<const UnicodeString*>(ASource); return true;
+    }
+    try {
+        AText = static_cast<const TByteText*>(ASource)->ToUnicode();
+        return true;
+    } catch (const EOSError&) {
+        return false;
     }
 }
 
-bool AssignText(PTypeInfo AType, void* ATarget, const UnicodeString& AText) {
+bool AssignText(PTypeInfo AType, void* ATarget, const UnicodeString& AText) try {
     if (AType->Kind == tkUString || AType->Kind == tkWString)
         *static_cast<UnicodeString*>(ATarget) = AText;
     else if (AType == TypeInfo<AnsiString>())
@@ -87,6 +111,8 @@ bool AssignText(PTypeInfo AType, void* ATarget, const UnicodeString& AText) {
     else
         return false;
     return true;
+} catch (const EOSError&) {
+    return false;
 }
 
 } // namespace qz

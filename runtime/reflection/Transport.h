@@ -1,5 +1,5 @@
 // The form in which values of a type are handled where only their description is known: an object as TObject*, an
-// interface as Ref<IInterface>, anything else as itself.
+// interface as Ref<IInterface>, an integer as the one of its width and sign in <cstdint>, anything else as itself.
 //
 //     TTransport<TShape*> Raw = ToTransport<TShape*>(Shape);      // a TObject*
 //     TShape* Same = FromTransport<TShape*>(Raw);
@@ -16,6 +16,7 @@ namespace qz {
 namespace detail {
 
 template <class T> struct TTransportOf { using Type = T; };
+template <CInteger T> struct TTransportOf<T> : TDescribedAs<T> {};
 template <std::derived_from<TObject> T> struct TTransportOf<T*> { using Type = TObject*; };
 template <CInterfaceType I> struct TTransportOf<I*> { using Type = Ref<IInterface>; };
 template <CInterfaceType I> struct TTransportOf<Ref<I>> { using Type = Ref<IInterface>; };

@@ -8,6 +8,7 @@
 // filled by the functions of Describe.h, and may be read by any number of threads.
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -65,10 +66,12 @@ struct TTypeOps {
     void (*Destroy)(void* ATarget) noexcept;
     // Moves a value into raw storage and ends the source; null unless IsSmall.
     void (*Relocate)(void* ATarget, void* ASource) noexcept;
-    // Whether the value refers to nothing; null for a type that always is a value.
+    // Whether the value refers to nothing, of a type that can tell; counts for the kinds of IsReferenceKind.
     bool (*IsNull)(const void* ASource) noexcept;
-    bool IsTrivial; // a copy is a copy of the bytes
-    bool IsSmall;   // at most 16 bytes that can be moved without fail, so that a TValue keeps it in place
+    bool IsTrivial; // a copy is a copy of the bytes, and allowed
+    // At most 16 bytes, aligned to at most 8, that can be moved without fail, so that a TValue keeps it in place.
+    bool IsSmall;
+    bool MovesAsBytes; // it does so, or is not small and lies elsewhere
 };
 
 // How the elements of an array are reached, in the form in which values of their type are handled.
@@ -114,6 +117,7 @@ struct TTypeInfo {
     const TTypeOps* Ops = nullptr;           // never null in a description
     bool IsPublic = true;                    // has a qualified name that can be looked up
     bool IsSigned = false;                   // of an ordinal type
+    bool IsBoolean = false;                  // an ordinal type that holds 0 and 1 alone
     PTypeInfo (*Base)() = nullptr;           // parent class or interface
     PTypeInfo (*Element)() = nullptr;        // of an array, a set, a pointer, a class reference
     std::span<const TEnumItem> Items{};      // of an enumeration, in ascending order of value
@@ -156,8 +160,23 @@ concept CInterfaceType = requires {
 }
 &&!CHasClassRec<T>;
 
-// The type whose description is that of T.
+template <class T>
+concept CInteger = std::integral<T> && sizeof(T) <= 8 && !std::same_as<T, bool> && !std::same_as<T, char> &&
+    !std::same_as<T, char8_t> && !std::same_as<T, char16_t> && !std::same_as<T, char32_t> &&
+    !std::same_as<T, wchar_t>;
+template <std::size_t Size>
+using TIntegerOfSize = std::conditional_t<
+    Size == 1, std::int8_t,
+    std::conditional_t<Size == 2, std::int16_t, std::conditional_t<Size == 4, std::int32_t, std::int64_t>>>;
+
+// The type whose description is that of T. Of the integers of one width and sign the one with a name of its own in
+// <cstdint> stands for the others, such as long long for long.
 template <class T> struct TDescribedAs { using Type = T; };
+template <CInteger T> struct TDescribedAs<T> {
+    using TSigned = TIntegerOfSize<sizeof(T)>;
+    using Type = typename std::conditional_t<std::signed_integral<T>, std::type_identity<TSigned>,
+                                             std::make_unsigned<TSigned>>::type;
+};
 template <class I> struct TDescribedAs<Ref<I>> { using Type = I; };
 template <CInterfaceType I> struct TDescribedAs<I*> { using Type = I; };
 

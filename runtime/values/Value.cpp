@@ -139,7 +139,7 @@ bool TValue::IsEmpty() const noexcept {
     const void* Data = GetReferenceToRawData();
     if (FType->Kind == tkDynArray)
         return FType->Array != nullptr && FType->Array->Length(Data) == 0;
-    return FType->Ops->IsNull != nullptr && FType->Ops->IsNull(Data);
+    return IsReferenceKind(FType->Kind) && FType->Ops->IsNull != nullptr && FType->Ops->IsNull(Data);
 }
 
 bool TValue::IsType(PTypeInfo AType) const noexcept {

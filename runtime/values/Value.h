@@ -7,9 +7,10 @@
 //     if (TPoint Point; Other.TryAsType(Point)) ...
 //     Log(Value.ToString());
 //
-// A TValue is 24 bytes. Values of up to 16 bytes that can be moved without fail lie in it, so that numbers, texts,
-// interfaces, arrays and variants need no memory of their own; larger ones lie in a block that copies share. A value
-// belongs to one thread at a time; copies may be used by different threads.
+// A TValue is 24 bytes. Values of up to 16 bytes that are aligned to at most 8 and can be moved without fail lie in it,
+// so that numbers, texts, interfaces, arrays and variants need no memory of their own; others lie in a block that copies
+// share. A value belongs to one thread at a time; copies may be used by different threads, but for the elements of a
+// dynamic array, which are the same in all copies: threads that set them have to agree.
 #pragma once
 
 #include <atomic>
@@ -42,15 +43,10 @@ struct QZ_API TValueBlock {
     using TOwner = std::unique_ptr<TValueBlock, TFree>;
 };
 
-// As what a TValue holds a T: integers by width and sign, text of C++ as UnicodeString, else as itself.
+// As what a TValue holds a T: text of C++ as UnicodeString, a described type as itself.
 template <class T> constexpr auto BoxedAs() noexcept {
     if constexpr (CDescribedType<T> && !CHasClassRec<T>)
         return std::type_identity<T>();
-    else if constexpr (std::is_integral_v<T> && !std::same_as<T, wchar_t> && !std::same_as<T, char8_t> &&
-                       !std::same_as<T, char32_t>)
-        return std::type_identity<std::conditional_t<
-            std::is_signed_v<T>, std::conditional_t<sizeof(T) == 8, std::int64_t, std::int32_t>,
-            std::conditional_t<sizeof(T) == 8, std::uint64_t, std::uint32_t>>>();
     else if constexpr (std::same_as<T, UnicodeString::TCharRef>)
         return std::type_identity<char16_t>();
     else if constexpr (CWideText<T> || CNarrowText<T> || CUtf8Text<T> ||
@@ -123,7 +119,7 @@ public:
     // and arrays are values of the type Variant.
     static TValue FromVariant(const Variant& AValue);
     // An integer, character, enumeration or set with that ordinal. Raises EInvalidCast for any other type, ERangeError
-    // for a number that does not fit the type's width.
+    // for a number that does not fit the type's width, or a Boolean, which holds 0 and 1 alone.
     static TValue FromOrdinal(PTypeInfo AType, std::int64_t AOrdinal);
 
     // tkUnknown and null when there is no value.
@@ -143,28 +139,34 @@ public:
     }
     std::size_t GetDataSize() const noexcept { return FType == nullptr ? 0 : FType->Ops->Size; }
 
-    // The value as a T, where nothing gets lost:
+    // The value as a T, where no number loses a digit:
     // - any value as its own type
-    // - an integer or float as any integer or float type that holds the number exactly; floats never as integers
-    // - a text or a character as any text type, converted to its code page; a text of one character as a character
+    // - an integer or float as any integer or float type that holds the number exactly; floats never as integers. A
+    //   Currency is exact in a float that gives the same amount back
+    // - a text or a character as any text type, where what the code page of an 8-bit text lacks becomes its best fit or
+    //   "?"; a text of one character as a character. A char is of Latin-1, U+0000 to U+00FF, on every system
     // - an object as a class that it belongs to, a class reference as one of an ancestor
     // - an interface or object as any interface that it offers; T is a Ref
     // - what AsVariant takes as a Variant
     // - a null reference, and no value at all, as any reference, and no value as an empty Variant.
-    // Anything else raises EInvalidCast.
+    // Anything else raises EInvalidCast, so does a text of a code page that the system does not know.
     template <class T> T AsType() const {
         CheckTarget<T>();
         if (FType == qz::TypeInfo<T>()) [[likely]]
             return Get<T>();
-        return Cast(qz::TypeInfo<T>()).template Get<T>();
+        return Cast(qz::TypeInfo<T>()).template Take<T>();
     }
     // The same; false, and AResult unchanged, instead of the exception.
     template <class T> bool TryAsType(T& AResult) const {
         CheckTarget<T>();
+        if (FType == qz::TypeInfo<T>()) {
+            AResult = Get<T>();
+            return true;
+        }
         TValue Other;
-        if (FType != qz::TypeInfo<T>() && !TryCast(qz::TypeInfo<T>(), Other))
+        if (!TryCast(qz::TypeInfo<T>(), Other))
             return false;
-        AResult = (FType == qz::TypeInfo<T>() ? *this : Other).template Get<T>();
+        AResult = Other.template Take<T>();
         return true;
     }
     // The same, as a value of that type.
@@ -183,7 +185,7 @@ public:
     Extended AsExtended() const;
     Currency AsCurrency() const { return AsType<Currency>(); }
     bool AsBoolean() const { return AsType<bool>(); }
-    // A text of any type, a character.
+    // A text of any type whose code page the system knows, a character.
     UnicodeString AsString() const;
     // A variant, an integer, a float or date, a text, a character as text, a Boolean, the ordinal of another
     // enumeration or a set, an interface; no value as an empty variant.
@@ -198,7 +200,8 @@ public:
     // that is no array, and EArgumentOutOfRangeException for an index outside.
     std::size_t GetArrayLength() const;
     TValue GetArrayElement(std::size_t AIndex) const;
-    // AElement is cast to the type of the elements.
+    // AElement is cast to the type of the elements. An array of TValue therefore takes a value of the type TValue alone,
+    // as From makes it. Copies of a dynamic array see the change.
     void SetArrayElement(std::size_t AIndex, const TValue& AElement);
 
     // The value as text, for messages:
@@ -227,9 +230,7 @@ private:
     bool IsPlain() const noexcept {
         return FType == nullptr || (FType->Ops->IsTrivial && FType->Ops->IsSmall);
     }
-    bool MovesAsBytes() const noexcept {
-        return FType == nullptr || FType->Ops->IsTrivial || !FType->Ops->IsSmall;
-    }
+    bool MovesAsBytes() const noexcept { return FType == nullptr || FType->Ops->MovesAsBytes; }
     void TakeBytes(const TValue& AOther) noexcept {
         std::memcpy(FRoom, AOther.FRoom, sizeof FRoom);
         FType = AOther.FType;
@@ -260,6 +261,13 @@ private:
         if constexpr (!detail::cIsSmall<TStored>)
             Data = Block()->Value();
         return FromTransport<T>(*static_cast<const TStored*>(Data));
+    }
+    // The same, when this value is about to end.
+    template <class T> T Take() {
+        if constexpr (std::is_same_v<TTransport<T>, T> && detail::cIsSmall<T>)
+            return std::move(*static_cast<T*>(static_cast<void*>(FRoom)));
+        else
+            return Get<T>();
     }
     detail::TValueBlock* Block() const noexcept {
         detail::TValueBlock* Result;

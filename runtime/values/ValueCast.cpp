@@ -20,11 +20,6 @@ TClass RawClass(const TValue& AValue) noexcept {
     return Result;
 }
 
-double NumberOf(TWideOrdinal AOrdinal) noexcept {
-    return AOrdinal.IsLarge ? static_cast<double>(static_cast<std::uint64_t>(AOrdinal.Value))
-                            : static_cast<double>(AOrdinal.Value);
-}
-
 // Whether the float, which is the integer rounded, is that integer.
 bool IsExact(TWideOrdinal AOrdinal, double AFloat) noexcept {
     constexpr double cTwo63 = 9223372036854775808.0;
@@ -52,11 +47,24 @@ bool ToInteger(const TValue& AFrom, PTypeInfo AType, TValue& AResult) {
     return true;
 }
 
+// The number as a double, if that is the same.
+bool ExactNumber(const TValue& AFrom, double& ANumber) noexcept {
+    if (AFrom.Kind() == tkFloat) {
+        ANumber = ReadFloat(AFrom.TypeInfo(), AFrom.GetReferenceToRawData());
+        Currency Back;
+        return AFrom.TypeInfo() != TypeInfo<Currency>() ||
+            (Currency::TryFromDouble(ANumber, Back) && Back == Raw<Currency>(AFrom));
+    }
+    if (!IsIntegerKind(AFrom.Kind()))
+        return false;
+    const TWideOrdinal Ordinal = OrdinalOf(AFrom);
+    ANumber = NumberOf(Ordinal);
+    return IsExact(Ordinal, ANumber);
+}
+
 bool ToFloat(const TValue& AFrom, PTypeInfo AType, TValue& AResult) {
     double Number = 0;
-    if (AFrom.Kind() == tkFloat)
-        Number = ReadFloat(AFrom.TypeInfo(), AFrom.GetReferenceToRawData());
-    else if (!IsIntegerKind(AFrom.Kind()) || !IsExact(OrdinalOf(AFrom), Number = NumberOf(OrdinalOf(AFrom))))
+    if (!ExactNumber(AFrom, Number))
         return false;
     bool IsHeld = false;
     TValue Result =
@@ -66,12 +74,17 @@ bool ToFloat(const TValue& AFrom, PTypeInfo AType, TValue& AResult) {
     return IsHeld;
 }
 
+bool TryText(const TValue& AFrom, UnicodeString& AText) {
+    return IsTextKind(AFrom.Kind()) && ReadText(AFrom.TypeInfo(), AFrom.GetReferenceToRawData(), AText);
+}
+
 bool ToText(const TValue& AFrom, PTypeInfo AType, TValue& AResult) {
-    if (!IsTextKind(AFrom.Kind()))
+    UnicodeString Read;
+    if (!TryText(AFrom, Read))
         return false;
-    const UnicodeString Text = AFrom.AsString();
+    const UnicodeString& Text = Read;
     if (AType->Kind == tkChar || AType->Kind == tkWChar) {
-        if (Text.size() != 1 || (AType->Kind == tkChar && Text[0] > u'\x7F'))
+        if (Text.size() != 1 || !HoldsOrdinal(AType, {Text[0], false}))
             return false;
         AResult = MakeOrdinal(AType, Text[0]);
         return true;
@@ -125,11 +138,6 @@ bool ToClassRef(const TValue& AFrom, PTypeInfo AType, TValue& AResult) {
     return true;
 }
 
-bool IsReference(TTypeKind AKind) noexcept {
-    return AKind == tkClass || AKind == tkInterface || AKind == tkClassRef || AKind == tkPointer ||
-        AKind == tkMethod || AKind == tkProcedure;
-}
-
 Variant IntegerVariant(PTypeInfo AType, std::int64_t AValue) noexcept {
     switch (AType->Ops->Size) {
     case 1:
@@ -162,12 +170,17 @@ Variant FloatVariant(const TValue& AValue) noexcept {
     return Number;
 }
 
-Variant TextVariant(const TValue& AValue) {
+bool TextVariant(const TValue& AValue, Variant& AResult) {
+    UnicodeString Text;
     if (AValue.TypeInfo() == TypeInfo<WideString>())
-        return Raw<WideString>(AValue);
-    if (AValue.TypeInfo() == TypeInfo<AnsiString>())
-        return Raw<AnsiString>(AValue);
-    return AValue.AsString();
+        AResult = Raw<WideString>(AValue);
+    else if (AValue.TypeInfo() == TypeInfo<AnsiString>())
+        AResult = Raw<AnsiString>(AValue);
+    else if (TryText(AValue, Text))
+        AResult = Text;
+    else
+        return false;
+    return true;
 }
 
 // False when the value makes no variant.
@@ -190,11 +203,7 @@ bool ToVariant(const TValue& AValue, Variant& AResult) {
         AResult = OrdinalVariant(AValue.AsOrdinal());
         return true;
     case tkInterface: AResult = Raw<Ref<IInterface>>(AValue); return true;
-    default:
-        if (!IsTextKind(AValue.Kind()))
-            return false;
-        AResult = TextVariant(AValue);
-        return true;
+    default: return TextVariant(AValue, AResult);
     }
 }
 
@@ -204,11 +213,13 @@ bool TValue::TryCast(PTypeInfo AType, TValue& AResult) const {
     if (AType == nullptr)
         return false;
     if (FType == AType) {
+        if (AType->Ops->IsSmall && AType->Ops->Copy == nullptr)
+            return false;
         AResult = *this;
         return true;
     }
     if (FType == nullptr) {
-        if (!IsReference(AType->Kind) && AType->Kind != tkVariant)
+        if (!IsReferenceKind(AType->Kind) && AType->Kind != tkVariant)
             return false;
         AResult = Make(nullptr, AType);
         return true;
@@ -269,9 +280,10 @@ Extended TValue::AsExtended() const {
 }
 
 UnicodeString TValue::AsString() const {
-    if (!IsTextKind(Kind()))
+    UnicodeString Result;
+    if (!TryText(*this, Result))
         RaiseCast(u"string");
-    return ReadText(FType, GetReferenceToRawData());
+    return Result;
 }
 
 Variant TValue::AsVariant() const {

@@ -44,8 +44,9 @@ namespace detail {
 
 template <class T>
 concept CVariantNumber = std::same_as<T, float> || std::same_as<T, double> ||
-    (std::integral<T> && !std::same_as<T, bool> && !std::same_as<T, char> && !std::same_as<T, char8_t> &&
-     !std::same_as<T, char16_t> && !std::same_as<T, char32_t> && !std::same_as<T, wchar_t>);
+    (std::integral<T> && sizeof(T) <= 8 && !std::same_as<T, bool> && !std::same_as<T, char> &&
+     !std::same_as<T, char8_t> && !std::same_as<T, char16_t> && !std::same_as<T, char32_t> &&
+     !std::same_as<T, wchar_t>);
 
 // The code of a number by its width and sign.
 template <CVariantNumber T> consteval TVarType VarTypeOf() noexcept {

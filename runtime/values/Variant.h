@@ -78,9 +78,10 @@ public:
     requires std::constructible_from<Ref<IInterface>, I*> Variant(const Ref<I>& AInterface) noexcept
         : Variant(Ref<IInterface>(AInterface.Get()), varUnknown) {}
     // An object, which somebody else owns and keeps alive.
-    template <std::derived_from<TObject> T> Variant(T* AObject) noexcept : FType(varObject) {
-        FData.Object = AObject;
-    }
+    template <std::derived_from<TObject> T>
+        requires(!std::is_const_v<T>)
+    Variant(T* AObject)
+    noexcept : FType(varObject) { FData.Object = AObject; }
     Variant(const Variant& AOther) noexcept {
         CopyBits(AOther);
         if (IsManaged(FType))

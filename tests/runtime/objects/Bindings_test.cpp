@@ -4,6 +4,7 @@
 #include "runtime/objects/DescribeComponent.h"
 #include "runtime/objects/LinkControlToProperty.h"
 #include "runtime/reflection/BasicTypes.h"
+#include "runtime/values/Currency.h"
 
 namespace qz {
 namespace {
@@ -58,6 +59,7 @@ public:
     UTF8String FUtf8;
     WideString FWide;
     TLarge FLarge;
+    Currency FMoney;
     int FWrites = 0;
 
 protected:
@@ -91,6 +93,7 @@ constexpr TPropInfo cModelProps[] = {
     Property<&TModel::FUtf8, &TModel::FUtf8>(u"Utf8"),
     Property<&TModel::FWide, &TModel::FWide>(u"Wide"),
     Property<&TModel::FLarge, &TModel::FLarge>(u"Large"),
+    Property<&TModel::FMoney, &TModel::FMoney>(u"Money"),
     ReadOnly<&TModel::FWrites>(u"Writes"),
 };
 constinit const TClassRec TModel::ClassRec =
@@ -238,12 +241,27 @@ TEST_F(Bindings, ValuesConvertOrAreRefused) {
     EXPECT_EQ(FA->Text(), "18446744073709551615");
     Move(FB.get(), u"Big", FA.get(), u"Float");
     EXPECT_EQ(FA->Float(), 18446744073709551616.0);
+    FA->FBig = (1ull << 63) + 1025; // rounded once
+    Move(FA.get(), u"Big", FA.get(), u"Float");
+    EXPECT_EQ(FA->Float(), static_cast<double>(FA->FBig));
     Move(FA.get(), u"Text", FA.get(), u"Big");
     EXPECT_EQ(FA->FBig, FB->FBig);
     Move(FA.get(), u"Single", FB.get(), u"Float");
     EXPECT_EQ(FB->Float(), 1.5);
     Move(FB.get(), u"Float", FB.get(), u"Text");
     EXPECT_EQ(FB->Text(), "1.5");
+    FB->SetFloat(0.4);
+    Move(FB.get(), u"Float", FA.get(), u"Flag");
+    EXPECT_TRUE(FA->FFlag);
+    FB->FMoney = Currency::FromUnits(9000000000000000001);
+    FA->FMoney = Currency::FromUnits(9000000000000000002);
+    Move(FB.get(), u"Money", FA.get(), u"Money"); // the same as a double
+    EXPECT_EQ(FA->FMoney, FB->FMoney);
+    Move(FA.get(), u"Money", FB.get(), u"Text");
+    EXPECT_EQ(FB->Text(), "900000000000000.0001");
+    FA->FMoney = Currency();
+    Move(FB.get(), u"Text", FA.get(), u"Money");
+    EXPECT_EQ(FA->FMoney, FB->FMoney);
     FA->FLarge.Items[5] = 9;
     FA->FLarge.Text = u"large";
     Move(FA.get(), u"Large", FB.get(), u"Large");

@@ -15,6 +15,9 @@ enum class TSigned : std::int64_t { sgLow = INT64_MIN, sgNone = -1, sgHigh = INT
 using TByteSet = TSet<TDay, 8>;
 using TWordSet = TSet<TDay, 16>;
 using TFullSet = TSet<TDay, 64>;
+struct TVastSet {
+    std::uint8_t Bytes[4096];
+};
 
 } // namespace
 } // namespace qz
@@ -24,6 +27,7 @@ QZ_TYPE_INFO(qz::TSigned);
 QZ_TYPE_INFO(qz::TByteSet);
 QZ_TYPE_INFO(qz::TWordSet);
 QZ_TYPE_INFO(qz::TFullSet);
+QZ_TYPE_INFO(qz::TVastSet);
 
 namespace qz {
 
@@ -35,6 +39,7 @@ constinit const TTypeInfo TInfo<TSigned>::Info = DescribeEnum<TSigned>(u"TSigned
 constinit const TTypeInfo TInfo<TByteSet>::Info = DescribeOf<TByteSet, TDay>(tkSet, u"TByteSet", u"Test");
 constinit const TTypeInfo TInfo<TWordSet>::Info = DescribeOf<TWordSet, TDay>(tkSet, u"TWordSet", u"Test");
 constinit const TTypeInfo TInfo<TFullSet>::Info = DescribeOf<TFullSet, TDay>(tkSet, u"TFullSet", u"Test");
+constinit const TTypeInfo TInfo<TVastSet>::Info = DescribeOf<TVastSet, TDay>(tkSet, u"TVastSet", u"Test");
 
 namespace {
 
@@ -64,6 +69,7 @@ TEST(EnumNames, SetsAreReadAsTheyAreWritten) {
         {TypeInfo<TByteSet>(), 0x80, u"7"},
         {TypeInfo<TWordSet>(), 0x8001, u"dyMon,15"},
         {TypeInfo<TFullSet>(), INT64_MIN | 0x40, u"dySun,63"},
+        {TypeInfo<TVastSet>(), INT64_MIN | 0x40, u"dySun,63"}, // no bit tells of the others
     };
     for (const TRow& Row : cRows) {
         EXPECT_EQ(SetToString(Row.Type, Row.Bits), Row.Text);

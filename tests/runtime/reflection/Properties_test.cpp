@@ -13,6 +13,7 @@ namespace {
 
 enum class TInk : std::uint8_t { ikRed, ikBlue };
 using TInks = TSet<TInk, 8>;
+using TManyInks = TSet<TInk, 64>;
 
 class ILabel : public IInterface {
 public:
@@ -42,12 +43,13 @@ public:
 
     std::int8_t FSmall = -5;
     std::uint64_t FBig = UINT64_MAX;
-    std::int64_t FWide = 1;
+    long long FWide = 1; // described by its width and sign
     char16_t FKey = u'K';
     char FMark = 'm';
     TInk FInk = TInk::ikBlue;
     bool FOn = true;
     TInks FInks = {TInk::ikRed, TInk::ikBlue};
+    TManyInks FMany = {TInk::ikBlue};
     float FSingle = 0.5f;
     TDateTime FDay = 2.5;
     Currency FPrice = Currency(1.25);
@@ -72,6 +74,7 @@ public:
 
 QZ_TYPE_INFO(qz::TInk);
 QZ_TYPE_INFO(qz::TInks);
+QZ_TYPE_INFO(qz::TManyInks);
 QZ_TYPE_INFO(qz::ILabel);
 
 namespace qz {
@@ -79,6 +82,8 @@ namespace qz {
 constexpr TEnumItem cInks[] = {{u"ikRed", 0}, {u"ikBlue", 1}};
 constinit const TTypeInfo TTypeDescription<TInk>::Info = DescribeEnum<TInk>(u"TInk", u"Test", cInks);
 constinit const TTypeInfo TTypeDescription<TInks>::Info = DescribeOf<TInks, TInk>(tkSet, u"TInks", u"Test");
+constinit const TTypeInfo TTypeDescription<TManyInks>::Info =
+    DescribeOf<TManyInks, TInk>(tkSet, u"TManyInks", u"Test");
 constinit const TTypeInfo TTypeDescription<ILabel>::Info = DescribeInterface<ILabel>(u"ILabel", u"Test");
 
 namespace {
@@ -103,6 +108,7 @@ constexpr TPropInfo cPenProps[] = {
     Data<&TPen::FInk>(u"Ink"),
     Data<&TPen::FOn>(u"On"),
     Data<&TPen::FInks>(u"Inks"),
+    Data<&TPen::FMany>(u"Many"),
     Data<&TPen::FSingle>(u"Single"),
     Data<&TPen::FDay>(u"Day"),
     Data<&TPen::FPrice>(u"Price"),
@@ -135,8 +141,8 @@ UnicodeString Names(TPropInfos AProps) {
 TEST(Properties, AreListedParentsFirstAndNewestDeclarationInTheOldPlace) {
     EXPECT_EQ(
         Names(GetPropInfos(ClassOf<TFinePen>())),
-        u"Small Big Wide WIDTH Key Mark Ink On Inks Single Day Price Narrow Any Id Label Secret Title Next "
-        u"Extra ");
+        u"Small Big Wide WIDTH Key Mark Ink On Inks Many Single Day Price Narrow Any Id Label Secret Title "
+        u"Next Extra ");
     EXPECT_EQ(Names(GetPropInfos(ClassOf<TObject>())), u"");
     EXPECT_EQ(Names(GetPropInfos(TypeInfo<int>())), u"");
     EXPECT_EQ(Names(GetPropInfos(TClass())), u"");
@@ -159,14 +165,19 @@ TEST(Properties, TravelAsVariants) {
         {u"Big", u"18446744073709551615", u"18446744073709551615", varUInt64, u"18446744073709551613",
          u"18446744073709551613"},
         {u"Wide", u"1", u"1", varInt64, 2.5, u"2"},
+        {u"Wide", u"1", u"1", varInt64, true, u"-1"},
         {u"Key", u"K", u"75", varInteger, u"ä", u"ä"},
         {u"Mark", u"m", u"109", varInteger, 65, u"A"},
+        {u"Mark", u"m", u"109", varInteger, u"ä", u"ä"},
         {u"Ink", u"ikBlue", u"1", varInteger, u"IKRED", u"ikRed"},
         {u"Ink", u"ikBlue", u"1", varInteger, 0, u"ikRed"},
         {u"On", u"True", u"True", varBoolean, false, u"False"},
         {u"On", u"True", u"True", varBoolean, u"false", u"False"},
+        {u"On", u"True", u"True", varBoolean, 0.5, u"True"},
         {u"Inks", u"ikRed,ikBlue", u"3", varInteger, u"[ikBlue]", u"ikBlue"},
         {u"Inks", u"ikRed,ikBlue", u"3", varInteger, 1, u"ikRed"},
+        {u"Many", u"ikBlue", u"2", varInteger, 1ull << 63, u"63"},
+        {u"Many", u"ikBlue", u"2", varInteger, INT64_MIN, u"63"},
         {u"Single", u"0.5", u"0.5", varDouble, u"2.25", u"2.25"},
         {u"Day", u"2.5", u"2.5", varDouble, 3, u"3"},
         {u"Price", u"1.25", u"1.25", varCurrency, 2.5, u"2.5"},
@@ -236,6 +247,12 @@ TEST(Properties, RefuseWhatDoesNotFit) {
     EXPECT_THROW(SetProp(Pen, u"Small", 128), EInvalidCast);
     EXPECT_THROW(SetStrProp(Pen, u"Key", u"two"), EInvalidCast);
     EXPECT_THROW(SetPropValue(Pen, u"Small", 128), ERangeError);
+    EXPECT_THROW(SetPropValue(Pen, u"Big", -1), ERangeError);
+    EXPECT_THROW(SetPropValue(Pen, u"Price", 1e30), ERangeError);
+    EXPECT_THROW(SetPropValue(Pen, u"Single", 1e300), ERangeError);
+    EXPECT_THROW(SetFloatProp(Pen, u"Single", 1e300), ERangeError);
+    EXPECT_THROW(SetFloatProp(Pen, u"Price", 1e300), ERangeError);
+    EXPECT_THROW(SetOrdProp(Pen, u"On", 2), ERangeError);
     EXPECT_THROW(SetOrdProp(Pen, u"Inks", 256), ERangeError);
     EXPECT_THROW(SetPropValue(Pen, u"Wide", u"x"), EVariantTypeCastError);
     EXPECT_EQ(Pen.FNext, nullptr);

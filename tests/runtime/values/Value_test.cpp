@@ -76,6 +76,17 @@ using TLargeNoted = TNoted<40>;
 struct alignas(64) TAligned {
     double X = 0;
 };
+struct TMoveOnly {
+    TMoveOnly() = default;
+    TMoveOnly(TMoveOnly&&) = default;
+    TMoveOnly& operator=(TMoveOnly&&) = default;
+    int X = 5;
+};
+struct THolder { // a value even while it holds nothing
+    const char* Get() const { return Held; }
+    const char* Held = nullptr;
+};
+enum class TSwitch : bool { swOff, swOn };
 
 } // namespace
 } // namespace qz
@@ -93,6 +104,9 @@ QZ_TYPE_INFO(qz::IOther);
 QZ_TYPE_INFO(qz::TSmallNoted);
 QZ_TYPE_INFO(qz::TLargeNoted);
 QZ_TYPE_INFO(qz::TAligned);
+QZ_TYPE_INFO(qz::TMoveOnly);
+QZ_TYPE_INFO(qz::THolder);
+QZ_TYPE_INFO(qz::TSwitch);
 QZ_TYPE_INFO(qz::ExceptionClass);
 
 namespace qz {
@@ -114,6 +128,9 @@ constinit const TTypeInfo TInfo<IOther>::Info = DescribeInterface<IOther>(u"IOth
 constinit const TTypeInfo TInfo<TSmallNoted>::Info = DescribeRecord<TSmallNoted>(u"TSmallNoted", u"Test");
 constinit const TTypeInfo TInfo<TLargeNoted>::Info = DescribeRecord<TLargeNoted>(u"TLargeNoted", u"Test");
 constinit const TTypeInfo TInfo<TAligned>::Info = DescribeRecord<TAligned>(u"TAligned", u"Test");
+constinit const TTypeInfo TInfo<TMoveOnly>::Info = DescribeRecord<TMoveOnly>(u"TMoveOnly", u"Test");
+constinit const TTypeInfo TInfo<THolder>::Info = DescribeRecord<THolder>(u"THolder", u"Test");
+constinit const TTypeInfo TInfo<TSwitch>::Info = DescribeEnum<TSwitch>(u"TSwitch", u"Test", {});
 constinit const TTypeInfo TInfo<ExceptionClass>::Info =
     DescribeOf<ExceptionClass, Exception>(tkClassRef, u"ExceptionClass", u"Test");
 
@@ -212,6 +229,8 @@ TEST_F(Value, CastsWhereNothingIsLost) {
     const TObject* cNull = nullptr;
     const TValue cNullObject = TValue::Make(&cNull, TypeInfo<TObject>());
     constexpr double cTwo63 = 9223372036854775808.0;
+    RawByteString Unreadable("x");
+    Unreadable.RelabelCodePage(60001);
     const struct TRow {
         TValue From;
         PTypeInfo To;
@@ -236,6 +255,8 @@ TEST_F(Value, CastsWhereNothingIsLost) {
         {TDateTime(1.5), TypeInfo<double>(), u"1.5"},
         {2.5, TypeInfo<Currency>(), u"2.5"},
         {0.00001, TypeInfo<Currency>(), u"-"},
+        {Currency(0.1), TypeInfo<double>(), u"0.1"},
+        {Currency::FromUnits(9000000000000000001), TypeInfo<double>(), u"-"},
         {std::nan(""), TypeInfo<Currency>(), u"-"},
         {2.0, TypeInfo<int>(), u"-"},
         {'A', TypeInfo<int>(), u"-"},
@@ -244,7 +265,12 @@ TEST_F(Value, CastsWhereNothingIsLost) {
         {UTF8String(u"ö"), TypeInfo<WideString>(), u"ö"},
         {u"ö", TypeInfo<RawByteString>(), u"ö"},
         {u"ö", TypeInfo<char16_t>(), u"ö"},
-        {u"ö", TypeInfo<char>(), u"-"},
+        {u"ö", TypeInfo<char>(), u"ö"},
+        {u"Ж", TypeInfo<char>(), u"-"},
+        {'\xE4', TypeInfo<UnicodeString>(), u"ä"},
+        {Unreadable, TypeInfo<UnicodeString>(), u"-"},
+        {Unreadable, TypeInfo<char>(), u"-"},
+        {Unreadable, TypeInfo<Variant>(), u"-"},
         {u"xy", TypeInfo<char16_t>(), u"-"},
         {'x', TypeInfo<UnicodeString>(), u"x"},
         {u"5", TypeInfo<int>(), u"-"},
@@ -293,7 +319,8 @@ TEST_F(Value, GivesTypedValues) {
     EXPECT_TRUE(Text.TryAsType(Wide));
     EXPECT_EQ(Wide, u"text");
     EXPECT_EQ(Text.AsType<WideString>(), u"text");
-    EXPECT_EQ(TValue(std::int16_t{-3}).AsType<std::int64_t>(), -3);
+    EXPECT_EQ(TValue(std::int16_t{-3}).AsType<long long>(), -3);
+    EXPECT_EQ(TValue(-3LL).AsType<long>(), -3);
     EXPECT_EQ(TValue(TSize::szLarge).AsType<TSize>(), TSize::szLarge);
     TPlain Plain;
     EXPECT_EQ(TValue(static_cast<TObject*>(&Plain)).AsType<TPlain*>(), &Plain);
@@ -327,6 +354,7 @@ TEST_F(Value, TellsWhatIsEmpty) {
         {TClass(), true},
         {ClassOf<TPlain>(), false},
         {TGUID(), false},
+        {THolder(), false},
         {Ref<IShape>(), true},
         {TSides(), false},
         {static_cast<TObject*>(nullptr), true},
@@ -367,6 +395,8 @@ TEST_F(Value, TakesLiteralsAsTheirTypes) {
     };
     for (const TRow& Row : cRows)
         EXPECT_EQ(Row.Value.TypeInfo(), Row.Type);
+    static_assert(!std::is_convertible_v<const TPlain*, TValue> &&
+                  !std::is_convertible_v<const TPlain*, Variant>);
     static_assert(!std::is_convertible_v<std::nullptr_t, TValue> && !std::is_convertible_v<wchar_t, TValue> &&
                   !std::is_convertible_v<TPlain, TValue> && !std::is_convertible_v<std::vector<int>, TValue>);
 }
@@ -396,6 +426,9 @@ TEST_F(Value, SharesLargeValuesAndMovesSmallOnes) {
         EXPECT_EQ(TakeTrace(), u"copied(a) freed(a) ");
     }
     EXPECT_EQ(TakeTrace(), u"freed(a) ");
+    TValue Lone = TValue::Make(nullptr, TypeInfo<TMoveOnly>());
+    EXPECT_THROW(TValue{Lone}, EInvalidCast);
+    EXPECT_TRUE(TValue(std::move(Lone)).IsType<TMoveOnly>());
     const TValue Aligned = TAligned{2.5};
     EXPECT_EQ(reinterpret_cast<std::uintptr_t>(Aligned.GetReferenceToRawData()) % alignof(TAligned), 0u);
     EXPECT_EQ(Aligned.AsType<TAligned>().X, 2.5);
@@ -433,6 +466,8 @@ TEST_F(Value, MakesValuesFromRawData) {
     EXPECT_EQ(TValue::FromOrdinal(TypeInfo<std::uint64_t>(), -1).ToString(), u"18446744073709551615");
     EXPECT_THROW(TValue::FromOrdinal(TypeInfo<std::int8_t>(), 128), ERangeError);
     EXPECT_THROW(TValue::FromOrdinal(TypeInfo<TSides>(), 256), ERangeError);
+    EXPECT_THROW(TValue::FromOrdinal(TypeInfo<bool>(), 2), ERangeError);
+    EXPECT_THROW(TValue::FromOrdinal(TypeInfo<TSwitch>(), -1), ERangeError);
     EXPECT_THROW(TValue::FromOrdinal(TypeInfo<double>(), 1), EInvalidCast);
 }
 
