@@ -30,6 +30,10 @@ std::int64_t OffsetAt(std::int64_t AMinute) noexcept {
 
 } // namespace
 
+void RefreshLocalClock() noexcept {
+    GMinuteAndOffset.store(-1, std::memory_order_relaxed);
+}
+
 TLocalInstant LocalClock() noexcept {
     for (;;) {
         const std::int64_t Now = platform::UtcNow100ns();

@@ -20,4 +20,7 @@ struct TLocalInstant {
 
 QZ_API TLocalInstant LocalClock() noexcept;
 
+// Has the next look ask the system; for who has just changed the zone and cannot wait for the next minute.
+QZ_API void RefreshLocalClock() noexcept;
+
 } // namespace qz

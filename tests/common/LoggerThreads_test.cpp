@@ -125,6 +125,51 @@ TEST(LoggerThreads, AppendersThatLogCrosswiseDoNotStop) {
     Right->ClearAppenders();
 }
 
+TEST(LoggerThreads, ChildrenAreWalkedWhileTheyComeAndGo) {
+    const TLogTree Tree;
+    const TLoggingThreads Threads;
+    TQzLoggerList& List = *Logger().GetChildLoggers();
+    for (int I = 0; I < 500; ++I) {
+        List.Lock(u"walk", true);
+        for (int Child = 0; Child < List.Count(); ++Child)
+            EXPECT_EQ(u"root.a", List.GetLogger(Child)->GetFullName());
+        List.Unlock();
+    }
+}
+
+// Takes all messages, and logs each question.
+class TTalkingConfiguration : public TInterfacedObject, public IQzLogConfigurator {
+    QZ_CLASS(TTalkingConfiguration, TInterfacedObject)
+    QZ_INTERFACE_COUNTING(TInterfacedObject)
+
+public:
+    Variant GetLoggerValue(const UnicodeString& ALogger, const UnicodeString& AKey, TQzMainTypeKind,
+                           const Variant& ADefault) override {
+        Logger().Info(u"asked by " + ALogger);
+        return AKey == UnicodeString(u"Level") ? Variant(0) : ADefault;
+    }
+    Variant GetAppenderValue(const UnicodeString&, const UnicodeString&, TQzMainTypeKind,
+                             const Variant& ADefault) override {
+        return ADefault;
+    }
+};
+
+const TClassRec TTalkingConfiguration::ClassRec = DescribeClass<TTalkingConfiguration>(
+    u"TTalkingConfiguration",
+    {.Unit = u"Tests", .Interfaces = Interfaces<TTalkingConfiguration, IQzLogConfigurator>()});
+
+// The configurator logs while a logger is got; the appender gets a logger while a message is on its way.
+TEST(LoggerThreads, ConfiguratorsAndAppendersDoNotWaitForEachOther) {
+    const TLogTree Tree;
+    const Ref<IQzLogConfigurator> Configuration = TTalkingConfiguration::Create();
+    AddMemory(Logger()).OnWrite = [](const UnicodeString&) { Logger().GetLogger("of.appender"); };
+    Logger().SetConfig(Configuration.Get());
+    const TLoggingThreads Threads;
+    for (int I = 0; I < 200; ++I)
+        Logger().GetLogger("main")->Info("x");
+    Logger().SetConfig(nullptr);
+}
+
 TEST(LoggerThreads, TwoFirstCallersGetOneRoot) {
     for (int Round = 0; Round < 50; ++Round) {
         const TLogTree Tree;

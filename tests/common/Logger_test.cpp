@@ -190,6 +190,57 @@ TEST(Logger, AppendersMayChangeTheirListWhileTheyWrite) {
     EXPECT_EQ(0, Logger().GetAppenders()->Count());
 }
 
+TEST(Logger, AppendersThatLogWithEachMessageMakeNoFlood) {
+    const TLogTree Tree;
+    int Writes = 0;
+    for (int I = 0; I < 9; ++I)
+        AddMemory(Logger()).OnWrite = [&Writes](const UnicodeString& AMessage) {
+            ++Writes;
+            Logger().Info(AMessage);
+        };
+    const std::uint64_t Before = QzDroppedLogMessages();
+    Logger().Info("x");
+    EXPECT_GT(9 * 1001, Writes);
+    EXPECT_LT(Before, QzDroppedLogMessages());
+    Logger().ClearAppenders();
+    TMemoryAppender& Out = AddMemory(Logger());
+    Logger().Info("y");
+    EXPECT_EQ(u"root>root Info y|", Out.Take());
+}
+
+// Refuses to close, or ends the tree, while a message is on its way.
+TEST(Logger, AppendersMayEndBadly) {
+    const TLogTree Tree;
+    UnicodeString Told;
+    QzSetLogDropHook([&Told](const TQzLogDrop& ADrop) { Told = ADrop.Appender + u": " + ADrop.Message; });
+    AddMemory(Logger(), u"Bad").OnClose = [] { throw EConvertError(u"disk full"); };
+    Logger().ClearAppenders();
+    EXPECT_EQ(u"Bad: disk full", Told);
+    QzSetLogDropHook(nullptr);
+    AddMemory(Logger()).OnWrite = [](const UnicodeString&) { CloseRootLogger(); };
+    TMemoryAppender& Behind = AddMemory(Logger());
+    const Ref<IQzLogAppender> Hold(static_cast<IQzLogAppender*>(&Behind));
+    Logger().Info("x");
+    EXPECT_EQ(u"", Behind.Take());
+    EXPECT_EQ(0, Logger().GetAppenders()->Count());
+}
+
+// A thread that holds up a list holds up itself too.
+TEST(Logger, MessagesWaitForALockedList) {
+    const TLogTree Tree;
+    TMemoryAppender& Out = AddMemory(Logger());
+    Logger().LockAppenders();
+    Logger().Info("x");
+    EXPECT_EQ(u"", Out.Take());
+    Logger().UnLockAppenders();
+    EXPECT_EQ(u"root>root Info x|", Out.Take());
+    Logger().Lock(u"", true);
+    Logger().Info("y");
+    EXPECT_EQ(u"", Out.Take());
+    Logger().Unlock();
+    EXPECT_EQ(u"root>root Info y|", Out.Take());
+}
+
 TEST(Logger, OutlivesItsTree) {
     const TLogTree Tree;
     CloseRootLogger();

@@ -22,6 +22,9 @@ TEST(SimpleLayout, LinesHaveTimeLevelLoggerMessageAndValue) {
               WithoutTime(Layout->FormatLine(u"root", llInfo, u"started", nullptr, liIndentNone)));
     EXPECT_EQ(u"@ - Disabled  - a\nb - 17",
               WithoutTime(Layout->FormatLine(u"", llDoNotLog, u"a\nb", &Value, liIndentNone)));
+    EXPECT_EQ(
+        u"@ -  r - m",
+        WithoutTime(Layout->FormatLine(u"r", static_cast<TQzLogLevel>(200), u"m", nullptr, liIndentNone)));
     const TDateTime Before = Now();
     const UnicodeString Line = Layout->FormatLine(u"root", llAll, u"", nullptr, liIndentNone);
     const TDateTime After = Now();

@@ -35,6 +35,11 @@ public:
         Inherited::Initialize();
         ++Opened;
     }
+    void Close() override {
+        Inherited::Close();
+        if (OnClose)
+            OnClose();
+    }
     // What came since the last call, a bar behind each line.
     UnicodeString Take() {
         const TScopedLock Hold(*this);
@@ -45,6 +50,7 @@ public:
     }
 
     std::function<void(const UnicodeString& AMessage)> OnWrite;
+    std::function<void()> OnClose;
     std::vector<UnicodeString> Lines;
     int Opened = 0;
 
