@@ -19,3 +19,5 @@
 // QzSameText, QzSameVar, QzIf: equality
 // and the choice between two values.
 #include "common/uQzSysUtils/Compare.h"
+// QzAge: ages in whole years.
+#include "common/uQzSysUtils/Age.h"

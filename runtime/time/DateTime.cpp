@@ -1,6 +1,7 @@
 #include "runtime/time/DateTime.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "platform/Clock.h"
@@ -16,11 +17,12 @@ constinit const TTypeInfo TTypeDescription<TTime>::Info = DescribeType<TTime>(tk
 
 namespace {
 
-constexpr std::int64_t cDaysPer400Years = 146097;
-constexpr std::int64_t cFirstDay = -693593;
-constexpr std::int64_t cLastDay = 2958465;
+constexpr std::uint32_t cDaysPer4Years = 1461;
+constexpr std::int32_t cDaysPer400Years = 146097;
+constexpr std::int32_t cFirstDay = -693593;
+constexpr std::int32_t cLastDay = 2958465;
 // Days from 0000-03-01 to 1899-12-30. Years that begin in March have their leap day at the end.
-constexpr std::int64_t cDaysFromMarch0 = 693899;
+constexpr std::int32_t cDaysFromMarch0 = 693899;
 constexpr std::int64_t cDay1601 = -109205;
 constexpr std::int64_t c100nsPerMSec = 10000;
 
@@ -34,23 +36,49 @@ struct TYearMonthDay {
     int Day;
 };
 
-// The inverse of DayNumber, by the lengths of the 400-year, 100-year, 4-year and 1-year cycles.
-TYearMonthDay CivilDate(std::int64_t ADayNumber) noexcept {
-    const std::int64_t Days = ADayNumber + cDaysFromMarch0;
-    const std::int64_t Era = FloorDiv(Days, cDaysPer400Years);
-    const std::int64_t DayOfEra = Days - Era * cDaysPer400Years;
-    const std::int64_t YearOfEra =
-        (DayOfEra - DayOfEra / 1460 + DayOfEra / 36524 - DayOfEra / (cDaysPer400Years - 1)) / 365;
-    const std::int64_t DayOfYear = DayOfEra - (365 * YearOfEra + YearOfEra / 4 - YearOfEra / 100);
-    const std::int64_t MonthFromMarch = (5 * DayOfYear + 2) / 153;
-    const std::int64_t Month = MonthFromMarch < 10 ? MonthFromMarch + 3 : MonthFromMarch - 9;
-    return {static_cast<int>(Era * 400 + YearOfEra + (Month <= 2 ? 1 : 0)), static_cast<int>(Month),
-            static_cast<int>(DayOfYear - (153 * MonthFromMarch + 2) / 5 + 1)};
+// The inverse of DayNumber for the days from cFirstDay to cLastDay. A division by the length of a cycle leaves the day
+// within the cycle; centuries and years are counted in quarters of a day, so that leap days need no case of their own.
+// The divisions by the length of a year and of a month are products whose high half is the quotient and whose low half
+// still holds the remainder; that is exact as far as a century and a year reach.
+constexpr TYearMonthDay CivilDate(std::int32_t ADayNumber) noexcept {
+    constexpr std::uint64_t cYearFactor = 2939745; // 2^32 / cDaysPer4Years, rounded up
+    constexpr std::uint32_t cMonthFactor = 2141;   // 2^16 * 5 / 153 months a day, rounded down
+    constexpr std::uint32_t cMarch = 197913;       // 3 months, and what makes the rounding fit
+    const std::uint32_t Quarters = 4 * static_cast<std::uint32_t>(ADayNumber + cDaysFromMarch0) + 3;
+    const std::uint32_t Century = Quarters / cDaysPer400Years;
+    const std::uint64_t Years = cYearFactor * (Quarters % cDaysPer400Years | 3);
+    const std::uint32_t DayOfYear =
+        static_cast<std::uint32_t>(Years) / static_cast<std::uint32_t>(cYearFactor) / 4;
+    const std::uint32_t Months = cMonthFactor * DayOfYear + cMarch;
+    const std::uint32_t IsNextYear = DayOfYear >= 306 ? 1 : 0; // January or February
+    return {static_cast<int>(100 * Century + static_cast<std::uint32_t>(Years >> 32) + IsNextYear),
+            static_cast<int>((Months >> 16) - 12 * IsNextYear),
+            static_cast<int>((Months & 0xFFFF) / cMonthFactor + 1)};
 }
 
 constexpr bool IsDate(int AYear, int AMonth, int ADay) noexcept {
     return AYear >= 1 && AYear <= 9999 && AMonth >= 1 && AMonth <= 12 && ADay >= 1 &&
         ADay <= MonthDays[IsLeapYear(AYear)][AMonth - 1];
+}
+
+// Days of the year before each month; [1] in leap years.
+constexpr auto cDaysBefore = [] {
+    std::array<std::array<std::uint16_t, 12>, 2> Result{};
+    for (std::size_t Leap = 0; Leap < 2; ++Leap)
+        for (std::size_t Month = 1; Month < 12; ++Month)
+            Result[Leap][Month] =
+                static_cast<std::uint16_t>(Result[Leap][Month - 1] + MonthDays[Leap][Month - 1]);
+    return Result;
+}();
+
+// DayNumber of what is a date.
+constexpr std::int32_t DayOfDate(int AYear, int AMonth, int ADay) noexcept {
+    const std::uint32_t YearsBefore = static_cast<std::uint32_t>(AYear) - 1;
+    const std::uint32_t Centuries = YearsBefore / 100;
+    const std::uint32_t Month = static_cast<std::uint32_t>(AMonth) - 1;
+    return static_cast<std::int32_t>(cDaysPer4Years * YearsBefore / 4 - Centuries + Centuries / 4 +
+                                     cDaysBefore[IsLeapYear(AYear)][Month]) +
+        ADay - DateDelta;
 }
 
 constexpr bool IsTime(int AHour, int AMinute, int ASecond, int AMilliSecond) noexcept {
@@ -67,6 +95,58 @@ constexpr std::int32_t MSecsOf(int AHour, int AMinute, int ASecond, int AMilliSe
 }
 [[noreturn]] void RaiseTimeEncode() {
     throw EConvertError(u"Invalid argument to time encode");
+}
+[[noreturn]] void RaiseDateTime() {
+    throw EConvertError(u"Invalid date and time");
+}
+
+// The exported functions stand on these, since calls among themselves would go through the table of the shared library.
+// The whole part has the sign, the time of day is what the fraction says without it.
+bool TrySplit(TDateTime AValue, TDayAndTime& AParts) noexcept {
+    if (!(AValue.Value > cFirstDay - 1 && AValue.Value < cLastDay + 1))
+        return false;
+    auto Day = static_cast<std::int32_t>(AValue.Value);
+    const double Exactly = std::fabs(AValue.Value - Day) * MSecsPerDay;
+    auto MSecs = static_cast<std::int32_t>(Exactly);
+    MSecs += Exactly - MSecs >= 0.5 ? 1 : 0;
+    if (MSecs == MSecsPerDay) {
+        ++Day;
+        MSecs = 0;
+    }
+    if (Day < cFirstDay || Day > cLastDay)
+        return false;
+    AParts = {Day, MSecs};
+    return true;
+}
+
+TDayAndTime Split(TDateTime AValue) {
+    TDayAndTime Result;
+    if (!TrySplit(AValue, Result)) [[unlikely]]
+        RaiseDateTime();
+    return Result;
+}
+
+TDateTime Join(TDayAndTime AParts) noexcept {
+    const double Fraction = AParts.MSecs / static_cast<double>(MSecsPerDay);
+    return AParts.Day < 0 ? AParts.Day - Fraction : AParts.Day + Fraction;
+}
+
+// The parts of what Split gives.
+void DecodeDay(std::int32_t ADayNumber, std::uint16_t& AYear, std::uint16_t& AMonth,
+               std::uint16_t& ADay) noexcept {
+    const TYearMonthDay Civil = CivilDate(ADayNumber);
+    AYear = static_cast<std::uint16_t>(Civil.Year);
+    AMonth = static_cast<std::uint16_t>(Civil.Month);
+    ADay = static_cast<std::uint16_t>(Civil.Day);
+}
+
+void DecodeMSecs(std::int32_t AMSecs, std::uint16_t& AHour, std::uint16_t& AMinute, std::uint16_t& ASecond,
+                 std::uint16_t& AMilliSecond) noexcept {
+    const auto MSecs = static_cast<std::uint32_t>(AMSecs);
+    AMilliSecond = static_cast<std::uint16_t>(MSecs % 1000);
+    ASecond = static_cast<std::uint16_t>(MSecs / 1000 % 60);
+    AMinute = static_cast<std::uint16_t>(MSecs / 60000 % 60);
+    AHour = static_cast<std::uint16_t>(MSecs / 3600000);
 }
 
 TDayAndTime LocalDayAndTime() noexcept {
@@ -92,29 +172,27 @@ std::int64_t DayNumber(std::int64_t AYear, std::int64_t AMonth, std::int64_t ADa
 bool TryEncodeDate(int AYear, int AMonth, int ADay, TDateTime& ADate) noexcept {
     if (!IsDate(AYear, AMonth, ADay))
         return false;
-    ADate = static_cast<double>(DayNumber(AYear, AMonth, ADay));
+    ADate = DayOfDate(AYear, AMonth, ADay);
     return true;
 }
 
 TDateTime EncodeDate(int AYear, int AMonth, int ADay) {
-    TDateTime Result;
-    if (!TryEncodeDate(AYear, AMonth, ADay, Result))
+    if (!IsDate(AYear, AMonth, ADay)) [[unlikely]]
         RaiseDateEncode();
-    return Result;
+    return DayOfDate(AYear, AMonth, ADay);
 }
 
 bool TryEncodeTime(int AHour, int AMinute, int ASecond, int AMilliSecond, TDateTime& ATime) noexcept {
     if (!IsTime(AHour, AMinute, ASecond, AMilliSecond))
         return false;
-    ATime = MSecsOf(AHour, AMinute, ASecond, AMilliSecond) / static_cast<double>(MSecsPerDay);
+    ATime = Join({0, MSecsOf(AHour, AMinute, ASecond, AMilliSecond)});
     return true;
 }
 
 TDateTime EncodeTime(int AHour, int AMinute, int ASecond, int AMilliSecond) {
-    TDateTime Result;
-    if (!TryEncodeTime(AHour, AMinute, ASecond, AMilliSecond, Result))
+    if (!IsTime(AHour, AMinute, ASecond, AMilliSecond)) [[unlikely]]
         RaiseTimeEncode();
-    return Result;
+    return Join({0, MSecsOf(AHour, AMinute, ASecond, AMilliSecond)});
 }
 
 TDateTime EncodeDateTime(int AYear, int AMonth, int ADay, int AHour, int AMinute, int ASecond,
@@ -123,45 +201,23 @@ TDateTime EncodeDateTime(int AYear, int AMonth, int ADay, int AHour, int AMinute
         RaiseDateEncode();
     if (!IsTime(AHour, AMinute, ASecond, AMilliSecond))
         RaiseTimeEncode();
-    return JoinDateTime({static_cast<std::int32_t>(DayNumber(AYear, AMonth, ADay)),
-                         MSecsOf(AHour, AMinute, ASecond, AMilliSecond)});
-}
-
-// The whole part has the sign, the time of day is what the fraction says without it.
-bool TrySplitDateTime(TDateTime AValue, TDayAndTime& AParts) noexcept {
-    if (!(AValue.Value > static_cast<double>(cFirstDay - 1) &&
-          AValue.Value < static_cast<double>(cLastDay + 1)))
-        return false;
-    const double Whole = std::trunc(AValue.Value);
-    auto Day = static_cast<std::int32_t>(Whole);
-    auto MSecs = static_cast<std::int32_t>(std::round(std::fabs(AValue.Value - Whole) * MSecsPerDay));
-    if (MSecs == MSecsPerDay) {
-        ++Day;
-        MSecs = 0;
-    }
-    if (Day < cFirstDay || Day > cLastDay)
-        return false;
-    AParts = {Day, MSecs};
-    return true;
+    return Join({DayOfDate(AYear, AMonth, ADay), MSecsOf(AHour, AMinute, ASecond, AMilliSecond)});
 }
 
 TDayAndTime SplitDateTime(TDateTime AValue) {
-    TDayAndTime Result;
-    if (!TrySplitDateTime(AValue, Result))
-        throw EConvertError(u"Invalid date and time");
-    return Result;
+    return Split(AValue);
+}
+
+bool TrySplitDateTime(TDateTime AValue, TDayAndTime& AParts) noexcept {
+    return TrySplit(AValue, AParts);
 }
 
 TDateTime JoinDateTime(TDayAndTime AParts) noexcept {
-    const double Fraction = AParts.MSecs / static_cast<double>(MSecsPerDay);
-    return AParts.Day < 0 ? AParts.Day - Fraction : AParts.Day + Fraction;
+    return Join(AParts);
 }
 
 void DecodeDate(TDateTime AValue, std::uint16_t& AYear, std::uint16_t& AMonth, std::uint16_t& ADay) {
-    const TYearMonthDay Civil = CivilDate(SplitDateTime(AValue).Day);
-    AYear = static_cast<std::uint16_t>(Civil.Year);
-    AMonth = static_cast<std::uint16_t>(Civil.Month);
-    ADay = static_cast<std::uint16_t>(Civil.Day);
+    DecodeDay(Split(AValue).Day, AYear, AMonth, ADay);
 }
 
 bool DecodeDateFully(TDateTime AValue, std::uint16_t& AYear, std::uint16_t& AMonth, std::uint16_t& ADay,
@@ -173,61 +229,66 @@ bool DecodeDateFully(TDateTime AValue, std::uint16_t& AYear, std::uint16_t& AMon
 
 void DecodeTime(TDateTime AValue, std::uint16_t& AHour, std::uint16_t& AMinute, std::uint16_t& ASecond,
                 std::uint16_t& AMilliSecond) {
-    const auto MSecs = static_cast<unsigned>(SplitDateTime(AValue).MSecs);
-    AMilliSecond = static_cast<std::uint16_t>(MSecs % 1000);
-    ASecond = static_cast<std::uint16_t>(MSecs / 1000 % 60);
-    AMinute = static_cast<std::uint16_t>(MSecs / 60000 % 60);
-    AHour = static_cast<std::uint16_t>(MSecs / 3600000);
+    DecodeMSecs(Split(AValue).MSecs, AHour, AMinute, ASecond, AMilliSecond);
 }
 
 void DecodeDateTime(TDateTime AValue, std::uint16_t& AYear, std::uint16_t& AMonth, std::uint16_t& ADay,
                     std::uint16_t& AHour, std::uint16_t& AMinute, std::uint16_t& ASecond,
                     std::uint16_t& AMilliSecond) {
-    DecodeDate(AValue, AYear, AMonth, ADay);
-    DecodeTime(AValue, AHour, AMinute, ASecond, AMilliSecond);
+    const TDayAndTime Parts = Split(AValue);
+    DecodeDay(Parts.Day, AYear, AMonth, ADay);
+    DecodeMSecs(Parts.MSecs, AHour, AMinute, ASecond, AMilliSecond);
 }
 
-// 1899-12-30 was a Saturday.
+// Days since the Saturday before year 1 and so never below 0; 1899-12-30, day 0, was a Saturday too.
+static std::uint32_t DaysSinceSaturday(TDateTime AValue) {
+    constexpr std::int32_t cWholeWeeks = 693595;
+    static_assert(cWholeWeeks % 7 == 0 && cWholeWeeks + cFirstDay > 0);
+    return static_cast<std::uint32_t>(Split(AValue).Day + cWholeWeeks);
+}
+
 int DayOfWeek(TDateTime AValue) {
-    const std::int64_t Days = SplitDateTime(AValue).Day + std::int64_t{6};
-    return static_cast<int>(Days - FloorDiv(Days, 7) * 7) + 1;
+    return static_cast<int>((DaysSinceSaturday(AValue) + 6) % 7) + 1;
+}
+
+int DayOfTheWeek(TDateTime AValue) {
+    return static_cast<int>((DaysSinceSaturday(AValue) + 5) % 7) + 1;
 }
 
 TDateTime IncMonth(TDateTime AValue, int AMonths) {
-    const TDayAndTime Parts = SplitDateTime(AValue);
+    const TDayAndTime Parts = Split(AValue);
     const TYearMonthDay Civil = CivilDate(Parts.Day);
     const std::int64_t Months = std::int64_t{Civil.Year} * 12 + Civil.Month - 1 + AMonths;
-    const std::int64_t Year = FloorDiv(Months, 12);
-    const std::int64_t Month = Months - Year * 12 + 1;
-    if (Year < 1 || Year > 9999)
+    if (Months < 1 * 12 || Months >= 10000 * 12)
         RaiseDateEncode();
-    const int Last = MonthDays[IsLeapYear(static_cast<int>(Year))][Month - 1];
-    return JoinDateTime(
-        {static_cast<std::int32_t>(DayNumber(Year, Month, std::min(Civil.Day, Last))), Parts.MSecs});
+    const auto Year = static_cast<int>(Months / 12);
+    const auto Month = static_cast<int>(Months % 12) + 1;
+    const int Last = MonthDays[IsLeapYear(Year)][Month - 1];
+    return Join({DayOfDate(Year, Month, std::min(Civil.Day, Last)), Parts.MSecs});
 }
 
 void ReplaceTime(TDateTime& AValue, TDateTime ATime) {
-    AValue = JoinDateTime({SplitDateTime(AValue).Day, SplitDateTime(ATime).MSecs});
+    AValue = Join({Split(AValue).Day, Split(ATime).MSecs});
 }
 
 void ReplaceDate(TDateTime& AValue, TDateTime ADate) {
-    AValue = JoinDateTime({SplitDateTime(ADate).Day, SplitDateTime(AValue).MSecs});
+    AValue = Join({Split(ADate).Day, Split(AValue).MSecs});
 }
 
 TDateTime Now() {
-    return JoinDateTime(LocalDayAndTime());
+    return Join(LocalDayAndTime());
 }
 TDateTime Date() {
     return static_cast<double>(LocalDayAndTime().Day);
 }
 TDateTime Time() {
-    return JoinDateTime({0, LocalDayAndTime().MSecs});
+    return Join({0, LocalDayAndTime().MSecs});
 }
 
 TDateTime NowUTC() {
     const std::int64_t MSecs = platform::UtcNow100ns() / c100nsPerMSec;
     const std::int64_t Days = FloorDiv(MSecs, MSecsPerDay);
-    return JoinDateTime(
+    return Join(
         {static_cast<std::int32_t>(Days + cDay1601), static_cast<std::int32_t>(MSecs - Days * MSecsPerDay)});
 }
 

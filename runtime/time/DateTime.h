@@ -54,7 +54,7 @@ inline constexpr std::uint8_t MonthDays[2][12] = {{31, 28, 31, 30, 31, 30, 31, 3
                                                   {31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31}};
 
 constexpr bool IsLeapYear(int AYear) noexcept {
-    return AYear % 4 == 0 && (AYear % 100 != 0 || AYear % 400 == 0);
+    return (AYear & (AYear % 25 == 0 ? 15 : 3)) == 0; // years of 100 are those of 4 and 25, and so on
 }
 
 // Days from 1899-12-30 to the first day of a month, which may lie outside 1 to 12 and so in another year.
@@ -94,6 +94,8 @@ QZ_API void DecodeDateTime(TDateTime AValue, std::uint16_t& AYear, std::uint16_t
 
 // 1 Sunday to 7 Saturday.
 QZ_API int DayOfWeek(TDateTime AValue);
+// 1 Monday to 7 Sunday, as ISO 8601 numbers them.
+QZ_API int DayOfTheWeek(TDateTime AValue);
 // The same day and time so many months later or earlier; a day that the month lacks becomes its last.
 QZ_API TDateTime IncMonth(TDateTime AValue, int AMonths = 1);
 // The day with the time of another value, and the other way round.

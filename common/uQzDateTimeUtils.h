@@ -1,0 +1,15 @@
+// Unit uQzDateTimeUtils: arithmetic on dates and times of day.
+#pragma once
+
+// The enumerations of the unit, dates that are in UTC, and
+// TQzDuration, a span of months and seconds.
+#include "common/uQzDateTimeUtils/CalendarTypes.h"
+// QzBOMonth, QzDaysInMonth, QzDayOfYear and their
+// kin: where months and years begin and end.
+#include "common/uQzDateTimeUtils/CalendarMonths.h"
+// QzBOWeek, QzWeekOfYear, QzClosestWeekDay:
+// weeks, their numbers and days.
+#include "common/uQzDateTimeUtils/CalendarWeeks.h"
+// QzAddMonths, QzAddSecs, QzRoundTime
+// and their kin: dates moved.
+#include "common/uQzDateTimeUtils/CalendarMoves.h"
