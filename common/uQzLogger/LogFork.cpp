@@ -17,31 +17,31 @@ namespace qz::detail {
 // holds that one may be waiting for another.
 struct TForkLocks {
     bool TryTake() {
-        if (!Own.TryEnter())
+        if (!FOwn.TryEnter())
             return false;
-        HasOwn = true;
+        FHasOwn = true;
         if (TryGates() && TryTree() && TryLists() && TryAppenders() && TryLockDrops())
-            return HasDrops = true;
+            return FHasDrops = true;
         GiveBack();
         return false;
     }
 
     void GiveBack() {
-        if (std::exchange(HasDrops, false))
+        if (std::exchange(FHasDrops, false))
             UnlockDrops();
-        for (TQzBaseAppender* Appender : std::exchange(Appenders, {}))
+        for (TQzBaseAppender* Appender : std::exchange(FAppenders, {}))
             Appender->Unlock();
-        if (std::exchange(HasInstances, false))
+        if (std::exchange(FHasInstances, false))
             AppenderInstances().FLock.Leave();
-        for (TLogAppenderCore* List : std::exchange(Lists, {}))
+        for (TLogAppenderCore* List : std::exchange(FLists, {}))
             List->UnlockItems();
-        const bool HadTree = std::exchange(HasTree, false);
+        const bool HadTree = std::exchange(FHasTree, false);
         if (HadTree)
             TLogTreeLock::Leave();
-        for (const TLogAppenderCorePtr& Gate : std::exchange(Gates, {}))
+        for (const TLogAppenderCorePtr& Gate : std::exchange(FGates, {}))
             Gate->LeaveGate();
-        if (std::exchange(HasOwn, false))
-            Own.Leave();
+        if (std::exchange(FHasOwn, false))
+            FOwn.Leave();
     }
 
 private:
@@ -54,27 +54,27 @@ private:
         for (TLogAppenderCorePtr& Gate : All) {
             if (!Gate->TryEnterGate(0))
                 return false;
-            Gates.push_back(std::move(Gate));
+            FGates.push_back(std::move(Gate));
         }
         return true;
     }
     // Loggers that came to be meanwhile mean another try.
     bool TryTree() {
-        HasTree = TLogTreeLock::TryEnter(0);
-        return HasTree && TQzLogger::AllAppenders() == Gates;
+        FHasTree = TLogTreeLock::TryEnter(0);
+        return FHasTree && TQzLogger::AllAppenders() == FGates;
     }
     bool TryLists() {
-        for (const TLogAppenderCorePtr& Gate : Gates) {
+        for (const TLogAppenderCorePtr& Gate : FGates) {
             if (!Gate->TryLockItems())
                 return false;
-            Lists.push_back(Gate.get());
+            FLists.push_back(Gate.get());
         }
         return true;
     }
     bool TryAppenders() {
         TQzAppenderInstances& All = AppenderInstances();
-        HasInstances = All.FLock.TryEnter();
-        if (!HasInstances)
+        FHasInstances = All.FLock.TryEnter();
+        if (!FHasInstances)
             return false;
         for (TQzLogBase* Item : All.FList) {
             auto* Appender = Item->FIsComplete ? dynamic_cast<TQzBaseAppender*>(Item) : nullptr;
@@ -82,19 +82,19 @@ private:
                 continue;
             if (!Appender->TryLock())
                 return false;
-            Appenders.push_back(Appender);
+            FAppenders.push_back(Appender);
         }
         return true;
     }
 
-    TCriticalSection Own; // who forks, forks alone
-    std::vector<TLogAppenderCorePtr> Gates;
-    std::vector<TLogAppenderCore*> Lists;
-    std::vector<TQzBaseAppender*> Appenders; // alive as long as the instances are locked
-    bool HasOwn = false;
-    bool HasTree = false;
-    bool HasInstances = false;
-    bool HasDrops = false;
+    TCriticalSection FOwn; // who forks, forks alone
+    std::vector<TLogAppenderCorePtr> FGates;
+    std::vector<TLogAppenderCore*> FLists;
+    std::vector<TQzBaseAppender*> FAppenders; // alive as long as the instances are locked
+    bool FHasOwn = false;
+    bool FHasTree = false;
+    bool FHasInstances = false;
+    bool FHasDrops = false;
 };
 
 namespace {

@@ -74,8 +74,8 @@ protected:
 };
 
 // A layout that wants to know the appender that took it.
-class _IQzLogLayout
-    : public IInterface { // NOLINT(bugprone-reserved-identifier): the name is the interface's own
+// NOLINTNEXTLINE(bugprone-reserved-identifier,readability-identifier-naming): the name is fixed
+class _IQzLogLayout : public IInterface {
 public:
     static constexpr TGUID IID = Guid("{D47392EB-1BA9-4A9E-B586-0F8FCFF87448}");
 

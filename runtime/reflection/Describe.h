@@ -206,6 +206,7 @@ constexpr TTypeInfo InfoOf(TTypeKind AKind, std::u16string_view AName, std::u16s
 template <class T>
 consteval TTypeInfo DescribeType(TTypeKind AKind, std::u16string_view AName,
                                  std::u16string_view AUnit) noexcept {
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): T may well be a pointer
     if (AKind == tkFloat && sizeof(T) != sizeof(float) && sizeof(T) != sizeof(double))
         detail::FloatsHave4Or8Bytes();
     return detail::InfoOf<T>(AKind, AName, AUnit);
