@@ -59,17 +59,27 @@ void TQzComponent::FinishCreate() {
 }
 
 void TQzComponent::BeforeDestruction() {
-    if (FRefCount.Value() != 0)
+    FIsRefusedByCount = FRefCount.Value() != 0;
+    if (FIsRefusedByCount)
         throw Exception(SCompRefCountNotZero, {ClassName(), Name()});
     Inherited::BeforeDestruction();
 }
 
 // An owner that ends lets go of a component that is still referred to; its last reference ends it then.
+// The last of the references may have gone meanwhile, and ended nothing since the component was on its way out.
 void TQzComponent::DestructionRefused() noexcept {
+    const bool IsByCount = std::exchange(FIsRefusedByCount, false);
+    FRefCount.Increment();
     Inherited::DestructionRefused();
     TQzAutoDestroy Undecided = radComputed;
-    if (Owner() == nullptr && FRefCount.Value() > 0)
+    if (Owner() == nullptr && FRefCount.Value() > 1)
         FAutoDestroy.compare_exchange_strong(Undecided, radTrue, std::memory_order_relaxed);
+    std::int32_t Count = 0;
+    try {
+        if (DropReference(Count) && IsByCount)
+            Free();
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): who frees it hears of the first refusal
+    }
 }
 
 void TQzComponent::AddBinding(TObject* ASource, const UnicodeString& ASourceProperty, TObject* ADest,

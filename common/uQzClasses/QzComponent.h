@@ -91,6 +91,7 @@ private:
 
     friend class TQzPolicyHold;
     TRefCount FRefCount{1};
+    bool FIsRefusedByCount = false; // touched by whoever ends the component
     std::atomic<TQzAutoDestroy> FAutoDestroy{radComputed};
     TObjectList<TBindingExpression> FBindings{false}; // the binding engine ends them
     std::vector<TComponent*> FLinks;                  // the links among the owned components

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "common/uQzLogger/LogDispatch.h"
+#include "common/uQzLogger/LogDrops.h"
 #include "common/uQzLogger/QzLogger.h"
 
 namespace qz::detail {
@@ -44,30 +45,61 @@ bool TLogAppenderCore::TryEnterGate(std::uint32_t ATimeOut) noexcept {
 // What is removed while somebody leaves is met by the second look: it was noted before the gate was tried in vain.
 void TLogAppenderCore::LeaveGate() noexcept {
     TLogThread& Thread = ThisLogThread();
+    std::vector<Ref<IQzLogAppender>> Removed;
     for (;;) {
-        if (FHasRemoved && !IsOnTheWayHere())
-            LetGo();
         const bool IsLast = FGate.GetLockCount() == 1;
+        if (IsLast && FHasRemoved)
+            TakeRemoved(Removed);
         FGate.Leave();
         --Thread.Gates;
         if (!IsLast || !FHasRemoved || !TryEnterGate(0))
             break;
     }
+    if (!Removed.empty() && (MayAwaitGate() || !LetGoLater(*this, Removed)))
+        LetGo(Removed);
     if (Thread.Gates == 0 && Thread.Waiting != nullptr)
         SendWaiting();
 }
 
-bool TLogAppenderCore::IsOnTheWayHere() const noexcept {
-    const TLogDispatch* Present = ThisLogThread().Present;
-    return Present != nullptr && Present->Core == this;
-}
-
-// The caller holds the gate. Appenders may end here.
-void TLogAppenderCore::LetGo() noexcept {
-    std::vector<Ref<IQzLogAppender>> Removed; // ends behind the lock
+// The caller holds the gate.
+void TLogAppenderCore::TakeRemoved(std::vector<Ref<IQzLogAppender>>& ATarget) noexcept {
     const std::lock_guard Hold(FLock);
     FHasRemoved = false;
-    Removed.swap(FRemoved);
+    if (ATarget.empty()) {
+        ++FLettingGo;
+        ATarget.swap(FRemoved);
+    } else {
+        try {
+            ATarget.insert(ATarget.end(), FRemoved.begin(), FRemoved.end());
+            FRemoved.clear(); // none of these is the last reference
+        } catch (const std::bad_alloc&) {
+            FHasRemoved = true; // for whoever comes next
+        }
+    }
+}
+
+// Appenders may end here.
+void TLogAppenderCore::LetGo(std::vector<Ref<IQzLogAppender>>& ARemoved) noexcept {
+    TLogThread& Thread = ThisLogThread();
+    const bool WasLettingGo = std::exchange(Thread.IsLettingGo, true);
+    for (Ref<IQzLogAppender>& Appender : ARemoved) {
+        try {
+            Appender.Clear();
+        } catch (...) {
+            ReportDrop({}, nullptr, {});
+        }
+    }
+    ARemoved.clear();
+    Thread.IsLettingGo = WasLettingGo;
+    if (--FLettingGo == 0)
+        FLettingGo.notify_all();
+}
+
+void TLogAppenderCore::AwaitLetGo() noexcept {
+    if (!MayAwaitGate() || ThisLogThread().IsLettingGo)
+        return;
+    for (int Busy = FLettingGo; Busy != 0; Busy = FLettingGo)
+        FLettingGo.wait(Busy);
 }
 
 TAppenderSnapshot TLogAppenderCore::Items() const {
@@ -93,41 +125,48 @@ void TLogAppenderCore::Publish(TAppenderSnapshot ASnapshot) noexcept {
     FVersion.fetch_add(1, std::memory_order_release);
 }
 
-void TLogAppenderCore::Add(IQzLogAppender* AAppender) {
+bool TLogAppenderCore::Insert(IQzLogAppender* AAppender) {
     const TChange Change(*this);
-    {
-        const std::lock_guard Hold(FLock);
-        if (std::find(FSnapshot->begin(), FSnapshot->end(), AAppender) != FSnapshot->end())
-            return;
-        auto Fresh = std::make_shared<std::vector<IQzLogAppender*>>(*FSnapshot);
-        Fresh->push_back(AAppender);
-        FItems.emplace_back(AAppender);
-        Publish(std::move(Fresh));
-    }
-    Changed();
+    const std::lock_guard Hold(FLock);
+    if (std::find(FSnapshot->begin(), FSnapshot->end(), AAppender) != FSnapshot->end())
+        return false;
+    auto Fresh = std::make_shared<std::vector<IQzLogAppender*>>(*FSnapshot);
+    Fresh->push_back(AAppender);
+    FItems.emplace_back(AAppender);
+    Publish(std::move(Fresh));
+    return true;
 }
 
-void TLogAppenderCore::Remove(const TComponent* AComponent) {
-    const TChange Change(*this);
+bool TLogAppenderCore::Extract(const TComponent* AComponent) {
     const auto IsMeant = [AComponent](IQzLogAppender* AItem) {
         return AComponent == nullptr || AItem->Component() == AComponent;
     };
-    {
-        const std::lock_guard Hold(FLock);
-        auto Fresh = std::make_shared<std::vector<IQzLogAppender*>>();
-        std::remove_copy_if(FSnapshot->begin(), FSnapshot->end(), std::back_inserter(*Fresh), IsMeant);
-        if (Fresh->size() == FSnapshot->size())
-            return;
-        FRemoved.reserve(FRemoved.size() + FItems.size());
-        const auto First =
-            std::stable_partition(FItems.begin(), FItems.end(),
-                                  [&](const Ref<IQzLogAppender>& AItem) { return !IsMeant(AItem.Get()); });
-        std::move(First, FItems.end(), std::back_inserter(FRemoved));
-        FItems.erase(First, FItems.end());
-        FHasRemoved = true;
-        Publish(std::move(Fresh));
-    }
-    Changed();
+    const TChange Change(*this);
+    const std::lock_guard Hold(FLock);
+    auto Fresh = std::make_shared<std::vector<IQzLogAppender*>>();
+    std::remove_copy_if(FSnapshot->begin(), FSnapshot->end(), std::back_inserter(*Fresh), IsMeant);
+    if (Fresh->size() == FSnapshot->size())
+        return false;
+    FRemoved.reserve(FRemoved.size() + FItems.size());
+    const auto First =
+        std::stable_partition(FItems.begin(), FItems.end(),
+                              [&](const Ref<IQzLogAppender>& AItem) { return !IsMeant(AItem.Get()); });
+    std::move(First, FItems.end(), std::back_inserter(FRemoved));
+    FItems.erase(First, FItems.end());
+    FHasRemoved = true;
+    Publish(std::move(Fresh));
+    return true;
+}
+
+// The word of a change goes out behind the gate, which no holder of the tree may be kept from.
+void TLogAppenderCore::Add(IQzLogAppender* AAppender) {
+    if (Insert(AAppender))
+        Changed();
+}
+
+void TLogAppenderCore::Remove(const TComponent* AComponent) {
+    if (Extract(AComponent))
+        Changed();
 }
 
 void TLogAppenderCore::Changed() {

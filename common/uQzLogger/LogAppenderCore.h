@@ -18,11 +18,11 @@ namespace qz::detail {
 
 using TAppenderSnapshot = std::shared_ptr<const std::vector<IQzLogAppender*>>;
 
-class TLogAppenderCore {
+class TLogAppenderCore : public std::enable_shared_from_this<TLogAppenderCore> {
 public:
     explicit TLogAppenderCore(TQzLogger* ALogger) noexcept : FLogger(ALogger) {}
 
-    // The gate, which re-enters. Leaving it lets go of what was removed, unless a message of this thread is on its way.
+    // The gate, which re-enters. Whoever leaves it last lets go of what was removed, when he holds no gate and no tree.
     void EnterGate() noexcept;
     bool TryEnterGate(std::uint32_t ATimeOut) noexcept;
     void LeaveGate() noexcept;
@@ -42,6 +42,10 @@ public:
     void Add(IQzLogAppender* AAppender);
     // Those of that component, or all for null. Waits until no message is on its way to them, where the thread may.
     void Remove(const TComponent* AComponent);
+    // Waits until those that were removed before are let go of, where the thread may.
+    void AwaitLetGo() noexcept;
+    // Ends references that LeaveGate has taken.
+    void LetGo(std::vector<Ref<IQzLogAppender>>& ARemoved) noexcept;
 
     // Keeps all changes out, for a moment.
     bool TryLockItems() { return FLock.try_lock(); }
@@ -54,8 +58,9 @@ private:
     class TChange;
     void Publish(TAppenderSnapshot ASnapshot) noexcept;
     void Changed();
-    void LetGo() noexcept;
-    bool IsOnTheWayHere() const noexcept;
+    bool Insert(IQzLogAppender* AAppender);
+    bool Extract(const TComponent* AComponent);
+    void TakeRemoved(std::vector<Ref<IQzLogAppender>>& ATarget) noexcept;
 
     TQzCriticalSection FGate;
     mutable std::mutex FLock; // innermost
@@ -64,6 +69,7 @@ private:
     TAppenderSnapshot FSnapshot = std::make_shared<const std::vector<IQzLogAppender*>>();
     std::atomic<int> FCount{0};
     std::atomic<bool> FHasRemoved{false};
+    std::atomic<int> FLettingGo{0}; // threads that have taken removed ones and not yet ended them
     std::atomic<std::uint32_t> FVersion{0};
     TQzLogger* FLogger; // guarded by the lock of the tree
 };

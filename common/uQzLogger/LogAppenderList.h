@@ -23,8 +23,8 @@ class QZ_API TQzLogAppenderList : public TComponent {
 
 public:
     // Holds up the messages of the logger on other threads, and all messages of this one, until Unlock. Waits as long as it
-    // takes and gives true; the arguments are not used. The lock re-enters. An appender that writes must not lock the list of
-    // another logger.
+    // takes and gives true; the arguments are not used. The lock re-enters. An appender that writes, a configurator
+    // and whoever holds the lock of a TQzLoggerList must not lock a list of appenders.
     bool Lock(const TStringArg& AName, bool ARaise);
     void Unlock() noexcept { FCore->LeaveGate(); }
 

@@ -58,8 +58,8 @@ void TQzLogBase::BeforeDestruction() {
 }
 
 void TQzLogBase::DestructionRefused() noexcept {
-    Inherited::DestructionRefused();
     SetComplete(true);
+    Inherited::DestructionRefused(); // may end it
 }
 
 Ref<TQzLogger> TQzLogBase::LoggerOfOrigin() const {
@@ -76,8 +76,10 @@ void TQzLogBase::LeaveLists() {
                 Cores.push_back(std::move(Core));
         }
     }
-    for (const auto& Core : Cores)
+    for (const auto& Core : Cores) {
         Core->Remove(this);
+        Core->AwaitLetGo();
+    }
 }
 
 void LinkAppender(TComponent* AComponent, TQzLogAppenderList& AList) {

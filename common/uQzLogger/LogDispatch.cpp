@@ -23,8 +23,15 @@ struct TWaitingMessage {
     std::vector<const IQzLogAppender*> Skipped;
 };
 
+// Appenders that wait for their end.
+struct TWaitingRemoved {
+    TLogAppenderCorePtr Core;
+    std::vector<Ref<IQzLogAppender>> Items;
+};
+
 struct TWaitingMessages {
     std::deque<TWaitingMessage> Items;
+    std::deque<TWaitingRemoved> Removed;
     int Arisen = 0; // since the thread was free
 };
 
@@ -42,12 +49,16 @@ TValue Keep(PQzDataRec AValue) {
     return *AValue;
 }
 
+TWaitingMessages& Waiting(TLogThread& AThread) {
+    if (AThread.Waiting == nullptr)
+        AThread.Waiting = std::make_unique<TWaitingMessages>().release();
+    return *AThread.Waiting;
+}
+
 void Enqueue(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept {
     try {
         TLogThread& Thread = ThisLogThread();
-        if (Thread.Waiting == nullptr)
-            Thread.Waiting = std::make_unique<TWaitingMessages>().release();
-        if (++Thread.Waiting->Arisen > cMostWaiting)
+        if (++Waiting(Thread).Arisen > cMostWaiting)
             return CountDrop();
         if (!ALogger.TryAddRef())
             return CountDrop();
@@ -142,6 +153,12 @@ void Send(TQzLogger& ALogger, const TLogMessage& AMessage,
 void SendAllWaiting() noexcept {
     TLogThread& Thread = ThisLogThread();
     while (Thread.Waiting != nullptr) {
+        if (!Thread.Waiting->Removed.empty()) {
+            TWaitingRemoved Removed = std::move(Thread.Waiting->Removed.front());
+            Thread.Waiting->Removed.pop_front();
+            Removed.Core->LetGo(Removed.Items);
+            continue;
+        }
         if (Thread.Waiting->Items.empty()) {
             const std::unique_ptr<TWaitingMessages> Done(std::exchange(Thread.Waiting, nullptr));
             continue;
@@ -156,10 +173,20 @@ void SendAllWaiting() noexcept {
 }
 
 bool IsFree(const TLogThread& AThread) {
-    return AThread.Gates == 0 && !AThread.IsSending && !TLogTreeLock::IsHeldByThisThread();
+    return AThread.Gates == 0 && AThread.Trees == 0 && !AThread.IsSending;
 }
 
 } // namespace
+
+bool LetGoLater(TLogAppenderCore& ACore, std::vector<Ref<IQzLogAppender>>& ARemoved) noexcept {
+    try {
+        Waiting(ThisLogThread()).Removed.push_back({ACore.shared_from_this(), {}});
+        ThisLogThread().Waiting->Removed.back().Items.swap(ARemoved);
+        return true;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
 
 void SendWaiting() noexcept {
     TLogThread& Thread = ThisLogThread();

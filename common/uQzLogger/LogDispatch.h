@@ -31,6 +31,9 @@ struct TLogDispatch {
     std::vector<const IQzLogAppender*> Skipped; // those that were writing when the message arose
 };
 
+// Has the references end as soon as the thread holds no gate and no tree; false when there is no memory for that.
+bool LetGoLater(TLogAppenderCore& ACore, std::vector<Ref<IQzLogAppender>>& ARemoved) noexcept;
+
 // Offers the message to the logger and its ancestors; see IQzLogger. Nothing is raised.
 void Dispatch(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept;
 

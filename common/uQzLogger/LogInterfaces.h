@@ -111,6 +111,9 @@ protected:
 //               MaxFileSize, MaxBackupCount   mtkInteger         DatePattern  mtkString of one that changes its file
 //               ServiceName      mtkString    of one to the event log
 //
+// A configurator is asked under the lock of the tree: it may log, get loggers and change appenders, and must neither wait for
+// another thread that does so nor for the lock of an appender.
+//
 // Keys are written as they stand here. Every question has a default, which is the answer for a key that the configurator
 // does not know.
 class IQzLogConfigurator : public IInterface {

@@ -1,7 +1,5 @@
 #include "common/uQzLogger/LogTreeLock.h"
 
-#include "platform/Threads.h"
-
 namespace qz::detail {
 
 TLogThread& ThisLogThread() noexcept {
@@ -14,15 +12,21 @@ TQzCriticalSection& TLogTreeLock::Section() {
     return *Result;
 }
 
-void TLogTreeLock::Leave() noexcept {
-    const bool IsLast = Section().GetLockCount() == 1;
-    Section().Leave();
-    if (IsLast && ThisLogThread().Waiting != nullptr)
-        SendWaiting();
+void TLogTreeLock::Enter() {
+    Section().Enter();
+    ++ThisLogThread().Trees;
 }
 
-bool TLogTreeLock::IsHeldByThisThread() {
-    return Section().GetLockedBy() == static_cast<std::int32_t>(platform::CurrentThreadId());
+bool TLogTreeLock::TryEnter(std::uint32_t ATimeOut) {
+    const bool Result = Section().TryEnter(ATimeOut);
+    ThisLogThread().Trees += Result ? 1 : 0;
+    return Result;
+}
+
+void TLogTreeLock::Leave() noexcept {
+    Section().Leave();
+    if (--ThisLogThread().Trees == 0 && ThisLogThread().Waiting != nullptr)
+        SendWaiting();
 }
 
 } // namespace qz::detail

@@ -16,6 +16,8 @@ struct TWaitingMessages;
 // What a thread is about. Without a destructor, for it may be asked to the very end of the thread.
 struct TLogThread {
     int Gates = 0;                       // how many it holds
+    int Trees = 0;                       // how often it holds the lock of the tree
+    bool IsLettingGo = false;            // it is ending appenders that were removed
     bool IsSending = false;              // it is on the way with a message
     TLogDispatch* Present = nullptr;     // that message
     TWaitingMessages* Waiting = nullptr; // messages that arose meanwhile; owned
@@ -23,7 +25,7 @@ struct TLogThread {
 
 TLogThread& ThisLogThread() noexcept;
 
-// Sends what waits, if the thread is free to.
+// Sends what waits, and ends the appenders that wait for their end, if the thread is free to.
 void SendWaiting() noexcept;
 
 // Holds the lock of the tree. It re-enters, and outlives the destructors of the program.
@@ -34,18 +36,17 @@ public:
     TLogTreeLock(const TLogTreeLock&) = delete;
     TLogTreeLock& operator=(const TLogTreeLock&) = delete;
 
-    static void Enter() { Section().Enter(); }
-    static bool TryEnter(std::uint32_t ATimeOut) { return Section().TryEnter(ATimeOut); }
+    static void Enter();
+    static bool TryEnter(std::uint32_t ATimeOut);
     static void Leave() noexcept;
-    static bool IsHeldByThisThread();
 
 private:
     static TQzCriticalSection& Section();
 };
 
-// Whether the thread may wait for a gate.
-inline bool MayAwaitGate() {
-    return ThisLogThread().Gates == 0 && !TLogTreeLock::IsHeldByThisThread();
+// Whether the thread may wait for a gate, and end appenders.
+inline bool MayAwaitGate() noexcept {
+    return ThisLogThread().Gates == 0 && ThisLogThread().Trees == 0;
 }
 
 } // namespace qz::detail

@@ -12,7 +12,7 @@
 //
 // Any thread may call any operation. A message that arises while the thread writes to an appender, is asked by a logger for
 // its values, or holds the lock of a list or of the tree, goes its way when that is over, and is not given to the appenders
-// that were writing when it arose. Of more than 1000 such messages in a row the rest is dropped.
+// that were writing when it arose; an object that is its value comes as the text of its dump. Of more than 1000 such messages in a row the rest is dropped.
 #pragma once
 
 #include "common/uQzLogger/LogData.h"

@@ -131,6 +131,16 @@ std::uint32_t TQzLogger::_AddRef() {
     return static_cast<std::uint32_t>(FRefCount.Increment());
 }
 
+// A logger that its maker ends may have none to begin with.
+bool TQzLogger::TryAddRef() noexcept {
+    if (FRefCount.IncrementUnlessZero())
+        return true;
+    if (FEndsByCount || FIsEnding)
+        return false;
+    FRefCount.Increment();
+    return true;
+}
+
 // The last reference goes under the lock by which a logger is found, so that nobody finds one that ends. True when this
 // logger ends by it; else it may be gone already.
 bool TQzLogger::DropReference(std::int32_t& ACount) {
@@ -186,8 +196,10 @@ void TQzLogger::BeforeDestruction() {
 
 void TQzLogger::ClearChildLoggers() {
     FChildLoggers->LockForChange(u".ClearChildLoggers");
+    struct TUnlock {
+        ~TUnlock() { TLogTreeLock::Leave(); }
+    } const Hold;
     DetachChildren(false);
-    TLogTreeLock::Leave();
 }
 
 // ALetGo is for a parent that ends although it has children; a message on its way would miss it. The caller holds the lock

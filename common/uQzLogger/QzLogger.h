@@ -140,7 +140,7 @@ public:
     detail::TLogAppenderCore& AppenderCore() const noexcept { return *FCore; }
     void AppendersChanged();
     // Counts a reference unless there is none left, as of a logger that ends.
-    bool TryAddRef() noexcept { return FRefCount.IncrementUnlessZero(); }
+    bool TryAddRef() noexcept;
     // The full name, which is not worked out for this.
     UnicodeString FullNameIfKnown() const;
     bool IsNamed(std::u16string_view AFullName) const noexcept;
