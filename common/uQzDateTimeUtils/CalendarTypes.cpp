@@ -2,20 +2,19 @@
 
 #include "runtime/reflection/BasicTypes.h"
 #include "runtime/reflection/Describe.h"
+#include "runtime/reflection/EnumItems.h"
 
 namespace qz {
 namespace {
 
 constexpr std::u16string_view cUnit = u"uQzDateTimeUtils";
 
-constexpr TEnumItem cWeekFormats[] = {{u"wfYearWeek", 0}, {u"wfWeek", 1}};
-constexpr TEnumItem cDatePeriods[] = {{u"dpNone", 0},    {u"dpYear", 1},      {u"dpHalfYear", 2},
-                                      {u"dpQuarter", 3}, {u"dpFourWeeks", 4}, {u"dpMonth", 5},
-                                      {u"dpWeek", 6},    {u"dpDay", 7}};
-constexpr TEnumItem cWorkDayAdjustments[] = {{u"wdLast", 0}, {u"wdNext", 1}};
-constexpr TEnumItem cDecodeTypes[] = {
-    {u"dtYear", 0}, {u"dtMonth", 1}, {u"dtDayOfYear", 2}, {u"dtDayOfMonth", 3}};
-constexpr TEnumItem cTimeZoneFormats[] = {{u"tzfNA", 0}, {u"tzfOffset", 1}, {u"tzfUTC", 2}};
+constexpr auto cWeekFormats = EnumItems({u"wfYearWeek", u"wfWeek"});
+constexpr auto cDatePeriods = EnumItems(
+    {u"dpNone", u"dpYear", u"dpHalfYear", u"dpQuarter", u"dpFourWeeks", u"dpMonth", u"dpWeek", u"dpDay"});
+constexpr auto cWorkDayAdjustments = EnumItems({u"wdLast", u"wdNext"});
+constexpr auto cDecodeTypes = EnumItems({u"dtYear", u"dtMonth", u"dtDayOfYear", u"dtDayOfMonth"});
+constexpr auto cTimeZoneFormats = EnumItems({u"tzfNA", u"tzfOffset", u"tzfUTC"});
 
 constexpr TFieldInfo cDurationFields[] = {Field<&TQzDuration::Negative>(u"Negative"),
                                           Field<&TQzDuration::Months>(u"Months"),

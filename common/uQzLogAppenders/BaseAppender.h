@@ -60,7 +60,6 @@ protected:
     bool IsInitialized() const noexcept { return FInitialized; }
     // How many calls of Initialize are under way.
     std::int32_t Initializing() const noexcept { return FInitializing; }
-    void SetInitialized(bool AValue) noexcept { FInitialized = AValue; }
 
 private:
     Ref<IQzLogLayout> FLayout;

@@ -1,19 +1,18 @@
 #include "common/uQzTypes/NamedTypes.h"
 
 #include "runtime/reflection/Describe.h"
+#include "runtime/reflection/EnumItems.h"
 
 namespace qz {
 namespace {
 
 constexpr std::u16string_view cUnit = u"uQzTypes";
 
-constexpr TEnumItem cTypeKinds[] = {
-    {u"tkUnknown", 0},  {u"tkInteger", 1},   {u"tkChar", 2},     {u"tkEnumeration", 3},
-    {u"tkFloat", 4},    {u"tkString", 5},    {u"tkSet", 6},      {u"tkClass", 7},
-    {u"tkMethod", 8},   {u"tkWChar", 9},     {u"tkLString", 10}, {u"tkWString", 11},
-    {u"tkVariant", 12}, {u"tkArray", 13},    {u"tkRecord", 14},  {u"tkInterface", 15},
-    {u"tkInt64", 16},   {u"tkDynArray", 17}, {u"tkUString", 18}, {u"tkClassRef", 19},
-    {u"tkPointer", 20}, {u"tkProcedure", 21}};
+constexpr auto cTypeKinds =
+    EnumItems({u"tkUnknown", u"tkInteger",  u"tkChar",    u"tkEnumeration", u"tkFloat",   u"tkString",
+               u"tkSet",     u"tkClass",    u"tkMethod",  u"tkWChar",       u"tkLString", u"tkWString",
+               u"tkVariant", u"tkArray",    u"tkRecord",  u"tkInterface",   u"tkInt64",   u"tkDynArray",
+               u"tkUString", u"tkClassRef", u"tkPointer", u"tkProcedure"});
 
 } // namespace
 

@@ -78,6 +78,12 @@ std::set<int> With(std::set<int> AMore) {
     return AMore;
 }
 
+// What the two functions for Booleans make of the samples: of texts the first character counts.
+const std::map<int, UnicodeString> cTruths = {{0, u"True"},   {2, u"True"},  {3, u"True"},  {8, u"False"},
+                                              {11, u"True"},  {16, u"True"}, {17, u"True"}, {18, u"True"},
+                                              {19, u"True"},  {20, u"True"}, {21, u"True"}, {256, u"False"},
+                                              {258, u"False"}};
+
 void CheckSample(const TRow& ARow, const Variant& ASample, bool AIsStrict) {
     const bool HasBools = ARow.Others.contains(0);
     const int Code = VarType(ASample);
@@ -124,23 +130,7 @@ TEST(VarStrict, TakesWhatFitsAndNothingElse) {
          {8, 256, 258},
          u"string"},
         {"StrW", [](const Variant& V, bool) { return QzVarStrW(V, u"99"); }, {8, 256, 258}, u"string"},
-        {"Bool",
-         Strict(QzVarBool, true),
-         {},
-         u"boolean",
-         {{0, u"True"},
-          {2, u"True"},
-          {3, u"True"},
-          {8, u"False"},
-          {11, u"True"},
-          {16, u"True"},
-          {17, u"True"},
-          {18, u"True"},
-          {19, u"True"},
-          {20, u"True"},
-          {21, u"True"},
-          {256, u"False"},
-          {258, u"False"}}},
+        {"Bool", Strict(QzVarBool, true), {}, u"boolean", cTruths},
     };
     for (const TRow& Row : Rows)
         CheckRow(Row, true);
@@ -180,23 +170,7 @@ TEST(VarTolerant, ConvertsWhatCanBeConverted) {
          Floats,
          u"WideString",
          {{7, Day}, {11, u"True"}}},
-        {"Bool",
-         Tolerant(QzVarToBool, true),
-         {},
-         u"Boolean",
-         {{0, u"True"},
-          {2, u"True"},
-          {3, u"True"},
-          {8, u"False"},
-          {11, u"True"},
-          {16, u"True"},
-          {17, u"True"},
-          {18, u"True"},
-          {19, u"True"},
-          {20, u"True"},
-          {21, u"True"},
-          {256, u"False"},
-          {258, u"False"}}},
+        {"Bool", Tolerant(QzVarToBool, true), {}, u"Boolean", cTruths},
     };
     for (const TRow& Row : Rows)
         CheckRow(Row, false);

@@ -27,8 +27,8 @@ int MinutesAheadOfUtc(const char* AZone) {
 }
 
 TEST(LocalClock, FollowsTheZone) {
-    EXPECT_EQ(345, MinutesAheadOfUtc("XXX-5:45"));
-    EXPECT_EQ(1440 - 210, MinutesAheadOfUtc("XXX3:30"));
+    EXPECT_EQ(345, MinutesAheadOfUtc("EAST-5:45"));
+    EXPECT_EQ(1440 - 210, MinutesAheadOfUtc("WEST3:30"));
 }
 
 } // namespace
