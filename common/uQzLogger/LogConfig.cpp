@@ -55,8 +55,10 @@ void TQzLogger::ReadAppenders(IQzLogConfigurator& AConfigurator) {
     const Variant Names = AConfigurator.GetLoggerValue(FullName(), u"Appenders", mtkArray, VarArrayOf({}));
     if (!VarIsArray(Names))
         return;
-    for (int I = VarArrayLowBound(Names); I <= VarArrayHighBound(Names); ++I) {
-        const UnicodeString Name = QzVarToStr(VarArrayGet(Names, I), {}, true);
+    const int Low = VarArrayLowBound(Names);
+    const std::int64_t Count = std::int64_t{VarArrayHighBound(Names)} - Low + 1;
+    for (int I = 0; I < Count; ++I) {
+        const UnicodeString Name = QzVarToStr(VarArrayGet(Names, Low + I), {}, true);
         const UnicodeString ClassName =
             QzVarToStr(AConfigurator.GetAppenderValue(Name, u"class", mtkString, u""), {}, true);
         const TLogTreeLock Hold; // one appender of a name, whoever asks

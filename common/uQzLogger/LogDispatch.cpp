@@ -90,6 +90,7 @@ void WriteTo(TLogDispatch& APresent, IQzLogAppender& AAppender, const TQzLogger&
         AAppender.Write(AMessage.Source, ALogger.FullName(), AMessage.Level, AText, AMessage.Value,
                         AMessage.Indent);
     } catch (...) {
+        APresent.Writing = nullptr;
         APresent.Failed = &AAppender;
         APresent.FailedName = AAppender.GetName();
         throw;
@@ -100,16 +101,7 @@ void WriteTo(TLogDispatch& APresent, IQzLogAppender& AAppender, const TQzLogger&
 void WriteToAppenders(TLogDispatch& APresent, const TQzLogger& ALogger, const TLogMessage& AMessage,
                       const UnicodeString& AText) {
     TLogAppenderCore& Core = ALogger.AppenderCore();
-    struct THere {
-        THere(TLogDispatch& AOf, const TLogAppenderCore* ACore) noexcept : Of(AOf) { Of.Core = ACore; }
-        ~THere() {
-            Of.Core = nullptr;
-            Of.Writing = nullptr;
-        }
-        TLogDispatch& Of;
-    };
     const TLogGate Gate(Core);
-    const THere Here(APresent, &Core);
     const std::uint32_t Version = Core.Version();
     const TAppenderSnapshot Items = Core.Items();
     for (IQzLogAppender* Appender : *Items) {

@@ -24,8 +24,7 @@ struct TLogMessage {
 
 // The message that a thread is on the way with.
 struct TLogDispatch {
-    const TLogAppenderCore* Core = nullptr;  // the list whose appenders are being written to
-    const IQzLogAppender* Writing = nullptr; // the one that is
+    const IQzLogAppender* Writing = nullptr; // the appender that it is being written to
     const IQzLogAppender* Failed = nullptr;  // the one that raised; perhaps gone by now
     UnicodeString FailedName;
     std::vector<const IQzLogAppender*> Skipped; // those that were writing when the message arose

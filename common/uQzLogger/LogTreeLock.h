@@ -9,7 +9,6 @@
 
 namespace qz::detail {
 
-class TLogAppenderCore;
 struct TLogDispatch;
 struct TWaitingMessages;
 
