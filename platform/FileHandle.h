@@ -70,6 +70,15 @@ public:
     // Waits until what was written is on the disk.
     bool Flush(TError& AError);
 
+    // Has each write go to the end of the file as it is then, also when another program or a child process writes there or
+    // cuts the file. On Windows, where sharing keeps others out, this moves the position to the end.
+    bool WriteAtEnd(TError& AError);
+    // As Write, behind WriteAtEnd. The position is not moved where that can be saved.
+    bool Append(std::span<const std::byte> ASource, size_t& ADone, TError& AError);
+    // Whether APath still leads to the open file, which may have been renamed, removed or replaced. True when nobody can tell,
+    // and on Windows, where that cannot happen to a file that is open for writing.
+    bool IsAt(std::u16string_view APath) const;
+
     // The system's own number of the open file: a descriptor, or a HANDLE.
     intptr_t Native() const noexcept { return FHandle; }
 

@@ -28,6 +28,13 @@ struct TDirEntry {
     uint64_t Size;       // in bytes, 0 for a directory and for a link that leads nowhere
 };
 
+// What may stand between the names of a path, the usual one first, and behind a drive; 0 where there are no drives.
+QZ_API std::u16string_view PathSeparators() noexcept;
+QZ_API char16_t DriveSeparator() noexcept;
+
+// Whether names that differ in the case of letters alone are usually those of one file.
+QZ_API bool FileNamesIgnoreCase() noexcept;
+
 // Whether APath is there and is, or is not, a directory. A path that can't be asked about isn't there.
 QZ_API bool FileExists(std::u16string_view APath);
 QZ_API bool DirectoryExists(std::u16string_view APath);
@@ -44,6 +51,10 @@ QZ_API bool MakeDirectory(std::u16string_view APath, TError& AError);
 // Removes a file or a link, never a directory. RemoveEmptyDirectory is for those.
 QZ_API bool RemoveFile(std::u16string_view APath, TError& AError);
 QZ_API bool RemoveEmptyDirectory(std::u16string_view APath, TError& AError);
+
+// Gives a file or directory another name on the same file system; what has it open keeps it. Fails where the new name is taken
+// (EEXIST, ERROR_ALREADY_EXISTS), also by somebody who takes it at this moment, as far as the file system can tell.
+QZ_API bool RenameEntry(std::u16string_view APath, std::u16string_view ANewPath, TError& AError);
 
 // All bytes of a file, also of one that tells no size, such as those under /proc. AOut is replaced, and empty
 // on failure. Fails where a TFileHandle denies reading (ETXTBSY, ERROR_SHARING_VIOLATION).

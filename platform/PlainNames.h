@@ -9,3 +9,4 @@
 
 #undef GetObject
 #undef RegisterClass
+#undef DeleteFile

@@ -6,8 +6,10 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
+#include "platform/FileLimit.h"
 #include "platform/linux/FileSharing.h"
 #include "platform/linux/NativeFile.h"
 #include "platform/linux/NativeText.h"
@@ -99,6 +101,36 @@ bool TFileHandle::SetSize(int64_t ASize, TError& AError) {
         Status = ftruncate(static_cast<int>(FHandle), ASize);
     } while (Status != 0 && errno == EINTR);
     return Outcome(AError, Status == 0);
+}
+
+bool TFileHandle::WriteAtEnd(TError& AError) {
+    const int Flags = fcntl(static_cast<int>(FHandle), F_GETFL);
+    return Outcome(AError, Flags >= 0 && fcntl(static_cast<int>(FHandle), F_SETFL, Flags | O_APPEND) == 0);
+}
+
+// Past the C library's write, which costs more in a program of several threads, as it can be cancelled, and without the lock of
+// the position.
+bool TFileHandle::Append(std::span<const std::byte> ASource, size_t& ADone, TError& AError) {
+    const auto File = static_cast<int>(FHandle);
+    const long Written = syscall(SYS_pwrite64, File, ASource.data(), ASource.size(), 0L);
+    ADone = static_cast<size_t>(std::max(Written, 0L));
+    if (ADone == ASource.size()) [[likely]]
+        return true;
+    size_t More = 0; // a pipe has no place to write at
+    const TNoLimitSignal Quiet;
+    const bool Ok = detail::WriteAll(File, ASource.subspan(ADone), More);
+    ADone += More;
+    return Outcome(AError, Ok);
+}
+
+bool TFileHandle::IsAt(std::u16string_view APath) const {
+    struct stat Open, Named;
+    const std::optional<std::string> Path = detail::ToNativeArgument(APath);
+    if (!Path || fstat(static_cast<int>(FHandle), &Open) != 0)
+        return true;
+    if (stat(Path->c_str(), &Named) != 0)
+        return errno != ENOENT && errno != ENOTDIR;
+    return Open.st_dev == Named.st_dev && Open.st_ino == Named.st_ino;
 }
 
 bool TFileHandle::Flush(TError& AError) {

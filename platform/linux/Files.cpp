@@ -259,6 +259,33 @@ bool RemoveEmptyDirectory(std::u16string_view APath, TError& AError) {
     return Path ? Outcome(AError, rmdir(Path->c_str()) == 0) : Fail(AError, EINVAL);
 }
 
+std::u16string_view PathSeparators() noexcept {
+    return u"/";
+}
+
+bool FileNamesIgnoreCase() noexcept {
+    return false;
+}
+
+char16_t DriveSeparator() noexcept {
+    return 0;
+}
+
+bool RenameEntry(std::u16string_view APath, std::u16string_view ANewPath, TError& AError) {
+    const std::optional<std::string> Old = detail::ToNativeArgument(APath);
+    const std::optional<std::string> New = detail::ToNativeArgument(ANewPath);
+    if (!Old || !New)
+        return Fail(AError, EINVAL);
+    if (renameat2(AT_FDCWD, Old->c_str(), AT_FDCWD, New->c_str(), RENAME_NOREPLACE) == 0)
+        return Outcome(AError, true);
+    if (errno != EINVAL && errno != ENOSYS)
+        return Outcome(AError, false);
+    struct stat Status; // a file system that knows no such renaming
+    if (lstat(New->c_str(), &Status) == 0)
+        return Fail(AError, EEXIST);
+    return Outcome(AError, rename(Old->c_str(), New->c_str()) == 0);
+}
+
 bool ReadWholeFile(std::u16string_view APath, std::vector<std::byte>& AOut, TError& AError) {
     AOut.clear();
     const std::optional<std::string> Path = detail::ToNativeArgument(APath);

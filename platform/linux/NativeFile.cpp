@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <optional>
 
 #include <fcntl.h>
 #include <unistd.h>
+
+#include "platform/FileLimit.h"
 
 namespace qz::platform::detail {
 
@@ -32,7 +35,10 @@ ssize_t ReadSome(int AFile, std::span<std::byte> ATarget) noexcept {
 
 bool WriteAll(int AFile, std::span<const std::byte> ASource, size_t& ADone) noexcept {
     ADone = 0;
+    std::optional<TNoLimitSignal> Quiet; // behind a write that came to the limit of the file
     while (ADone < ASource.size()) {
+        if (ADone > 0 && !Quiet)
+            Quiet.emplace();
         const size_t Step = std::min(ASource.size() - ADone, cLargestStep);
         const ssize_t Written = write(AFile, ASource.data() + ADone, Step);
         if (Written > 0) {

@@ -5,6 +5,7 @@
 #include <ctime>
 #include <memory>
 
+#include <csignal>
 #include <pthread.h>
 #include <sched.h>
 #include <sys/syscall.h>
@@ -17,6 +18,12 @@ namespace {
 constexpr size_t cNameLimit = 15;
 
 constinit thread_local uint32_t GThreadId = 0;
+
+uint64_t Milliseconds(clockid_t AClock) noexcept {
+    timespec Now;
+    clock_gettime(AClock, &Now);
+    return static_cast<uint64_t>(Now.tv_sec) * 1000 + static_cast<uint64_t>(Now.tv_nsec) / 1'000'000;
+}
 
 // Runs in the child of a fork(), on its only thread.
 void ForgetThreadId() {
@@ -38,14 +45,20 @@ uint32_t CurrentThreadId() noexcept {
     return Id != 0 ? Id : AskThreadId();
 }
 
+uint32_t CurrentProcessId() noexcept {
+    return static_cast<uint32_t>(getpid());
+}
+
 uint32_t TickCount() noexcept {
     return static_cast<uint32_t>(TickCount64());
 }
 
 uint64_t TickCount64() noexcept {
-    timespec Now;
-    clock_gettime(CLOCK_BOOTTIME, &Now);
-    return static_cast<uint64_t>(Now.tv_sec) * 1000 + static_cast<uint64_t>(Now.tv_nsec) / 1'000'000;
+    return Milliseconds(CLOCK_BOOTTIME);
+}
+
+uint64_t CoarseTickCount64() noexcept {
+    return Milliseconds(CLOCK_MONOTONIC_COARSE);
 }
 
 void SetCurrentThreadName(std::string_view AName) {
@@ -79,6 +92,20 @@ void SleepMs(uint32_t AMilliseconds) noexcept {
         ++Until.tv_sec;
     }
     while (clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &Until, nullptr) == EINTR) {}
+}
+
+bool StartServiceThread(void (*ABody)() noexcept) noexcept {
+    const auto Body = [](void* AParameter) -> void* {
+        reinterpret_cast<void (*)() noexcept>(AParameter)();
+        return nullptr;
+    };
+    sigset_t All, Old;
+    sigfillset(&All);
+    pthread_sigmask(SIG_SETMASK, &All, &Old);
+    pthread_t Thread;
+    const bool Ok = pthread_create(&Thread, nullptr, Body, reinterpret_cast<void*>(ABody)) == 0;
+    pthread_sigmask(SIG_SETMASK, &Old, nullptr);
+    return Ok && pthread_detach(Thread) == 0;
 }
 
 uint32_t ProcessorCount() noexcept {

@@ -85,6 +85,19 @@ bool TFileHandle::SetSize(int64_t ASize, TError& AError) {
                    SetFileInformationByHandle(Handle(FHandle), FileEndOfFileInfo, &Info, sizeof Info) != 0);
 }
 
+bool TFileHandle::WriteAtEnd(TError& AError) {
+    int64_t Position = 0;
+    return Seek(0, TFileOrigin::End, Position, AError);
+}
+
+bool TFileHandle::Append(std::span<const std::byte> ASource, size_t& ADone, TError& AError) {
+    return Write(ASource, ADone, AError);
+}
+
+bool TFileHandle::IsAt(std::u16string_view) const {
+    return true;
+}
+
 bool TFileHandle::Flush(TError& AError) {
     // A handle that only reads has nothing to wait for.
     return Outcome(AError, FlushFileBuffers(Handle(FHandle)) != 0 || GetLastError() == ERROR_ACCESS_DENIED);

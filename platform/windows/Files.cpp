@@ -253,6 +253,26 @@ bool RemoveEmptyDirectory(std::u16string_view APath, TError& AError) {
     return Path ? Outcome(AError, RemoveDirectoryW(Wide(*Path)) != 0) : Fail(AError, ERROR_INVALID_NAME);
 }
 
+std::u16string_view PathSeparators() noexcept {
+    return u"\\/";
+}
+
+bool FileNamesIgnoreCase() noexcept {
+    return true;
+}
+
+char16_t DriveSeparator() noexcept {
+    return u':';
+}
+
+bool RenameEntry(std::u16string_view APath, std::u16string_view ANewPath, TError& AError) {
+    const std::optional<std::u16string> Old = detail::SystemPath(APath);
+    const std::optional<std::u16string> New = detail::SystemPath(ANewPath);
+    if (!Old || !New)
+        return Fail(AError, ERROR_INVALID_NAME);
+    return Outcome(AError, MoveFileExW(Wide(*Old), Wide(*New), 0) != 0);
+}
+
 bool ReadWholeFile(std::u16string_view APath, std::vector<std::byte>& AOut, TError& AError) {
     AOut.clear();
     const std::optional<std::u16string> Path = detail::SystemPath(APath);

@@ -63,11 +63,19 @@ uint32_t CurrentThreadId() noexcept {
     return GetCurrentThreadId();
 }
 
+uint32_t CurrentProcessId() noexcept {
+    return GetCurrentProcessId();
+}
+
 uint32_t TickCount() noexcept {
     return static_cast<uint32_t>(GetTickCount64());
 }
 
 uint64_t TickCount64() noexcept {
+    return GetTickCount64();
+}
+
+uint64_t CoarseTickCount64() noexcept {
     return GetTickCount64();
 }
 
@@ -84,6 +92,15 @@ void YieldThread() noexcept {
 void SleepMs(uint32_t AMilliseconds) noexcept {
     // The greatest number would mean for ever.
     Sleep(std::min<DWORD>(AMilliseconds, INFINITE - 1));
+}
+
+bool StartServiceThread(void (*ABody)() noexcept) noexcept {
+    const auto Body = [](void* AParameter) -> DWORD {
+        reinterpret_cast<void (*)() noexcept>(AParameter)();
+        return 0;
+    };
+    HANDLE Thread = CreateThread(nullptr, 0, Body, reinterpret_cast<void*>(ABody), 0, nullptr);
+    return Thread != nullptr && CloseHandle(Thread) != 0;
 }
 
 uint32_t ProcessorCount() noexcept {

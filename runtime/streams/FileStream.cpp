@@ -13,6 +13,8 @@ using platform::TFileAccess;
 using platform::TFileCreation;
 using platform::TFileSharing;
 
+constexpr TTextConstant cCannotWrite = u"Cannot write to file \"%s\". %s";
+
 TFileSharing SharingOf(std::uint16_t AMode) {
     switch (AMode & 0x00F0u) {
     case fmShareDenyWrite: return {.Read = true, .Write = false};
@@ -64,8 +66,29 @@ std::int32_t TFileStream::Write(const void* ABuffer, std::int32_t ACount) {
     std::size_t Done = 0;
     TError Error;
     if (!FHandle.Write({static_cast<const std::byte*>(ABuffer), Count}, Done, Error) && Done == 0)
-        Raise<EWriteError>(u"Cannot write to file \"%s\". %s", FFileName, Error);
+        Raise<EWriteError>(cCannotWrite, FFileName, Error);
     return static_cast<std::int32_t>(Done);
+}
+
+void TFileStream::SetAppending() {
+    TError Error;
+    if (!FHandle.WriteAtEnd(Error))
+        Raise<EStreamError>(u"Cannot seek in file \"%s\". %s", FFileName, Error);
+}
+
+void TFileStream::AppendWhole(std::span<const std::byte> ABytes, std::int64_t AEnd) {
+    std::size_t Done = 0;
+    TError Error;
+    if (FHandle.Append(ABytes, Done, Error))
+        return;
+    TError Second;
+    std::int64_t Size = 0;
+    if (Done != 0 && FHandle.Seek(0, platform::TFileOrigin::End, Size, Second) &&
+        Size - AEnd == static_cast<std::int64_t>(Done)) {
+        FHandle.SetSize(AEnd, Second);
+        FHandle.Seek(AEnd, platform::TFileOrigin::Beginning, Size, Second);
+    }
+    Raise<EWriteError>(cCannotWrite, FFileName, Error);
 }
 
 std::int64_t TFileStream::Seek(std::int64_t AOffset, TSeekOrigin AOrigin) {

@@ -9,6 +9,8 @@
 // returns.
 #pragma once
 
+#include <span>
+
 #include "platform/FileHandle.h"
 #include "runtime/streams/Stream.h"
 #include "runtime/text/StringArg.h"
@@ -47,6 +49,11 @@ public:
     // The number of bytes that arrived, less than ACount when the disk became full. Raises EWriteError with the file and
     // the reason when none did.
     std::int32_t Write(const void* ABuffer, std::int32_t ACount) override;
+    // Has AppendWhole write at the end of the file. Raises EStreamError.
+    void SetAppending();
+    // Writes all of ABytes at the end or nothing: where only a part has room, it is taken back, if the end was at AEnd before.
+    // Where the position is then is not said. Raises EWriteError with the file and the reason.
+    void AppendWhole(std::span<const std::byte> ABytes, std::int64_t AEnd);
     // Places behind the end are allowed; a write there leaves zeros before it. Raises EStreamError.
     std::int64_t Seek(std::int64_t AOffset, TSeekOrigin AOrigin) override;
     // New bytes are 0; the position stays. Raises EStreamError.

@@ -1,4 +1,4 @@
-// A directory of a test's own, empty at first and gone with all that is directly in it at the end.
+// A directory of a test's own, empty at first and gone with all that is in it at the end.
 #pragma once
 
 #include <string>
@@ -24,12 +24,8 @@ public:
     TTemporaryDirectory(const TTemporaryDirectory&) = delete;
     TTemporaryDirectory& operator=(const TTemporaryDirectory&) = delete;
     ~TTemporaryDirectory() {
-        std::vector<TDirEntry> Entries;
         TError Error;
-        ListDirectory(FPath, Entries, Error);
-        for (const TDirEntry& Entry : Entries)
-            RemoveFile(*this / Entry.Name, Error);
-        EXPECT_TRUE(RemoveEmptyDirectory(FPath, Error)) << Error.Code;
+        EXPECT_TRUE(Remove(FPath, Error)) << Error.Code;
     }
 
     const std::u16string& Path() const { return FPath; }
@@ -37,6 +33,17 @@ public:
     std::u16string operator/(std::u16string_view AName) const { return (FPath + u'/').append(AName); }
 
 private:
+    static bool Remove(const std::u16string& ADirectory, TError& AError) {
+        std::vector<TDirEntry> Entries;
+        ListDirectory(ADirectory, Entries, AError);
+        for (const TDirEntry& Entry : Entries) {
+            const std::u16string Path = (ADirectory + u'/').append(Entry.Name);
+            if (!RemoveFile(Path, AError) && Entry.IsDirectory)
+                Remove(Path, AError);
+        }
+        return RemoveEmptyDirectory(ADirectory, AError);
+    }
+
     std::u16string FPath;
 };
 
