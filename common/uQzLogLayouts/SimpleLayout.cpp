@@ -1,12 +1,13 @@
 #include "common/uQzLogLayouts/SimpleLayout.h"
 
-#include <algorithm>
-
+#include "common/uQzLogLayouts/LinePen.h"
 #include "common/uQzLogger/DataRec.h"
 #include "runtime/time/DateTimeText.h"
 #include "runtime/time/LocalClock.h"
 
 namespace qz {
+
+using detail::TLinePen;
 
 constinit const TClassRec TQzSimpleLayout::ClassRec = DescribeLogBase<TQzSimpleLayout>(
     u"TQzSimpleLayout",
@@ -17,32 +18,34 @@ namespace {
 constexpr std::u16string_view cDash = u" - ";
 constexpr std::size_t cTimeLength = 23; // 2024-01-31 08:15:02:047
 
-// A pen that writes from one end of a text to the other.
-struct TPen {
-    char16_t* Place;
-
-    void Put(std::u16string_view AText) noexcept { Place = std::copy(AText.begin(), AText.end(), Place); }
-    void Put(char16_t AChar) noexcept { *Place++ = AChar; }
-    void PutNumber(unsigned ANumber, int ADigits) noexcept {
-        for (int I = ADigits; I-- > 0; ANumber /= 10)
-            Place[I] = static_cast<char16_t>(u'0' + ANumber % 10);
-        Place += ADigits;
+// "2024-01-31 ", worked out once a day and thread.
+std::u16string_view DateText(std::int32_t ADay) noexcept {
+    struct TDateText {
+        std::int32_t Day = INT32_MIN;
+        char16_t Text[11]{};
+    };
+    constinit static thread_local TDateText Known;
+    if (Known.Day != ADay) {
+        std::uint16_t Year = 0;
+        std::uint16_t Month = 0;
+        std::uint16_t Day = 0;
+        DecodeDate(static_cast<double>(ADay), Year, Month, Day);
+        TLinePen Pen{Known.Text};
+        Pen.PutNumber(Year, 4);
+        Pen.Put(u'-');
+        Pen.PutNumber(Month, 2);
+        Pen.Put(u'-');
+        Pen.PutNumber(Day, 2);
+        Pen.Put(u' ');
+        Known.Day = ADay;
     }
-};
+    return {Known.Text, std::size(Known.Text)};
+}
 
-void PutTime(TPen& APen) noexcept {
+void PutTime(TLinePen& APen) noexcept {
     const TLocalInstant Now = LocalClock();
-    std::uint16_t Year = 0;
-    std::uint16_t Month = 0;
-    std::uint16_t Day = 0;
-    DecodeDate(static_cast<double>(Now.Day), Year, Month, Day);
     const auto MSecs = static_cast<unsigned>(Now.MSecs);
-    APen.PutNumber(Year, 4);
-    APen.Put(u'-');
-    APen.PutNumber(Month, 2);
-    APen.Put(u'-');
-    APen.PutNumber(Day, 2);
-    APen.Put(u' ');
+    APen.Put(DateText(Now.Day));
     APen.PutNumber(MSecs / 3600000, 2);
     APen.Put(u':');
     APen.PutNumber(MSecs / 60000 % 60, 2);
@@ -85,7 +88,7 @@ UnicodeString TQzSimpleLayout::FormatLine(const UnicodeString& ALogger, TQzLogLe
     const std::size_t Tail = AValue == nullptr ? 0 : cDash.size() + Value.size();
     UnicodeString Result = UnicodeString::ForOverwrite(
         Spaces + cTimeLength + 2 * cDash.size() + Level.size() + 1 + ALogger.size() + AMessage.size() + Tail);
-    TPen Pen{std::fill_n(Result.UniqueData(), Spaces, u' ')};
+    TLinePen Pen{std::fill_n(Result.UniqueData(), Spaces, u' ')};
     PutTime(Pen);
     Pen.Put(cDash);
     Pen.Put(Level);

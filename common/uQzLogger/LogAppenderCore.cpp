@@ -65,6 +65,9 @@ void TLogAppenderCore::LeaveGate() noexcept {
 void TLogAppenderCore::TakeRemoved(std::vector<Ref<IQzLogAppender>>& ATarget) noexcept {
     const std::lock_guard Hold(FLock);
     FHasRemoved = false;
+    FLatest->Older.reset();
+    if (FRemoved.empty())
+        return;
     if (ATarget.empty()) {
         ++FLettingGo;
         ATarget.swap(FRemoved);
@@ -102,14 +105,9 @@ void TLogAppenderCore::AwaitLetGo() noexcept {
         FLettingGo.wait(Busy);
 }
 
-TAppenderSnapshot TLogAppenderCore::Items() const {
-    const std::lock_guard Hold(FLock);
-    return FSnapshot;
-}
-
 bool TLogAppenderCore::Holds(const IQzLogAppender* AAppender) const {
     const std::lock_guard Hold(FLock);
-    return std::find(FSnapshot->begin(), FSnapshot->end(), AAppender) != FSnapshot->end();
+    return std::find(FLatest->Items.begin(), FLatest->Items.end(), AAppender) != FLatest->Items.end();
 }
 
 Ref<IQzLogAppender> TLogAppenderCore::Item(int AIndex) const {
@@ -119,19 +117,24 @@ Ref<IQzLogAppender> TLogAppenderCore::Item(int AIndex) const {
 }
 
 // The caller holds the inner lock and has made all that may fail.
-void TLogAppenderCore::Publish(TAppenderSnapshot ASnapshot) noexcept {
-    FCount.store(static_cast<int>(ASnapshot->size()), std::memory_order_relaxed);
-    FSnapshot = std::move(ASnapshot);
+void TLogAppenderCore::Publish(std::unique_ptr<TAppenderSnapshot> ASnapshot) noexcept {
+    FCount.store(static_cast<int>(ASnapshot->Items.size()), std::memory_order_relaxed);
+    ASnapshot->Older = std::move(FLatest);
+    FLatest = std::move(ASnapshot);
+    FSnapshot.store(FLatest.get(), std::memory_order_release);
+    FHasRemoved = true;
     FVersion.fetch_add(1, std::memory_order_release);
 }
 
 bool TLogAppenderCore::Insert(IQzLogAppender* AAppender) {
     const TChange Change(*this);
     const std::lock_guard Hold(FLock);
-    if (std::find(FSnapshot->begin(), FSnapshot->end(), AAppender) != FSnapshot->end())
+    if (std::find(FLatest->Items.begin(), FLatest->Items.end(), AAppender) != FLatest->Items.end())
         return false;
-    auto Fresh = std::make_shared<std::vector<IQzLogAppender*>>(*FSnapshot);
-    Fresh->push_back(AAppender);
+    auto Fresh = std::make_unique<TAppenderSnapshot>();
+    Fresh->Items.reserve(FLatest->Items.size() + 1);
+    Fresh->Items = FLatest->Items;
+    Fresh->Items.push_back(AAppender);
     FItems.emplace_back(AAppender);
     Publish(std::move(Fresh));
     return true;
@@ -143,9 +146,10 @@ bool TLogAppenderCore::Extract(const TComponent* AComponent) {
     };
     const TChange Change(*this);
     const std::lock_guard Hold(FLock);
-    auto Fresh = std::make_shared<std::vector<IQzLogAppender*>>();
-    std::remove_copy_if(FSnapshot->begin(), FSnapshot->end(), std::back_inserter(*Fresh), IsMeant);
-    if (Fresh->size() == FSnapshot->size())
+    auto Fresh = std::make_unique<TAppenderSnapshot>();
+    std::remove_copy_if(FLatest->Items.begin(), FLatest->Items.end(), std::back_inserter(Fresh->Items),
+                        IsMeant);
+    if (Fresh->Items.size() == FLatest->Items.size())
         return false;
     FRemoved.reserve(FRemoved.size() + FItems.size());
     const auto First =
@@ -153,7 +157,6 @@ bool TLogAppenderCore::Extract(const TComponent* AComponent) {
                               [&](const Ref<IQzLogAppender>& AItem) { return !IsMeant(AItem.Get()); });
     std::move(First, FItems.end(), std::back_inserter(FRemoved));
     FItems.erase(First, FItems.end());
-    FHasRemoved = true;
     Publish(std::move(Fresh));
     return true;
 }

@@ -16,7 +16,11 @@
 
 namespace qz::detail {
 
-using TAppenderSnapshot = std::shared_ptr<const std::vector<IQzLogAppender*>>;
+// The appenders as they were between two changes.
+struct TAppenderSnapshot {
+    std::vector<IQzLogAppender*> Items;
+    std::unique_ptr<TAppenderSnapshot> Older; // which somebody who holds the gate may still walk
+};
 
 class TLogAppenderCore : public std::enable_shared_from_this<TLogAppenderCore> {
 public:
@@ -32,8 +36,10 @@ public:
     int Count() const noexcept { return FCount.load(std::memory_order_relaxed); }
     // Counts the changes.
     std::uint32_t Version() const noexcept { return FVersion.load(std::memory_order_acquire); }
-    // Never null. The caller holds the gate as long as it uses them.
-    TAppenderSnapshot Items() const;
+    // The caller holds the gate as long as it uses them.
+    const std::vector<IQzLogAppender*>& Items() const noexcept {
+        return FSnapshot.load(std::memory_order_acquire)->Items;
+    }
     bool Holds(const IQzLogAppender* AAppender) const;
     // Null for an index outside.
     Ref<IQzLogAppender> Item(int AIndex) const;
@@ -56,7 +62,7 @@ public:
 
 private:
     class TChange;
-    void Publish(TAppenderSnapshot ASnapshot) noexcept;
+    void Publish(std::unique_ptr<TAppenderSnapshot> ASnapshot) noexcept;
     void Changed();
     bool Insert(IQzLogAppender* AAppender);
     bool Extract(const TComponent* AComponent);
@@ -66,7 +72,8 @@ private:
     mutable std::mutex FLock; // innermost
     std::vector<Ref<IQzLogAppender>> FItems;
     std::vector<Ref<IQzLogAppender>> FRemoved;
-    TAppenderSnapshot FSnapshot = std::make_shared<const std::vector<IQzLogAppender*>>();
+    std::unique_ptr<TAppenderSnapshot> FLatest = std::make_unique<TAppenderSnapshot>();
+    std::atomic<const TAppenderSnapshot*> FSnapshot{FLatest.get()};
     std::atomic<int> FCount{0};
     std::atomic<bool> FHasRemoved{false};
     std::atomic<int> FLettingGo{0}; // threads that have taken removed ones and not yet ended them

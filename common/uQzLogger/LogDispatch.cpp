@@ -32,6 +32,7 @@ struct TWaitingRemoved {
 struct TWaitingMessages {
     std::deque<TWaitingMessage> Items;
     std::deque<TWaitingRemoved> Removed;
+    std::vector<Ref<TQzLogger>> Loggers;
     int Arisen = 0; // since the thread was free
 };
 
@@ -103,8 +104,7 @@ void WriteToAppenders(TLogDispatch& APresent, const TQzLogger& ALogger, const TL
     TLogAppenderCore& Core = ALogger.AppenderCore();
     const TLogGate Gate(Core);
     const std::uint32_t Version = Core.Version();
-    const TAppenderSnapshot Items = Core.Items();
-    for (IQzLogAppender* Appender : *Items) {
+    for (IQzLogAppender* Appender : Core.Items()) {
         const bool IsSkipped =
             std::find(APresent.Skipped.begin(), APresent.Skipped.end(), Appender) != APresent.Skipped.end();
         if (!IsSkipped && (Core.Version() == Version || Core.Holds(Appender)))
@@ -113,16 +113,17 @@ void WriteToAppenders(TLogDispatch& APresent, const TQzLogger& ALogger, const TL
 }
 
 void Walk(TLogDispatch& APresent, TQzLogger& ALogger, const TLogMessage& AMessage) {
-    UnicodeString Text;
-    bool HasText = false;
+    UnicodeString Made;
+    const UnicodeString* Text = AMessage.Text.Source();
     for (const TQzLogger* Node = &ALogger; Node != nullptr; Node = Node->NextOnTheWay()) {
         if (AMessage.Level < Node->GetLevel() || Node->AppenderCore().IsEmpty())
             continue;
-        if (!HasText)
-            Text = AMessage.Text.ToString();
-        HasText = true;
+        if (Text == nullptr) {
+            Made = AMessage.Text.ToString();
+            Text = &Made;
+        }
         Node->FullName(); // found out before the gate
-        WriteToAppenders(APresent, *Node, AMessage, Text);
+        WriteToAppenders(APresent, *Node, AMessage, *Text);
     }
 }
 
@@ -153,6 +154,9 @@ void SendAllWaiting() noexcept {
         }
         if (Thread.Waiting->Items.empty()) {
             const std::unique_ptr<TWaitingMessages> Done(std::exchange(Thread.Waiting, nullptr));
+            Thread.IsSending = false; // so that loggers may end
+            Done->Loggers.clear();
+            Thread.IsSending = true;
             continue;
         }
         TWaitingMessage Message = std::move(Thread.Waiting->Items.front());
@@ -180,6 +184,17 @@ bool LetGoLater(TLogAppenderCore& ACore, std::vector<Ref<IQzLogAppender>>& ARemo
     }
 }
 
+bool ReleaseLater(TQzLogger& ALogger) noexcept {
+    try {
+        std::vector<Ref<TQzLogger>>& Loggers = Waiting(ThisLogThread()).Loggers;
+        Loggers.reserve(Loggers.size() + 1);
+        Loggers.push_back(Ref<TQzLogger>::Attach(&ALogger));
+        return true;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
 void SendWaiting() noexcept {
     TLogThread& Thread = ThisLogThread();
     if (!IsFree(Thread))
@@ -193,13 +208,10 @@ void Dispatch(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept {
     TLogThread& Thread = ThisLogThread();
     if (!IsFree(Thread))
         return Enqueue(ALogger, AMessage);
-    const bool IsCounted = ALogger.TryAddRef(); // an appender may end the tree
     Thread.IsSending = true;
     Send(ALogger, AMessage, {});
     SendAllWaiting();
     Thread.IsSending = false;
-    if (IsCounted)
-        ALogger._Release();
 }
 
 } // namespace qz::detail

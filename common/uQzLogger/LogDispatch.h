@@ -33,6 +33,10 @@ struct TLogDispatch {
 // Has the references end as soon as the thread holds no gate and no tree; false when there is no memory for that.
 bool LetGoLater(TLogAppenderCore& ACore, std::vector<Ref<IQzLogAppender>>& ARemoved) noexcept;
 
+// Takes over a reference, which may be the last one, until the message that the thread is sending has arrived. False when
+// there is no memory for that.
+bool ReleaseLater(TQzLogger& ALogger) noexcept;
+
 // Offers the message to the logger and its ancestors; see IQzLogger. Nothing is raised.
 void Dispatch(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept;
 

@@ -161,9 +161,12 @@ void TQzLogger::LeaveParent() {
         FParent->FChildLoggers->FList.Remove(this);
 }
 
-// A parent may end with its last child, and so on up the tree, which may be high.
+// A parent may end with its last child, and so on up the tree, which may be high. A logger does not end while its thread is
+// on the way with a message, which may be this one's.
 std::uint32_t TQzLogger::_Release() {
     std::int32_t Count = 0;
+    if (detail::ThisLogThread().IsSending && FRefCount.Value() == 1 && detail::ReleaseLater(*this))
+        return 1;
     TQzLogger* Ending = DropReference(Count) ? this : nullptr;
     while (Ending != nullptr) {
         TQzLogger* Parent = Ref<TQzLogger>(Ending->FParent).Detach();

@@ -23,6 +23,8 @@ public:
 
     operator std::u16string_view() const noexcept { return FView; }
     std::u16string_view View() const noexcept { return FView; }
+    // That text, where there is one.
+    const UnicodeString* Source() const noexcept { return FSource; }
     // Shares the text that the argument was made from, where that is a UnicodeString.
     UnicodeString ToString() const { return FSource != nullptr ? *FSource : UnicodeString(FView); }
 
