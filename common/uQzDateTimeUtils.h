@@ -1,4 +1,4 @@
-// Unit uQzDateTimeUtils: arithmetic on dates and times of day.
+// Unit uQzDateTimeUtils: arithmetic on dates and times of day, and time zones.
 #pragma once
 
 // The enumerations of the unit, dates that are in UTC, and
@@ -13,3 +13,9 @@
 // QzAddMonths, QzAddSecs, QzRoundTime
 // and their kin: dates moved.
 #include "common/uQzDateTimeUtils/CalendarMoves.h"
+// TQzTimeZones: the offsets of zones
+// by their abbreviations and names.
+#include "common/uQzDateTimeUtils/TimeZones.h"
+// QzUTCToLocal, QzLocalToUTC, QzLocalTimeZone and their
+// kin: the zone of this machine.
+#include "common/uQzDateTimeUtils/LocalZone.h"

@@ -27,11 +27,11 @@ struct TLocalTime {
 // clock. Steps back when the clock is set back.
 QZ_API int64_t UtcNow100ns() noexcept;
 
-// The time in the system's time zone (Linux: TZ or /etc/localtime). All fields belong to the same instant.
-QZ_API TLocalTime LocalNow() noexcept;
+// The same in whole seconds, by the clock that is cheapest to look at: it may lag behind by a tick of 20 milliseconds.
+QZ_API int64_t UtcNowSeconds() noexcept;
 
-// The seconds to add to UTC for the local time now. Looks at the setting of the zone anew, which LocalNow need not do
-// (Linux: TZ, and /etc/localtime without it); the environment must not be changed meanwhile.
-QZ_API int32_t LocalOffsetSeconds() noexcept;
+// The time in the system's time zone (Linux: TZ or /etc/localtime, as the C library last looked at them). All fields
+// belong to the same instant.
+QZ_API TLocalTime LocalNow() noexcept;
 
 } // namespace qz::platform

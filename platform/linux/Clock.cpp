@@ -17,6 +17,10 @@ int64_t UtcNow100ns() noexcept {
     return (Now.tv_sec + cUnixEpochSeconds) * 10'000'000 + Now.tv_nsec / 100;
 }
 
+int64_t UtcNowSeconds() noexcept {
+    return time(nullptr) + cUnixEpochSeconds;
+}
+
 TLocalTime LocalNow() noexcept {
     timespec Now;
     clock_gettime(CLOCK_REALTIME, &Now);
@@ -34,14 +38,6 @@ TLocalTime LocalNow() noexcept {
         .Millisecond = static_cast<uint16_t>(Now.tv_nsec / 1'000'000),
         .OffsetMinutes = static_cast<int16_t>(Parts.tm_gmtoff / 60),
     };
-}
-
-int32_t LocalOffsetSeconds() noexcept {
-    tzset();
-    const time_t Now = time(nullptr);
-    tm Parts{};
-    localtime_r(&Now, &Parts);
-    return static_cast<int32_t>(Parts.tm_gmtoff);
 }
 
 } // namespace qz::platform

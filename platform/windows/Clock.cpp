@@ -36,6 +36,12 @@ int64_t UtcNow100ns() noexcept {
     return Joined(Now);
 }
 
+int64_t UtcNowSeconds() noexcept {
+    FILETIME Now;
+    GetSystemTimeAsFileTime(&Now);
+    return Joined(Now) / 10'000'000;
+}
+
 TLocalTime LocalNow() noexcept {
     const FILETIME Utc = Split(UtcNow100ns());
     // This applies what holds now to any time, which for now itself is right.
@@ -54,10 +60,6 @@ TLocalTime LocalNow() noexcept {
         .Millisecond = Local.wMilliseconds,
         .OffsetMinutes = static_cast<int16_t>((Joined(Moved) - Joined(Utc)) / cMinute),
     };
-}
-
-int32_t LocalOffsetSeconds() noexcept {
-    return LocalNow().OffsetMinutes * 60;
 }
 
 } // namespace qz::platform

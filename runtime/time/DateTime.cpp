@@ -7,6 +7,7 @@
 #include "platform/Clock.h"
 #include "runtime/errors/Exceptions.h"
 #include "runtime/reflection/Describe.h"
+#include "runtime/time/LocalClock.h"
 
 namespace qz {
 
@@ -150,10 +151,8 @@ void DecodeMSecs(std::int32_t AMSecs, std::uint16_t& AHour, std::uint16_t& AMinu
 }
 
 TDayAndTime LocalDayAndTime() noexcept {
-    const platform::TLocalTime Now = platform::LocalNow();
-    return {static_cast<std::int32_t>(DayNumber(Now.Year, Now.Month, Now.Day)),
-            // A leap second has no time of its own here.
-            MSecsOf(Now.Hour, Now.Minute, std::min<int>(Now.Second, 59), Now.Millisecond)};
+    const TLocalInstant Now = LocalClock();
+    return {Now.Day, Now.MSecs};
 }
 
 } // namespace

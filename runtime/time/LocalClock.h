@@ -3,8 +3,8 @@
 //     const TLocalInstant Now = LocalClock();
 //     Show(Now.Day, Now.MSecs);
 //
-// The system is asked for the offset of the zone once a minute; the clock is right across a change of the zone's rules,
-// which happens between two minutes, and notices another zone within a minute. Any thread, without a lock.
+// The clock is right across a change of the zone's offset, and notices another zone within a minute, as TTimeZone does,
+// from which it has the offset. Any thread, without a lock.
 #pragma once
 
 #include <cstdint>
@@ -20,7 +20,7 @@ struct TLocalInstant {
 
 QZ_API TLocalInstant LocalClock() noexcept;
 
-// Has the next look ask the system; for who has just changed the zone and cannot wait for the next minute.
+// TTimeZone::Refresh: for who has just changed the zone and cannot wait for the next minute.
 QZ_API void RefreshLocalClock() noexcept;
 
 } // namespace qz

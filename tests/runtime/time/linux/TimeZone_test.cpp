@@ -1,0 +1,323 @@
+#include "runtime/time/TimeZone.h"
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+#include <sys/wait.h>
+#include <time.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <filesystem>
+#include <thread>
+
+#include "runtime/time/DateTimeText.h"
+#include "runtime/time/LocalClock.h"
+#include "runtime/time/ZoneState.h"
+#include "tests/support/ZoneOfTheEnvironment.h"
+
+namespace qz {
+namespace {
+
+constexpr std::int64_t cFirst = -86400;         // 1969-12-31
+constexpr std::int64_t cLast = 2145916800;      // 2038-01-01
+constexpr std::int64_t cStep = 3 * 3600 + 1800; // shorter than any period
+
+TDateTime DateOf(std::int64_t AUnix) {
+    const std::int64_t Day = (AUnix - (AUnix < 0 ? 86399 : 0)) / 86400;
+    return JoinDateTime(
+        {static_cast<std::int32_t>(Day + 25569), static_cast<std::int32_t>(AUnix - Day * 86400) * 1000});
+}
+
+std::int64_t UnixOf(TDateTime ADate) {
+    const TDayAndTime Parts = SplitDateTime(ADate);
+    return (std::int64_t{Parts.Day} - 25569) * 86400 + Parts.MSecs / 1000;
+}
+
+struct TKnown {
+    std::int64_t Offset;
+    bool IsDaylight;
+};
+
+// By the C library.
+TKnown KnownAt(std::int64_t AUnix) {
+    const time_t Moment = AUnix;
+    tm Parts{};
+    localtime_r(&Moment, &Parts);
+    return {Parts.tm_gmtoff, Parts.tm_isdst > 0};
+}
+
+// The first second at which something else holds than at AFrom.
+std::int64_t ChangeBetween(std::int64_t AFrom, std::int64_t ATo) {
+    const TKnown Before = KnownAt(AFrom);
+    while (ATo - AFrom > 1) {
+        const std::int64_t Middle = AFrom + (ATo - AFrom) / 2;
+        const TKnown Here = KnownAt(Middle);
+        (Here.Offset == Before.Offset && Here.IsDaylight == Before.IsDaylight ? AFrom : ATo) = Middle;
+    }
+    return ATo;
+}
+
+std::string CheckUtc(std::int64_t AUnix) {
+    const std::int64_t Expected = AUnix + KnownAt(AUnix).Offset;
+    const std::int64_t Given = UnixOf(TTimeZone::Local().ToLocalTime(DateOf(AUnix)));
+    return Given == Expected
+        ? ""
+        : std::to_string(AUnix) + " to local is off by " + std::to_string(Given - Expected);
+}
+
+// ALocal has as many moments as there are of those two offsets that lead to it.
+std::string CheckLocal(std::int64_t ALocal, TKnown ABefore, TKnown AAfter) {
+    const TTimeZone& Zone = TTimeZone::Local();
+    const TDateTime Local = DateOf(ALocal);
+    const std::string Name = "local " + std::to_string(ALocal);
+    const auto Holds = [=](TKnown AKnown) {
+        const TKnown There = KnownAt(ALocal - AKnown.Offset);
+        return There.Offset == AKnown.Offset && There.IsDaylight == AKnown.IsDaylight;
+    };
+    const bool IsFirst = Holds(ABefore);
+    const bool IsSecond = Holds(AAfter);
+    if (!IsFirst && !IsSecond) {
+        if (!Zone.IsInvalidTime(Local))
+            return Name + " is not there";
+        try {
+            Zone.ToUniversalTime(Local, true);
+            return Name + " has a moment";
+        } catch (const ELocalTimeInvalid&) {
+            return "";
+        }
+    }
+    TKnown Standard = IsFirst ? ABefore : AAfter;
+    TKnown Daylight = IsSecond ? AAfter : ABefore;
+    if (Standard.IsDaylight != Daylight.IsDaylight ? Standard.IsDaylight : Standard.Offset > Daylight.Offset)
+        std::swap(Standard, Daylight);
+    const TLocalTimeType Type = Standard.Offset != Daylight.Offset ? ltAmbiguous
+        : Standard.IsDaylight                                      ? ltDaylight
+                                                                   : ltStandard;
+    if (Zone.GetLocalTimeType(Local) != Type)
+        return Name + " is of type " + std::to_string(static_cast<int>(Zone.GetLocalTimeType(Local)));
+    if (UnixOf(Zone.ToUniversalTime(Local)) != ALocal - Standard.Offset ||
+        UnixOf(Zone.ToUniversalTime(Local, true)) != ALocal - Daylight.Offset ||
+        Zone.GetUtcOffset(Local, true).Ticks != Daylight.Offset * TTimeSpan::TicksPerSecond)
+        return Name + " is another moment";
+    return "";
+}
+
+// What is wrong at a change and beside it.
+std::string CheckChange(std::int64_t AChange) {
+    const TKnown Before = KnownAt(AChange - 1);
+    const TKnown After = KnownAt(AChange);
+    for (const std::int64_t Shift : {-1, 0, 1}) {
+        std::string Wrong = CheckUtc(AChange + Shift);
+        for (const std::int64_t Offset : {Before.Offset, After.Offset, (Before.Offset + After.Offset) / 2})
+            Wrong += CheckLocal(AChange + Offset + Shift, Before, After);
+        if (!Wrong.empty())
+            return Wrong;
+    }
+    return "";
+}
+
+struct TChecked {
+    int Changes = 0;
+    std::string Wrong;
+};
+
+TChecked CheckZone(const std::string& AZone, std::int64_t AFirst = cFirst, std::int64_t ALast = cLast) {
+    TZoneOfTheEnvironment::Set(AZone);
+    TChecked Result;
+    for (std::int64_t Moment = AFirst; Moment < ALast && Result.Wrong.empty(); Moment += cStep) {
+        Result.Wrong = CheckUtc(Moment);
+        const TKnown Here = KnownAt(Moment);
+        const TKnown Next = KnownAt(Moment + cStep);
+        if (!Result.Wrong.empty() || (Here.Offset == Next.Offset && Here.IsDaylight == Next.IsDaylight))
+            continue;
+        Result.Wrong = CheckChange(ChangeBetween(Moment, Moment + cStep));
+        ++Result.Changes;
+    }
+    return Result;
+}
+
+TEST(TimeZoneLinux, EachChangeIsThatOfTheCLibrary) {
+    const TZoneOfTheEnvironment Keep("UTC0");
+    struct TCase {
+        const char* Zone;
+        int LeastChanges; // so that a zone that is not installed is no success
+    };
+    for (const TCase& Case : std::initializer_list<TCase>{{"Europe/Dublin", 130},
+                                                          {"Europe/London", 130},
+                                                          {"Europe/Moscow", 50},
+                                                          {"Europe/Istanbul", 70},
+                                                          {"Europe/Lisbon", 100},
+                                                          {"America/New_York", 130},
+                                                          {"America/St_Johns", 130},
+                                                          {"America/Caracas", 2},
+                                                          {"America/Sao_Paulo", 60},
+                                                          {"America/Nuuk", 50},
+                                                          {"America/Scoresbysund", 60},
+                                                          {"America/Argentina/San_Luis", 15},
+                                                          {"America/Bogota", 2},
+                                                          {"America/Metlakatla", 70},
+                                                          {"Asia/Kathmandu", 1},
+                                                          {"Asia/Pyongyang", 2},
+                                                          {"Asia/Tehran", 60},
+                                                          {"Asia/Gaza", 100},
+                                                          {"Asia/Kolkata", 0},
+                                                          {"Asia/Dhaka", 2},
+                                                          {"Asia/Shanghai", 10},
+                                                          {"Africa/Casablanca", 80},
+                                                          {"Africa/Monrovia", 1},
+                                                          {"Africa/Cairo", 60},
+                                                          {"Africa/Windhoek", 40},
+                                                          {"Antarctica/Troll", 60},
+                                                          {"Antarctica/Casey", 5},
+                                                          {"Australia/Lord_Howe", 100},
+                                                          {"Australia/Eucla", 10},
+                                                          {"Pacific/Apia", 20},
+                                                          {"Pacific/Chatham", 120},
+                                                          {"Pacific/Kwajalein", 1},
+                                                          {"Pacific/Kiritimati", 2},
+                                                          {"Pacific/Norfolk", 30},
+                                                          {"EST5EDT", 130},
+                                                          {":Europe/Paris", 120},
+                                                          {"/usr/share/zoneinfo/CET", 110}}) {
+        const TChecked Checked = CheckZone(Case.Zone);
+        EXPECT_EQ("", Checked.Wrong) << Case.Zone;
+        EXPECT_GE(Checked.Changes, Case.LeastChanges) << Case.Zone;
+    }
+}
+
+TEST(TimeZoneLinux, RuleTextsAreTakenAsTheCLibraryTakesThem) {
+    const TZoneOfTheEnvironment Keep("UTC0");
+    constexpr std::int64_t cFrom = 1577836800; // 2020 to 2024
+    constexpr std::int64_t cTo = 1704067200;
+    for (const char* Text :
+         {"CET-1CEST,M3.5.0,M10.5.0/3", "<-03>3", "<+0545>-5:45", "NZST-12NZDT,M9.5.0,M4.1.0/3",
+          "IST-1GMT0,M10.5.0,M3.5.0/1", "EST5EDT4,J60/25,J300/-3", "EST5EDT,59,299/0:30:15",
+          "<-02>2<-01>,M3.5.0/-1,M10.5.0/0", "AAA-24BBB-24:59:59,M2.1.1/100,M6.4.6/-100",
+          "IST-2IDT,M3.4.4/26,M10.5.0", "ABC25", "ABC24:99:99", "ABC-26", "abc-05:45:30",
+          "EST5EDT,M3.2.0,M11.1.0/2 x", "EST5EDT,M4.1.0",
+          // Not readable, and so UTC.
+          "ABC", "AB5", "<+3>-3", "nosuch", "", ":", "::Europe/Paris", "/etc/passwd", "Europe", "/dev/zero",
+          "ABC:5", "ABC 5"})
+        EXPECT_EQ("", CheckZone(Text, cFrom, cTo).Wrong) << Text;
+}
+
+TEST(TimeZoneLinux, FarYearsFollowTheRule) {
+    const TZoneOfTheEnvironment Keep("UTC0");
+    for (const char* Zone :
+         {"America/New_York", "NZST-12NZDT,M9.5.0,M4.1.0/3", "Europe/Dublin", "EST5EDT,J60,J300"}) {
+        for (const std::int64_t Year : {2038, 2399, 2437, 2438, 2439, 2500, 4000, 9998}) {
+            const std::int64_t From = (DayNumber(Year, 1, 1) - 25569) * 86400;
+            EXPECT_EQ("", CheckZone(Zone, From, From + std::int64_t{366} * 86400).Wrong)
+                << Zone << ' ' << Year;
+        }
+    }
+}
+
+TEST(TimeZoneLinux, KnownMoments) {
+    const TZoneOfTheEnvironment Keep("Europe/Paris");
+    const TTimeZone& Zone = TTimeZone::Local();
+    EXPECT_EQ(Zone.ID(), u"Europe/Paris");
+    const TDateTime Gap = EncodeDateTime(2024, 3, 31, 2, 30, 0, 0);
+    try {
+        Zone.GetUtcOffset(Gap, true);
+        FAIL() << "the clocks skipped that time";
+    } catch (const ELocalTimeInvalid& E) {
+        EXPECT_EQ(E.Message(),
+                  u"The given \"" + DateTimeToStr(Gap) +
+                      u"\" local time is invalid (situated within the missing period prior to DST).");
+    }
+    const TDateTime Twice = EncodeDateTime(2024, 10, 27, 2, 30, 0, 250);
+    EXPECT_TRUE(Zone.IsAmbiguousTime(Twice));
+    EXPECT_EQ(Zone.ToUniversalTime(Twice), EncodeDateTime(2024, 10, 27, 1, 30, 0, 250));
+    EXPECT_EQ(Zone.ToUniversalTime(Twice, true), EncodeDateTime(2024, 10, 27, 0, 30, 0, 250));
+    EXPECT_EQ(Zone.GetDisplayName(Twice), u"CET");
+    EXPECT_EQ(Zone.GetDisplayName(Twice, true), u"CEST");
+    // Before day 0 the fraction runs against the time; the mean time of Paris was 9 minutes and 21 seconds ahead.
+    EXPECT_EQ(Zone.ToLocalTime(EncodeDateTime(1880, 5, 1, 23, 55, 0, 500)),
+              EncodeDateTime(1880, 5, 2, 0, 4, 21, 500));
+    EXPECT_THROW(Zone.ToUniversalTime(MinDateTime), EConvertError);
+    EXPECT_THROW(Zone.ToLocalTime(MaxDateTime), EConvertError);
+    // Daylight saving time is that of winter.
+    TZoneOfTheEnvironment::Set("Europe/Dublin");
+    EXPECT_TRUE(Zone.IsDaylightTime(EncodeDate(2024, 1, 15)));
+    EXPECT_EQ(Zone.GetUtcOffset(EncodeDate(2024, 7, 1)).Hours(), 1);
+}
+
+int HoursAt(TDateTime ALocal) {
+    return TTimeZone::Local().GetUtcOffset(ALocal).Hours();
+}
+
+TEST(TimeZoneLinux, AnotherFileIsNoticedInTime) {
+    const auto File = std::filesystem::temp_directory_path() / ("qz_zone_" + std::to_string(getpid()));
+    std::filesystem::copy_file("/usr/share/zoneinfo/Asia/Tokyo", File);
+    const TZoneOfTheEnvironment Keep(File.string());
+    const auto* Tokyo = &detail::CurrentZone();
+    EXPECT_EQ(HoursAt(EncodeDate(2024, 1, 15)), 9);
+    std::filesystem::remove(File);
+    std::filesystem::copy_file("/usr/share/zoneinfo/Asia/Dubai", File);
+    const std::int64_t Now = platform::UtcNowSeconds();
+    EXPECT_EQ(&detail::CurrentZone(Now + 15), Tokyo);
+    const auto* Dubai = &detail::CurrentZone(Now + 59);
+    EXPECT_EQ(Dubai->AtUtc(0).Offset, 13'272'000); // the mean time of 1899
+    // Another clock is no reason to wait.
+    std::filesystem::remove(File);
+    EXPECT_EQ(detail::CurrentZone(Now - 3600).AtUtc(0).Offset, 0);
+    std::filesystem::copy_file("/usr/share/zoneinfo/Asia/Dubai", File);
+    TTimeZone::Refresh();
+    EXPECT_EQ(&detail::CurrentZone(), Dubai) << "a zone that was there before is kept twice";
+    std::filesystem::remove(File);
+}
+
+// A refresh counts from its end on, whatever other threads had begun to look at before.
+TEST(TimeZoneLinux, ARefreshIsNotUndoneByOtherThreads) {
+    const TZoneOfTheEnvironment Keep("UTC0");
+    std::atomic<bool> IsOver{false};
+    std::atomic<int> Wrong{0};
+    const auto Look = [&] {
+        for (std::int64_t Ahead = 0; !IsOver; Ahead += 100) {
+            const int Offset =
+                detail::CurrentZone(platform::UtcNowSeconds() + Ahead % 1000).AtUtc(0).Offset / 3'600'000;
+            const int Known = HoursAt(45000);
+            Wrong += (Offset < 0 || Offset > 7 ? 1 : 0) + (Known < 0 || Known > 7 ? 1 : 0);
+            LocalClock();
+        }
+    };
+    std::thread Others[] = {std::thread(Look), std::thread(Look), std::thread(Look)};
+    int Undone = 0;
+    for (int Round = 0; Round < 400; ++Round) {
+        const int Hours = Round % 8;
+        platform::SetEnvironment(u"TZ", std::u16string_view(UnicodeString("ABC-" + std::to_string(Hours))));
+        TTimeZone::Refresh();
+        for (int Try = 0; Try < 50; ++Try)
+            Undone += HoursAt(45000) == Hours ? 0 : 1;
+    }
+    IsOver = true;
+    for (std::thread& Each : Others)
+        Each.join();
+    EXPECT_EQ(0, Undone);
+    EXPECT_EQ(0, Wrong);
+}
+
+TEST(TimeZoneLinux, ChildrenOfAForkCanLook) {
+    std::atomic<bool> IsOver{false};
+    std::thread Other([&] {
+        while (!IsOver)
+            TTimeZone::Refresh();
+    });
+    for (int Round = 0; Round < 30; ++Round) {
+        const pid_t Child = fork();
+        if (Child == 0) {
+            alarm(20); // ends a child that waits for a lock
+            TTimeZone::Refresh();
+            _exit(0);
+        }
+        int Status = -1;
+        waitpid(Child, &Status, 0);
+        ASSERT_EQ(0, Status);
+    }
+    IsOver = true;
+    Other.join();
+}
+
+} // namespace
+} // namespace qz
