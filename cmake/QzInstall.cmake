@@ -14,6 +14,11 @@ if(QZ_BUILD_SHARED)
     install(TARGETS rQzCommon210 EXPORT rQzCommon210-shared)
     install(EXPORT rQzCommon210-shared NAMESPACE rQzCommon210:: DESTINATION ${QZ_PACKAGE_DIR})
 endif()
+if(WIN32)
+    install(TARGETS rQzCommon210_event_messages EXPORT rQzCommon210-event_messages
+        OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR}/rQzCommon210)
+    install(EXPORT rQzCommon210-event_messages NAMESPACE rQzCommon210:: DESTINATION ${QZ_PACKAGE_DIR})
+endif()
 
 configure_package_config_file(cmake/rQzCommon210Config.cmake.in rQzCommon210Config.cmake
     INSTALL_DESTINATION ${QZ_PACKAGE_DIR} NO_SET_AND_CHECK_MACRO)

@@ -45,6 +45,7 @@ if(QZ_BUILD_SHARED)
     if(WIN32)
         # The symbols of static libraries linked in are no part of what the DLL offers.
         target_link_options(rQzCommon210 PRIVATE -Wl,--export-all-symbols -Wl,--exclude-libs,ALL)
+        target_link_libraries(rQzCommon210 PRIVATE $<BUILD_INTERFACE:rQzCommon210_event_messages>)
     else()
         target_link_options(rQzCommon210 PRIVATE -Wl,--no-undefined -Wl,--exclude-libs,ALL)
     endif()

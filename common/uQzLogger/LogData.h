@@ -1,7 +1,11 @@
-// IQzLogData: a message as a record of its own, which can be passed around before it is logged.
+// IQzLogData: a message as a record of its own, with the machine on which it arose, which can be passed around before it is
+// logged.
 //
 //     Ref<IQzLogData> Data = TQzLogData::Create(llInfo, u"started");
-//     Logger().Log(Data);
+//     Data->Data()->FSource = u"backup";
+//     Logger().Log(Data);            // the level, the message and the indent; the other fields are for readers of the record
+//
+// A record belongs to one thread at a time.
 #pragma once
 
 #include "common/uQzLogger/LogTypes.h"
@@ -32,8 +36,18 @@ public:
     TQzLogLevel FLogLevel;
     TQzLogIndent FIndent = liIndentNone;
     UnicodeString FLogMessage;
+    UnicodeString FComputerName; // QzGetComputerName
+    UnicodeString FUserName;     // QzGetUserName
+    UnicodeString FActiveForm;   // "n.a.", as FActiveControl and FResolution
+    UnicodeString FActiveControl;
+    UnicodeString FExtendedInfo;
     UnicodeString FSource;
-    TDateTime FTimestamp; // local time of creation
+    UnicodeString
+        FOS; // by QzGetWindowsVersion; "Unidentified OS" for later ones than Windows 8, and on other systems
+    UnicodeString FVersion; // of the system, such as 10.0; Build: 4a61, "": the build in hexadecimal digits
+    TDateTime FTimestamp;   // local time of creation
+    UnicodeString FResolution;
+    UnicodeString FHelpText;
 
 protected:
     TQzLogData(TQzLogLevel ALevel, const UnicodeString& AMessage);

@@ -1,0 +1,86 @@
+#include "common/uQzLogAppenders/EventLogAppender.h"
+
+#include <utility>
+
+#include "common/uQzTypes/VarTolerant.h"
+#include "platform/EventLog.h"
+#include "runtime/files/FileNames.h"
+#include "runtime/files/FileSystem.h"
+
+namespace qz {
+
+constinit const TClassRec TQzEventLogAppender::ClassRec =
+    DescribeLogBase<TQzEventLogAppender>(u"TQzEventLogAppender", {.Unit = u"uQzLogAppenders"});
+
+namespace {
+
+using platform::TEventType;
+
+struct TEvent {
+    TEventType Type;
+    std::uint32_t Id;
+};
+
+TEvent EventOf(TQzLogLevel ALevel) noexcept {
+    switch (ALevel) {
+    case llInfo: return {TEventType::Success, 1};
+    case llWarn: return {TEventType::Warning, 3};
+    case llError:
+    case llFatal: return {TEventType::Error, 4};
+    case llAll:
+    case llTrace:
+    case llDebug:
+    case llDoNotLog: break;
+    }
+    return {TEventType::Information, 2};
+}
+
+} // namespace
+
+TQzEventLogAppender::TQzEventLogAppender(TQzLogger* ALogger, const UnicodeString& AName)
+    : TQzEventLogAppender(ALogger, AName, platform::SystemEventLog(), &QzGetElevationLevel) {}
+
+TQzEventLogAppender::TQzEventLogAppender(TQzLogger* ALogger, const UnicodeString& AName,
+                                         platform::IEventLog& ALog, TQzElevationLevel (*ALevel)() noexcept)
+    : Inherited(ALogger, AName),
+      FLog(ALog),
+      FLevel(ALevel) {
+    RegisterLogger(ChangeFileExt(ExtractFileName(ProgramFileName()), u""));
+}
+
+TQzEventLogAppender::~TQzEventLogAppender() {
+    FLog.CloseSource(FHandle);
+}
+
+void TQzEventLogAppender::RegisterLogger(const UnicodeString& AServiceName) {
+    const TScopedLock Hold(*this);
+    if (FLevel() == elFull)
+        FLog.EnterSource(AServiceName, ProgramFileName());
+    const std::uintptr_t Source = FLog.OpenSource(AServiceName);
+    FLog.CloseSource(std::exchange(FHandle, Source));
+}
+
+void TQzEventLogAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
+    const TScopedLock Hold(*this);
+    Inherited::SetConfig(AConfigurator);
+    if (AConfigurator == nullptr)
+        return;
+    SetName(QzVarToStr(AConfigurator->GetAppenderValue(Name(), u"ServiceName", mtkString, u""), {}, true));
+    if (!Name().IsEmpty())
+        RegisterLogger(Name());
+}
+
+void TQzEventLogAppender::Write(const UnicodeString& ASource, const UnicodeString& ALogger,
+                                TQzLogLevel ALevel, const UnicodeString& AMessage, PQzDataRec AValue,
+                                TQzLogIndent AIndent) {
+    const TScopedLock Hold(*this);
+    Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
+    if (Layout() == nullptr || FHandle == 0 || ALevel == llDoNotLog)
+        return;
+    const TEvent Event = EventOf(ALevel);
+    const UnicodeString Line = Layout()->FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
+    if (!Line.IsEmpty())
+        FLog.Write(FHandle, Event.Type, Event.Id, Line);
+}
+
+} // namespace qz

@@ -1,0 +1,37 @@
+// Who runs this program, where, with which rights.
+//
+//     UnicodeString Domain;
+//     const UnicodeString User = QzGetUserName(Domain);
+//     if (QzGetElevationLevel() == elFull) ...
+//
+// All functions ask the system anew and may run on any number of threads.
+#pragma once
+
+#include "runtime/reflection/TypeInfo.h"
+#include "runtime/text/UnicodeString.h"
+
+namespace qz {
+
+enum class TQzElevationLevel : std::uint8_t { elDefault, elFull, elLimited };
+using enum TQzElevationLevel;
+
+// elFull with an administrator's rights, elLimited without, elDefault where the system does not tell. On Linux root has
+// them.
+QZ_API TQzElevationLevel QzGetElevationLevel() noexcept;
+
+// The host name, on Windows the NetBIOS name; empty if the system does not tell.
+QZ_API UnicodeString QzGetComputerName();
+
+// The user as whom the calling thread acts. Linux gives the number of one that no database of users knows. Empty if the
+// system does not tell.
+QZ_API UnicodeString QzGetUserName();
+// The account of the process, and where it belongs: the computer's name for a local one. Both are empty if the system
+// does not tell.
+QZ_API UnicodeString QzGetUserName(UnicodeString& ADomain);
+
+// The system's number of the calling thread, never 0.
+QZ_API std::uint32_t QzGetCurrentThreadId() noexcept;
+
+} // namespace qz
+
+QZ_TYPE_INFO(qz::TQzElevationLevel);

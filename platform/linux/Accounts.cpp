@@ -1,0 +1,75 @@
+#include "platform/Accounts.h"
+
+#include <atomic>
+#include <climits>
+#include <string>
+#include <string_view>
+
+#include <unistd.h>
+
+#include "platform/linux/NativeText.h"
+#include "platform/linux/UserRecord.h"
+
+namespace qz::platform {
+
+namespace {
+
+// The users who were asked for, since databases of users may be far away. None is ever taken out.
+struct TKnownUser {
+    uid_t Id;
+    std::string Name;
+    const TKnownUser* Next;
+};
+constinit std::atomic<const TKnownUser*> GUsers{nullptr};
+
+std::string NameOf(uid_t AId) {
+    std::string Name = detail::UserRecord(AId).Name;
+    return Name.empty() ? std::to_string(AId) : Name;
+}
+
+const std::string& EffectiveUser() {
+    const uid_t Id = geteuid();
+    for (const TKnownUser* User = GUsers.load(std::memory_order_acquire); User != nullptr;
+         User = User->Next) {
+        if (User->Id == Id)
+            return User->Name;
+    }
+    auto* const User = new TKnownUser{Id, NameOf(Id), GUsers.load(std::memory_order_relaxed)};
+    while (!GUsers.compare_exchange_weak(User->Next, User, std::memory_order_release,
+                                         std::memory_order_relaxed)) {}
+    return User->Name;
+}
+
+} // namespace
+
+std::u16string ComputerName() {
+    char Name[HOST_NAME_MAX + 1] = {};
+    if (gethostname(Name, sizeof Name - 1) != 0)
+        return {};
+    return detail::FromNative(Name);
+}
+
+std::u16string UserName() {
+    return detail::FromNative(EffectiveUser());
+}
+
+std::u16string AccountName(std::u16string& ADomain) {
+    std::u16string Name = UserName();
+    if (const size_t Slash = Name.find(u'\\'); Slash != std::u16string::npos) {
+        ADomain = Name.substr(0, Slash);
+        return Name.substr(Slash + 1);
+    }
+    if (const size_t At = Name.rfind(u'@'); At != std::u16string::npos) {
+        ADomain = Name.substr(At + 1);
+        Name.resize(At);
+        return Name;
+    }
+    ADomain = ComputerName();
+    return Name;
+}
+
+TElevation Elevation() noexcept {
+    return geteuid() == 0 ? TElevation::Full : TElevation::Limited;
+}
+
+} // namespace qz::platform

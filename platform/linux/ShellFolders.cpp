@@ -1,0 +1,164 @@
+#include "platform/ShellFolders.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <optional>
+#include <string_view>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/linux/NativeEnvironment.h"
+#include "platform/linux/NativeText.h"
+#include "platform/linux/UserDirs.h"
+
+namespace qz::platform {
+
+namespace {
+
+// Where a folder lies.
+enum class TPlace { Chosen, Home, Config, Data, Cache, State, Shared, SharedData, SharedConfig, System };
+
+struct TFolder {
+    int Number;
+    TPlace Place;
+    std::string_view Name; // below the place
+    std::string_view Key;  // in the user's choice
+};
+
+constexpr TFolder cFolders[] = {
+    {0, TPlace::Chosen, "Desktop", "DESKTOP"},
+    {2, TPlace::Data, "applications", {}},
+    {5, TPlace::Chosen, "Documents", "DOCUMENTS"},
+    {6, TPlace::Data, "favorites", {}},
+    {7, TPlace::Config, "autostart", {}},
+    {8, TPlace::Data, "recent", {}},
+    {9, TPlace::Data, "sendto", {}},
+    {11, TPlace::Data, "applications", {}},
+    {12, TPlace::Chosen, "Documents", "DOCUMENTS"},
+    {13, TPlace::Chosen, "Music", "MUSIC"},
+    {14, TPlace::Chosen, "Videos", "VIDEOS"},
+    {16, TPlace::Chosen, "Desktop", "DESKTOP"},
+    {19, TPlace::Data, "nethood", {}},
+    {20, TPlace::System, "/usr/share/fonts", {}},
+    {21, TPlace::Chosen, "Templates", "TEMPLATES"},
+    {22, TPlace::SharedData, "applications", {}},
+    {23, TPlace::SharedData, "applications", {}},
+    {24, TPlace::SharedConfig, "autostart", {}},
+    {25, TPlace::Shared, "Desktop", {}},
+    {26, TPlace::Config, {}, {}},
+    {27, TPlace::Data, "printhood", {}},
+    {28, TPlace::Data, {}, {}},
+    {29, TPlace::Config, "autostart", {}},
+    {30, TPlace::SharedConfig, "autostart", {}},
+    {31, TPlace::Shared, "Favorites", {}},
+    {32, TPlace::Cache, {}, {}},
+    {33, TPlace::State, "cookies", {}},
+    {34, TPlace::State, {}, {}},
+    {35, TPlace::Shared, {}, {}},
+    {36, TPlace::System, "/", {}},
+    {37, TPlace::System, "/usr/lib", {}},
+    {38, TPlace::System, "/opt", {}},
+    {39, TPlace::Chosen, "Pictures", "PICTURES"},
+    {40, TPlace::Home, {}, {}},
+    {41, TPlace::System, "/usr/lib", {}},
+    {42, TPlace::System, "/opt", {}},
+    {43, TPlace::System, "/opt", {}},
+    {44, TPlace::System, "/opt", {}},
+    {45, TPlace::Shared, "Templates", {}},
+    {46, TPlace::Shared, {}, {}},
+    {47, TPlace::SharedData, "applications", {}},
+    {48, TPlace::Data, "applications", {}},
+    {53, TPlace::Shared, "Music", {}},
+    {54, TPlace::Shared, "Pictures", {}},
+    {55, TPlace::Shared, "Videos", {}},
+    {56, TPlace::System, "/usr/share", {}},
+    {59, TPlace::Data, "burn", {}},
+};
+
+bool IsDirectory(const std::string& APath) {
+    struct stat Status;
+    return stat(APath.c_str(), &Status) == 0 && S_ISDIR(Status.st_mode);
+}
+
+bool IsWritable(const std::string& APath) {
+    return IsDirectory(APath) && faccessat(AT_FDCWD, APath.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+// Services are given theirs in a list with colons.
+std::string OfService() {
+    const std::optional<std::string> List = detail::NativeEnvironment("STATE_DIRECTORY");
+    return List && List->starts_with('/') ? List->substr(0, List->find(':')) : std::string();
+}
+
+std::string SharedPlace() {
+    for (std::string Place : {OfService(), std::string("/var/lib")}) {
+        if (!Place.empty() && IsWritable(Place))
+            return Place;
+    }
+    return detail::BaseDirectory("XDG_STATE_HOME", ".local/state");
+}
+
+// The place, empty when it lies in a home that nobody knows.
+std::string PathOf(TPlace APlace) {
+    switch (APlace) {
+    case TPlace::Config: return detail::BaseDirectory("XDG_CONFIG_HOME", ".config");
+    case TPlace::Data: return detail::BaseDirectory("XDG_DATA_HOME", ".local/share");
+    case TPlace::Cache: return detail::BaseDirectory("XDG_CACHE_HOME", ".cache");
+    case TPlace::State: return detail::BaseDirectory("XDG_STATE_HOME", ".local/state");
+    case TPlace::Shared: return SharedPlace();
+    case TPlace::SharedData:
+        return IsWritable("/usr/local/share") ? "/usr/local/share" : PathOf(TPlace::Data);
+    case TPlace::SharedConfig: return IsWritable("/etc/xdg") ? "/etc/xdg" : PathOf(TPlace::Config);
+    case TPlace::Home:
+    case TPlace::Chosen:
+    case TPlace::System: break;
+    }
+    return detail::HomeDirectory();
+}
+
+std::string PathOf(const TFolder& AFolder) {
+    if (AFolder.Place == TPlace::System)
+        return std::string(AFolder.Name);
+    if (AFolder.Place == TPlace::Chosen)
+        return detail::UserDirectory(AFolder.Key, AFolder.Name);
+    std::string Path = PathOf(AFolder.Place);
+    if (!Path.empty() && !AFolder.Name.empty())
+        (Path += '/').append(AFolder.Name);
+    return Path;
+}
+
+// Makes what is missing of the path.
+bool MakePath(const std::string& APath, mode_t AMode) {
+    for (size_t End = APath.find('/', 1);; End = APath.find('/', End + 1)) {
+        const std::string Part = APath.substr(0, End);
+        if (!IsDirectory(Part) && mkdir(Part.c_str(), AMode) != 0 && errno != EEXIST)
+            return false;
+        if (End == std::string::npos)
+            return IsDirectory(APath);
+    }
+}
+
+bool IsInHome(const std::string& APath) {
+    const std::string Home = detail::HomeDirectory();
+    return !Home.empty() && APath.starts_with(Home) &&
+        (APath.size() == Home.size() || APath[Home.size()] == '/');
+}
+
+} // namespace
+
+bool ShellFolder(int ANumber, std::u16string& APath) {
+    APath.clear();
+    const auto* const Folder = std::ranges::find(cFolders, ANumber, &TFolder::Number);
+    if (Folder == std::end(cFolders))
+        return false;
+    const std::string Path = PathOf(*Folder);
+    const bool IsOwn = Folder->Place < TPlace::Shared || IsInHome(Path);
+    if (Path.empty() || (Folder->Place != TPlace::System && !MakePath(Path, IsOwn ? 0700 : 0755)))
+        return false;
+    APath = detail::FromNative(Path);
+    return true;
+}
+
+} // namespace qz::platform

@@ -1,0 +1,26 @@
+// The directories of the XDG conventions: the base ones, and those that the user chose.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace qz::platform::detail {
+
+// The user's home: $HOME, or what the database of users tells; empty if neither gives a whole path.
+std::string HomeDirectory();
+
+// The value of a variable such as XDG_DATA_HOME, or ADefault below the home. A value that is no whole path counts as
+// none.
+std::string BaseDirectory(const char* AVariable, std::string_view ADefault);
+
+// What the text of a user-dirs.dirs file says of a directory, such as "MUSIC". Lines read XDG_MUSIC_DIR="$HOME/Music" or
+// XDG_MUSIC_DIR="/srv/music", where a backslash takes the next character as it stands; other lines count for nothing,
+// and the last good one counts. Nothing when there is none.
+std::optional<std::string> ParseUserDirectory(std::string_view AText, std::string_view AKey,
+                                              const std::string& AHome);
+
+// The user's directory by its key; where he chose none, the home and ADefault.
+std::string UserDirectory(std::string_view AKey, std::string_view ADefault);
+
+} // namespace qz::platform::detail

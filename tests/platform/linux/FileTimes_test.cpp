@@ -1,0 +1,138 @@
+#include "platform/FileTimes.h"
+
+#include <cerrno>
+#include <cstdlib>
+
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include "../TemporaryDirectory.h"
+#include "platform/Clock.h"
+#include "platform/linux/NativeText.h"
+#include "tests/support/Variables.h"
+
+namespace qz::platform {
+namespace {
+
+constexpr int64_t cHour = 36'000'000'000;
+constexpr int64_t cSummer = 133'642'656'000'000'000;    // 2024-07-01 00:00:00 UTC
+constexpr int64_t cWinter = cSummer - 182 * 24 * cHour; // 2024-01-01 00:00:00 UTC
+constexpr const char* cAttribute = "user.qzcommon.created";
+
+int64_t CreatedOf(std::u16string_view APath) {
+    TFileTimes Times{};
+    TError Error;
+    EXPECT_TRUE(ReadFileTimes(APath, Times, Error)) << Error.Code;
+    return Times.Created;
+}
+
+std::string AttributeOf(const std::string& APath) {
+    char Value[128];
+    const ssize_t Length = getxattr(APath.c_str(), cAttribute, Value, sizeof Value);
+    return Length < 0 ? std::string() : std::string(Value, static_cast<size_t>(Length));
+}
+
+void Make(std::u16string_view APath) {
+    TError Error;
+    ASSERT_TRUE(WriteWholeFile(APath, std::span<const std::byte>(), Error)) << Error.Code;
+}
+
+TEST(FileTimesLinux, TimeThatWasSetStaysWithTheFileAndNoOther) {
+    const TTemporaryDirectory Directory;
+    const std::u16string First = Directory / u"first";
+    const std::u16string Second = Directory / u"second";
+    const std::string Name = detail::ToNative(Second);
+    TError Error;
+    const int64_t Before = UtcNow100ns() - 500'000; // times of files lag behind by a tick
+    Make(First);
+    EXPECT_LE(Before, CreatedOf(First));
+    EXPECT_LE(CreatedOf(First), UtcNow100ns());
+
+    ASSERT_TRUE(SetFileCreated(First, cSummer + 7, Error)) << Error.Code;
+    EXPECT_EQ(cSummer + 7, CreatedOf(First));
+    ASSERT_EQ(0, rename(detail::ToNative(First).c_str(), Name.c_str()));
+    ASSERT_EQ(0, chmod(Name.c_str(), 0600));
+    EXPECT_EQ(cSummer + 7, CreatedOf(Second));
+
+    // A copy with its attributes.
+    const std::string Attribute = AttributeOf(Name);
+    Make(First);
+    const int64_t Own = CreatedOf(First);
+    ASSERT_EQ(0,
+              setxattr(detail::ToNative(First).c_str(), cAttribute, Attribute.data(), Attribute.size(), 0));
+    EXPECT_EQ(Own, CreatedOf(First));
+
+    const std::string Bad[] = {"",
+                               "x",
+                               "1",
+                               "1 2",
+                               Attribute + ' ',
+                               Attribute + '0',
+                               '-' + Attribute,
+                               ' ' + Attribute,
+                               "99999999999999999999" + Attribute,
+                               std::string(200, '1')};
+    const int64_t Born = [&] {
+        removexattr(Name.c_str(), cAttribute);
+        return CreatedOf(Second);
+    }();
+    EXPECT_LE(Before, Born);
+    for (const std::string& Value : Bad) {
+        ASSERT_EQ(0, setxattr(Name.c_str(), cAttribute, Value.data(), Value.size(), 0));
+        EXPECT_EQ(Born, CreatedOf(Second)) << Value;
+    }
+}
+
+TEST(FileTimesLinux, RefusalsAreTold) {
+    const TTemporaryDirectory Directory;
+    const std::u16string File = Directory / u"file";
+    Make(File);
+    TError Error;
+    const std::pair<std::u16string, int> Cases[] = {{Directory.Path(), EISDIR},
+                                                    {Directory / u"none", ENOENT},
+                                                    {u"/proc/self/comm", EOPNOTSUPP},
+                                                    {std::u16string(u"a\0b", 3), EINVAL}};
+    for (const auto& [Path, Code] : Cases) {
+        EXPECT_FALSE(SetFileCreated(Path, cSummer, Error));
+        EXPECT_EQ(Code, Error.Code) << Code;
+    }
+    EXPECT_FALSE(SetFileCreated(File, -1, Error));
+    EXPECT_EQ(EINVAL, Error.Code);
+    TFileTimes Times{};
+    EXPECT_FALSE(ReadFileTimes(Directory / u"none", Times, Error));
+    EXPECT_EQ(ENOENT, Error.Code);
+}
+
+TEST(FileTimesLinux, LocalTimeIsThatOfTheMoment) {
+    TVariables Variables;
+    struct TCase {
+        const char16_t* Zone;
+        int64_t Time;
+        int64_t Offset;
+    };
+    constexpr const char16_t* cParis = u"CET-1CEST,M3.5.0,M10.5.0/3";
+    const int64_t ToSummer = cWinter + 90 * 24 * cHour + cHour; // 2024-03-31 01:00 UTC
+    for (const TCase& Case : {TCase{u"UTC0", cSummer, 0},
+                              {cParis, cSummer, 2 * cHour},
+                              {cParis, cWinter, cHour},
+                              {cParis, ToSummer - 1, cHour},
+                              {cParis, ToSummer, 2 * cHour},
+                              {u"NST3:30", cSummer + 123, -(3 * cHour + cHour / 2)},
+                              {u"UTC0", 5, 0}}) {
+        Variables.Set(u"TZ", Case.Zone);
+        int64_t Local = 0;
+        TError Error;
+        ASSERT_TRUE(ToLocalFileTime(Case.Time, Local, Error));
+        EXPECT_EQ(Case.Offset, Local - Case.Time);
+    }
+    int64_t Local = 0;
+    TError Error;
+    EXPECT_FALSE(ToLocalFileTime(-1, Local, Error));
+    EXPECT_EQ(EINVAL, Error.Code);
+}
+
+} // namespace
+} // namespace qz::platform
