@@ -23,7 +23,7 @@ void TQzBaseAppender::BeforeDestruction() {
     try {
         Close();
     } catch (...) {
-        detail::ReportDrop({}, this, Name());
+        detail::ReportDrop({}, Serial(), Name());
     }
 }
 
@@ -40,11 +40,7 @@ void TQzBaseAppender::Write(const UnicodeString&, const UnicodeString&, TQzLogLe
                             PQzDataRec, TQzLogIndent) {
     if (FInitialized)
         return;
-    struct TDepth {
-        explicit TDepth(std::int32_t& ADepth) noexcept : Depth(ADepth) { ++Depth; }
-        ~TDepth() { --Depth; }
-        std::int32_t& Depth;
-    } const Depth(FInitializing);
+    const TInitializing Now(*this);
     Initialize();
 }
 

@@ -58,8 +58,22 @@ protected:
     // The layout, which may be null, and whether the appender is open; under the lock.
     IQzLogLayout* Layout() const noexcept { return FLayout.Get(); }
     bool IsInitialized() const noexcept { return FInitialized; }
-    // How many calls of Initialize are under way.
-    std::int32_t Initializing() const noexcept { return FInitializing; }
+    TCriticalSection& OwnLock() noexcept { return FLock; }
+    // Whether a call of Initialize is under way.
+    bool IsInitializing() const noexcept { return FInitializing != 0; }
+    // Tells that one is, as long as it lives.
+    class [[nodiscard]] TInitializing {
+    public:
+        explicit TInitializing(TQzBaseAppender& AAppender) noexcept : FDepth(AAppender.FInitializing) {
+            ++FDepth;
+        }
+        TInitializing(const TInitializing&) = delete;
+        TInitializing& operator=(const TInitializing&) = delete;
+        ~TInitializing() { --FDepth; }
+
+    private:
+        std::int32_t& FDepth;
+    };
 
 private:
     Ref<IQzLogLayout> FLayout;

@@ -3,11 +3,23 @@
 #include <algorithm>
 #include <iterator>
 
+#include "common/uQzLogger/LogBase.h"
 #include "common/uQzLogger/LogDispatch.h"
 #include "common/uQzLogger/LogDrops.h"
 #include "common/uQzLogger/QzLogger.h"
+#include "platform/Threads.h"
 
 namespace qz::detail {
+
+namespace {
+
+// One that is not made of this library's classes has another number in each list.
+std::uint64_t SerialOf(IQzLogAppender& AAppender) {
+    const auto* Base = dynamic_cast<const TQzLogBase*>(AAppender.Component());
+    return Base != nullptr ? Base->Serial() : TQzLogBase::NextSerial();
+}
+
+} // namespace
 
 // The gate for the length of a change, where the thread may wait for it or gets it at once. Else whoever holds it lets go
 // of what is removed.
@@ -31,9 +43,18 @@ private:
     bool FHasGate = false;
 };
 
+bool TAppenderSnapshot::Holds(const IQzLogAppender* AAppender) const noexcept {
+    return std::any_of(Items.begin(), Items.end(),
+                       [AAppender](const TAppenderEntry& AEntry) { return AEntry.Appender == AAppender; });
+}
+
 void TLogAppenderCore::EnterGate() noexcept {
     FGate.Enter();
     ++ThisLogThread().Gates;
+}
+
+bool TLogAppenderCore::HoldsGate() const noexcept {
+    return FGate.GetLockedBy() == static_cast<std::int32_t>(platform::CurrentThreadId());
 }
 
 bool TLogAppenderCore::TryEnterGate(std::uint32_t ATimeOut) noexcept {
@@ -89,7 +110,7 @@ void TLogAppenderCore::LetGo(std::vector<Ref<IQzLogAppender>>& ARemoved) noexcep
         try {
             Appender.Clear();
         } catch (...) {
-            ReportDrop({}, nullptr, {});
+            ReportDrop({}, 0, {});
         }
     }
     ARemoved.clear();
@@ -107,7 +128,7 @@ void TLogAppenderCore::AwaitLetGo() noexcept {
 
 bool TLogAppenderCore::Holds(const IQzLogAppender* AAppender) const {
     const std::lock_guard Hold(FLock);
-    return std::find(FLatest->Items.begin(), FLatest->Items.end(), AAppender) != FLatest->Items.end();
+    return FLatest->Holds(AAppender);
 }
 
 Ref<IQzLogAppender> TLogAppenderCore::Item(int AIndex) const {
@@ -129,12 +150,12 @@ void TLogAppenderCore::Publish(std::unique_ptr<TAppenderSnapshot> ASnapshot) noe
 bool TLogAppenderCore::Insert(IQzLogAppender* AAppender) {
     const TChange Change(*this);
     const std::lock_guard Hold(FLock);
-    if (std::find(FLatest->Items.begin(), FLatest->Items.end(), AAppender) != FLatest->Items.end())
+    if (FLatest->Holds(AAppender))
         return false;
     auto Fresh = std::make_unique<TAppenderSnapshot>();
     Fresh->Items.reserve(FLatest->Items.size() + 1);
     Fresh->Items = FLatest->Items;
-    Fresh->Items.push_back(AAppender);
+    Fresh->Items.push_back({AAppender, SerialOf(*AAppender)});
     FItems.emplace_back(AAppender);
     Publish(std::move(Fresh));
     return true;
@@ -148,7 +169,7 @@ bool TLogAppenderCore::Extract(const TComponent* AComponent) {
     const std::lock_guard Hold(FLock);
     auto Fresh = std::make_unique<TAppenderSnapshot>();
     std::remove_copy_if(FLatest->Items.begin(), FLatest->Items.end(), std::back_inserter(Fresh->Items),
-                        IsMeant);
+                        [&IsMeant](const TAppenderEntry& AEntry) { return IsMeant(AEntry.Appender); });
     if (Fresh->Items.size() == FLatest->Items.size())
         return false;
     FRemoved.reserve(FRemoved.size() + FItems.size());

@@ -16,10 +16,18 @@
 
 namespace qz::detail {
 
+// An appender by a number that no other one ever has, while its address may be another one's some day.
+struct TAppenderEntry {
+    IQzLogAppender* Appender;
+    std::uint64_t Serial;
+};
+
 // The appenders as they were between two changes.
 struct TAppenderSnapshot {
-    std::vector<IQzLogAppender*> Items;
+    std::vector<TAppenderEntry> Items;
     std::unique_ptr<TAppenderSnapshot> Older; // which somebody who holds the gate may still walk
+
+    bool Holds(const IQzLogAppender* AAppender) const noexcept;
 };
 
 class TLogAppenderCore : public std::enable_shared_from_this<TLogAppenderCore> {
@@ -30,6 +38,8 @@ public:
     void EnterGate() noexcept;
     bool TryEnterGate(std::uint32_t ATimeOut) noexcept;
     void LeaveGate() noexcept;
+    // Whether the calling thread holds it.
+    bool HoldsGate() const noexcept;
 
     // Any thread.
     bool IsEmpty() const noexcept { return FCount.load(std::memory_order_relaxed) == 0; }
@@ -37,7 +47,7 @@ public:
     // Counts the changes.
     std::uint32_t Version() const noexcept { return FVersion.load(std::memory_order_acquire); }
     // The caller holds the gate as long as it uses them.
-    const std::vector<IQzLogAppender*>& Items() const noexcept {
+    const std::vector<TAppenderEntry>& Items() const noexcept {
         return FSnapshot.load(std::memory_order_acquire)->Items;
     }
     bool Holds(const IQzLogAppender* AAppender) const;

@@ -1,5 +1,6 @@
 #include "common/uQzLogger/LogAppenderList.h"
 
+#include "common/uQzLogAppenders/BaseAppender.h"
 #include "common/uQzLogger/LogBase.h"
 #include "common/uQzLogger/QzLogger.h"
 #include "runtime/reflection/Describe.h"
@@ -17,6 +18,10 @@ Ref<IQzLogAppender> MakeAppender(TQzLogger& ALogger, TQzLogBaseClass AClass) {
         As<IQzLogAppender>(MakeLogBase(AClass, &ALogger, AClass ? AClass->Name() : u""));
     Assert(Result != nullptr);
     return Result;
+}
+
+IQzLogAppender* InterfaceOf(TQzBaseAppender* AAppender) noexcept {
+    return AAppender;
 }
 
 IQzLogAppenderEx& WithLayout(const Ref<IQzLogAppender>& AAppender) {
@@ -52,9 +57,27 @@ Ref<IQzLogAppender> TQzLogAppenderList::GetAppender(int AIndex) const {
 
 void TQzLogAppenderList::Add(IQzLogAppender* AAppender) {
     Assert(AAppender != nullptr);
-    const Ref<IQzLogAppender> Appender(AAppender);
-    LinkAppender(AAppender->Component(), *this);
-    FCore->Add(AAppender);
+    Ref<IQzLogAppender> Appender = As<IQzLogAppender>(AAppender); // one object, one address
+    if (Appender == nullptr)
+        Appender = AAppender;
+    LinkAppender(Appender->Component(), *this);
+    FCore->Add(Appender.Get());
+}
+
+void TQzLogAppenderList::Add(TQzBaseAppender* AAppender) {
+    Add(InterfaceOf(AAppender));
+}
+
+void TQzLogAppenderList::Remove(TQzBaseAppender* AAppender) {
+    Remove(InterfaceOf(AAppender));
+}
+
+void IQzLogger::AddAppender(TQzBaseAppender* AAppender) {
+    AddAppender(InterfaceOf(AAppender));
+}
+
+void IQzLogger::RemoveAppender(TQzBaseAppender* AAppender) {
+    RemoveAppender(InterfaceOf(AAppender));
 }
 
 Ref<IQzLogAppender> TQzLogAppenderList::Add(TQzLogBaseClass AClass) {

@@ -32,8 +32,9 @@ public:
     // Raises EArgumentOutOfRangeException. Hold the lock from Count on.
     Ref<IQzLogAppender> GetAppender(int AIndex) const;
 
-    // At the end, unless it is there already. Null raises EAssertionFailed, "Assertion failure".
+    // At the end, unless it is there already, under whatever interface. Null raises EAssertionFailed, "Assertion failure".
     void Add(IQzLogAppender* AAppender);
+    void Add(TQzBaseAppender* AAppender);
     // A new appender of that class with the name of the class, of a class of that name in RegisteredAppenders, with a new
     // layout of that class or name. Raises EListError, "Class %s not found!", for an unknown name, and EAssertionFailed for a
     // class of something else. An appender that knows no layouts raises EIntfCastError.
@@ -43,6 +44,7 @@ public:
     Ref<IQzLogAppender> Add(const UnicodeString& AAppenderName, const UnicodeString& ALayoutName);
     // Every entry of the same component; none where there is none.
     void Remove(IQzLogAppender* AAppender);
+    void Remove(TQzBaseAppender* AAppender);
     void Clear();
 
     const detail::TLogAppenderCorePtr& Core() const noexcept { return FCore; }

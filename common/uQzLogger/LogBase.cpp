@@ -2,7 +2,10 @@
 
 #include <algorithm>
 
+#include "common/uQzLogAppenders/DailyRollingFileAppender.h"
+#include "common/uQzLogAppenders/EventLogAppender.h"
 #include "common/uQzLogLayouts/SimpleLayout.h"
+#include "common/uQzLogLayouts/XmlLayout.h"
 #include "common/uQzLogger/LogAppenderList.h"
 #include "common/uQzLogger/QzLogger.h"
 #include "runtime/objects/ClassRegistry.h"
@@ -24,6 +27,11 @@ Ref<IQzLogAppender> AppenderOf(TQzLogBase* ABase) noexcept {
 }
 
 } // namespace
+
+std::uint64_t TQzLogBase::NextSerial() noexcept {
+    static std::atomic<std::uint64_t> Last{0};
+    return ++Last;
+}
 
 TQzLogBase::TQzLogBase(TQzLogger* ALogger, const UnicodeString& AName)
     : Inherited(nullptr),
@@ -125,13 +133,21 @@ TQzLogBaseClassList& RegisteredLayouts() {
     static TQzLogBaseClassList* const Result = [] {
         auto List = std::make_unique<TQzLogBaseClassList>();
         List->Add(TQzLogBaseClass::Of<TQzSimpleLayout>());
+        List->Add(TQzLogBaseClass::Of<TQzXmlLayout>());
         return List.release();
     }();
     return *Result;
 }
 
 TQzLogBaseClassList& RegisteredAppenders() {
-    static auto* const Result = new TQzLogBaseClassList;
+    static TQzLogBaseClassList* const Result = [] {
+        auto List = std::make_unique<TQzLogBaseClassList>();
+        List->Add(TQzLogBaseClass::Of<TQzFileAppender>());
+        List->Add(TQzLogBaseClass::Of<TQzRollingFileAppender>());
+        List->Add(TQzLogBaseClass::Of<TQzDailyRollingFileAppender>());
+        List->Add(TQzLogBaseClass::Of<TQzEventLogAppender>());
+        return List.release();
+    }();
     return *Result;
 }
 

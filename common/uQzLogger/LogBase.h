@@ -10,7 +10,8 @@
 //     RegisteredAppenders().Add(TQzLogBaseClass::Of<TMyAppender>());
 //
 // Appenders and layouts are counted, by any number of threads. One in the lists of loggers may also be ended by Free while
-// other threads log: it leaves all lists first. If somebody else holds it, Free raises, and it is in no list any more.
+// other threads log: it leaves all lists first. If somebody else holds it, Free raises, and it is in no list any more. A thread
+// that holds the lock of a list, or writes, counts as somebody else: what it frees then ends when it lets go of that lock.
 #pragma once
 
 #include <mutex>
@@ -72,6 +73,10 @@ public:
     void BeforeDestruction() override;
     void DestructionRefused() noexcept override;
 
+    // A number that no other one has in this process.
+    std::uint64_t Serial() const noexcept { return FSerial; }
+    static std::uint64_t NextSerial() noexcept;
+
 protected:
     // ALogger is the one it is made for, and need not live longer. A name that begins with a digit is not taken, an empty
     // one neither; any other that is no identifier raises EComponentError.
@@ -90,6 +95,7 @@ private:
     void LeaveLists();
     void SetComplete(bool AValue) noexcept;
 
+    const std::uint64_t FSerial = NextSerial();
     // All of these are guarded by the lock of the instances.
     TQzLogger* FLogger;
     bool FIsComplete = false;

@@ -41,12 +41,9 @@ void TQzLogger::SetConfig(IQzLogConfigurator* AConfigurator) {
 }
 
 void TQzLogger::ReadLevel(IQzLogConfigurator& AConfigurator) {
-    const std::int32_t Level = QzVarToInt(
-        AConfigurator.GetLoggerValue(FullName(), u"Level", mtkInteger, static_cast<std::int32_t>(llDoNotLog)),
-        static_cast<std::int32_t>(llDoNotLog), true);
-    if (Level < static_cast<int>(llAll) || Level > static_cast<int>(llDoNotLog))
-        throw ERangeError(u"%d is not a log level", {Level});
-    SetLevel(static_cast<TQzLogLevel>(Level));
+    constexpr auto cNothing = static_cast<std::int32_t>(llDoNotLog);
+    SetLevel(QzLogLevelOf(QzVarToInt(AConfigurator.GetLoggerValue(FullName(), u"Level", mtkInteger, cNothing),
+                                     cNothing, true)));
     SetAdditive(QzVarToBool(AConfigurator.GetLoggerValue(FullName(), u"Additive", mtkBoolean, GetAdditive()),
                             GetAdditive(), true));
 }

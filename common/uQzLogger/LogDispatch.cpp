@@ -20,7 +20,7 @@ struct TWaitingMessage {
     TValue Value;
     bool HasValue;
     TQzLogIndent Indent;
-    std::vector<const IQzLogAppender*> Skipped;
+    std::vector<std::uint64_t> Skipped;
 };
 
 // Appenders that wait for their end.
@@ -73,9 +73,9 @@ void Enqueue(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept {
                                 {}};
         if (const TLogDispatch* Present = Thread.Present) {
             Message.Skipped = Present->Skipped;
-            for (const IQzLogAppender* Appender : {Present->Writing, Present->Failed}) {
-                if (Appender != nullptr)
-                    Message.Skipped.push_back(Appender);
+            for (const std::uint64_t Serial : {Present->Writing, Present->Failed}) {
+                if (Serial != 0)
+                    Message.Skipped.push_back(Serial);
             }
         }
         Thread.Waiting->Items.push_back(std::move(Message));
@@ -84,19 +84,19 @@ void Enqueue(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept {
     }
 }
 
-void WriteTo(TLogDispatch& APresent, IQzLogAppender& AAppender, const TQzLogger& ALogger,
+void WriteTo(TLogDispatch& APresent, const TAppenderEntry& AEntry, const TQzLogger& ALogger,
              const TLogMessage& AMessage, const UnicodeString& AText) {
-    APresent.Writing = &AAppender;
+    APresent.Writing = AEntry.Serial;
     try {
-        AAppender.Write(AMessage.Source, ALogger.FullName(), AMessage.Level, AText, AMessage.Value,
-                        AMessage.Indent);
+        AEntry.Appender->Write(AMessage.Source, ALogger.FullName(), AMessage.Level, AText, AMessage.Value,
+                               AMessage.Indent);
     } catch (...) {
-        APresent.Writing = nullptr;
-        APresent.Failed = &AAppender;
-        APresent.FailedName = AAppender.GetName();
+        APresent.Writing = 0;
+        APresent.Failed = AEntry.Serial;
+        APresent.FailedName = AEntry.Appender->GetName();
         throw;
     }
-    APresent.Writing = nullptr;
+    APresent.Writing = 0;
 }
 
 void WriteToAppenders(TLogDispatch& APresent, const TQzLogger& ALogger, const TLogMessage& AMessage,
@@ -104,11 +104,11 @@ void WriteToAppenders(TLogDispatch& APresent, const TQzLogger& ALogger, const TL
     TLogAppenderCore& Core = ALogger.AppenderCore();
     const TLogGate Gate(Core);
     const std::uint32_t Version = Core.Version();
-    for (IQzLogAppender* Appender : Core.Items()) {
-        const bool IsSkipped =
-            std::find(APresent.Skipped.begin(), APresent.Skipped.end(), Appender) != APresent.Skipped.end();
-        if (!IsSkipped && (Core.Version() == Version || Core.Holds(Appender)))
-            WriteTo(APresent, *Appender, ALogger, AMessage, AText);
+    for (const TAppenderEntry& Entry : Core.Items()) {
+        const bool IsSkipped = std::find(APresent.Skipped.begin(), APresent.Skipped.end(), Entry.Serial) !=
+            APresent.Skipped.end();
+        if (!IsSkipped && (Core.Version() == Version || Core.Holds(Entry.Appender)))
+            WriteTo(APresent, Entry, ALogger, AMessage, AText);
     }
 }
 
@@ -128,8 +128,7 @@ void Walk(TLogDispatch& APresent, TQzLogger& ALogger, const TLogMessage& AMessag
 }
 
 // What was raised ends the way of the message, and is told when no gate is held any more. The thread is sending.
-void Send(TQzLogger& ALogger, const TLogMessage& AMessage,
-          std::vector<const IQzLogAppender*> ASkipped) noexcept {
+void Send(TQzLogger& ALogger, const TLogMessage& AMessage, std::vector<std::uint64_t> ASkipped) noexcept {
     TLogThread& Thread = ThisLogThread();
     TLogDispatch Present;
     Present.Skipped = std::move(ASkipped);
@@ -137,7 +136,7 @@ void Send(TQzLogger& ALogger, const TLogMessage& AMessage,
     try {
         Walk(Present, ALogger, AMessage);
     } catch (...) {
-        ReportDrop(ALogger.FullName(), Present.Failed, Present.FailedName);
+        ReportDrop(ALogger.FullNameIfKnown(), Present.Failed, Present.FailedName);
     }
     Thread.Present = nullptr;
 }

@@ -24,10 +24,11 @@ struct TLogMessage {
 
 // The message that a thread is on the way with.
 struct TLogDispatch {
-    const IQzLogAppender* Writing = nullptr; // the appender that it is being written to
-    const IQzLogAppender* Failed = nullptr;  // the one that raised; perhaps gone by now
+    // Appenders by their serials, 0 for none.
+    std::uint64_t Writing = 0; // to which it is being written
+    std::uint64_t Failed = 0;  // which raised
     UnicodeString FailedName;
-    std::vector<const IQzLogAppender*> Skipped; // those that were writing when the message arose
+    std::vector<std::uint64_t> Skipped; // which were writing when the message arose
 };
 
 // Has the references end as soon as the thread holds no gate and no tree; false when there is no memory for that.

@@ -17,7 +17,7 @@ constexpr std::int64_t cSecond = 10'000'000;
 struct TDrops {
     std::mutex Lock;
     std::shared_ptr<const TQzLogDropHook> Hook;
-    std::map<const void*, std::int64_t> Told; // when, for each appender
+    std::map<std::uint64_t, std::int64_t> Told; // when, for each appender
     std::atomic<std::uint64_t> Count{0};
     std::atomic<bool> IsTelling{false};
 };
@@ -28,7 +28,7 @@ TDrops& Drops() {
 }
 
 // The hook, if it has not heard of the appender within a second. Entries that do not matter any more go.
-std::shared_ptr<const TQzLogDropHook> HookFor(TDrops& ADrops, const void* AAppender) {
+std::shared_ptr<const TQzLogDropHook> HookFor(TDrops& ADrops, std::uint64_t AAppender) {
     const std::int64_t Now = platform::UtcNow100ns();
     const std::lock_guard Hold(ADrops.Lock);
     if (ADrops.Hook == nullptr)
@@ -79,11 +79,11 @@ void detail::ForgetTelling() noexcept {
     Drops().IsTelling.store(false, std::memory_order_relaxed);
 }
 
-void detail::CountDrop() noexcept {
-    Drops().Count.fetch_add(1, std::memory_order_relaxed);
+void detail::CountDrops(std::uint64_t ACount) noexcept {
+    Drops().Count.fetch_add(ACount, std::memory_order_relaxed);
 }
 
-void detail::ReportDrop(const UnicodeString& ALogger, const void* AAppender,
+void detail::ReportDrop(const UnicodeString& ALogger, std::uint64_t AAppender,
                         const UnicodeString& AAppenderName) noexcept {
     TDrops& All = Drops();
     CountDrop();

@@ -33,11 +33,12 @@ QZ_API std::uint64_t QzDroppedLogMessages() noexcept;
 
 namespace detail {
 
-// Counts a drop.
-void CountDrop() noexcept;
-// The same, and tells the hook; for a handler of exceptions. AAppender serves to tell appenders apart and may be gone, or
-// null.
-void ReportDrop(const UnicodeString& ALogger, const void* AAppender,
+void CountDrops(std::uint64_t ACount) noexcept;
+inline void CountDrop() noexcept {
+    CountDrops(1);
+}
+// The same, and tells the hook; for a handler of exceptions. AAppender is the serial of an appender, or 0.
+void ReportDrop(const UnicodeString& ALogger, std::uint64_t AAppender,
                 const UnicodeString& AAppenderName) noexcept;
 // The lock that a report takes, and the end of what a thread was about that a child of fork() does not have.
 bool TryLockDrops();

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "common/uQzLogAppenders/BaseAppender.h"
+#include "common/uQzLogAppenders/LineFlusher.h"
 #include "common/uQzLogger/LogDrops.h"
 #include "common/uQzLogger/LogTreeLock.h"
 #include "common/uQzLogger/QzLogger.h"
@@ -13,22 +14,38 @@
 
 namespace qz::detail {
 
-// All locks of loggers and appenders. They are tried, never waited for, and given back when one cannot be had: whoever
-// holds that one may be waiting for another.
+// How long one lock is tried, in milliseconds.
+constexpr std::uint32_t cPatience = 2;
+
+// All locks of loggers and appenders. They are tried, for a moment, and given back when one cannot be had: whoever holds
+// that one may be waiting for another.
 struct TForkLocks {
     bool TryTake() {
         if (!FOwn.TryEnter())
             return false;
         FHasOwn = true;
-        if (TryGates() && TryTree() && TryLists() && TryAppenders() && TryLockDrops())
-            return FHasDrops = true;
-        GiveBack();
-        return false;
+        try {
+            FHasDrops =
+                TryGates() && TryTree() && TryLists() && TryAppenders() && TryFlusher() && TryLockDrops();
+        } catch (const std::bad_alloc&) {
+            FHasDrops = false;
+        }
+        if (!FHasDrops)
+            GiveBack();
+        return FHasDrops;
+    }
+
+    // Files that are open are written by two processes from here on.
+    void ShareFiles() noexcept {
+        if (FFlusher != nullptr)
+            FFlusher->ShareAll();
     }
 
     void GiveBack() {
         if (std::exchange(FHasDrops, false))
             UnlockDrops();
+        if (TLineFlusher* Flusher = std::exchange(FFlusher, nullptr))
+            Flusher->Unlock();
         for (TQzBaseAppender* Appender : std::exchange(FAppenders, {}))
             Appender->Unlock();
         if (std::exchange(FHasInstances, false))
@@ -47,12 +64,12 @@ struct TForkLocks {
 private:
     // The gates come before the lock of the tree, as for a message.
     bool TryGates() {
-        if (!TLogTreeLock::TryEnter(0))
+        if (!TLogTreeLock::TryEnter(cPatience))
             return false;
         std::vector<TLogAppenderCorePtr> All = TQzLogger::AllAppenders();
         TLogTreeLock::Leave();
         for (TLogAppenderCorePtr& Gate : All) {
-            if (!Gate->TryEnterGate(0))
+            if (!Gate->TryEnterGate(cPatience))
                 return false;
             FGates.push_back(std::move(Gate));
         }
@@ -60,7 +77,7 @@ private:
     }
     // Loggers that came to be meanwhile mean another try.
     bool TryTree() {
-        FHasTree = TLogTreeLock::TryEnter(0);
+        FHasTree = TLogTreeLock::TryEnter(cPatience);
         return FHasTree && TQzLogger::AllAppenders() == FGates;
     }
     bool TryLists() {
@@ -87,10 +104,19 @@ private:
         return true;
     }
 
+    bool TryFlusher() {
+        FFlusher = TLineFlusher::Existing();
+        if (FFlusher == nullptr || FFlusher->TryLock())
+            return true;
+        FFlusher = nullptr;
+        return false;
+    }
+
     TCriticalSection FOwn; // who forks, forks alone
     std::vector<TLogAppenderCorePtr> FGates;
     std::vector<TLogAppenderCore*> FLists;
     std::vector<TQzBaseAppender*> FAppenders; // alive as long as the instances are locked
+    TLineFlusher* FFlusher = nullptr;
     bool FHasOwn = false;
     bool FHasTree = false;
     bool FHasInstances = false;
@@ -118,12 +144,16 @@ void TakeLocks() {
 }
 
 void GiveLocksBack() {
-    if (std::exchange(GHasForkLocks, false))
-        ForkLocks().GiveBack();
+    if (!std::exchange(GHasForkLocks, false))
+        return;
+    ForkLocks().ShareFiles();
+    ForkLocks().GiveBack();
 }
 
 void BeginChild() {
     ForgetTelling();
+    if (GHasForkLocks)
+        TLineFlusher::BeginChild();
     GiveLocksBack();
 }
 

@@ -11,6 +11,7 @@
 
 namespace qz {
 
+class TQzBaseAppender;
 class TQzLogAppenderList;
 class TQzLogBase;
 class TQzLogger;

@@ -32,6 +32,9 @@ constexpr std::u16string_view QzLogLevelName(TQzLogLevel ALevel) noexcept {
     return ALevel <= llDoNotLog ? QzLogLevels[static_cast<int>(ALevel)] : std::u16string_view();
 }
 
+// The level of that number. Raises ERangeError, "9 is not a log level".
+QZ_API TQzLogLevel QzLogLevelOf(std::int32_t ANumber);
+
 // Whether the lines from this one on stand deeper, as deep, or less deep.
 enum class TQzLogIndent : std::uint8_t { liIndentNone, liIndentIncrease, liIndentDecrease };
 using enum TQzLogIndent;

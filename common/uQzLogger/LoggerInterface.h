@@ -109,9 +109,13 @@ public:
     virtual void RemoveAppender(IQzLogAppender* AAppender) = 0;
     virtual void ClearAppenders() = 0;
     // Holds up the messages of this logger, and all of this thread, for a walk through the list, until UnLockAppenders on
-    // the same thread.
+    // the same thread, which raises EAssertionFailed on one that holds nothing.
     virtual TQzLogAppenderList* LockAppenders() = 0;
     virtual void UnLockAppenders() = 0;
+
+    // The same for an appender of this library, which may be an IQzLogAppender in more ways than one.
+    QZ_API void AddAppender(TQzBaseAppender* AAppender);
+    QZ_API void RemoveAppender(TQzBaseAppender* AAppender);
 
 protected:
     ~IQzLogger() = default;

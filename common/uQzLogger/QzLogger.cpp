@@ -367,6 +367,7 @@ TQzLogAppenderList* TQzLogger::LockAppenders() {
 }
 
 void TQzLogger::UnLockAppenders() {
+    Assert(FCore->HoldsGate());
     FAppenders->Unlock();
 }
 

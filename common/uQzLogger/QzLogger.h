@@ -112,6 +112,8 @@ public:
     }
 
     // Appenders.
+    using IQzLogger::AddAppender;
+    using IQzLogger::RemoveAppender;
     void AddAppender(IQzLogAppender* AAppender) override;
     Ref<IQzLogAppender> AddAppender(TQzLogBaseClass AClass) override;
     void RemoveAppender(IQzLogAppender* AAppender) override;

@@ -7,47 +7,12 @@
 #include "common/uQzLogger.h"
 #include "runtime/text/NumberText.h"
 #include "runtime/values/VariantArray.h"
+#include "tests/support/LogConfiguration.h"
 #include "tests/support/MemoryAppender.h"
 #include "tests/support/Message.h"
 
 namespace qz {
 namespace {
-
-// Answers from a table of "name/key", and notes each question.
-class TConfiguration : public TInterfacedObject, public IQzLogConfiguratorEx {
-    QZ_CLASS(TConfiguration, TInterfacedObject)
-    QZ_INTERFACE_COUNTING(TInterfacedObject)
-
-public:
-    Variant GetLoggerValue(const UnicodeString& ALogger, const UnicodeString& AKey, TQzMainTypeKind AKind,
-                           const Variant& ADefault) override {
-        return Answer(ALogger, AKey, AKind, ADefault);
-    }
-    Variant GetAppenderValue(const UnicodeString& AAppender, const UnicodeString& AKey, TQzMainTypeKind AKind,
-                             const Variant& ADefault) override {
-        return Answer(AAppender, AKey, AKind, ADefault);
-    }
-    void ConfigureLogger(TQzLogger& ALogger) override {
-        if (OnConfigure)
-            OnConfigure(ALogger);
-    }
-
-    std::map<UnicodeString, Variant> Answers;
-    UnicodeString Asked;
-    std::function<void(TQzLogger& ALogger)> OnConfigure;
-
-private:
-    Variant Answer(const UnicodeString& AName, const UnicodeString& AKey, TQzMainTypeKind AKind,
-                   const Variant& ADefault) {
-        Asked += AName + u'/' + AKey + u':' + IntToStr(static_cast<int>(AKind)) + u' ';
-        const auto Found = Answers.find(AName + u'/' + AKey);
-        return Found == Answers.end() ? ADefault : Found->second;
-    }
-};
-
-const TClassRec TConfiguration::ClassRec = DescribeClass<TConfiguration>(
-    u"TConfiguration",
-    {.Unit = u"Tests", .Interfaces = Interfaces<TConfiguration, IQzLogConfiguratorEx, IQzLogConfigurator>()});
 
 struct TConfigured : TLogTree {
     TConfigured() {
@@ -138,6 +103,22 @@ TEST(LogConfig, NullTakesTheConfiguratorFromTheWholeTree) {
     EXPECT_EQ(llWarn, Log->GetParentLogger()->GetLevel());
 }
 
+// The tree lets go of what it was given, and its appenders of the tree.
+TEST(LogConfig, AClosedTreeHoldsNothing) {
+    const Ref<TConfiguration> Config = TConfiguration::Create();
+    Ref<TMemoryAppender> Left;
+    {
+        const TLogTree Tree;
+        Logger().SetConfig(Config.Get());
+        Logger().GetLogger("a");
+        Left = TMemoryAppender::Create(&Logger(), u"left");
+    }
+    EXPECT_EQ(1, Config->RefCount());
+    Config->Asked.Clear();
+    Left->SetLayout(QzSimpleLayout);
+    EXPECT_EQ(u"", Config->Asked);
+}
+
 TEST(LogConfig, TheConfiguratorMayAskForLoggersAndLog) {
     TConfigured Set;
     Set.Config->Answers = {{u"root.a/Level", 0}, {u"root.a/Additive", false}};
@@ -197,6 +178,80 @@ TEST(LogAppenderList, AFreedAppenderLeavesAllLists) {
     EXPECT_EQ(0, Log->GetAppenders()->Count());
     Log->Info("x");
     EXPECT_EQ(u"root.a>root Info x|", Left.Take());
+}
+
+// An appender that is a component of another kind, and counts nothing.
+class TForeign : public TComponent, public IQzLogAppender {
+    QZ_CLASS(TForeign, TComponent)
+
+public:
+    UnicodeString GetName() const override { return Name(); }
+    TComponent* Component() override { return this; }
+    void Write(const UnicodeString&, const UnicodeString&, TQzLogLevel, const UnicodeString& AMessage,
+               PQzDataRec, TQzLogIndent) override {
+        Got += AMessage;
+        if (OnWrite)
+            OnWrite();
+    }
+    void Close() override {}
+    HRESULT QueryInterface(const TGUID& AIid, void** AObject) override {
+        return detail::QueryObject(*this, AIid, AObject);
+    }
+    std::uint32_t _AddRef() override { return 1; }
+    std::uint32_t _Release() override { return 1; }
+    UnicodeString Got;
+    std::function<void()> OnWrite;
+
+protected:
+    using TComponent::TComponent;
+};
+
+const TClassRec TForeign::ClassRec = DescribeClass<TForeign>(
+    u"TForeign", {.Unit = u"Tests", .Interfaces = Interfaces<TForeign, IQzLogAppender>()});
+
+TEST(LogAppenderList, ForeignAndRefusedAppenders) {
+    const TLogTree Tree;
+    TForeign* Foreign = TForeign::Create(nullptr);
+    Logger().AddAppender(Foreign);
+    Foreign->OnWrite = [] { Logger().Info("2"); }; // not for itself
+    Logger().Info("1");
+    EXPECT_EQ(u"1", Foreign->Got);
+    Foreign->Free();
+    EXPECT_EQ(0, Logger().GetAppenders()->Count());
+    // one that somebody holds stays, and may come back
+    TMemoryAppender* const Refused = TMemoryAppender::Create(nullptr, u"");
+    const Ref<TMemoryAppender> Hold(Refused);
+    Logger().AddAppender(Refused);
+    EXPECT_THROW(Refused->Free(), Exception);
+    Logger().Info("3");
+    Logger().AddAppender(Refused);
+    Logger().Info("4");
+    EXPECT_EQ(u"root>root Info 4|", Refused->Take());
+    EXPECT_THROW(Logger().UnLockAppenders(), EAssertionFailed);
+}
+
+// A message for an appender that has the address of one that failed.
+TEST(LogAppenderList, AnotherAppenderAtTheSameAddress) {
+    const TLogTree Tree;
+    TMemoryAppender* Failing = &AddMemory(Logger());
+    UnicodeString Got;
+    int Same = 0;
+    QzSetLogDropHook([&](const TQzLogDrop&) {
+        Logger().ClearAppenders();
+        for (int I = 0; I < 8; ++I)
+            Same += &AddMemory(Logger()) == Failing;
+        Logger().Info("of the hook");
+        for (int I = 0; I < 8; ++I)
+            Got +=
+                dynamic_cast<TMemoryAppender&>(*Logger().GetAppenders()->GetAppender(I)->Component()).Take();
+    });
+    Failing->OnWrite = [](const UnicodeString&) { throw 1; };
+    Logger().Info("fails");
+    QzSetLogDropHook(nullptr);
+    Logger().Info("last");
+    for (int I = 0; I < 8; ++I)
+        Got += Appender(Logger(), I).Take().Length() > 0 ? u"+" : u"-";
+    EXPECT_EQ(u"++++++++", Got) << Same;
 }
 
 TEST(LogBaseClassList, FindsClassesInAnyCase) {

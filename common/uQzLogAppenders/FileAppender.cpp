@@ -1,0 +1,216 @@
+#include "common/uQzLogAppenders/FileAppender.h"
+
+#include "common/uQzTypes/VarTolerant.h"
+#include "common/uQzWindows/ShellFolders.h"
+#include "common/uQzWindows/SystemVersion.h"
+#include "runtime/files/FileNames.h"
+#include "runtime/files/FileSystem.h"
+#include "runtime/text/StringUtils.h"
+
+namespace qz {
+
+constinit const TClassRec TQzFileAppender::ClassRec = DescribeLogBase<TQzFileAppender>(
+    u"TQzFileAppender",
+    {.Unit = u"uQzLogAppenders", .Interfaces = Interfaces<TQzFileAppender, IQzFileAppender>()});
+
+namespace {
+
+constexpr TTextConstant cExtension = u".log";
+constexpr std::int32_t cCommonDocuments = 46;
+constexpr std::uint16_t cKeepsOffPrograms =
+    601; // systems where programs cannot write beside themselves, from this one on
+constexpr std::int64_t cLargestBuffer = std::int64_t{1} << 30;
+
+UnicodeString NameAmongDocuments(const UnicodeString& AProgram) {
+    const UnicodeString Name = ChangeFileExt(ExtractFileName(AProgram), u"");
+    const UnicodeString Directory =
+        IncludeTrailingPathDelimiter(IncludeTrailingPathDelimiter(QzGetShellFolder(cCommonDocuments)) + Name);
+    ForceDirectories(Directory);
+    return Directory + Name + cExtension;
+}
+
+// A user without any place for documents can still give the file another name.
+UnicodeString DefaultFileName() {
+    const UnicodeString Program = ProgramFileName();
+    if (QzGetWindowsVersion() >= cKeepsOffPrograms) {
+        try {
+            return NameAmongDocuments(Program);
+        } catch (const Exception&) { // NOLINT(bugprone-empty-catch)
+        }
+    }
+    return ChangeFileExt(Program, cExtension);
+}
+
+} // namespace
+
+TQzFileAppender::TQzFileAppender(TQzLogger* ALogger, const UnicodeString& AName)
+    : Inherited(ALogger, AName),
+      FFileName(DefaultFileName()),
+      FFileExt(cExtension) {}
+
+TQzFileAppender::~TQzFileAppender() = default;
+
+void TQzFileAppender::Initialize() {
+    const TScopedLock Hold(*this);
+    const TInitializing Now(*this);
+    FFileStream.reset();
+    if (TrimView(FFileName).empty())
+        return;
+    bool WritesHeader = true;
+    if (FileExists(FFileName)) {
+        if (FAppendExisting)
+            WritesHeader = false;
+        else
+            DeleteFile(FFileName);
+    }
+    auto File = std::make_unique<TQzTextFile>(FFileName, &OwnLock());
+    File->SetBufferSize(FBufferSize);
+    if (Layout() != nullptr && WritesHeader) {
+        const UnicodeString Header = Layout()->GetHeader();
+        if (!Header.IsEmpty())
+            File->WriteLn(Header);
+    }
+    FFileStream = std::move(File);
+    Inherited::Initialize();
+}
+
+void TQzFileAppender::Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
+                            const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) {
+    const TScopedLock Hold(*this);
+    if (FFileStream != nullptr && FFileStream->HasGone())
+        Close();
+    Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
+    if (Layout() == nullptr || FFileStream == nullptr)
+        return;
+    const UnicodeString Line = Layout()->FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
+    if (Line.IsEmpty())
+        return;
+    if (FBufferSize != 0 && ALevel < FFlushLevel)
+        FFileStream->WriteLnLater(Line);
+    else
+        FFileStream->WriteLn(Line);
+}
+
+void TQzFileAppender::WriteFooter() {
+    if (Layout() == nullptr || FFileStream == nullptr)
+        return;
+    const UnicodeString Footer = Layout()->GetFooter();
+    if (!Footer.IsEmpty())
+        FFileStream->Write(Footer);
+}
+
+void TQzFileAppender::EndFile() {
+    FFileStream.reset();
+    Inherited::Close();
+}
+
+void TQzFileAppender::Close() {
+    const TScopedLock Hold(*this);
+    struct TEnd {
+        ~TEnd() { Appender.EndFile(); }
+        TQzFileAppender& Appender;
+    } const End{*this};
+    WriteFooter();
+}
+
+void TQzFileAppender::SetLayout(IQzLogLayout* ALayout) {
+    const TScopedLock Hold(*this);
+    Close();
+    if (const auto Layout = As<IQzLogLayoutEx>(ALayout))
+        SetFileExt(Layout->GetFileExt());
+    Inherited::SetLayout(ALayout);
+}
+
+void TQzFileAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
+    const TScopedLock Hold(*this);
+    if (AConfigurator != nullptr) {
+        const auto Ask = [&](const UnicodeString& AKey, TQzMainTypeKind AKind, const Variant& ADefault) {
+            return AConfigurator->GetAppenderValue(Name(), AKey, AKind, ADefault);
+        };
+        FAppendExisting = QzVarToBool(Ask(u"AppendExisting", mtkBoolean, true), true, true);
+        const UnicodeString FileName = QzVarToStr(Ask(u"FileName", mtkString, u""), {}, true);
+        const UnicodeString FileExt = QzVarToStr(Ask(u"FileExt", mtkString, u""), {}, true);
+        if (!FileExt.IsEmpty())
+            SetFileExt(FileExt);
+        if (!FileName.IsEmpty())
+            SetFileName(FileName);
+        const auto Size = static_cast<std::int32_t>(FBufferSize);
+        SetBufferSize(QzVarToInt(Ask(u"BufferSize", mtkInteger, Size), Size, true));
+        const auto Level = static_cast<std::int32_t>(FFlushLevel);
+        SetFlushLevel(QzLogLevelOf(QzVarToInt(Ask(u"FlushLevel", mtkInteger, Level), Level, true)));
+    }
+    Inherited::SetConfig(AConfigurator);
+}
+
+UnicodeString TQzFileAppender::GetFileName() {
+    const TScopedLock Hold(*this);
+    return FFileName;
+}
+
+bool TQzFileAppender::GetAppendExisting() {
+    const TScopedLock Hold(*this);
+    return FAppendExisting;
+}
+
+UnicodeString TQzFileAppender::GetFileExt() {
+    const TScopedLock Hold(*this);
+    return FFileExt;
+}
+
+void TQzFileAppender::SetFileExt(const UnicodeString& AExtension) {
+    const TScopedLock Hold(*this);
+    if (AExtension == FFileExt)
+        return;
+    Close();
+    FFileExt = !AExtension.IsEmpty() && AExtension[0] == u'.' ? AExtension : u'.' + AExtension;
+    FFileName = ChangeFileExt(FFileName, FFileExt);
+}
+
+void TQzFileAppender::SetAppendExisting(bool AValue) {
+    const TScopedLock Hold(*this);
+    FAppendExisting = AValue;
+}
+
+void TQzFileAppender::SetFileName(const UnicodeString& AName) {
+    const TScopedLock Hold(*this);
+    if (AName == FFileName)
+        return;
+    Close();
+    UnicodeString Extension = ExtractFileExt(AName);
+    const bool IsComplete = !Extension.IsEmpty() || TrimView(AName).empty();
+    FFileName = IsComplete ? AName : AName + FFileExt;
+    if (!Extension.IsEmpty())
+        FFileExt = std::move(Extension);
+}
+
+std::int64_t TQzFileAppender::GetBufferSize() {
+    const TScopedLock Hold(*this);
+    return static_cast<std::int64_t>(FBufferSize);
+}
+
+void TQzFileAppender::SetBufferSize(std::int64_t AValue) {
+    if (AValue < 0 || AValue > cLargestBuffer)
+        throw ERangeError(u"%d is not the size of a buffer", {AValue});
+    const TScopedLock Hold(*this);
+    if (FFileStream != nullptr)
+        FFileStream->SetBufferSize(static_cast<std::size_t>(AValue));
+    FBufferSize = static_cast<std::size_t>(AValue);
+}
+
+TQzLogLevel TQzFileAppender::GetFlushLevel() {
+    const TScopedLock Hold(*this);
+    return FFlushLevel;
+}
+
+void TQzFileAppender::SetFlushLevel(TQzLogLevel AValue) {
+    const TScopedLock Hold(*this);
+    FFlushLevel = AValue;
+}
+
+void TQzFileAppender::Flush() {
+    const TScopedLock Hold(*this);
+    if (FFileStream != nullptr)
+        FFileStream->Flush();
+}
+
+} // namespace qz
