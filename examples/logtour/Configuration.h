@@ -1,0 +1,12 @@
+// How this application sets up its loggers: a table of its own, behind the interface that loggers and appenders ask.
+//
+//     Logger().SetConfig(TourConfiguration(u"logtour/").Get());
+//     const Ref<IQzLogger> Tour = Logger().GetLogger("tour");
+//     Tour->GetLogger("readme")->Info("to all four appenders");
+#pragma once
+
+#include <common/uQzLogger.h>
+
+// "root.tour" and the loggers right below it write to four appenders, whose files are in ADirectory, which ends with a
+// separator. Hold the first as long as messages are to go to the same files.
+qz::Ref<qz::IQzLogConfigurator> TourConfiguration(const qz::UnicodeString& ADirectory);
