@@ -14,6 +14,7 @@
 #pragma once
 
 #include <concepts>
+#include <cstddef>
 #include <span>
 #include <type_traits>
 #include <utility>
@@ -28,10 +29,19 @@ struct TInterfaceEntry {
     void* (*Cast)(TObject* AObject) noexcept;
 };
 
-// One virtual constructor: Family is the address that stands for the constructor's signature, Make the address of a
-// constant pointer to a function of that signature.
+// What stands for the signature of a virtual constructor: the class that declares it, and the number of its arguments, by
+// which the constructors of one class differ. The record of a class is the same one for a program and for the shared library
+// that it uses, which a variable of a template is not.
+struct TMakerFamily {
+    TClass Base;
+    std::size_t ArgCount;
+
+    friend bool operator==(const TMakerFamily&, const TMakerFamily&) noexcept = default;
+};
+
+// One virtual constructor: Make is the address of a constant pointer to a function of its signature.
 struct TMakerEntry {
-    const void* Family;
+    TMakerFamily Family;
     const void* Make;
 };
 
@@ -47,7 +57,7 @@ struct TClassRec {
     // True for the class itself and for every class it derives from.
     QZ_API bool InheritsFrom(TClass AAncestor) const noexcept;
     // The maker of that family of this very class, not a parent's; null when the class cannot be made that way.
-    QZ_API const void* FindMaker(const void* AFamily) const noexcept;
+    QZ_API const void* FindMaker(TMakerFamily AFamily) const noexcept;
 };
 
 // The record of T.
@@ -62,11 +72,11 @@ template <class T> constexpr TClass ClassOf() noexcept {
 template <class TBase, class TSignature> struct TVirtualConstructor;
 template <class TBase, class TResult, class... TArgs> struct TVirtualConstructor<TBase, TResult(TArgs...)> {
     using TMake = TResult (*)(TArgs...);
-    static constexpr char Family = 0;
+    static constexpr TMakerFamily Family() noexcept { return {&TBase::ClassRec, sizeof...(TArgs)}; }
 
     // The function that makes an object of exactly AClass; null when the class cannot be made this way.
     static TMake Find(TClass AClass) noexcept {
-        const auto* Entry = static_cast<const TMake*>(AClass->FindMaker(&Family));
+        const auto* Entry = static_cast<const TMake*>(AClass->FindMaker(Family()));
         return Entry == nullptr ? nullptr : *Entry;
     }
 };

@@ -15,7 +15,7 @@ bool TClassRec::InheritsFrom(TClass AAncestor) const noexcept {
     return false;
 }
 
-const void* TClassRec::FindMaker(const void* AFamily) const noexcept {
+const void* TClassRec::FindMaker(TMakerFamily AFamily) const noexcept {
     for (const TMakerEntry& Entry : Makers)
         if (Entry.Family == AFamily)
             return Entry.Make;

@@ -181,7 +181,7 @@ constexpr TClassRec DescribeClass(std::u16string_view AName, const TClassDescrip
 
 // The entry by which T can be made through a class reference of TFamily, a TVirtualConstructor.
 template <class TFamily, auto Make> constexpr TMakerEntry Maker() noexcept {
-    return {&TFamily::Family, &detail::cMakerFunction<TFamily, Make>};
+    return {TFamily::Family(), &detail::cMakerFunction<TFamily, Make>};
 }
 
 namespace detail {
