@@ -67,6 +67,8 @@ public:
     bool Seek(int64_t AOffset, TFileOrigin AOrigin, int64_t& APosition, TError& AError);
     // Cuts the file or lengthens it by zeros. The position stays.
     bool SetSize(int64_t ASize, TError& AError);
+    // Has this handle, and those that forked processes share with it, deny nothing from now on. Nothing on Windows.
+    void DenyNothing() noexcept;
     // Waits until what was written is on the disk.
     bool Flush(TError& AError);
 

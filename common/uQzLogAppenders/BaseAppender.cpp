@@ -44,6 +44,20 @@ void TQzBaseAppender::Write(const UnicodeString&, const UnicodeString&, TQzLogLe
     Initialize();
 }
 
+UnicodeString TQzBaseAppender::FormatLine(const UnicodeString& ALogger, TQzLogLevel ALevel,
+                                          const UnicodeString& AMessage, PQzDataRec AValue,
+                                          TQzLogIndent AIndent) {
+    struct TFormatting {
+        ~TFormatting() {
+            if (--Appender.FFormatting == 0 && !Appender.FFormerLayouts.empty()) [[unlikely]]
+                Appender.FFormerLayouts.clear();
+        }
+        TQzBaseAppender& Appender;
+    } const Formatting{*this};
+    ++FFormatting;
+    return FLayout->FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
+}
+
 void TQzBaseAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
     if (AConfigurator == nullptr)
         return;
@@ -56,6 +70,8 @@ void TQzBaseAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
 void TQzBaseAppender::SetLayout(IQzLogLayout* ALayout) {
     {
         const TScopedLock Hold(*this);
+        if (FFormatting != 0)
+            FFormerLayouts.push_back(FLayout);
         FLayout = Ref<IQzLogLayout>(ALayout);
     }
     if (ALayout == nullptr)

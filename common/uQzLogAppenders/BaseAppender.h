@@ -15,6 +15,8 @@
 // opens again at the next message. Descendants hold the lock over each operation.
 #pragma once
 
+#include <vector>
+
 #include "common/uQzLogger/LogBase.h"
 
 namespace qz {
@@ -58,6 +60,10 @@ protected:
     // The layout, which may be null, and whether the appender is open; under the lock.
     IQzLogLayout* Layout() const noexcept { return FLayout.Get(); }
     bool IsInitialized() const noexcept { return FInitialized; }
+    // The line that the layout, which is not null, makes of a message; under the lock. The layout may do as it likes with the
+    // appender meanwhile: it may be closed, or have another layout, when this returns.
+    UnicodeString FormatLine(const UnicodeString& ALogger, TQzLogLevel ALevel, const UnicodeString& AMessage,
+                             PQzDataRec AValue, TQzLogIndent AIndent);
     TCriticalSection& OwnLock() noexcept { return FLock; }
     // Whether a call of Initialize is under way.
     bool IsInitializing() const noexcept { return FInitializing != 0; }
@@ -77,6 +83,8 @@ protected:
 
 private:
     Ref<IQzLogLayout> FLayout;
+    std::vector<Ref<IQzLogLayout>> FFormerLayouts; // one of which may be formatting
+    int FFormatting = 0;
     bool FInitialized = false;
     std::int32_t FInitializing = 0;
     TCriticalSection FLock;

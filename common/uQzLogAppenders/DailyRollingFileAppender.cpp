@@ -83,7 +83,7 @@ void TQzDailyRollingFileAppender::PutAside() {
     UnicodeString Text;
     if (!TextOfFile(Text))
         throw EAbort(u"Failed to get the attributes");
-    const UnicodeString Name = ChangeFileExt(FileName(), u"." + Text + FileExt());
+    const UnicodeString Name = BasePath() + u'.' + Text + FileExt();
     if (FileExists(Name))
         throw EAbort(u"Already Exists");
     if (!RenameFile(FileName(), Name))
@@ -92,7 +92,7 @@ void TQzDailyRollingFileAppender::PutAside() {
 
 void TQzDailyRollingFileAppender::RollOver() {
     const TScopedLock Hold(*this);
-    EndWithFooter();
+    CloseQuietly();
     try {
         PutAside();
         if (!IsInitializing())
@@ -114,9 +114,10 @@ void TQzDailyRollingFileAppender::Initialize() {
     const TScopedLock Hold(*this);
     const TInitializing Now(*this);
     UnicodeString Text;
-    if (!TrimView(FileName()).empty() && FileExists(FileName()) && TextOfFile(Text) && Text != TextOfNow()) {
+    if (!TrimView(FileName()).empty() && FileExists(FileName()) && TextOfFile(Text)) {
         FCurrent = Text;
-        RollOver();
+        if (Text != TextOfNow())
+            RollOver();
     }
     Inherited::Initialize();
     FCurrent = TextOfNow();

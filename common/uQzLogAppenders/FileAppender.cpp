@@ -52,38 +52,53 @@ TQzFileAppender::~TQzFileAppender() = default;
 
 void TQzFileAppender::Initialize() {
     const TScopedLock Hold(*this);
+    OpenFile(FAppendExisting);
+}
+
+void TQzFileAppender::OpenFile(bool AContinues) {
     const TInitializing Now(*this);
     FFileStream.reset();
     if (TrimView(FFileName).empty())
         return;
-    bool WritesHeader = true;
-    if (FileExists(FFileName)) {
-        if (FAppendExisting)
-            WritesHeader = false;
-        else
-            DeleteFile(FFileName);
-    }
+    const bool IsThere = FileExists(FFileName);
+    FIsContinuing = IsThere && AContinues;
+    if (IsThere && !AContinues)
+        DeleteFile(FFileName);
     auto File = std::make_unique<TQzTextFile>(FFileName, &OwnLock());
     File->SetBufferSize(FBufferSize);
-    if (Layout() != nullptr && WritesHeader) {
-        const UnicodeString Header = Layout()->GetHeader();
-        if (!Header.IsEmpty())
-            File->WriteLn(Header);
-    }
     FFileStream = std::move(File);
+    FOwesHeader = Layout() != nullptr && !FIsContinuing;
+    try {
+        PayHeader();
+    } catch (const EStreamError&) { // NOLINT(bugprone-empty-catch): before the first line, then
+    } catch (...) {
+        FFileStream.reset();
+        throw;
+    }
     Inherited::Initialize();
+}
+
+void TQzFileAppender::PayHeader() {
+    if (!FOwesHeader)
+        return;
+    const UnicodeString Header = Layout() != nullptr ? Layout()->GetHeader() : UnicodeString();
+    if (!Header.IsEmpty() && FFileStream != nullptr)
+        FFileStream->WriteLn(Header);
+    FOwesHeader = false;
 }
 
 void TQzFileAppender::Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
                             const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) {
     const TScopedLock Hold(*this);
     if (FFileStream != nullptr && FFileStream->HasGone())
-        Close();
+        CloseQuietly();
     Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
     if (Layout() == nullptr || FFileStream == nullptr)
         return;
-    const UnicodeString Line = Layout()->FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
-    if (Line.IsEmpty())
+    if (FOwesHeader) [[unlikely]]
+        PayHeader();
+    const UnicodeString Line = FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
+    if (Line.IsEmpty() || FFileStream == nullptr)
         return;
     if (FBufferSize != 0 && ALevel < FFlushLevel)
         FFileStream->WriteLnLater(Line);
@@ -92,7 +107,7 @@ void TQzFileAppender::Write(const UnicodeString& ASource, const UnicodeString& A
 }
 
 void TQzFileAppender::WriteFooter() {
-    if (Layout() == nullptr || FFileStream == nullptr)
+    if (Layout() == nullptr || FFileStream == nullptr || FFileStream->IsInherited())
         return;
     const UnicodeString Footer = Layout()->GetFooter();
     if (!Footer.IsEmpty())
@@ -113,9 +128,16 @@ void TQzFileAppender::Close() {
     WriteFooter();
 }
 
+void TQzFileAppender::CloseQuietly() {
+    try {
+        Close();
+    } catch (const EStreamError&) { // NOLINT(bugprone-empty-catch): the file is closed nevertheless
+    }
+}
+
 void TQzFileAppender::SetLayout(IQzLogLayout* ALayout) {
     const TScopedLock Hold(*this);
-    Close();
+    CloseQuietly();
     if (const auto Layout = As<IQzLogLayoutEx>(ALayout))
         SetFileExt(Layout->GetFileExt());
     Inherited::SetLayout(ALayout);
@@ -161,7 +183,7 @@ void TQzFileAppender::SetFileExt(const UnicodeString& AExtension) {
     const TScopedLock Hold(*this);
     if (AExtension == FFileExt)
         return;
-    Close();
+    CloseQuietly();
     FFileExt = !AExtension.IsEmpty() && AExtension[0] == u'.' ? AExtension : u'.' + AExtension;
     FFileName = ChangeFileExt(FFileName, FFileExt);
 }
@@ -175,7 +197,7 @@ void TQzFileAppender::SetFileName(const UnicodeString& AName) {
     const TScopedLock Hold(*this);
     if (AName == FFileName)
         return;
-    Close();
+    CloseQuietly();
     UnicodeString Extension = ExtractFileExt(AName);
     const bool IsComplete = !Extension.IsEmpty() || TrimView(AName).empty();
     FFileName = IsComplete ? AName : AName + FFileExt;

@@ -23,6 +23,7 @@
 
 namespace qz {
 
+// Appenders to a file and their descendants share one identifier: ask a TQzFileAppender for no interface of its descendants.
 class IQzFileAppender : public IQzLogAppender {
 public:
     static constexpr TGUID IID = Guid("{36A4304E-7A72-4C9C-A6B8-AE1B4B533E9E}");
@@ -30,8 +31,9 @@ public:
     virtual UnicodeString GetFileName() = 0;
     virtual bool GetAppendExisting() = 0;
     virtual UnicodeString GetFileExt() = 0;
-    // Each closes a file that is open, if its name changes. A name without extension gets the present one, and one with an
-    // extension brings its own; an extension may be given without its point. A blank name has the appender write nothing.
+    // Each closes a file that is open, unless it gets what is set already. A name without extension gets the present one, and one
+    // with an extension brings its own; an extension may be given without its point. A blank name has the appender write
+    // nothing. A footer for which there is no room is left out.
     virtual void SetFileName(const UnicodeString& AName) = 0;
     // Whether a file that is there is continued, as it is at first, or replaced; at the next opening.
     virtual void SetAppendExisting(bool AValue) = 0;
@@ -115,17 +117,27 @@ protected:
     TQzTextFile* File() const noexcept { return FFileStream.get(); }
     void WriteFooter();
     void EndFile();
+    // Opens the file behind its content, or in its place. A header for which there is no room is written with the first line.
+    void OpenFile(bool AContinues);
+    // As Close, where the disk may be full.
+    void CloseQuietly();
     const UnicodeString& FileName() const noexcept { return FFileName; }
     const UnicodeString& FileExt() const noexcept { return FFileExt; }
     bool AppendsExisting() const noexcept { return FAppendExisting; }
+    // Whether the open file was there before it was opened.
+    bool IsContinuing() const noexcept { return FIsContinuing; }
 
 private:
+    void PayHeader();
+
     UnicodeString FFileName;
     std::unique_ptr<TQzTextFile> FFileStream;
     bool FAppendExisting = true;
     UnicodeString FFileExt;
     std::size_t FBufferSize = 0;
     TQzLogLevel FFlushLevel = llWarn;
+    bool FOwesHeader = false;
+    bool FIsContinuing = false;
 };
 
 } // namespace qz

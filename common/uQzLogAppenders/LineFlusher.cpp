@@ -42,6 +42,7 @@ bool TLineFlusher::IsEnding() noexcept {
 
 void TLineFlusher::Add(TQzTextFile& AFile) {
     const std::lock_guard Hold(FLock);
+    FLocked.reserve(FFiles.size() + 1);
     FFiles.push_back(&AFile);
 }
 
@@ -81,11 +82,13 @@ void TLineFlusher::Serve() noexcept {
     }
 }
 
-// The worst of all files.
+// The worst of all files. Files come and go meanwhile.
 TLineFlusher::TOutcome TLineFlusher::FlushAll() noexcept {
     TOutcome Result = TOutcome::Done;
     std::unique_lock Hold(FLock);
-    for (std::size_t I = 0; I < FFiles.size(); ++I) {
+    for (std::size_t I = FFiles.size(); I-- > 0;) { // what comes stands behind, so that none is passed over
+        if (I >= FFiles.size())
+            continue;
         FBusy = FFiles[I];
         Hold.unlock();
         Result = std::max(Result, FlushOne(*FBusy));
@@ -108,19 +111,20 @@ TLineFlusher::TOutcome TLineFlusher::FlushOne(TQzTextFile& AFile) noexcept {
     }
 }
 
-// Threads may have been ended in the middle of anything by now.
+// Threads may have been ended in the middle of anything by now, and a file that hangs must not keep the others.
 void TLineFlusher::End() {
     GIsEnding = true;
     TLineFlusher& Flusher = Instance();
     for (int Try = 0; Try < cTriesAtEnd; ++Try) {
-        if (Flusher.TryLock()) {
-            TOutcome Outcome = TOutcome::Done;
+        TOutcome Outcome = TOutcome::Busy;
+        if (Flusher.FLock.try_lock()) {
+            Outcome = TOutcome::Done;
             for (TQzTextFile* File : Flusher.FFiles)
                 Outcome = std::max(Outcome, FlushOne(*File));
-            Flusher.Unlock();
-            if (Outcome != TOutcome::Busy)
-                return;
+            Flusher.FLock.unlock();
         }
+        if (Outcome != TOutcome::Busy)
+            return;
         platform::SleepMs(cRetry);
     }
 }
@@ -128,20 +132,31 @@ void TLineFlusher::End() {
 bool TLineFlusher::TryLock() {
     if (!FLock.try_lock())
         return false;
-    if (FBusy == nullptr && FWakeLock.try_lock())
+    if (FBusy == nullptr && FWakeLock.try_lock()) {
+        for (TQzTextFile* File : FFiles) {
+            if (!File->FLock.TryEnter()) {
+                Unlock();
+                return false;
+            }
+            FLocked.push_back(File);
+        }
         return true;
+    }
     FLock.unlock();
     return false;
 }
 
 void TLineFlusher::Unlock() noexcept {
+    for (TQzTextFile* File : FLocked)
+        File->FLock.Leave();
+    FLocked.clear();
     FWakeLock.unlock();
     FLock.unlock();
 }
 
 void TLineFlusher::ShareAll() noexcept {
     for (TQzTextFile* File : FFiles)
-        File->FIsShared = true;
+        File->Share();
 }
 
 // The thread is not there any more, and whoever waited for a condition neither, so that the old flusher is left as it is.
@@ -152,7 +167,8 @@ void TLineFlusher::BeginChild() noexcept {
     try {
         auto Fresh = std::make_unique<TLineFlusher>();
         for (TQzTextFile* File : Old->FFiles)
-            File->Discard();
+            File->Inherit();
+        Fresh->FLocked.reserve(Old->FFiles.size());
         Fresh->FFiles.swap(Old->FFiles);
         GInstance = Fresh.release();
     } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch)

@@ -31,7 +31,8 @@ public:
     // A line begins to wait. False when there is nobody to wait for.
     bool Await() noexcept;
 
-    // Around a fork: keeps the flusher quiet, and has the child begin anew, with the same files and none of their lines.
+    // Around a fork: keeps the flusher and the files quiet, and has the child begin anew, with the same files and none of their
+    // lines.
     bool TryLock();
     void Unlock() noexcept;
     static void BeginChild() noexcept;
@@ -47,7 +48,8 @@ private:
     TOutcome FlushAll() noexcept;
     static TOutcome FlushOne(TQzTextFile& AFile) noexcept;
 
-    std::mutex FLock; // of the files
+    std::vector<TQzTextFile*> FLocked; // for a fork
+    std::mutex FLock;                  // of the files
     std::condition_variable FIdle;
     std::vector<TQzTextFile*> FFiles;
     TQzTextFile* FBusy = nullptr; // being written now

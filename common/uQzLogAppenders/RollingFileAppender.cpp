@@ -5,6 +5,7 @@
 
 #include "common/uQzTypes/VarTolerant.h"
 #include "platform/Files.h"
+#include "platform/Threads.h"
 #include "runtime/files/FileNames.h"
 #include "runtime/files/FileSystem.h"
 #include "runtime/text/NumberText.h"
@@ -21,17 +22,29 @@ constinit const TClassRec TQzFileInfo::ClassRec =
 
 namespace {
 
-UnicodeString BaseOf(const UnicodeString& AFileName) {
-    return ChangeFileExt(ExtractFileName(AFileName), u"");
+constexpr std::uint64_t cPatience = 1000; // milliseconds
+
+// Without path and extension, which is AExtension or else what stands behind the last point.
+std::u16string_view BaseOf(std::u16string_view AFileName, std::u16string_view AExtension) {
+    const std::size_t Path = ExtractFilePath(AFileName).size();
+    const std::u16string_view Name = AFileName.substr(Path);
+    const std::size_t Rest = Name.size() - std::min(Name.size(), AExtension.size());
+    if (!AExtension.empty() && SameFileName(Name.substr(Rest), AExtension))
+        return Name.substr(0, Rest);
+    return Name.substr(0, Name.size() - ExtractFileExt(Name).size());
 }
 
 } // namespace
 
+UnicodeString TQzRollingFileAppender::BasePath() const {
+    return ExtractFilePath(FileName()) + BaseOf(FileName(), FileExt());
+}
+
 TQzFileInfo TQzRollingFileAppender::CreateFileInfo(const UnicodeString& AFileName) {
     TQzFileInfo Result;
-    Result.FileNameLeft = BaseOf(FileName());
-    const UnicodeString Name = BaseOf(AFileName);
-    const std::u16string_view Right = Name.View().substr(std::min(Name.size(), Result.FileNameLeft.size()));
+    Result.FileNameLeft = BaseOf(FileName(), FileExt());
+    const std::u16string_view Name = BaseOf(AFileName, FileExt());
+    const std::u16string_view Right = Name.substr(std::min(Name.size(), Result.FileNameLeft.size()));
     if (!Right.starts_with(u'.')) {
         Result.FileNameRight = Right;
         return Result;
@@ -43,34 +56,42 @@ TQzFileInfo TQzRollingFileAppender::CreateFileInfo(const UnicodeString& AFileNam
     return Result;
 }
 
-// By number; among equals the file itself comes first, then by name.
+// A name that is all extension would take the whole directory for its family.
+bool TQzRollingFileAppender::IsOfFamily(std::u16string_view AName) const {
+    const std::u16string_view Base = BaseOf(FileName(), FileExt());
+    return Base.empty() ? SameFileName(AName, ExtractFileName(FileName()))
+                        : SameFileName(AName.substr(0, Base.size()), Base);
+}
+
+// The file itself, and then by number; among equals by name.
 std::vector<TQzRollingFileAppender::TMember> TQzRollingFileAppender::Family() {
     const UnicodeString Path = ExtractFilePath(FileName());
     const UnicodeString Live = ExtractFileName(FileName());
-    const UnicodeString Base = BaseOf(FileName());
     std::vector<platform::TDirEntry> Entries;
     platform::TError Error;
     platform::ListDirectory(Path.IsEmpty() ? u"." : Path.View(), Entries, Error);
     std::vector<TMember> Result;
     for (const platform::TDirEntry& Entry : Entries) {
-        if (SameFileName(std::u16string_view(Entry.Name).substr(0, Base.size()), Base))
+        if (IsOfFamily(Entry.Name))
             Result.push_back({Entry.Name, !SameFileName(Entry.Name, Live), CreateFileInfo(Entry.Name)});
     }
     std::sort(Result.begin(), Result.end(), [](const TMember& ALeft, const TMember& ARight) {
-        return std::tie(ALeft.Info.Index, ALeft.IsBackup, ALeft.Name) <
-            std::tie(ARight.Info.Index, ARight.IsBackup, ARight.Name);
+        return std::tie(ALeft.IsBackup, ALeft.Info.Index, ALeft.Name) <
+            std::tie(ARight.IsBackup, ARight.Info.Index, ARight.Name);
     });
     return Result;
 }
 
-// Gives the member its place in the family.
-void TQzRollingFileAppender::Move(const TMember& AMember, std::int64_t APlace) {
+// Gives the member its place. What another process has put there meanwhile stays, and so does the member.
+void TQzRollingFileAppender::Move(const std::vector<TMember>& AFamily, const TMember& AMember,
+                                  std::int64_t APlace) {
     const UnicodeString Path = ExtractFilePath(FileName());
-    const UnicodeString Name =
-        BaseOf(FileName()) + u'.' + IntToStr(APlace) + AMember.Info.FileNameRight + FileExt();
+    const UnicodeString Name = UnicodeString(BaseOf(FileName(), FileExt())) + u'.' + IntToStr(APlace) +
+        AMember.Info.FileNameRight + FileExt();
     if (SameFileName(Name, AMember.Name))
         return;
-    if (FileExists(Path + Name))
+    const auto IsNamed = [&Name](const TMember& AOther) { return SameFileName(AOther.Name, Name); };
+    if (std::any_of(AFamily.begin(), AFamily.end(), IsNamed) && FileExists(Path + Name))
         DeleteFile(Path + Name);
     RenameFile(Path + AMember.Name, Path + Name);
 }
@@ -83,24 +104,17 @@ void TQzRollingFileAppender::Shift() {
     const auto PlaceOf = [](std::size_t AIndex) { return static_cast<std::int64_t>(AIndex) + 1; };
     for (std::size_t I = 0; I < Count; ++I) {
         if (All[I].Info.Index > PlaceOf(I))
-            Move(All[I], PlaceOf(I));
+            Move(All, All[I], PlaceOf(I));
     }
     for (std::size_t I = Count; I-- > 0;) {
         if (All[I].Info.Index <= PlaceOf(I))
-            Move(All[I], PlaceOf(I));
-    }
-}
-
-void TQzRollingFileAppender::EndWithFooter() {
-    try {
-        Close();
-    } catch (const EStreamError&) { // NOLINT(bugprone-empty-catch): the file is closed nevertheless
+            Move(All, All[I], PlaceOf(I));
     }
 }
 
 void TQzRollingFileAppender::RollOver() {
     const TScopedLock Hold(*this);
-    EndWithFooter();
+    CloseQuietly();
     Shift();
     if (!IsInitializing())
         Initialize();
@@ -117,16 +131,26 @@ void TQzRollingFileAppender::CheckBackupCount() {
 
 void TQzRollingFileAppender::CheckRollover() {
     const TScopedLock Hold(*this);
-    if (File() != nullptr && FMaxFileSize != 0 && static_cast<std::uint32_t>(File()->Size()) >= FMaxFileSize)
-        RollOver();
+    if (!IsFull() || platform::CoarseTickCount64() < FNextTry)
+        return;
+    RollOver();
+    if (IsFull() && IsContinuing()) // it could not be put aside
+        FNextTry = platform::CoarseTickCount64() + cPatience;
 }
 
+bool TQzRollingFileAppender::IsFull() const {
+    return File() != nullptr && FMaxFileSize != 0 &&
+        static_cast<std::uint32_t>(File()->Size()) >= FMaxFileSize;
+}
+
+// What could not be put aside is not deleted but continued.
 void TQzRollingFileAppender::Initialize() {
     const TScopedLock Hold(*this);
     const TInitializing Now(*this);
-    if (File() == nullptr && !AppendsExisting() && FileExists(FileName()))
+    const bool Replaces = File() == nullptr && !AppendsExisting() && FileExists(FileName());
+    if (Replaces)
         RollOver();
-    Inherited::Initialize();
+    OpenFile(Replaces || AppendsExisting());
 }
 
 void TQzRollingFileAppender::Write(const UnicodeString& ASource, const UnicodeString& ALogger,
@@ -149,7 +173,10 @@ void TQzRollingFileAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
         return VarIsClear(Answer) || VarIsNull(Answer) ? APresent : QzVarToInt64(Answer, 0, true);
     };
     FMaxFileSize = static_cast<std::uint32_t>(Ask(u"MaxFileSize", FMaxFileSize));
-    SetMaxBackupCount(static_cast<std::uint16_t>(Ask(u"MaxBackupCount", FMaxBackupCount)));
+    const std::int64_t Count = Ask(u"MaxBackupCount", FMaxBackupCount);
+    if (Count < 0 || Count > UINT16_MAX)
+        throw ERangeError(u"%d is not a number of files", {Count});
+    SetMaxBackupCount(static_cast<std::uint16_t>(Count));
 }
 
 std::uint32_t TQzRollingFileAppender::GetMaxFileSize() {

@@ -9,12 +9,13 @@
 // A message that finds the file at its size or above rolls over first: the file becomes number 1, each backup moves up by
 // one, and what stands behind the last place is deleted. The family is what is found in the directory, so that it outlives
 // the program: every entry whose name begins with that of the file, whatever follows it and whatever it is. app2.log and a
-// directory app.d are of the family of app.log: give a family a directory of its own. What cannot be renamed or deleted
-// stays, and logging goes on.
+// directory app.d are of the family of app.log, and so is a stylesheet: give a family a directory of its own. A file whose
+// name is all extension, such as .log, is a family of one. What cannot be renamed stays until another file needs its place,
+// and logging goes on; a file that could not be put aside is continued and tried again a second later.
 //
-// Names consist of the base, which is the file's name without its last extension, a point, the number, what stood behind the
-// number, and the extension; so the family of app.log.xml is app.log.1.log.xml and so on. Two processes that write to one
-// family never mix their lines, but each counts the family as it finds it.
+// Names consist of the base, which is the file's name without its extension (".log.xml" under an XML layout), a point, the
+// number, what stood behind the number, and the extension. Two processes that write to one family never mix their lines, but
+// each counts the family as it finds it.
 #pragma once
 
 #include <vector>
@@ -80,8 +81,8 @@ public:
 
 protected:
     using TQzFileAppender::TQzFileAppender;
-    // A footer, where there is room for one, and the end of the file that is open.
-    void EndWithFooter();
+    // The name of the file without its extension.
+    UnicodeString BasePath() const;
 
 private:
     struct TMember {
@@ -90,9 +91,13 @@ private:
         TQzFileInfo Info;
     };
     std::vector<TMember> Family();
-    void Move(const TMember& AMember, std::int64_t APlace);
+    void Move(const std::vector<TMember>& AFamily, const TMember& AMember, std::int64_t APlace);
     void Shift();
 
+    bool IsFull() const;
+    bool IsOfFamily(std::u16string_view AName) const;
+
+    std::uint64_t FNextTry = 0; // behind one in vain, in ticks
     std::uint32_t FMaxFileSize = 10 << 20;
     std::uint16_t FMaxBackupCount = 5;
 };

@@ -24,9 +24,20 @@ constexpr std::u16string_view cLineEnd = u"\r\n";
 constexpr std::size_t cMostBytesOfUnit = 3;
 constexpr std::uint64_t cLookEvery = 1000; // milliseconds
 
-// The day of the file is that of its making even where its name has been used before.
+// After a fork the family of processes writes to its files together.
+std::atomic<bool> GHasForked{false};
+
+// Makes the file, if it is not there at this moment. Its day is that of its making even where its name has been used before.
 void MakeFile(const TStringArg& AFileName) {
-    { const TFileStream File(AFileName, fmCreate | fmShareDenyWrite); }
+    platform::TFileHandle File;
+    platform::TError Error;
+    if (!File.Open(AFileName, platform::TFileAccess::ReadWrite, platform::TFileCreation::Exclusive,
+                   {.Read = true}, Error)) {
+        if (!FileExists(AFileName))
+            throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Error.Code)});
+        return;
+    }
+    File.Close();
     try {
         QzSetFileCreated(AFileName, NowUTC());
     } catch (
@@ -41,7 +52,7 @@ TFileStream OpenFile(const TStringArg& AFileName) {
         ForceDirectories(Path);
     if (!IsThere)
         MakeFile(AFileName);
-    return TFileStream(AFileName, fmOpenReadWrite | fmShareDenyWrite);
+    return TFileStream(AFileName, fmOpenReadWrite | (GHasForked ? fmShareDenyNone : fmShareDenyWrite));
 }
 
 std::span<const std::byte> BytesOf(const char* AText, std::size_t ACount) {
@@ -53,6 +64,7 @@ std::span<const std::byte> BytesOf(const char* AText, std::size_t ACount) {
 TQzTextFile::TQzTextFile(const TStringArg& AFileName, TCriticalSection* ALock)
     : FFile(OpenFile(AFileName)),
       FLock(ALock != nullptr ? *ALock : FCritSect),
+      FIsWholePath(IsWholePath(AFileName)),
       FSizeLimit(platform::FileSizeLimit()),
       FLookedAt(platform::CoarseTickCount64()) {
     platform::TError Error;
@@ -70,6 +82,8 @@ TQzTextFile::~TQzTextFile() {
     } catch (...) {
         detail::CountDrops(FLines);
     }
+    if (FIsShared)
+        FFile.Handle().DenyNothing();
 }
 
 std::int64_t TQzTextFile::Size() {
@@ -105,12 +119,13 @@ void TQzTextFile::Put(const TStringArg& AText, std::u16string_view ATail) {
 
 // A file that comes to its limit is asked about anew, since the limit may have been raised.
 void TQzTextFile::PutBytes(TBytes ABytes) {
-    const std::int64_t End = FSize.load(std::memory_order_relaxed) - static_cast<std::int64_t>(FWaiting);
-    if (static_cast<std::uint64_t>(End) + ABytes.size() <= FSizeLimit)
-        return FFile.AppendWhole(ABytes, End);
+    const auto Size = static_cast<std::uint64_t>(FSize.load(std::memory_order_relaxed));
+    const bool IsShared = FIsShared.load(std::memory_order_relaxed);
+    if (Size + ABytes.size() <= FSizeLimit && (!IsShared || FSizeLimit == UINT64_MAX))
+        return FFile.AppendWhole(ABytes);
     FSizeLimit = platform::FileSizeLimit();
     const platform::TNoLimitSignal Quiet;
-    FFile.AppendWhole(ABytes, End);
+    FFile.AppendWhole(ABytes);
 }
 
 void TQzTextFile::FlushWaiting() {
@@ -158,7 +173,7 @@ void TQzTextFile::Flush() {
 
 bool TQzTextFile::HasGone() {
     const std::uint64_t Now = platform::CoarseTickCount64();
-    if (Now - FLookedAt.load(std::memory_order_relaxed) < cLookEvery)
+    if (!FIsWholePath || Now - FLookedAt.load(std::memory_order_relaxed) < cLookEvery)
         return false;
     FLookedAt.store(Now, std::memory_order_relaxed);
     const TScopedLock Hold(FLock);
@@ -172,10 +187,17 @@ bool TQzTextFile::HasGone() {
     return false;
 }
 
-void TQzTextFile::Discard() noexcept {
+void TQzTextFile::Share() noexcept {
+    FIsShared = true;
+    GHasForked = true;
+}
+
+void TQzTextFile::Inherit() noexcept {
+    FSize.fetch_sub(static_cast<std::int64_t>(FWaiting), std::memory_order_relaxed);
     FWaiting = 0;
     FLines = 0;
-    FIsShared = true;
+    FIsInherited = true;
+    Share();
 }
 
 } // namespace qz

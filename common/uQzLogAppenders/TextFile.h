@@ -5,8 +5,8 @@
 //
 // A line is in the file whole or not at all: where it does not fit on the disk it is taken back. Ours, beside that: with a
 // buffer, lines that may wait are held back until it is full, until Flush, and for a second at most (LineFlusher.h). Lines
-// that wait when the disk is full stay until there is room. Any thread; after a fork() parent and child write to one file,
-// and lines that wait are the parent's.
+// that wait when the disk is full stay until there is room. Any thread. After a fork() parent and child write to one
+// file, which is closed to other writers no more, and lines that wait are the parent's.
 #pragma once
 
 #include <atomic>
@@ -21,14 +21,14 @@ class QZ_API TQzTextFile : public TObject {
     QZ_CLASS(TQzTextFile, TObject)
 
 public:
-    // Opens the file behind its content, or makes it and notes the present as its creation time, in UTC. Raises EFOpenError or
-    // EFCreateError. ALock, if given, is used in the place of the file's own lock, and lives longer than the file: who holds it
+    // Opens the file behind its content, or makes it and notes the present as its creation time, in UTC, where the file system
+    // can keep it. Raises EFOpenError or EFCreateError. ALock, if given, is used in the place of the file's own lock, and lives longer than the file: who holds it
     // already pays for one lock only.
     explicit TQzTextFile(const TStringArg& AFileName, TCriticalSection* ALock = nullptr);
     TQzTextFile(const TQzTextFile&) = delete;
     TQzTextFile& operator=(const TQzTextFile&) = delete;
     // Lines that cannot be written any more are counted as dropped messages.
-    ~TQzTextFile();
+    ~TQzTextFile() override;
 
     // In bytes, with what waits.
     std::int64_t Size();
@@ -43,8 +43,11 @@ public:
     void SetBufferSize(std::size_t ASize);
     // Writes what waits. Raises EWriteError.
     void Flush();
-    // Whether the file has another name by now, or none. Looks at most once a second; false in between.
+    // Whether the file has another name by now, or none. Looks at most once a second; false in between, and for a name that is
+    // no whole path.
     bool HasGone();
+    // Whether a parent process opened it.
+    bool IsInherited() const noexcept { return FIsInherited; }
 
 private:
     friend class TLineFlusher;
@@ -53,8 +56,9 @@ private:
     void Put(const TStringArg& AText, std::u16string_view ATail);
     void PutBytes(TBytes ABytes);
     void FlushWaiting();
-    // For the flusher.
-    void Discard() noexcept;
+    // By a fork, in both processes; in the child.
+    void Share() noexcept;
+    void Inherit() noexcept;
 
     TFileStream FFile;
     TCriticalSection FCritSect;
@@ -62,6 +66,8 @@ private:
     std::atomic<std::int64_t> FSize{0};   // of the file, as far as this process writes it
     std::atomic<bool> FIsShared{false};   // with another process, by a fork
     std::atomic<std::uint32_t> FLines{0}; // that wait
+    bool FIsInherited = false;
+    bool FIsWholePath;
     std::uint64_t FSizeLimit;
     std::atomic<std::uint64_t> FLookedAt;
     std::unique_ptr<char[]> FBuffer;

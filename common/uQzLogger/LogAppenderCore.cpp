@@ -49,6 +49,7 @@ bool TAppenderSnapshot::Holds(const IQzLogAppender* AAppender) const noexcept {
 }
 
 void TLogAppenderCore::EnterGate() noexcept {
+    LetForkPass();
     FGate.Enter();
     ++ThisLogThread().Gates;
 }

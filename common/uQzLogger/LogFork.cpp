@@ -1,8 +1,6 @@
 // What keeps a child of fork() able to log: no other thread holds a lock of the loggers at that moment.
 #include "common/uQzLogger/LogFork.h"
 
-#include <chrono>
-#include <thread>
 #include <vector>
 
 #include "common/uQzLogAppenders/BaseAppender.h"
@@ -11,6 +9,7 @@
 #include "common/uQzLogger/LogTreeLock.h"
 #include "common/uQzLogger/QzLogger.h"
 #include "platform/Fork.h"
+#include "platform/Threads.h"
 
 namespace qz::detail {
 
@@ -125,8 +124,7 @@ private:
 
 namespace {
 
-constexpr int cTries = 2000;
-constexpr std::chrono::milliseconds cPause{1};
+constexpr std::uint32_t cMostMilliseconds = 2000;
 
 TForkLocks& ForkLocks() {
     static auto* const Result = new TForkLocks;
@@ -136,18 +134,27 @@ TForkLocks& ForkLocks() {
 thread_local bool GHasForkLocks = false;
 
 void TakeLocks() {
-    for (int Try = 0; Try < cTries && !GHasForkLocks; ++Try) {
+    ThisLogThread().IsForking = true;
+    GForkIsPending = true;
+    const std::uint32_t Start = platform::TickCount();
+    while (!GHasForkLocks && platform::TickCount() - Start < cMostMilliseconds) {
         GHasForkLocks = ForkLocks().TryTake();
         if (!GHasForkLocks)
-            std::this_thread::sleep_for(cPause);
+            platform::SleepMs(1);
     }
 }
 
+void EndFork() noexcept {
+    GForkIsPending = false;
+    ThisLogThread().IsForking = false;
+}
+
 void GiveLocksBack() {
-    if (!std::exchange(GHasForkLocks, false))
-        return;
-    ForkLocks().ShareFiles();
-    ForkLocks().GiveBack();
+    if (std::exchange(GHasForkLocks, false)) {
+        ForkLocks().ShareFiles();
+        ForkLocks().GiveBack();
+    }
+    EndFork();
 }
 
 void BeginChild() {

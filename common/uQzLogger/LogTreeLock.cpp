@@ -1,10 +1,25 @@
 #include "common/uQzLogger/LogTreeLock.h"
 
+#include "platform/Threads.h"
+
 namespace qz::detail {
 
 TLogThread& ThisLogThread() noexcept {
     constinit static thread_local TLogThread Result;
     return Result;
+}
+
+constinit std::atomic<bool> GForkIsPending{false};
+
+// Not for ever, so that no fault of the fork stops anybody.
+void AwaitFork() noexcept {
+    const TLogThread& Thread = ThisLogThread();
+    constexpr int cMostTries = 20000;
+    for (int Try = 0; Try < cMostTries && GForkIsPending.load(std::memory_order_acquire); ++Try) {
+        if (Thread.Gates != 0 || Thread.Trees != 0 || Thread.IsForking)
+            return;
+        platform::SleepMs(Try < 10 ? 0 : 1);
+    }
 }
 
 TQzCriticalSection& TLogTreeLock::Section() {
@@ -13,6 +28,7 @@ TQzCriticalSection& TLogTreeLock::Section() {
 }
 
 void TLogTreeLock::Enter() {
+    LetForkPass();
     Section().Enter();
     ++ThisLogThread().Trees;
 }

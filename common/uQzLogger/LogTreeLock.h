@@ -18,6 +18,7 @@ struct TLogThread {
     int Trees = 0;                       // how often it holds the lock of the tree
     bool IsLettingGo = false;            // it is ending appenders that were removed
     bool IsSending = false;              // it is on the way with a message
+    bool IsForking = false;
     TLogDispatch* Present = nullptr;     // that message
     TWaitingMessages* Waiting = nullptr; // messages that arose meanwhile; owned
 };
@@ -26,6 +27,14 @@ TLogThread& ThisLogThread() noexcept;
 
 // Sends what waits, and ends the appenders that wait for their end, if the thread is free to.
 void SendWaiting() noexcept;
+
+// A fork that wants all locks holds up the threads that hold none, for a moment.
+QZ_API extern constinit std::atomic<bool> GForkIsPending;
+void AwaitFork() noexcept;
+inline void LetForkPass() noexcept {
+    if (GForkIsPending.load(std::memory_order_relaxed)) [[unlikely]]
+        AwaitFork();
+}
 
 // Holds the lock of the tree. It re-enters, and outlives the destructors of the program.
 class [[nodiscard]] TLogTreeLock {

@@ -123,6 +123,13 @@ bool TFileHandle::Append(std::span<const std::byte> ASource, size_t& ADone, TErr
     return Outcome(AError, Ok);
 }
 
+void TFileHandle::DenyNothing() noexcept {
+    struct flock All = {};
+    All.l_type = F_UNLCK;
+    All.l_whence = SEEK_SET;
+    fcntl(static_cast<int>(FHandle), F_OFD_SETLK, &All);
+}
+
 bool TFileHandle::IsAt(std::u16string_view APath) const {
     struct stat Open, Named;
     const std::optional<std::string> Path = detail::ToNativeArgument(APath);

@@ -94,6 +94,8 @@ bool TFileHandle::Append(std::span<const std::byte> ASource, size_t& ADone, TErr
     return Write(ASource, ADone, AError);
 }
 
+void TFileHandle::DenyNothing() noexcept {}
+
 bool TFileHandle::IsAt(std::u16string_view) const {
     return true;
 }

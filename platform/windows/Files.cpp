@@ -204,7 +204,9 @@ bool DirectoryExists(std::u16string_view APath) {
 bool ListDirectory(std::u16string_view APath, std::vector<TDirEntry>& AOut, TError& AError) {
     AOut.clear();
     const std::u16string Directory(APath);
-    const std::optional<std::u16string> Pattern = detail::SystemPath(Directory + u"\\*");
+    // Behind a drive alone a separator would mean its root.
+    const std::optional<std::u16string> Pattern =
+        detail::SystemPath(Directory + (Directory.ends_with(u':') ? u"*" : u"\\*"));
     if (!Pattern || APath.empty())
         return Fail(AError, ERROR_INVALID_NAME);
     WIN32_FIND_DATAW Data;

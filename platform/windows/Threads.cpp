@@ -99,6 +99,9 @@ bool StartServiceThread(void (*ABody)() noexcept) noexcept {
         reinterpret_cast<void (*)() noexcept>(AParameter)();
         return 0;
     };
+    HMODULE Module; // the thread outlives whoever unloads this library
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
+                       reinterpret_cast<LPCWSTR>(ABody), &Module);
     HANDLE Thread = CreateThread(nullptr, 0, Body, reinterpret_cast<void*>(ABody), 0, nullptr);
     return Thread != nullptr && CloseHandle(Thread) != 0;
 }

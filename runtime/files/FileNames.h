@@ -22,6 +22,8 @@ QZ_API UnicodeString ChangeFileExt(const TStringArg& AFileName, const TStringArg
 // The name with a separator at its end; an empty one gets one too.
 QZ_API UnicodeString IncludeTrailingPathDelimiter(const TStringArg& AFileName);
 
+// Whether the name leads from a root and not from the current directory.
+QZ_API bool IsWholePath(const TStringArg& AFileName);
 // Whether both are names of one file, as far as letters go: Windows does not tell their cases apart.
 QZ_API bool SameFileName(const TStringArg& ALeft, const TStringArg& ARight);
 

@@ -76,19 +76,29 @@ void TFileStream::SetAppending() {
         Raise<EStreamError>(u"Cannot seek in file \"%s\". %s", FFileName, Error);
 }
 
-void TFileStream::AppendWhole(std::span<const std::byte> ABytes, std::int64_t AEnd) {
+void TFileStream::AppendWhole(std::span<const std::byte> ABytes) {
     std::size_t Done = 0;
     TError Error;
-    if (FHandle.Append(ABytes, Done, Error))
+    if (FHandle.Append(ABytes, Done, Error)) [[likely]]
         return;
-    TError Second;
-    std::int64_t Size = 0;
-    if (Done != 0 && FHandle.Seek(0, platform::TFileOrigin::End, Size, Second) &&
-        Size - AEnd == static_cast<std::int64_t>(Done)) {
-        FHandle.SetSize(AEnd, Second);
-        FHandle.Seek(AEnd, platform::TFileOrigin::Beginning, Size, Second);
-    }
+    if (Done != 0)
+        TakeBack(ABytes.first(Done));
     Raise<EWriteError>(cCannotWrite, FFileName, Error);
+}
+
+// Unless somebody else has written behind it.
+void TFileStream::TakeBack(std::span<const std::byte> ABytes) {
+    std::vector<std::byte> Found(ABytes.size());
+    const auto Count = static_cast<std::int64_t>(ABytes.size());
+    std::int64_t Size = 0;
+    std::int64_t Place = 0;
+    std::size_t Done = 0;
+    TError Error;
+    if (FHandle.Seek(0, platform::TFileOrigin::End, Size, Error) && Size >= Count &&
+        FHandle.Seek(Size - Count, platform::TFileOrigin::Beginning, Place, Error) &&
+        FHandle.Read(Found, Done, Error) && Done == Found.size() && std::ranges::equal(Found, ABytes))
+        FHandle.SetSize(Place, Error);
+    FHandle.Seek(0, platform::TFileOrigin::End, Place, Error);
 }
 
 std::int64_t TFileStream::Seek(std::int64_t AOffset, TSeekOrigin AOrigin) {

@@ -51,9 +51,9 @@ public:
     std::int32_t Write(const void* ABuffer, std::int32_t ACount) override;
     // Has AppendWhole write at the end of the file. Raises EStreamError.
     void SetAppending();
-    // Writes all of ABytes at the end or nothing: where only a part has room, it is taken back, if the end was at AEnd before.
-    // Where the position is then is not said. Raises EWriteError with the file and the reason.
-    void AppendWhole(std::span<const std::byte> ABytes, std::int64_t AEnd);
+    // Writes all of ABytes at the end or nothing: where only a part has room, it is taken back, if it is what the file ends
+    // with. Where the position is then is not said. Raises EWriteError with the file and the reason.
+    void AppendWhole(std::span<const std::byte> ABytes);
     // Places behind the end are allowed; a write there leaves zeros before it. Raises EStreamError.
     std::int64_t Seek(std::int64_t AOffset, TSeekOrigin AOrigin) override;
     // New bytes are 0; the position stays. Raises EStreamError.
@@ -65,6 +65,8 @@ public:
     platform::TFileHandle& Handle() noexcept { return FHandle; }
 
 private:
+    void TakeBack(std::span<const std::byte> ABytes);
+
     UnicodeString FFileName;
     platform::TFileHandle FHandle;
 };

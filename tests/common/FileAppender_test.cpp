@@ -100,6 +100,10 @@ TEST(FileAppender, Configuration) {
     EXPECT_EQ(7u, File->GetMaxFileSize());
     Config->Answers = {{u"f/BufferSize", -1}};
     EXPECT_THROW(File->SetConfig(Config.Get()), ERangeError);
+    for (const int Count : {-1, 65536}) {
+        Config->Answers = {{u"f/MaxBackupCount", Count}};
+        EXPECT_THROW(File->SetConfig(Config.Get()), ERangeError);
+    }
     Config->Answers = {{u"f/FlushLevel", 8}};
     EXPECT_THROW(File->SetConfig(Config.Get()), ERangeError);
 }
@@ -185,6 +189,40 @@ TEST(FileAppender, ManyThreadsWriteWholeLines) {
         }
         EXPECT_EQ("foot", Text.substr(Place));
     }
+}
+
+// A layout that closes the appender, or gives it another layout, while it formats.
+class TUnrulyLayout : public TPlainLayout {
+    QZ_CLASS(TUnrulyLayout, TPlainLayout)
+
+public:
+    UnicodeString FormatLine(const UnicodeString& ALogger, TQzLogLevel ALevel, const UnicodeString& AMessage,
+                             PQzDataRec AValue, TQzLogIndent AIndent) override {
+        if (AMessage == u"close")
+            Appender->Close();
+        if (AMessage == u"replace")
+            Appender->SetLayout(TQzLogBaseClass::Of<TPlainLayout>());
+        return Inherited::FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
+    }
+    TQzFileAppender* Appender = nullptr;
+
+protected:
+    using TPlainLayout::TPlainLayout;
+};
+const TClassRec TUnrulyLayout::ClassRec =
+    DescribeLogBase<TUnrulyLayout>(u"TUnrulyLayout", {.Unit = u"Tests"});
+
+TEST(FileAppender, LayoutsMayDoAsTheyLike) {
+    TLogFiles Files;
+    const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>();
+    TUnrulyLayout* Layout = TUnrulyLayout::Create(nullptr, u"");
+    Layout->Appender = File.Get();
+    File->SetLayout(static_cast<IQzLogLayout*>(Layout));
+    Say(File, u"close");
+    Say(File, u"one");
+    Say(File, u"replace");
+    Say(File, u"two");
+    EXPECT_EQ("head|footone|foottwo|", Files.Text());
 }
 
 TEST(FileAppender, WhatCannotBeOpenedIsTriedAgain) {

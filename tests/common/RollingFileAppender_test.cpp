@@ -100,6 +100,35 @@ TEST(RollingFileAppender, TheCount) {
     EXPECT_EQ("head|again|", Files.Text());
 }
 
+// Under a long extension, and under one that is all of the name.
+TEST(RollingFileAppender, Extensions) {
+    TLogFiles Files;
+    const Ref<TQzRollingFileAppender> File = Files.Make<TQzRollingFileAppender>();
+    File->SetLayout(QzXmlLayout);
+    EXPECT_TRUE(DeleteFile(Files.Path(u"app.log.xsl")));
+    Say(File, u"x");
+    for (int I = 0; I < 3; ++I)
+        File->RollOver();
+    EXPECT_EQ("app.1.log.xml app.2.log.xml app.3.log.xml app.log.xml ", Files.Names());
+    File->SetMaxBackupCount(0);
+    Files.Put(u"mine", "mine");
+    File->SetFileName(Files.Path(u".log"));
+    File->SetMaxBackupCount(2);
+    Say(File, u"x");
+    File->RollOver();
+    EXPECT_EQ("mine", Files.Text(u"mine"));
+}
+
+// The file itself has the first place, also beside one with a number below 0.
+TEST(RollingFileAppender, OddNumbers) {
+    TLogFiles Files;
+    Files.Put(u"app.-1.log", "odd");
+    const Ref<TQzRollingFileAppender> File = Files.Make<TQzRollingFileAppender>();
+    Say(File, u"x");
+    File->SetMaxBackupCount(1);
+    EXPECT_EQ("app.log ", Files.Names());
+}
+
 TEST(RollingFileAppender, WhatIsNotContinuedIsPutAside) {
     TLogFiles Files;
     Files.Put(u"app.log", "old");
