@@ -38,17 +38,17 @@ public:
     // A text that is there already keeps its row.
     constexpr void Add(std::u16string_view AText, std::size_t ARow) {
         std::size_t Slot = Hash(AText);
-        for (; FSlots[Slot].Row != cNone; Slot = (Slot + 1) % cSlots) {
+        for (; FSlots[Slot].Number != 0; Slot = (Slot + 1) % cSlots) {
             if (IsSame(FSlots[Slot].Text, AText))
                 return;
         }
-        FSlots[Slot] = {AText, static_cast<std::int16_t>(ARow)};
+        FSlots[Slot] = {AText, static_cast<std::uint16_t>(ARow + 1)};
         ++FCount;
     }
     constexpr int Find(std::u16string_view AText) const noexcept {
-        for (std::size_t Slot = Hash(AText); FSlots[Slot].Row != cNone; Slot = (Slot + 1) % cSlots) {
+        for (std::size_t Slot = Hash(AText); FSlots[Slot].Number != 0; Slot = (Slot + 1) % cSlots) {
             if (IsSame(FSlots[Slot].Text, AText))
-                return FSlots[Slot].Row;
+                return FSlots[Slot].Number - 1;
         }
         return cNone;
     }
@@ -58,14 +58,16 @@ private:
     static constexpr std::size_t cSlots = 1024;
     struct TSlot {
         std::u16string_view Text;
-        std::int16_t Row = cNone;
+        std::uint16_t Number; // of the row, from 1; 0 in a free slot
     };
 
     static constexpr std::size_t Hash(std::u16string_view AText) noexcept {
         std::uint32_t Result = 0;
-        for (const char16_t Char : AText)
+        for (const char16_t Char : AText) {
             Result = (Result ^ AFold(Char)) * 0x9E3779B1;
-        return (Result >> 16) % cSlots;
+            Result ^= Result >> 15; // what is above comes down again
+        }
+        return Result % cSlots;
     }
     static constexpr bool IsSame(std::u16string_view ALeft, std::u16string_view ARight) noexcept {
         return std::equal(ALeft.begin(), ALeft.end(), ARight.begin(), ARight.end(),

@@ -170,6 +170,7 @@ void TLineFlusher::BeginChild() noexcept {
             File->Inherit();
         Fresh->FLocked.reserve(Old->FFiles.size());
         Fresh->FFiles.swap(Old->FFiles);
+        Fresh->FOfParent = Old;
         GInstance = Fresh.release();
     } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch)
     }

@@ -58,6 +58,7 @@ private:
     std::condition_variable FWake;
     bool FHasThread = false;
     bool FSomeWait = false;
+    TLineFlusher* FOfParent = nullptr; // kept as it was at the fork
 };
 
 } // namespace qz

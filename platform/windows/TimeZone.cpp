@@ -58,8 +58,8 @@ TZoneDay DayOf(const SYSTEMTIME& ADay) {
     return Result;
 }
 
-uint16_t NumberOf(LONG ABias, bool IsDaylight, const WCHAR* AName, std::vector<TZoneKind>& AKinds) {
-    const TZoneKind Kind{-static_cast<int32_t>(ABias) * 60, IsDaylight,
+uint16_t NumberOf(LONG ABias, bool AIsDaylight, const WCHAR* AName, std::vector<TZoneKind>& AKinds) {
+    const TZoneKind Kind{-static_cast<int32_t>(ABias) * 60, AIsDaylight,
                          std::u16string(detail::FromWide(AName))};
     size_t Result = 0;
     while (Result < AKinds.size() && AKinds[Result] != Kind)

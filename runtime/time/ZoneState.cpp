@@ -31,7 +31,7 @@ struct TLoader {
         return *Result;
     }
 
-    void Look(std::int64_t ANowSeconds, bool IsForced) noexcept;
+    void Look(std::int64_t ANowSeconds, bool AInFull) noexcept;
 
 private:
     const TZoneTable* Find() {
@@ -51,11 +51,11 @@ const TZoneTable& UtcTable() {
 }
 
 // Without memory the zone stays as it was.
-void TLoader::Look(std::int64_t ANowSeconds, bool IsForced) noexcept {
+void TLoader::Look(std::int64_t ANowSeconds, bool AInFull) noexcept {
     try {
         // The stamp comes first: a setting that changes meanwhile is found by the next look.
         std::string Now = platform::SystemZoneStamp();
-        if (IsForced || Now != Stamp || GZoneState.Table.load(std::memory_order_relaxed) == nullptr) {
+        if (AInFull || Now != Stamp || GZoneState.Table.load(std::memory_order_relaxed) == nullptr) {
             GZoneState.Table.store(Find(), std::memory_order_release);
             Stamp = std::move(Now);
         }

@@ -18,9 +18,9 @@
 namespace qz {
 namespace {
 
-constexpr std::int64_t cFirst = -86400;         // 1969-12-31
-constexpr std::int64_t cLast = 2145916800;      // 2038-01-01
-constexpr std::int64_t cStep = 3 * 3600 + 1800; // shorter than any period
+constexpr std::int64_t cFirst = -86400;    // 1969-12-31
+constexpr std::int64_t cLast = 2145916800; // 2038-01-01
+constexpr std::int64_t cStep = 11 * 3600;  // shorter than any period
 
 TDateTime DateOf(std::int64_t AUnix) {
     const std::int64_t Day = (AUnix - (AUnix < 0 ? 86399 : 0)) / 86400;
