@@ -1,4 +1,4 @@
-// Who runs this process, and on which computer. Any thread; every call asks the system anew.
+// Who runs this process, and on which computer. Any thread; what is told is that of the moment, except as said below.
 //
 //     std::u16string Domain;
 //     const std::u16string User = AccountName(Domain);
@@ -13,8 +13,8 @@ namespace qz::platform {
 // The computer's own name: the host name, or the NetBIOS name on Windows. Empty if the system does not tell.
 QZ_API std::u16string ComputerName();
 
-// The user as whom the thread acts: on Linux the effective one, by its number where no database of users knows it.
-// Linux asks the databases once for each user; Windows may fail, which gives an empty text.
+// The user as whom the thread acts: on Linux the effective one, by its number where no database of users tells its name.
+// There a name that was found is kept for the life of the process; Windows may fail, which gives an empty text.
 QZ_API std::u16string UserName();
 
 // The account of the process, and in ADomain the domain that it belongs to: for a local account the computer's name.

@@ -30,8 +30,9 @@
 namespace qz::platform {
 
 // The whole path, without a separator at its end. The folder is made where it is missing, on Linux with access for its
-// owner only unless it is shared; those that the system brings along (/usr/share/fonts and so on) are told as they are. False
-// for a number that stands for no folder of files, and when the folder is neither there nor can be made. On Windows
+// owner only unless it lies in a place that is shared; the home is not made, and those that the system brings along
+// (/usr/share/fonts and so on) are told as they are. False for a number that stands for no folder of files, and when the
+// folder is neither there nor can be made. A child of fork() may call it on Linux as long as HOME is set. On Windows
 // an empty path may come out where the shell gives no allocator. Any thread.
 QZ_API bool ShellFolder(int ANumber, std::u16string& APath);
 

@@ -62,7 +62,7 @@ void TQzBaseAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
     if (AConfigurator == nullptr)
         return;
     const UnicodeString Layout =
-        QzVarToStr(AConfigurator->GetAppenderValue(Name(), u"Layout", mtkString, u""), {}, true);
+        QzVarToStr(AConfigurator->GetAppenderValue(ConfiguredName(), u"Layout", mtkString, u""), {}, true);
     if (!Layout.IsEmpty())
         SetLayout(Layout);
 }

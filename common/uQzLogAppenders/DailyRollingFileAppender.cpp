@@ -140,7 +140,7 @@ void TQzDailyRollingFileAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
     Inherited::SetConfig(AConfigurator);
     if (AConfigurator != nullptr) {
         StorePattern(
-            QzVarToStr(AConfigurator->GetAppenderValue(Name(), u"DatePattern", mtkString, FDatePattern),
+            QzVarToStr(AConfigurator->GetAppenderValue(ConfiguredName(), u"DatePattern", mtkString, FDatePattern),
                        FDatePattern, true));
     }
 }

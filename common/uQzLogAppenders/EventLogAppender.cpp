@@ -2,10 +2,13 @@
 
 #include <utility>
 
+#include "common/uQzLogger/LogDrops.h"
 #include "common/uQzTypes/VarTolerant.h"
 #include "platform/EventLog.h"
 #include "runtime/files/FileNames.h"
 #include "runtime/files/FileSystem.h"
+#include "runtime/text/StringUtils.h"
+#include "runtime/time/ZoneState.h"
 
 namespace qz {
 
@@ -35,7 +38,18 @@ TEvent EventOf(TQzLogLevel ALevel) noexcept {
     return {TEventType::Information, 2};
 }
 
+// Seconds to add to UTC now.
+std::int32_t LocalOffset() noexcept {
+    return detail::ZoneAtClock(platform::UtcNow100ns()).Offset / 1000;
+}
+
 } // namespace
+
+UnicodeString detail::EventSourceOf(const UnicodeString& AProgram) {
+    const UnicodeString File = ExtractFileName(AProgram);
+    const UnicodeString Name = ChangeFileExt(File, u"");
+    return Name.IsEmpty() ? File : Name;
+}
 
 TQzEventLogAppender::TQzEventLogAppender(TQzLogger* ALogger, const UnicodeString& AName)
     : TQzEventLogAppender(ALogger, AName, platform::SystemEventLog(), &QzGetElevationLevel) {}
@@ -45,7 +59,8 @@ TQzEventLogAppender::TQzEventLogAppender(TQzLogger* ALogger, const UnicodeString
     : Inherited(ALogger, AName),
       FLog(ALog),
       FLevel(ALevel) {
-    RegisterLogger(ChangeFileExt(ExtractFileName(ProgramFileName()), u""));
+    LocalOffset(); // so that the zone is known before a lock is held
+    RegisterLogger(detail::EventSourceOf(ProgramFileName()));
 }
 
 TQzEventLogAppender::~TQzEventLogAppender() {
@@ -65,9 +80,12 @@ void TQzEventLogAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
     Inherited::SetConfig(AConfigurator);
     if (AConfigurator == nullptr)
         return;
-    SetName(QzVarToStr(AConfigurator->GetAppenderValue(Name(), u"ServiceName", mtkString, u""), {}, true));
-    if (!Name().IsEmpty())
-        RegisterLogger(Name());
+    const UnicodeString Service = QzVarToStr(
+        AConfigurator->GetAppenderValue(ConfiguredName(), u"ServiceName", mtkString, u""), {}, true);
+    if (Service.IsEmpty() || IsValidIdent(Service))
+        SetName(Service);
+    if (!Service.IsEmpty())
+        RegisterLogger(Service);
 }
 
 void TQzEventLogAppender::Write(const UnicodeString& ASource, const UnicodeString& ALogger,
@@ -78,9 +96,9 @@ void TQzEventLogAppender::Write(const UnicodeString& ASource, const UnicodeStrin
     if (Layout() == nullptr || FHandle == 0 || ALevel == llDoNotLog)
         return;
     const TEvent Event = EventOf(ALevel);
-    const UnicodeString Line = Layout()->FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
-    if (!Line.IsEmpty())
-        FLog.Write(FHandle, Event.Type, Event.Id, Line);
+    const UnicodeString Line = FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
+    if (!Line.IsEmpty() && !FLog.Write(FHandle, Event.Type, Event.Id, Line, LocalOffset()))
+        detail::CountDrop();
 }
 
 } // namespace qz

@@ -147,7 +147,7 @@ void TQzFileAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
     const TScopedLock Hold(*this);
     if (AConfigurator != nullptr) {
         const auto Ask = [&](const UnicodeString& AKey, TQzMainTypeKind AKind, const Variant& ADefault) {
-            return AConfigurator->GetAppenderValue(Name(), AKey, AKind, ADefault);
+            return AConfigurator->GetAppenderValue(ConfiguredName(), AKey, AKind, ADefault);
         };
         FAppendExisting = QzVarToBool(Ask(u"AppendExisting", mtkBoolean, true), true, true);
         const UnicodeString FileName = QzVarToStr(Ask(u"FileName", mtkString, u""), {}, true);

@@ -169,7 +169,7 @@ void TQzRollingFileAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
     if (AConfigurator == nullptr)
         return;
     const auto Ask = [&](const UnicodeString& AKey, std::int64_t APresent) {
-        const Variant Answer = AConfigurator->GetAppenderValue(Name(), AKey, mtkInteger, APresent);
+        const Variant Answer = AConfigurator->GetAppenderValue(ConfiguredName(), AKey, mtkInteger, APresent);
         return VarIsClear(Answer) || VarIsNull(Answer) ? APresent : QzVarToInt64(Answer, 0, true);
     };
     FMaxFileSize = static_cast<std::uint32_t>(Ask(u"MaxFileSize", FMaxFileSize));

@@ -35,6 +35,7 @@ std::uint64_t TQzLogBase::NextSerial() noexcept {
 
 TQzLogBase::TQzLogBase(TQzLogger* ALogger, const UnicodeString& AName)
     : Inherited(nullptr),
+      FConfiguredName(AName),
       FLogger(ALogger) {
     if (!AName.IsEmpty() && (AName[0] < u'0' || AName[0] > u'9'))
         SetName(AName);
@@ -45,6 +46,21 @@ TQzLogBase::TQzLogBase(TQzLogger* ALogger, const UnicodeString& AName)
 TQzLogBase::~TQzLogBase() {
     const TScopedLock Hold(AppenderInstances().FLock);
     AppenderInstances().FList.Remove(this);
+}
+
+UnicodeString TQzLogBase::GetName() const {
+    const TScopedLock Hold(AppenderInstances().FLock);
+    return Name();
+}
+
+void TQzLogBase::SetName(const UnicodeString& AName) {
+    const TScopedLock Hold(AppenderInstances().FLock);
+    Inherited::SetName(AName);
+}
+
+UnicodeString TQzLogBase::ConfiguredName() const {
+    const TScopedLock Hold(AppenderInstances().FLock);
+    return NameToFind();
 }
 
 void TQzLogBase::FinishCreate() {
@@ -163,7 +179,7 @@ int TQzAppenderInstances::Count() const {
 Ref<IQzLogAppender> TQzAppenderInstances::Find(std::u16string_view AName) const {
     const TScopedLock Hold(FLock);
     for (TQzLogBase* Item : FList) {
-        if (Item->FIsComplete && Item->IsAppender() && Item->Name() == AName && Item->TryAddReference())
+        if (Item->FIsComplete && Item->IsAppender() && Item->NameToFind() == AName && Item->TryAddReference())
             return AppenderOf(Item);
     }
     return {};

@@ -46,6 +46,7 @@ struct TForkLocks;
 inline constexpr TTextConstant QzFileAppender = u"TQzFileAppender";
 inline constexpr TTextConstant QzRollingFileAppender = u"TQzRollingFileAppender";
 inline constexpr TTextConstant QzDailyRollingFileAppender = u"TQzDailyRollingFileAppender";
+inline constexpr TTextConstant QzEventLogAppender = u"TQzEventLogAppender";
 inline constexpr TTextConstant QzLogViewerAppenderServer = u"TQzLogViewerAppenderServer";
 inline constexpr TTextConstant QzLogViewerAppenderClient = u"TQzLogViewerAppenderClient";
 inline constexpr TTextConstant QzSimpleLayout = u"TQzSimpleLayout";
@@ -58,8 +59,12 @@ public:
     using TVirtualCreate =
         TVirtualConstructor<TQzLogBase, TQzLogBase*(TQzLogger* ALogger, const UnicodeString& AName)>;
 
-    // The name of the component.
-    UnicodeString GetName() const override { return Name(); }
+    // The name of the component. Any thread, also while another one calls SetName; Name() is for the thread that does.
+    UnicodeString GetName() const override;
+    void SetName(const UnicodeString& AName) override;
+    // The name that it was made under, which stays when the component gets another one: by it a configurator is asked, and
+    // AppenderInstances finds it. For one that was made without, the name of the component. Any thread.
+    UnicodeString ConfiguredName() const;
     TComponent* Component() override { return this; }
     HRESULT QueryInterface(const TGUID& AIid, void** AObject) override {
         return Inherited::QueryInterface(AIid, AObject);
@@ -92,11 +97,15 @@ private:
     friend class TQzAppenderInstances;
     friend struct detail::TForkLocks;
     friend void LinkAppender(TComponent* AComponent, TQzLogAppenderList& AList);
+    const UnicodeString& NameToFind() const noexcept {
+        return FConfiguredName.IsEmpty() ? Name() : FConfiguredName;
+    }
     void LeaveLists();
     void SetComplete(bool AValue) noexcept;
 
     const std::uint64_t FSerial = NextSerial();
-    // All of these are guarded by the lock of the instances.
+    const UnicodeString FConfiguredName;
+    // All of these are guarded by the lock of the instances, and so is the name of the component.
     TQzLogger* FLogger;
     bool FIsComplete = false;
     std::set<std::weak_ptr<detail::TLogAppenderCore>, std::owner_less<>> FLists; // that may hold it
@@ -131,7 +140,7 @@ public:
 
     // Any thread; the answers are of that moment.
     int Count() const;
-    // The first of that name, case-sensitive; null when there is none.
+    // The first that was made under that name, case-sensitive; null when there is none. See TQzLogBase::ConfiguredName.
     Ref<IQzLogAppender> Find(std::u16string_view AName) const;
     std::vector<Ref<IQzLogAppender>> Items() const;
 

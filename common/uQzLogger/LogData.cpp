@@ -37,9 +37,8 @@ struct TSystem {
 };
 
 TSystem AskSystem() {
-    const auto* const Found = std::ranges::find(cSystems, QzGetWindowsVersion(), &TSystemName::Version);
     const platform::TSystemVersion Version = platform::SystemVersion();
-    return {Found != std::end(cSystems) ? Found->Name : u"Unidentified OS",
+    return {detail::SystemNameOf(QzGetWindowsVersion()),
             Format(u"%d.%d; Build: %x, \"%s\"", {Version.Major, Version.Minor, Version.Build, Version.Pack})};
 }
 
@@ -50,6 +49,11 @@ const TSystem& System() {
 }
 
 } // namespace
+
+std::u16string_view detail::SystemNameOf(std::uint16_t AVersion) noexcept {
+    const auto* const Found = std::ranges::find(cSystems, AVersion, &TSystemName::Version);
+    return Found != std::end(cSystems) ? Found->Name : u"Unidentified OS";
+}
 
 TQzLogData::TQzLogData(TQzLogLevel ALevel, const UnicodeString& AMessage)
     : FLogLevel(ALevel),

@@ -42,9 +42,10 @@ public:
     UnicodeString FActiveControl;
     UnicodeString FExtendedInfo;
     UnicodeString FSource;
-    UnicodeString
-        FOS; // by QzGetWindowsVersion; "Unidentified OS" for later ones than Windows 8, and on other systems
-    UnicodeString FVersion; // of the system, such as 10.0; Build: 4a61, "": the build in hexadecimal digits
+    // By QzGetWindowsVersion, whose number for Windows 8 later ones may have too. "Unidentified OS" for a number that has no
+    // name here, such as that of other systems.
+    UnicodeString FOS;
+    UnicodeString FVersion; // of the system, such as 10.0; Build: 4A61, "": the build in hexadecimal digits
     TDateTime FTimestamp;   // local time of creation
     UnicodeString FResolution;
     UnicodeString FHelpText;
@@ -52,5 +53,12 @@ public:
 protected:
     TQzLogData(TQzLogLevel ALevel, const UnicodeString& AMessage);
 };
+
+namespace detail {
+
+// The name of the system with that number of QzGetWindowsVersion.
+QZ_API std::u16string_view SystemNameOf(std::uint16_t AVersion) noexcept;
+
+} // namespace detail
 
 } // namespace qz

@@ -4,7 +4,8 @@
 //     const UnicodeString User = QzGetUserName(Domain);
 //     if (QzGetElevationLevel() == elFull) ...
 //
-// All functions ask the system anew and may run on any number of threads.
+// All functions tell what holds at that moment and may run on any number of threads. Linux keeps the name of a user once it
+// was found.
 #pragma once
 
 #include "runtime/reflection/TypeInfo.h"
@@ -22,8 +23,8 @@ QZ_API TQzElevationLevel QzGetElevationLevel() noexcept;
 // The host name, on Windows the NetBIOS name; empty if the system does not tell.
 QZ_API UnicodeString QzGetComputerName();
 
-// The user as whom the calling thread acts. Linux gives the number of one that no database of users knows. Empty if the
-// system does not tell.
+// The user as whom the calling thread acts. Linux gives the number of one whose name no database of users tells. Empty if
+// the system does not tell.
 QZ_API UnicodeString QzGetUserName();
 // The account of the process, and where it belongs: the computer's name for a local one. Both are empty if the system
 // does not tell.

@@ -1,4 +1,4 @@
-// Names of files that any system takes.
+// Names of files without the characters that some system refuses.
 //
 //     QzCleanupFileName(u"a:b*c.txt");             // "abc.txt"
 //     QzCleanupFileName(u"a:b*c.txt", {'.'});      // "abctxt"
@@ -14,7 +14,8 @@ inline constexpr TCharSet cQzInvalidFileNameChars =
     TCharSet::Range('\0', '\x1F') + TCharSet{'"', '*', '/', ':', '<', '>', '?', '\\', '|'};
 
 // The name, which is no path, without those characters and without the ones in AExtra. A character above 255 is in no
-// set. Any thread.
+// set. Nothing else is looked at: an empty name, "..", "nul.txt" and a point at the end stay, which systems read in their
+// own way. Any thread.
 QZ_API UnicodeString QzCleanupFileName(const TStringArg& AName, const TCharSet& AExtra = {});
 
 } // namespace qz

@@ -2,6 +2,7 @@
 
 #include "platform/FileTimes.h"
 #include "runtime/errors/Exceptions.h"
+#include "runtime/time/ZoneState.h"
 
 namespace qz {
 namespace {
@@ -19,11 +20,12 @@ std::int64_t FileTimeOf(TDateTime ADate) {
 // As a date and time of DOS, which counts in steps of two seconds.
 TDateTime DosTime(std::int64_t ATime) {
     constexpr std::int64_t cMSecsPerStep = 2000;
-    std::int64_t Local = 0;
-    platform::TError Error;
-    if (!platform::ToLocalFileTime(ATime, Local, Error))
-        return 0;
-    const std::int64_t MSecs = Local / cStepsPerMSec / cMSecsPerStep * cMSecsPerStep;
+    std::int64_t Local = ATime / cStepsPerMSec;
+    if (const std::optional<std::int64_t> Own = platform::LocalFileTime(ATime))
+        Local = *Own / cStepsPerMSec;
+    else
+        Local += detail::CurrentZone().AtUtc(Local + cDay1601 * MSecsPerDay).Offset;
+    const std::int64_t MSecs = Local / cMSecsPerStep * cMSecsPerStep;
     const std::int64_t Day = MSecs / MSecsPerDay + cDay1601;
     if (Day < cDay1980 || Day >= cDay2108)
         return 0;

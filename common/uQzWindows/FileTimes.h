@@ -13,8 +13,8 @@
 namespace qz {
 
 // When the file was made, when its content was last written: local time on even seconds, the odd ones rounded down. 0 for
-// what is no file, for a directory, and for a time outside the years 1980 to 2107. Windows adds the zone's offset of now,
-// Linux the one that was in force at that time.
+// what is no file, for a directory, for a pattern such as "*.txt" on Windows, and for a time outside the years 1980 to
+// 2107. Windows adds the zone's offset of now, Linux the one that was in force at that time.
 QZ_API TDateTime QzGetFileCreated(const TStringArg& AName);
 QZ_API TDateTime QzGetFileLastModified(const TStringArg& AName);
 

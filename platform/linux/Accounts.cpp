@@ -3,7 +3,7 @@
 #include <atomic>
 #include <climits>
 #include <string>
-#include <string_view>
+#include <utility>
 
 #include <unistd.h>
 
@@ -14,7 +14,8 @@ namespace qz::platform {
 
 namespace {
 
-// The users who were asked for, since databases of users may be far away. None is ever taken out.
+// The users who were found, since databases of users may be far away. None is ever taken out. Who was not found may
+// be at the next time.
 struct TKnownUser {
     uid_t Id;
     std::string Name;
@@ -22,19 +23,17 @@ struct TKnownUser {
 };
 constinit std::atomic<const TKnownUser*> GUsers{nullptr};
 
-std::string NameOf(uid_t AId) {
-    std::string Name = detail::UserRecord(AId).Name;
-    return Name.empty() ? std::to_string(AId) : Name;
-}
-
-const std::string& EffectiveUser() {
+std::string EffectiveUser() {
     const uid_t Id = geteuid();
     for (const TKnownUser* User = GUsers.load(std::memory_order_acquire); User != nullptr;
          User = User->Next) {
         if (User->Id == Id)
             return User->Name;
     }
-    auto* const User = new TKnownUser{Id, NameOf(Id), GUsers.load(std::memory_order_relaxed)};
+    std::string Name = detail::UserRecord(Id).Name;
+    if (Name.empty())
+        return std::to_string(Id);
+    auto* const User = new TKnownUser{Id, std::move(Name), GUsers.load(std::memory_order_relaxed)};
     while (!GUsers.compare_exchange_weak(User->Next, User, std::memory_order_release,
                                          std::memory_order_relaxed)) {}
     return User->Name;
@@ -55,16 +54,9 @@ std::u16string UserName() {
 
 std::u16string AccountName(std::u16string& ADomain) {
     std::u16string Name = UserName();
-    if (const size_t Slash = Name.find(u'\\'); Slash != std::u16string::npos) {
-        ADomain = Name.substr(0, Slash);
-        return Name.substr(Slash + 1);
-    }
-    if (const size_t At = Name.rfind(u'@'); At != std::u16string::npos) {
-        ADomain = Name.substr(At + 1);
-        Name.resize(At);
-        return Name;
-    }
-    ADomain = ComputerName();
+    ADomain = detail::TakeDomain(Name);
+    if (ADomain.empty())
+        ADomain = ComputerName();
     return Name;
 }
 

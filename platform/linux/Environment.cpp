@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <mutex>
 
+#include "platform/Fork.h"
 #include "platform/linux/NativeEnvironment.h"
 #include "platform/linux/NativeText.h"
 
@@ -10,11 +11,18 @@ namespace qz::platform {
 
 namespace {
 
-// Never destroyed: threads may ask while the program ends.
-std::mutex& EnvironmentLock() {
-    static std::mutex& Lock = *new std::mutex;
-    return Lock;
-}
+// Has no destructor that does anything: threads may ask while the program ends.
+constinit std::mutex GEnvironmentLock;
+
+// Locks that are taken around a fork() are taken in the opposite order of this. Since the environment is asked under
+// others, it has to come before all of them.
+struct TForkWatch {
+    TForkWatch() {
+        AroundFork([] { GEnvironmentLock.lock(); }, [] { GEnvironmentLock.unlock(); },
+                   [] { GEnvironmentLock.unlock(); });
+    }
+};
+[[gnu::init_priority(101)]] const TForkWatch GForkWatch;
 
 std::optional<std::string> NativeName(std::u16string_view AName) {
     if (AName.empty() || AName.find(u'=') != std::u16string_view::npos)
@@ -27,7 +35,7 @@ std::optional<std::string> NativeName(std::u16string_view AName) {
 namespace detail {
 
 std::optional<std::string> NativeEnvironment(const char* AName) {
-    const std::lock_guard Guard(EnvironmentLock());
+    const std::lock_guard Guard(GEnvironmentLock);
     const char* Value = std::getenv(AName);
     if (Value == nullptr)
         return std::nullopt;
@@ -51,13 +59,13 @@ bool SetEnvironment(std::u16string_view AName, std::optional<std::u16string_view
     if (!Name)
         return false;
     if (!AValue) {
-        const std::lock_guard Guard(EnvironmentLock());
+        const std::lock_guard Guard(GEnvironmentLock);
         return unsetenv(Name->c_str()) == 0;
     }
     const std::optional<std::string> Value = detail::ToNativeArgument(*AValue);
     if (!Value)
         return false;
-    const std::lock_guard Guard(EnvironmentLock());
+    const std::lock_guard Guard(GEnvironmentLock);
     return setenv(Name->c_str(), Value->c_str(), 1) == 0;
 }
 

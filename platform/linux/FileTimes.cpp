@@ -4,7 +4,6 @@
 #include <array>
 #include <cerrno>
 #include <charconv>
-#include <ctime>
 #include <limits>
 #include <optional>
 #include <string>
@@ -12,7 +11,9 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
+#include <unistd.h>
 
+#include "platform/linux/NativeFile.h"
 #include "platform/linux/NativeText.h"
 
 namespace qz::platform {
@@ -35,12 +36,21 @@ bool Fail(TError& AError, int ACode) noexcept {
 }
 
 int64_t StepsOf(const struct statx_timestamp& ATime) {
-    return (ATime.tv_sec + cUnixEpochSeconds) * cStepsPerSecond + ATime.tv_nsec / 100;
+    // File systems may hold what no date can tell.
+    constexpr int64_t cFarthest = std::numeric_limits<int64_t>::max() / cStepsPerSecond - 1;
+    const int64_t Seconds =
+        std::clamp<int64_t>(ATime.tv_sec, -cFarthest, cFarthest - cUnixEpochSeconds) + cUnixEpochSeconds;
+    return Seconds * cStepsPerSecond + ATime.tv_nsec / 100;
 }
 
+constexpr unsigned cWanted = STATX_BASIC_STATS | STATX_BTIME;
+
 bool StatusOf(const std::string& APath, struct statx& AStatus) {
-    constexpr unsigned cWanted = STATX_BASIC_STATS | STATX_BTIME;
     return statx(AT_FDCWD, APath.c_str(), AT_STATX_SYNC_AS_STAT, cWanted, &AStatus) == 0;
+}
+
+bool StatusOf(int AFile, struct statx& AStatus) {
+    return statx(AFile, "", AT_STATX_SYNC_AS_STAT | AT_EMPTY_PATH, cWanted, &AStatus) == 0;
 }
 
 // When the system made the file, 0 where it does not keep that.
@@ -78,6 +88,37 @@ std::optional<int64_t> NotedTime(const std::string& APath, const struct statx& A
     return IsOfThisFile ? std::optional((*Note)[0]) : std::nullopt;
 }
 
+std::string NoteOf(int64_t ATime, const struct statx& AStatus) {
+    return std::to_string(ATime) + ' ' + std::to_string(static_cast<int64_t>(AStatus.stx_ino)) + ' ' +
+        std::to_string(BirthOf(AStatus));
+}
+
+// The system may make another file of the one that is written: an overlay copies what lies in a lower layer.
+bool WriteNote(int AFile, int64_t ATime, std::string& ANote) {
+    constexpr int cTries = 3;
+    struct statx Status;
+    if (!StatusOf(AFile, Status))
+        return false;
+    for (int Try = 0; Try < cTries; ++Try) {
+        ANote = NoteOf(ATime, Status);
+        if (fsetxattr(AFile, cAttribute, ANote.data(), ANote.size(), 0) != 0 || !StatusOf(AFile, Status))
+            return false;
+        if (NoteOf(ATime, Status) == ANote)
+            return true;
+    }
+    errno = EIO;
+    return false;
+}
+
+bool ComesBack(int AFile, const std::string& ANote) {
+    char Buffer[cLongestAttribute];
+    const ssize_t Length = fgetxattr(AFile, cAttribute, Buffer, sizeof Buffer);
+    if (Length < 0)
+        return false;
+    errno = EIO;
+    return std::string_view(Buffer, static_cast<size_t>(Length)) == ANote;
+}
+
 } // namespace
 
 bool ReadFileTimes(std::u16string_view APath, TFileTimes& ATimes, TError& AError) {
@@ -108,11 +149,17 @@ bool SetFileCreated(std::u16string_view APath, int64_t ATime, TError& AError) {
         return Outcome(AError, false);
     if (S_ISDIR(Status.stx_mode))
         return Fail(AError, EISDIR);
+    if (!S_ISREG(Status.stx_mode)) // may do anything when it is opened
+        return Fail(AError, EPERM);
     if (!CheckFileTime(ATime, AError))
         return false;
-    const std::string Note = std::to_string(ATime) + ' ' +
-        std::to_string(static_cast<int64_t>(Status.stx_ino)) + ' ' + std::to_string(BirthOf(Status));
-    return Outcome(AError, setxattr(Path->c_str(), cAttribute, Note.data(), Note.size(), 0) == 0);
+    const int File = detail::OpenNative(Path->c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY);
+    if (File < 0)
+        return Outcome(AError, false);
+    std::string Note;
+    Outcome(AError, WriteNote(File, ATime, Note) && ComesBack(File, Note));
+    close(File);
+    return AError.Code == 0;
 }
 
 bool CheckFileTime(int64_t ATime, TError& AError) noexcept {
@@ -120,19 +167,8 @@ bool CheckFileTime(int64_t ATime, TError& AError) noexcept {
     return ATime >= 0;
 }
 
-bool ToLocalFileTime(int64_t ATime, int64_t& ALocal, TError& AError) {
-    if (!CheckFileTime(ATime, AError))
-        return false;
-    const time_t Moment = ATime / cStepsPerSecond - cUnixEpochSeconds;
-    tm Parts{};
-    tzset(); // the zone may have been set anew
-    if (localtime_r(&Moment, &Parts) == nullptr)
-        return Outcome(AError, false);
-    const int64_t Offset = Parts.tm_gmtoff * cStepsPerSecond;
-    if (ATime > std::numeric_limits<int64_t>::max() - std::max<int64_t>(Offset, 0))
-        return Fail(AError, EINVAL);
-    ALocal = ATime + Offset;
-    return true;
+std::optional<int64_t> LocalFileTime(int64_t) noexcept {
+    return std::nullopt;
 }
 
 } // namespace qz::platform

@@ -3,14 +3,15 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstring>
-#include <utility>
 
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
+#include "platform/FileLimit.h"
 #include "platform/linux/NativeFile.h"
 
 namespace qz::platform::detail {
@@ -27,15 +28,6 @@ bool FillAddress(const std::string& APath, sockaddr_un& AAddress) noexcept {
     return true;
 }
 
-int OpenSocket(int AType) noexcept {
-    // Room for bursts; the system cuts it to what it allows.
-    constexpr int cRoom = 8 << 20;
-    const int Socket = socket(AF_UNIX, AType | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    if (Socket >= 0)
-        setsockopt(Socket, SOL_SOCKET, SO_SNDBUF, &cRoom, sizeof cRoom);
-    return Socket;
-}
-
 TSent OutcomeOf(int ACode) noexcept {
     switch (ACode) {
     case EMSGSIZE:
@@ -44,6 +36,8 @@ TSent OutcomeOf(int ACode) noexcept {
     case ENOMEM:
     case EMFILE:
     case ENFILE:
+    case EBADF: // closed by the program at this moment
+    case ENOTSOCK:
     case ETOOMANYREFS: return TSent::Lost;
     default: return TSent::NoDaemon;
     }
@@ -54,6 +48,7 @@ int SealedFile(std::string_view AContent) noexcept {
     const int File = memfd_create("qzcommon-log", MFD_CLOEXEC | MFD_ALLOW_SEALING);
     if (File < 0)
         return -1;
+    const TNoLimitSignal Quiet;
     size_t Done = 0;
     if (WriteAll(File, std::as_bytes(std::span(AContent)), Done) &&
         fcntl(File, F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE | F_SEAL_SEAL) == 0)
@@ -64,9 +59,29 @@ int SealedFile(std::string_view AContent) noexcept {
 
 } // namespace
 
-TLogDatagrams::~TLogDatagrams() {
-    if (FSocket >= 0)
-        close(FSocket);
+bool TLogSocket::Open(int AType) noexcept {
+    Close();
+    // Room for bursts; the system cuts it to what it allows.
+    constexpr int cRoom = 8 << 20;
+    FHandle = socket(AF_UNIX, AType | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    struct stat Status;
+    if (FHandle < 0 || fstat(FHandle, &Status) != 0)
+        return false;
+    FDevice = Status.st_dev;
+    FNode = Status.st_ino;
+    setsockopt(FHandle, SOL_SOCKET, SO_SNDBUF, &cRoom, sizeof cRoom);
+    return true;
+}
+
+bool TLogSocket::IsOpen() const noexcept {
+    struct stat Status;
+    return FHandle >= 0 && fstat(FHandle, &Status) == 0 && Status.st_dev == FDevice && Status.st_ino == FNode;
+}
+
+void TLogSocket::Close() noexcept {
+    if (IsOpen())
+        close(FHandle);
+    FHandle = -1;
 }
 
 TSent TLogDatagrams::Send(const std::string& APath, std::string_view AMessage) noexcept {
@@ -86,7 +101,7 @@ TSent TLogDatagrams::SendRaw(const std::string& APath, std::string_view AMessage
     sockaddr_un Address;
     if (!FillAddress(APath, Address))
         return TSent::NoDaemon;
-    if (FSocket < 0 && (FSocket = OpenSocket(SOCK_DGRAM)) < 0)
+    if (!FSocket.IsOpen() && !FSocket.Open(SOCK_DGRAM))
         return OutcomeOf(errno);
     iovec Piece{const_cast<char*>(AMessage.data()), AMessage.size()};
     alignas(cmsghdr) char Control[CMSG_SPACE(sizeof(int))] = {};
@@ -105,7 +120,7 @@ TSent TLogDatagrams::SendRaw(const std::string& APath, std::string_view AMessage
         Header->cmsg_len = CMSG_LEN(sizeof AFile);
         std::memcpy(CMSG_DATA(Header), &AFile, sizeof AFile);
     }
-    while (sendmsg(FSocket, &Message, MSG_DONTWAIT | MSG_NOSIGNAL) < 0) {
+    while (sendmsg(FSocket.Handle(), &Message, MSG_DONTWAIT | MSG_NOSIGNAL) < 0) {
         if (errno != EINTR)
             return OutcomeOf(errno);
     }
@@ -113,10 +128,9 @@ TSent TLogDatagrams::SendRaw(const std::string& APath, std::string_view AMessage
 }
 
 TSent TLogStream::Send(const std::string& APath, const std::string& AMessage) noexcept {
-    if (FSocket >= 0) {
+    if (FSocket.IsOpen()) {
         if (const TSent Result = SendRaw(AMessage); Result != TSent::NoDaemon)
             return Result;
-        Disconnect();
     }
     const TSent Result = Connect(APath);
     return Result == TSent::Yes ? SendRaw(AMessage) : Result;
@@ -126,24 +140,18 @@ TSent TLogStream::Connect(const std::string& APath) noexcept {
     sockaddr_un Address;
     if (!FillAddress(APath, Address))
         return TSent::NoDaemon;
-    FSocket = OpenSocket(SOCK_STREAM);
-    if (FSocket >= 0 && connect(FSocket, reinterpret_cast<const sockaddr*>(&Address), sizeof Address) == 0)
+    if (FSocket.Open(SOCK_STREAM) &&
+        connect(FSocket.Handle(), reinterpret_cast<const sockaddr*>(&Address), sizeof Address) == 0)
         return TSent::Yes;
     const TSent Result = OutcomeOf(errno);
-    Disconnect();
+    FSocket.Close();
     return Result;
-}
-
-void TLogStream::Disconnect() noexcept {
-    const int Socket = std::exchange(FSocket, -1);
-    if (Socket >= 0)
-        close(Socket);
 }
 
 TSent TLogStream::SendRaw(const std::string& AMessage) const noexcept {
     const size_t Size = AMessage.size() + 1;
     for (;;) {
-        const ssize_t Sent = send(FSocket, AMessage.c_str(), Size, MSG_DONTWAIT | MSG_NOSIGNAL);
+        const ssize_t Sent = send(FSocket.Handle(), AMessage.c_str(), Size, MSG_DONTWAIT | MSG_NOSIGNAL);
         if (Sent >= 0) // one taken in part is begun anew on another connection
             return static_cast<size_t>(Sent) == Size ? TSent::Yes : TSent::NoDaemon;
         if (errno != EINTR)

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include <sys/types.h>
+
 namespace qz::platform::detail {
 
 enum class TSent : unsigned char {
@@ -14,14 +16,30 @@ enum class TSent : unsigned char {
     NoDaemon // nobody listens at the path
 };
 
+// A socket that does not wait. It is told from whatever else may have got its number since: programs that become daemons
+// close all descriptors that they find.
+class TLogSocket {
+public:
+    TLogSocket() noexcept = default;
+    TLogSocket(const TLogSocket&) = delete;
+    TLogSocket& operator=(const TLogSocket&) = delete;
+    ~TLogSocket() { Close(); }
+
+    // Lets go of the former one. False, and errno tells why, on failure.
+    bool Open(int AType) noexcept;
+    bool IsOpen() const noexcept;
+    void Close() noexcept;
+    int Handle() const noexcept { return FHandle; }
+
+private:
+    int FHandle = -1;
+    dev_t FDevice = 0;
+    ino_t FNode = 0;
+};
+
 // Sends datagrams, each to where the path leads at that moment, so that a daemon may come and go. One thread at a time.
 class TLogDatagrams {
 public:
-    TLogDatagrams() noexcept = default;
-    TLogDatagrams(const TLogDatagrams&) = delete;
-    TLogDatagrams& operator=(const TLogDatagrams&) = delete;
-    ~TLogDatagrams();
-
     TSent Send(const std::string& APath, std::string_view AMessage) noexcept;
     // Sends a sealed file in memory that holds the message.
     TSent SendFile(const std::string& APath, std::string_view AMessage) noexcept;
@@ -29,7 +47,7 @@ public:
 private:
     TSent SendRaw(const std::string& APath, std::string_view AMessage, int AFile) noexcept;
 
-    int FSocket = -1;
+    TLogSocket FSocket;
 };
 
 // Sends messages one behind the other, with a NUL behind each. Connects when there is something to send, and once anew when
@@ -37,19 +55,13 @@ private:
 // a message of less than 16 KiB whole or not at all.
 class TLogStream {
 public:
-    TLogStream() noexcept = default;
-    TLogStream(const TLogStream&) = delete;
-    TLogStream& operator=(const TLogStream&) = delete;
-    ~TLogStream() { Disconnect(); }
-
     TSent Send(const std::string& APath, const std::string& AMessage) noexcept;
 
 private:
     TSent Connect(const std::string& APath) noexcept;
-    void Disconnect() noexcept;
     TSent SendRaw(const std::string& AMessage) const noexcept;
 
-    int FSocket = -1;
+    TLogSocket FSocket;
 };
 
 } // namespace qz::platform::detail

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <initializer_list>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -11,6 +13,7 @@
 
 #include "platform/linux/NativeEnvironment.h"
 #include "platform/linux/NativeText.h"
+#include "platform/linux/SharedPlaces.h"
 #include "platform/linux/UserDirs.h"
 
 namespace qz::platform {
@@ -89,44 +92,44 @@ bool IsWritable(const std::string& APath) {
 // Services are given theirs in a list with colons.
 std::string OfService() {
     const std::optional<std::string> List = detail::NativeEnvironment("STATE_DIRECTORY");
-    return List && List->starts_with('/') ? List->substr(0, List->find(':')) : std::string();
+    if (!List || !List->starts_with('/'))
+        return {};
+    return detail::WithoutSlash(List->substr(0, List->find(':')));
 }
 
-std::string SharedPlace() {
-    for (std::string Place : {OfService(), std::string("/var/lib")}) {
-        if (!Place.empty() && IsWritable(Place))
-            return Place;
-    }
-    return detail::BaseDirectory("XDG_STATE_HOME", ".local/state");
-}
+struct TFound {
+    std::string Path; // empty when it lies in a home that nobody knows
+    bool IsOwn;       // the user's
+};
 
-// The place, empty when it lies in a home that nobody knows.
-std::string PathOf(TPlace APlace) {
+TFound Own(TPlace APlace) {
     switch (APlace) {
-    case TPlace::Config: return detail::BaseDirectory("XDG_CONFIG_HOME", ".config");
-    case TPlace::Data: return detail::BaseDirectory("XDG_DATA_HOME", ".local/share");
-    case TPlace::Cache: return detail::BaseDirectory("XDG_CACHE_HOME", ".cache");
-    case TPlace::State: return detail::BaseDirectory("XDG_STATE_HOME", ".local/state");
-    case TPlace::Shared: return SharedPlace();
-    case TPlace::SharedData:
-        return IsWritable("/usr/local/share") ? "/usr/local/share" : PathOf(TPlace::Data);
-    case TPlace::SharedConfig: return IsWritable("/etc/xdg") ? "/etc/xdg" : PathOf(TPlace::Config);
-    case TPlace::Home:
-    case TPlace::Chosen:
-    case TPlace::System: break;
+    case TPlace::Config: return {detail::BaseDirectory("XDG_CONFIG_HOME", ".config"), true};
+    case TPlace::Data: return {detail::BaseDirectory("XDG_DATA_HOME", ".local/share"), true};
+    case TPlace::Cache: return {detail::BaseDirectory("XDG_CACHE_HOME", ".cache"), true};
+    case TPlace::State: return {detail::BaseDirectory("XDG_STATE_HOME", ".local/state"), true};
+    default: return {detail::HomeDirectory(), true};
     }
-    return detail::HomeDirectory();
 }
 
-std::string PathOf(const TFolder& AFolder) {
-    if (AFolder.Place == TPlace::System)
-        return std::string(AFolder.Name);
-    if (AFolder.Place == TPlace::Chosen)
-        return detail::UserDirectory(AFolder.Key, AFolder.Name);
-    std::string Path = PathOf(AFolder.Place);
-    if (!Path.empty() && !AFolder.Name.empty())
-        (Path += '/').append(AFolder.Name);
-    return Path;
+// The first place that the process may write, else the user's own.
+TFound Shared(std::initializer_list<std::string> APlaces, TPlace AElse) {
+    for (const std::string& Place : APlaces) {
+        if (!Place.empty() && IsWritable(Place))
+            return {Place, false};
+    }
+    return Own(AElse);
+}
+
+TFound PathOf(const TFolder& AFolder, const detail::TSharedPlaces& APlaces) {
+    switch (AFolder.Place) {
+    case TPlace::System: return {std::string(AFolder.Name), false};
+    case TPlace::Chosen: return {detail::UserDirectory(AFolder.Key, AFolder.Name), true};
+    case TPlace::Shared: return Shared({OfService(), APlaces.State}, TPlace::State);
+    case TPlace::SharedData: return Shared({APlaces.Data}, TPlace::Data);
+    case TPlace::SharedConfig: return Shared({APlaces.Config}, TPlace::Config);
+    default: return Own(AFolder.Place);
+    }
 }
 
 // Makes what is missing of the path.
@@ -140,22 +143,25 @@ bool MakePath(const std::string& APath, mode_t AMode) {
     }
 }
 
-bool IsInHome(const std::string& APath) {
-    const std::string Home = detail::HomeDirectory();
-    return !Home.empty() && APath.starts_with(Home) &&
-        (APath.size() == Home.size() || APath[Home.size()] == '/');
-}
-
 } // namespace
 
-bool ShellFolder(int ANumber, std::u16string& APath) {
-    APath.clear();
+bool detail::FindFolder(int ANumber, const TSharedPlaces& APlaces, std::string& APath) {
     const auto* const Folder = std::ranges::find(cFolders, ANumber, &TFolder::Number);
     if (Folder == std::end(cFolders))
         return false;
-    const std::string Path = PathOf(*Folder);
-    const bool IsOwn = Folder->Place < TPlace::Shared || IsInHome(Path);
-    if (Path.empty() || (Folder->Place != TPlace::System && !MakePath(Path, IsOwn ? 0700 : 0755)))
+    TFound Found = PathOf(*Folder, APlaces);
+    if (Folder->Place != TPlace::System && Folder->Place != TPlace::Chosen)
+        Found.Path = Below(std::move(Found.Path), Folder->Name);
+    APath = std::move(Found.Path);
+    if (APath.empty() || Folder->Place == TPlace::System)
+        return !APath.empty();
+    return Folder->Place == TPlace::Home ? IsDirectory(APath) : MakePath(APath, Found.IsOwn ? 0700 : 0755);
+}
+
+bool ShellFolder(int ANumber, std::u16string& APath) {
+    APath.clear();
+    std::string Path;
+    if (!detail::FindFolder(ANumber, {}, Path))
         return false;
     APath = detail::FromNative(Path);
     return true;

@@ -1,5 +1,6 @@
 #include "platform/linux/SystemLog.h"
 
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <exception>
@@ -8,7 +9,6 @@
 
 #include <unistd.h>
 
-#include "platform/Clock.h"
 #include "platform/linux/LogSocket.h"
 #include "platform/linux/NativeText.h"
 
@@ -26,6 +26,7 @@ struct TSource {
     std::string Tag;  // as the syslog takes it
     TLogDatagrams Datagrams;
     TLogStream Stream;
+    int32_t LocalOffset = 0;
     // For the message under way, kept for the next one.
     std::string Text;
     std::string Message;
@@ -96,15 +97,22 @@ TSent SendToJournal(TSource& ASource, const std::string& APath, TEventType AType
     return Result == TSent::TooLong ? ASource.Datagrams.SendFile(APath, Message) : Result;
 }
 
-// "<12>Jan 31 08:15:02 source[17]: ", the local time as the daemons expect it. 8 is the facility of users' programs.
+// "<12>Jan 31 08:15:02 source[17]: ", the local time as the daemons expect it. 8 is the facility of users' programs. The C
+// library's conversions of time are not used: a child of fork() may find their lock held for ever.
 std::string SyslogHeader(const TSource& ASource, TEventType AType) {
     constexpr const char* cMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                        "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-    const TLocalTime Now = LocalNow();
-    char Time[32];
-    std::snprintf(Time, sizeof Time, "<%d>%s %2d %02d:%02d:%02d ", 8 + PriorityOf(AType) - '0',
-                  cMonths[(Now.Month - 1) % 12], Now.Day, Now.Hour, Now.Minute, Now.Second);
-    return Time + ASource.Tag + '[' + std::to_string(getpid()) + "]: ";
+    using namespace std::chrono;
+    const auto Now = floor<seconds>(system_clock::now()) + seconds(ASource.LocalOffset);
+    const auto Day = floor<days>(Now);
+    const year_month_day Date(Day);
+    const hh_mm_ss Time(Now - Day);
+    char Head[48];
+    std::snprintf(Head, sizeof Head, "<%d>%s %2u %02d:%02d:%02d ", 8 + PriorityOf(AType) - '0',
+                  cMonths[(unsigned{Date.month()} - 1) % 12], unsigned{Date.day()},
+                  static_cast<int>(Time.hours().count()), static_cast<int>(Time.minutes().count()),
+                  static_cast<int>(Time.seconds().count()));
+    return Head + ASource.Tag + '[' + std::to_string(getpid()) + "]: ";
 }
 
 TSent SendSyslogMessage(TSource& ASource, const std::string& APath) {
@@ -168,13 +176,14 @@ void TSystemLog::CloseSource(uintptr_t ASource) noexcept {
     const std::unique_ptr<TSource> Source(reinterpret_cast<TSource*>(ASource));
 }
 
-bool TSystemLog::Write(uintptr_t ASource, TEventType AType, uint32_t AId,
-                       std::u16string_view AText) noexcept {
+bool TSystemLog::Write(uintptr_t ASource, TEventType AType, uint32_t AId, std::u16string_view AText,
+                       int32_t ALocalOffset) noexcept {
     if (ASource == 0)
         return false;
     try {
         TSource& Source = *reinterpret_cast<TSource*>(ASource);
         Source.Text = Utf8Of(AText);
+        Source.LocalOffset = ALocalOffset;
         const TSent Sent = SendToJournal(Source, FJournal, AType, AId);
         const bool Result =
             Sent == TSent::Yes || (Sent == TSent::NoDaemon && SendToSyslog(Source, FSyslog, AType));

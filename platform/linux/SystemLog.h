@@ -15,8 +15,8 @@ public:
     void EnterSource(std::u16string_view AName, std::u16string_view AProgram) noexcept override;
     uintptr_t OpenSource(std::u16string_view AName) noexcept override;
     void CloseSource(uintptr_t ASource) noexcept override;
-    bool Write(uintptr_t ASource, TEventType AType, uint32_t AId,
-               std::u16string_view AText) noexcept override;
+    bool Write(uintptr_t ASource, TEventType AType, uint32_t AId, std::u16string_view AText,
+               int32_t ALocalOffset) noexcept override;
 
 private:
     std::string FJournal;

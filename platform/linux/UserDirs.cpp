@@ -13,22 +13,21 @@
 
 namespace qz::platform::detail {
 
-namespace {
-
 std::string WithoutSlash(std::string APath) {
     while (APath.size() > 1 && APath.back() == '/')
         APath.pop_back();
     return APath;
 }
 
-// A name below a home, which may be the root itself; nothing below none.
-std::string Below(std::string AHome, std::string_view AName) {
-    if (AHome.empty())
-        return AHome;
-    if (AHome != "/")
-        AHome += '/';
-    return AHome.append(AName);
+std::string Below(std::string AFolder, std::string_view AName) {
+    if (AFolder.empty() || AName.empty())
+        return AFolder;
+    if (AFolder != "/")
+        AFolder += '/';
+    return AFolder.append(AName);
 }
+
+namespace {
 
 bool IsWhole(std::string_view APath) {
     return APath.starts_with('/') && APath.find('\0') == std::string_view::npos;
@@ -109,10 +108,10 @@ std::optional<std::string> ParseUserDirectory(std::string_view AText, std::strin
 
 std::string UserDirectory(std::string_view AKey, std::string_view ADefault) {
     const std::string Home = HomeDirectory();
-    const std::string File = BaseDirectory("XDG_CONFIG_HOME", ".config") + "/user-dirs.dirs";
+    const std::string File = Below(BaseDirectory("XDG_CONFIG_HOME", ".config"), "user-dirs.dirs");
     std::vector<std::byte> Bytes;
     TError Error;
-    if (ReadWholeFile(FromNative(File), Bytes, Error)) {
+    if (!File.empty() && ReadWholeFile(FromNative(File), Bytes, Error)) {
         const std::string_view Text(reinterpret_cast<const char*>(Bytes.data()), Bytes.size());
         if (std::optional<std::string> Chosen = ParseUserDirectory(Text, AKey, Home))
             return *std::move(Chosen);

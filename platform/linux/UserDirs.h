@@ -7,6 +7,12 @@
 
 namespace qz::platform::detail {
 
+// A path without separators at its end, unless it is the root.
+std::string WithoutSlash(std::string APath);
+
+// A name below a folder, which may be the root itself; nothing below none.
+std::string Below(std::string AFolder, std::string_view AName);
+
 // The user's home: $HOME, or what the database of users tells; empty if neither gives a whole path.
 std::string HomeDirectory();
 

@@ -24,4 +24,16 @@ TUserRecord UserRecord(uid_t AId) {
     return {Found->pw_name, Found->pw_dir};
 }
 
+std::u16string TakeDomain(std::u16string& AName) {
+    std::u16string Domain;
+    if (const size_t Slash = AName.find(u'\\'); Slash != std::u16string::npos) {
+        Domain = AName.substr(0, Slash);
+        AName.erase(0, Slash + 1);
+    } else if (const size_t At = AName.rfind(u'@'); At != std::u16string::npos) {
+        Domain = AName.substr(At + 1);
+        AName.resize(At);
+    }
+    return Domain;
+}
+
 } // namespace qz::platform::detail

@@ -48,8 +48,8 @@ public:
     void EnterSource(std::u16string_view AName, std::u16string_view AProgram) noexcept override;
     uintptr_t OpenSource(std::u16string_view AName) noexcept override;
     void CloseSource(uintptr_t ASource) noexcept override;
-    bool Write(uintptr_t ASource, TEventType AType, uint32_t AId,
-               std::u16string_view AText) noexcept override;
+    bool Write(uintptr_t ASource, TEventType AType, uint32_t AId, std::u16string_view AText,
+               int32_t ALocalOffset) noexcept override;
 };
 
 void TWindowsLog::EnterSource(std::u16string_view AName, std::u16string_view AProgram) noexcept {
@@ -59,7 +59,7 @@ void TWindowsLog::EnterSource(std::u16string_view AName, std::u16string_view APr
         TKey Key;
         DWORD Outcome = 0;
         // An empty name would be the log itself.
-        if (!AName.empty() &&
+        if (!AName.empty() && AName.find(u'\\') == std::u16string_view::npos &&
             RegCreateKeyExW(HKEY_LOCAL_MACHINE, detail::Wide(Path), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
                             &Key.Handle, &Outcome) == ERROR_SUCCESS &&
             Outcome == REG_CREATED_NEW_KEY)
@@ -83,8 +83,8 @@ void TWindowsLog::CloseSource(uintptr_t ASource) noexcept {
         DeregisterEventSource(reinterpret_cast<HANDLE>(ASource));
 }
 
-bool TWindowsLog::Write(uintptr_t ASource, TEventType AType, uint32_t AId,
-                        std::u16string_view AText) noexcept {
+bool TWindowsLog::Write(uintptr_t ASource, TEventType AType, uint32_t AId, std::u16string_view AText,
+                        int32_t) noexcept {
     if (ASource == 0)
         return false;
     try {

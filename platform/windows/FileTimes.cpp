@@ -31,11 +31,19 @@ FILETIME NativeTime(int64_t ATime) {
             .dwHighDateTime = static_cast<DWORD>(ATime >> 32)};
 }
 
+// The search would take the first file that fits. The prefix of a long path is none.
+bool IsPattern(std::u16string_view APath) noexcept {
+    constexpr std::u16string_view cPrefix = u"\\\\?\\";
+    if (APath.starts_with(cPrefix))
+        APath.remove_prefix(cPrefix.size());
+    return APath.find_first_of(u"*?<>\"") != std::u16string_view::npos;
+}
+
 } // namespace
 
 bool ReadFileTimes(std::u16string_view APath, TFileTimes& ATimes, TError& AError) {
     const std::optional<std::u16string> Path = detail::SystemPath(APath);
-    if (!Path)
+    if (!Path || IsPattern(APath))
         return Fail(AError, ERROR_INVALID_NAME);
     WIN32_FIND_DATAW Data;
     HANDLE Search = FindFirstFileW(detail::Wide(*Path), &Data);
@@ -69,13 +77,12 @@ bool CheckFileTime(int64_t ATime, TError& AError) noexcept {
     return ATime >= 0;
 }
 
-bool ToLocalFileTime(int64_t ATime, int64_t& ALocal, TError& AError) {
+std::optional<int64_t> LocalFileTime(int64_t ATime) noexcept {
     const FILETIME Time = NativeTime(ATime);
     FILETIME Local;
-    if (!CheckFileTime(ATime, AError) || !Outcome(AError, FileTimeToLocalFileTime(&Time, &Local) != 0))
-        return false;
-    ALocal = StepsOf(Local);
-    return true;
+    if (ATime < 0 || FileTimeToLocalFileTime(&Time, &Local) == 0)
+        return std::nullopt;
+    return StepsOf(Local);
 }
 
 } // namespace qz::platform

@@ -2,18 +2,23 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <thread>
+
 #include "common/uQzLogLayouts/SimpleLayout.h"
+#include "common/uQzLogger/LogDrops.h"
 #include "platform/EventLog.h"
 #include "runtime/files/FileNames.h"
 #include "runtime/files/FileSystem.h"
 #include "runtime/text/Format.h"
+#include "runtime/values/VariantArray.h"
+#include "tests/support/LogConfiguration.h"
 #include "tests/support/MemoryAppender.h"
-#include "tests/support/Message.h"
 
 namespace qz {
 namespace {
 
-// A log that writes down what it is asked for.
+// A log that writes down what it is asked for, by one call at a time.
 class TRecorder final : public platform::IEventLog {
 public:
     void EnterSource(std::u16string_view AName, std::u16string_view AProgram) noexcept override {
@@ -21,23 +26,41 @@ public:
         EXPECT_EQ(ProgramFileName(), AProgram);
     }
     std::uintptr_t OpenSource(std::u16string_view AName) noexcept override {
+        const TCall Call(*this);
         Trace += Format(u"open(%s) ", {AName});
         return Refuses ? 0 : ++Sources;
     }
     void CloseSource(std::uintptr_t ASource) noexcept override {
+        const TCall Call(*this);
         if (ASource != 0)
             Trace += Format(u"close(%d) ", {static_cast<int>(ASource)});
     }
     bool Write(std::uintptr_t ASource, platform::TEventType AType, std::uint32_t AId,
-               std::u16string_view AText) noexcept override {
+               std::u16string_view AText, std::int32_t) noexcept override {
+        const TCall Call(*this);
         Trace += Format(u"%d:%d,%d,%s ", {static_cast<int>(ASource), static_cast<int>(AType), AId, AText});
-        return false;
+        return !Loses;
     }
     UnicodeString Take() { return std::exchange(Trace, {}); }
 
     UnicodeString Trace;
     std::uintptr_t Sources = 0;
     bool Refuses = false;
+    bool Loses = false;
+    std::atomic<int> Calls{0};
+    std::atomic<int> Overlaps{0};
+
+private:
+    struct TCall {
+        explicit TCall(TRecorder& ALog) : Log(ALog) {
+            Log.Overlaps += Log.Calls++;
+            std::this_thread::yield();
+        }
+        TCall(const TCall&) = delete;
+        TCall& operator=(const TCall&) = delete;
+        ~TCall() { --Log.Calls; }
+        TRecorder& Log;
+    };
 };
 
 TRecorder* GRecorder = nullptr;
@@ -73,32 +96,6 @@ protected:
 };
 
 const TClassRec TBareLayout::ClassRec = DescribeLogBase<TBareLayout>(u"TBareLayout", {.Unit = u"Tests"});
-
-class TServiceName : public TInterfacedObject, public IQzLogConfigurator {
-    QZ_CLASS(TServiceName, TInterfacedObject)
-    QZ_INTERFACE_COUNTING(TInterfacedObject)
-
-public:
-    Variant GetLoggerValue(const UnicodeString&, const UnicodeString&, TQzMainTypeKind,
-                           const Variant& ADefault) override {
-        return ADefault;
-    }
-    Variant GetAppenderValue(const UnicodeString& AAppender, const UnicodeString& AKey, TQzMainTypeKind AKind,
-                             const Variant& ADefault) override {
-        EXPECT_EQ(mtkString, AKind);
-        Asked += AAppender + u'.' + AKey + u' ';
-        return AKey == u"ServiceName" ? Variant(Answer) : ADefault;
-    }
-
-    UnicodeString Answer;
-    UnicodeString Asked;
-
-protected:
-    TServiceName() = default;
-};
-
-const TClassRec TServiceName::ClassRec = DescribeClass<TServiceName>(
-    u"TServiceName", {.Unit = u"Tests", .Interfaces = Interfaces<TServiceName, IQzLogConfigurator>()});
 
 class EventLogAppender : public testing::Test {
 protected:
@@ -136,22 +133,86 @@ TEST_F(EventLogAppender, ConfiguredNameBecomesTheSource) {
     Ref<TRecordedAppender> Appender = Make();
     Appender->SetLayout(TQzLogBaseClass::Of<TBareLayout>());
     Log.Take();
-    const Ref<TServiceName> Names(TServiceName::Create());
-    Names->Answer = u"Backup";
+    const Ref<TConfiguration> Config(TConfiguration::Create());
     Appender->SetConfig(nullptr);
-    Appender->SetConfig(Names.Get());
-    EXPECT_EQ(u"events.Layout events.ServiceName ", Names->Asked);
-    EXPECT_EQ(u"Backup", Appender->GetName());
-    Write(*Appender, llWarn);
-    EXPECT_EQ(u"open(Backup) close(1) 2:2,3,m ", Log.Take());
-    Names->Answer = u"no identifier";
-    EXPECT_THROW(Appender->SetConfig(Names.Get()), EComponentError);
-    Names->Answer = u"";
-    Appender->SetConfig(Names.Get());
-    EXPECT_EQ(u"", Appender->GetName());
-    Write(*Appender, llWarn);
+    struct TCase {
+        const char16_t* Answer;
+        const char16_t* Name;
+        const char16_t* Trace;
+    };
+    for (const TCase& Case : {TCase{u"Backup", u"Backup", u"open(Backup) close(1) 2:2,3,m "},
+                              {u"my-backup", u"Backup", u"open(my-backup) close(2) 3:2,3,m "},
+                              {u"", u"", u"3:2,3,m "}}) {
+        Config->Answers[u"events/ServiceName"] = UnicodeString(Case.Answer);
+        Appender->SetConfig(Config.Get());
+        Write(*Appender, llWarn);
+        EXPECT_EQ(Case.Trace, Log.Take());
+        EXPECT_EQ(Case.Name, Appender->GetName());
+        EXPECT_EQ(u"events", Appender->ConfiguredName());
+    }
+    EXPECT_TRUE(Config->Asked.View().starts_with(u"events/Layout:3 events/ServiceName:3 "));
     Appender = {};
-    EXPECT_EQ(u"2:2,3,m close(2) ", Log.Take());
+    EXPECT_EQ(u"close(3) ", Log.Take());
+}
+
+TEST_F(EventLogAppender, ConfiguringAgainMakesNoOther) {
+    const TLogTree Tree;
+    RegisteredAppenders().Add(TQzLogBaseClass::Of<TRecordedAppender>());
+    const Ref<TConfiguration> Config(TConfiguration::Create());
+    Config->Answers = {{u"root/Level", 0},
+                       {u"root/Appenders", VarArrayOf({u"events", u"2nd"})},
+                       {u"events/class", u"TRecordedAppender"},
+                       {u"2nd/class", u"TRecordedAppender"},
+                       {u"events/ServiceName", u"Backup"}};
+    for (int Round = 0; Round < 3; ++Round) {
+        Logger().SetConfig(Config.Get());
+        EXPECT_EQ(2, AppenderInstances().Count());
+    }
+    EXPECT_EQ(u"Backup", AppenderInstances().Find(u"events")->GetName());
+    EXPECT_EQ(nullptr, AppenderInstances().Find(u"Backup"));
+}
+
+// The log takes one call at a time, and names may be asked for meanwhile.
+TEST_F(EventLogAppender, ThreadsTakeTurns) {
+    const Ref<TRecordedAppender> Appender = Make();
+    Appender->SetLayout(TQzLogBaseClass::Of<TBareLayout>());
+    const Ref<TConfiguration> Config(TConfiguration::Create());
+    Config->Answers[u"events/ServiceName"] = u"Backup";
+    std::atomic<bool> Stop{false};
+    std::vector<std::thread> Threads;
+    for (int I = 0; I < 2; ++I)
+        Threads.emplace_back([&] {
+            while (!Stop)
+                Write(*Appender, llInfo);
+        });
+    Threads.emplace_back([&] {
+        while (!Stop)
+            Appender->RegisterLogger(u"other");
+    });
+    for (int Round = 0; Round < 300; ++Round) {
+        Config->Answers[u"events/ServiceName"] = Round % 2 == 0 ? u"Even" : u"Odd";
+        std::thread Asks([&] {
+            EXPECT_NE(nullptr, AppenderInstances().Find(u"events"));
+            EXPECT_FALSE(Appender->GetName().IsEmpty());
+        });
+        Appender->SetConfig(Config.Get());
+        Asks.join();
+    }
+    Stop = true;
+    for (std::thread& Thread : Threads)
+        Thread.join();
+    EXPECT_EQ(0, Log.Overlaps);
+}
+
+TEST_F(EventLogAppender, LostEventsAreCounted) {
+    const Ref<TRecordedAppender> Appender = Make();
+    Appender->SetLayout(TQzLogBaseClass::Of<TBareLayout>());
+    const std::uint64_t Before = QzDroppedLogMessages();
+    Write(*Appender, llInfo);
+    EXPECT_EQ(Before, QzDroppedLogMessages());
+    Log.Loses = true;
+    Write(*Appender, llInfo);
+    EXPECT_EQ(Before + 1, QzDroppedLogMessages());
 }
 
 TEST_F(EventLogAppender, SourceIsEnteredWithFullRightsOnly) {
@@ -168,12 +229,12 @@ TEST_F(EventLogAppender, SourceIsEnteredWithFullRightsOnly) {
     EXPECT_EQ(u"enter(" + Program + u") open(" + Program + u") ", Log.Take());
 }
 
-TEST_F(EventLogAppender, IsMadeByItsNameAndWritesToTheSystem) {
-    const Ref<IQzLogBase> Made =
-        MakeLogBase(RegisteredAppenders().GetClass(u"TQzEventLogAppender"), nullptr, u"events");
-    const auto Appender = As<IQzLogAppenderEx>(Made);
-    Appender->SetLayout(QzSimpleLayout);
-    EXPECT_EQ(u"", Message([&] { Appender->Write(u"", u"root", llInfo, u"a test", nullptr, liIndentNone); }));
+TEST_F(EventLogAppender, IsMadeByItsNameForTheProgram) {
+    EXPECT_NE(nullptr, MakeLogBase(RegisteredAppenders().GetClass(QzEventLogAppender), nullptr, u"events"));
+    const std::pair<const char16_t*, const char16_t*> Programs[] = {
+        {u"/opt/a.b.exe", u"a.b"}, {u"/opt/.svc", u".svc"}, {u"tool", u"tool"}};
+    for (const auto& [Path, Source] : Programs)
+        EXPECT_EQ(Source, detail::EventSourceOf(Path));
 }
 
 } // namespace

@@ -20,12 +20,25 @@ TEST(LogData, TellsOfTheMachine) {
     for (const UnicodeString& Text : {Data->FActiveForm, Data->FActiveControl, Data->FResolution})
         EXPECT_EQ(u"n.a.", Text);
     EXPECT_EQ(u"", Data->FSource + Data->FExtendedInfo + Data->FHelpText);
-    const std::map<int, UnicodeString> Systems = {{601, u"Vista"}, {611, u"Windows 7"}, {621, u"Windows 8"}};
-    const auto System = Systems.find(QzGetWindowsVersion());
-    EXPECT_EQ(System != Systems.end() ? System->second : u"Unidentified OS", Data->FOS);
+    EXPECT_EQ(detail::SystemNameOf(QzGetWindowsVersion()), Data->FOS);
     const auto Version = static_cast<std::string>(Data->FVersion);
     EXPECT_TRUE(std::regex_match(Version, std::regex("[1-9]\\d*\\.\\d+; Build: [0-9A-F]+, \".*\"")))
         << Version;
+}
+
+TEST(LogData, SystemsHaveNames) {
+    const std::map<int, std::u16string_view> Names = {
+        {1, u"Win 3.1"},        {3, u"Windows 95"},      {5, u"Windows 95 OSR2"},
+        {7, u"Windows 98"},     {9, u"Windows 98 SE"},   {11, u"Windows Milennium"},
+        {12, u"Windows NT"},    {14, u"Windows NT 3.0"}, {16, u"Windows NT 4.0"},
+        {500, u"Windows 2000"}, {511, u"Windows XP"},    {520, u"Windows Server 2003"},
+        {601, u"Vista"},        {611, u"Windows 7"},     {621, u"Windows 8"}};
+    for (int Version = 0; Version <= 0xFFFF; ++Version) {
+        const auto Name = Names.find(Version);
+        ASSERT_EQ(Name != Names.end() ? Name->second : u"Unidentified OS",
+                  detail::SystemNameOf(static_cast<std::uint16_t>(Version)))
+            << Version;
+    }
 }
 
 } // namespace

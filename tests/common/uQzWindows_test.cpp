@@ -104,6 +104,9 @@ TEST(ShellFolders, AreThereAndUnknownOnesAreRefused) {
     } Home{Directory / u"home"};
     platform::TVariables Variables;
     Variables.Set(u"HOME", Home.Path.u16string());
+    for (const char16_t* Name :
+         {u"XDG_CONFIG_HOME", u"XDG_DATA_HOME", u"XDG_CACHE_HOME", u"XDG_STATE_HOME", u"STATE_DIRECTORY"})
+        Variables.Set(Name, Home.Path.u16string());
     for (const int Number : {5, 26, 28, 35, 40, 46})
         EXPECT_TRUE(platform::DirectoryExists(QzGetShellFolder(Number))) << Number;
     EXPECT_EQ(QzGetShellFolder(5), QzGetMyDocumentsFolder());
@@ -143,6 +146,8 @@ TEST(FileTimes, OfFilesAreLocalOnEvenSeconds) {
     }
     EXPECT_EQ(0.0, QzGetFileCreated(Directory.Path()));
     EXPECT_EQ(0.0, QzGetFileLastModified(Directory / u"none"));
+    EXPECT_EQ(0.0, QzGetFileLastModified(Directory / u"fil*"));
+    EXPECT_EQ(0.0, QzGetFileLastModified(Directory / u"?ile"));
 }
 
 TEST(FileTimes, CreationIsSetInUtc) {

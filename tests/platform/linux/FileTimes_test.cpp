@@ -1,8 +1,9 @@
 #include "platform/FileTimes.h"
 
 #include <cerrno>
-#include <cstdlib>
+#include <limits>
 
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -12,14 +13,11 @@
 #include "../TemporaryDirectory.h"
 #include "platform/Clock.h"
 #include "platform/linux/NativeText.h"
-#include "tests/support/Variables.h"
 
 namespace qz::platform {
 namespace {
 
-constexpr int64_t cHour = 36'000'000'000;
-constexpr int64_t cSummer = 133'642'656'000'000'000;    // 2024-07-01 00:00:00 UTC
-constexpr int64_t cWinter = cSummer - 182 * 24 * cHour; // 2024-01-01 00:00:00 UTC
+constexpr int64_t cSummer = 133'642'656'000'000'000; // 2024-07-01 00:00:00 UTC
 constexpr const char* cAttribute = "user.qzcommon.created";
 
 int64_t CreatedOf(std::u16string_view APath) {
@@ -106,32 +104,43 @@ TEST(FileTimesLinux, RefusalsAreTold) {
     EXPECT_EQ(ENOENT, Error.Code);
 }
 
-TEST(FileTimesLinux, LocalTimeIsThatOfTheMoment) {
-    TVariables Variables;
-    struct TCase {
-        const char16_t* Zone;
-        int64_t Time;
-        int64_t Offset;
-    };
-    constexpr const char16_t* cParis = u"CET-1CEST,M3.5.0,M10.5.0/3";
-    const int64_t ToSummer = cWinter + 90 * 24 * cHour + cHour; // 2024-03-31 01:00 UTC
-    for (const TCase& Case : {TCase{u"UTC0", cSummer, 0},
-                              {cParis, cSummer, 2 * cHour},
-                              {cParis, cWinter, cHour},
-                              {cParis, ToSummer - 1, cHour},
-                              {cParis, ToSummer, 2 * cHour},
-                              {u"NST3:30", cSummer + 123, -(3 * cHour + cHour / 2)},
-                              {u"UTC0", 5, 0}}) {
-        Variables.Set(u"TZ", Case.Zone);
-        int64_t Local = 0;
-        TError Error;
-        ASSERT_TRUE(ToLocalFileTime(Case.Time, Local, Error));
-        EXPECT_EQ(Case.Offset, Local - Case.Time);
+// It could not be read back.
+TEST(FileTimesLinux, TimeThatNobodyCouldReadIsRefused) {
+    const TTemporaryDirectory Directory;
+    const std::u16string File = Directory / u"file";
+    const std::string Name = detail::ToNative(File);
+    Make(File);
+    const bool IsRoot = geteuid() == 0; // who may do all
+    if (IsRoot) {
+        ASSERT_EQ(0, chown(Name.c_str(), 65534, 65534));
+        ASSERT_EQ(0, seteuid(65534));
     }
-    int64_t Local = 0;
     TError Error;
-    EXPECT_FALSE(ToLocalFileTime(-1, Local, Error));
-    EXPECT_EQ(EINVAL, Error.Code);
+    for (const mode_t Mode : {0200U, 0400U}) {
+        EXPECT_EQ(0, chmod(Name.c_str(), Mode));
+        EXPECT_FALSE(SetFileCreated(File, cSummer, Error));
+        EXPECT_EQ(EACCES, Error.Code);
+    }
+    if (IsRoot) {
+        ASSERT_EQ(0, seteuid(0));
+    }
+    EXPECT_EQ("", AttributeOf(Name));
+}
+
+TEST(FileTimesLinux, TimesBeyondAllDatesAreTheNearest) {
+    const int File = memfd_create("qz-test", MFD_CLOEXEC); // its file system keeps any
+    ASSERT_GE(File, 0);
+    const std::string Name = "/proc/self/fd/" + std::to_string(File);
+    for (const int64_t Seconds : {std::numeric_limits<int64_t>::max(), std::numeric_limits<int64_t>::min()}) {
+        const timespec Set[] = {{Seconds, 0}, {Seconds, 0}};
+        ASSERT_EQ(0, futimens(File, Set));
+        TFileTimes Times{};
+        TError Error;
+        ASSERT_TRUE(ReadFileTimes(detail::FromNative(Name), Times, Error));
+        EXPECT_EQ(Seconds > 0, Times.LastWrite > 9'000'000'000'000'000'000) << Times.LastWrite;
+        EXPECT_EQ(Seconds < 0, Times.LastWrite < -9'000'000'000'000'000'000) << Times.LastWrite;
+    }
+    close(File);
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 
 #include "../TemporaryDirectory.h"
 #include "platform/linux/NativeText.h"
+#include "platform/linux/SharedPlaces.h"
 #include "platform/linux/UserDirs.h"
 #include "platform/linux/UserRecord.h"
 #include "tests/support/Variables.h"
@@ -72,9 +73,9 @@ protected:
 
 TEST_F(ShellFoldersLinux, FoldersOfTheUserAreMadeForHimAlone) {
     const std::map<int, std::u16string> Cases = {
-        {5, u"/Documents"}, {12, u"/Documents"},    {0, u"/Desktop"},          {16, u"/Desktop"},
-        {39, u"/Pictures"}, {26, u"/.config"},      {28, u"/.local/share"},    {32, u"/.cache"},
-        {40, u""},          {34, u"/.local/state"}, {7, u"/.config/autostart"}};
+        {5, u"/Documents"}, {12, u"/Documents"},    {0, u"/Desktop"},           {16, u"/Desktop"},
+        {39, u"/Pictures"}, {26, u"/.config"},      {28, u"/.local/share"},     {32, u"/.cache"},
+        {40, u""},          {34, u"/.local/state"}, {7, u"/.config/autostart"}, {9, u"/.local/share/sendto"}};
     for (const auto& [Number, Path] : Cases) {
         EXPECT_EQ(Home() + Path, Folder(Number)) << Number;
         EXPECT_EQ(0700u, ModeOf(Home() + Path)) << Number;
@@ -91,21 +92,55 @@ TEST_F(ShellFoldersLinux, FoldersOfTheUserAreMadeForHimAlone) {
 }
 
 TEST_F(ShellFoldersLinux, SharedFoldersLieWhereTheProcessMayWrite) {
-    const bool IsRoot = geteuid() == 0;
-    EXPECT_EQ(IsRoot ? u"/var/lib" : Home() + u"/.local/state", Folder(46));
-    Variables.Set(u"STATE_DIRECTORY", Directory.Path() + u":/elsewhere");
+    struct TCase {
+        int Number;
+        const char* Shared;
+        const char* Own;
+    };
+    const std::string Base = detail::ToNative(Directory.Path());
+    const detail::TSharedPlaces Places{Base + "/s", Base + "/d", Base + "/c"};
+    for (const bool AreThere : {false, true}) {
+        for (const TCase& Case : {TCase{46, "/s", "/.local/state"},
+                                  {53, "/s/Music", "/.local/state/Music"},
+                                  {22, "/d/applications", "/.local/share/applications"},
+                                  {23, "/d/applications", "/.local/share/applications"},
+                                  {24, "/c/autostart", "/.config/autostart"}}) {
+            std::string Path;
+            ASSERT_TRUE(detail::FindFolder(Case.Number, Places, Path));
+            EXPECT_EQ(AreThere ? Base + Case.Shared : Base + "/home" + Case.Own, Path);
+            EXPECT_EQ(AreThere ? 0755u : 0700u, ModeOf(detail::FromNative(Path))) << Path;
+        }
+        for (const std::string& Place : {Places.State, Places.Data, Places.Config})
+            std::filesystem::create_directory(Place);
+    }
+    for (const char* Place : {"/s", "/d", "/c"})
+        std::filesystem::remove_all(Base + Place);
+    Variables.Set(u"STATE_DIRECTORY", Directory.Path() + u"/:/elsewhere");
     EXPECT_EQ(Directory.Path(), Folder(35));
-    EXPECT_EQ(Home() + u"/Music", [&] {
-        Variables.Set(u"STATE_DIRECTORY", Home());
-        return Folder(40) == Home() ? Folder(53) : u"";
-    }());
+    EXPECT_EQ(Directory.Path() + u"/Music", Folder(53));
+    std::filesystem::remove_all(Base + "/Music");
     Variables.Set(u"STATE_DIRECTORY", u"/nowhere");
-    EXPECT_NE(u"/nowhere", Folder(46));
+    std::string Path;
+    EXPECT_TRUE(detail::FindFolder(46, Places, Path));
+    EXPECT_EQ(Base + "/home/.local/state", Path);
+}
+
+TEST_F(ShellFoldersLinux, FoldersOfTheSystemAreToldAsTheyAre) {
+    const std::map<int, std::u16string> Cases = {
+        {20, u"/usr/share/fonts"}, {36, u"/"},    {37, u"/usr/lib"}, {38, u"/opt"},
+        {41, u"/usr/lib"},         {42, u"/opt"}, {43, u"/opt"},     {44, u"/opt"},
+        {56, u"/usr/share"}};
+    for (const auto& [Number, Path] : Cases)
+        EXPECT_EQ(Path, Folder(Number)) << Number;
+    Variables.Set(u"XDG_DATA_HOME", u"/");
+    EXPECT_EQ("/x", detail::Below(detail::BaseDirectory("XDG_DATA_HOME", "d"), "x"));
 }
 
 TEST_F(ShellFoldersLinux, WhatCannotBeHadIsRefused) {
     for (const int Number : {-1, 1, 3, 4, 10, 17, 18, 49, 60, 1000})
         EXPECT_EQ(u"?", Folder(Number)) << Number;
+    EXPECT_EQ(u"?", Folder(40));
+    EXPECT_FALSE(DirectoryExists(Home()));
     TError Error;
     const std::u16string Blocked = Directory / u"file";
     ASSERT_TRUE(WriteWholeFile(Blocked, std::span<const std::byte>(), Error));
@@ -121,6 +156,22 @@ TEST_F(ShellFoldersLinux, DatabaseOfUsersKnowsTheHome) {
         EXPECT_EQ(Known, detail::HomeDirectory());
     }
     EXPECT_EQ("", detail::UserRecord(3'999'999'999).Home);
+}
+
+TEST(UserRecordLinux, DomainsAreTakenOutOfNames) {
+    struct TCase {
+        std::u16string Whole;
+        const char16_t* Name;
+        const char16_t* Domain;
+    };
+    for (const TCase& Case : {TCase{u"SALES\\ann", u"ann", u"SALES"},
+                              {u"SALES\\ann@x", u"ann@x", u"SALES"},
+                              {u"ann@b@sales.local", u"ann@b", u"sales.local"},
+                              {u"ann", u"ann", u""}}) {
+        std::u16string Name = Case.Whole;
+        EXPECT_EQ(Case.Domain, detail::TakeDomain(Name));
+        EXPECT_EQ(Case.Name, Name);
+    }
 }
 
 } // namespace

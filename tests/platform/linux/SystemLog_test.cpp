@@ -2,9 +2,12 @@
 
 #include <array>
 #include <cstring>
+#include <ctime>
 #include <regex>
+#include <set>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -99,7 +102,7 @@ protected:
 
     std::string Path(std::u16string_view AName) const { return detail::ToNative(Directory / AName); }
     bool Write(std::u16string_view AText, TEventType AType = TEventType::Information) {
-        return Log.Write(Source, AType, 2, AText);
+        return Log.Write(Source, AType, 2, AText, 0);
     }
 
     const TTemporaryDirectory Directory;
@@ -173,6 +176,54 @@ TEST_F(SystemLogLinux, DaemonsComeAndGo) {
     EXPECT_NE("-", Syslog.Take());
 }
 
+// A program that becomes a daemon closes all, and opens descriptors of its own.
+TEST_F(SystemLogLinux, DescriptorsOfTheProgramAreLeftAlone) {
+    for (const int Type : {SOCK_DGRAM, SOCK_STREAM}) {
+        TDaemon Daemon(Path(u"syslog"), Type);
+        const auto Take = [&] { return Type == SOCK_DGRAM ? Daemon.Take() : Daemon.TakeStream(); };
+        std::array<int, 2> Own{};
+        ASSERT_EQ(0, socketpair(AF_UNIX, Type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, Own.data()));
+        const uintptr_t Other = Log.OpenSource(u"other");
+        const auto Write = [&](std::u16string_view AText) {
+            return Log.Write(Other, TEventType::Error, 2, AText, 0);
+        };
+        std::array<int, 4> Free{}; // the numbers that it will open
+        for (int& Number : Free)
+            Number = dup(0);
+        for (const int Number : Free)
+            close(Number);
+        EXPECT_TRUE(Write(u"first"));
+        EXPECT_NE(std::string::npos, Take().find("first"));
+        for (const int Number : Free)
+            ASSERT_EQ(Number, dup2(Own[0], Number));
+        EXPECT_TRUE(Write(u"second"));
+        if (Type == SOCK_DGRAM) {
+            EXPECT_NE(std::string::npos, Daemon.Take().find("second"));
+        }
+        for (const int Number : Free)
+            ASSERT_EQ(Number, dup2(Own[0], Number));
+        Log.CloseSource(Other);
+        char Byte = 0;
+        EXPECT_EQ(-1, recv(Own[1], &Byte, 1, 0));
+        for (const int Number : Free)
+            EXPECT_EQ(0, close(Number));
+        close(Own[0]);
+        close(Own[1]);
+    }
+}
+
+TEST_F(SystemLogLinux, LimitOfFilesIsNoEnd) {
+    TDaemon Journal(Path(u"journal"), SOCK_DGRAM);
+    rlimit Old{};
+    ASSERT_EQ(0, getrlimit(RLIMIT_FSIZE, &Old));
+    const rlimit None{0, Old.rlim_max};
+    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &None));
+    const bool IsTaken = Write(std::u16string(9 << 20, u'x'));
+    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &Old));
+    EXPECT_FALSE(IsTaken);
+    EXPECT_TRUE(Write(u"y"));
+}
+
 TEST_F(SystemLogLinux, FullQueueDoesNotHoldTheWriterUp) {
     TDaemon Journal(Path(u"journal"), SOCK_DGRAM);
     int Count = 0;
@@ -199,6 +250,15 @@ TEST_F(SystemLogLinux, SyslogGetsLinesWithHeaders) {
     };
     EXPECT_TRUE(Write(u"full", TEventType::Error));
     EXPECT_TRUE(std::regex_match(Syslog.Take(), Line("11", "full")));
+    const time_t Now = time(nullptr);
+    EXPECT_TRUE(Log.Write(Source, TEventType::Error, 2, u"x", 3600));
+    std::set<std::string> Hours; // it may strike at this moment
+    for (const time_t Time : {Now, time(nullptr)}) {
+        char Text[16];
+        std::snprintf(Text, sizeof Text, " %02d:", static_cast<int>((Time / 3600 + 1) % 24));
+        Hours.insert(Text);
+    }
+    EXPECT_EQ(1u, Hours.count(Syslog.Take().substr(10, 4)));
     EXPECT_TRUE(Write(u"a\nb\0\tc\xDC00\x7F"s));
     const std::string Escaped = Syslog.Take();
     EXPECT_TRUE(std::regex_match(Escaped, Line("14", "a#012b#000\tc\xEF\xBF\xBD#177"))) << Escaped;

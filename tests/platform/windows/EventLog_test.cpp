@@ -84,16 +84,19 @@ TEST(EventLogWindows, SourceIsEnteredOnce) {
     SystemEventLog().EnterSource(Name, u"C:\\second.exe");
     EXPECT_EQ(u"C:\\first.exe", Entry.Text(u"EventMessageFile"));
     EXPECT_EQ(7u, Entry.Number(u"TypesSupported"));
+    const TRegisteredSource Nested(Name + u"\\below");
+    SystemEventLog().EnterSource(Name + u"\\below", u"C:\\first.exe");
+    EXPECT_EQ(u"-", Nested.Text(u"EventMessageFile"));
 }
 
 TEST(EventLogWindows, EventsAreTaken) {
     IEventLog& Log = SystemEventLog();
     const uintptr_t Source = Log.OpenSource(u"qz-test");
     ASSERT_NE(0u, Source);
-    EXPECT_TRUE(Log.Write(Source, TEventType::Information, 2, u"an event of a test"));
-    EXPECT_TRUE(Log.Write(Source, TEventType::Error, 4, std::u16string(70'000, u'x')));
+    EXPECT_TRUE(Log.Write(Source, TEventType::Information, 2, u"an event of a test", 0));
+    EXPECT_TRUE(Log.Write(Source, TEventType::Error, 4, std::u16string(70'000, u'x'), 0));
     Log.CloseSource(Source);
-    EXPECT_FALSE(Log.Write(0, TEventType::Error, 4, u"x"));
+    EXPECT_FALSE(Log.Write(0, TEventType::Error, 4, u"x", 0));
 }
 
 } // namespace
