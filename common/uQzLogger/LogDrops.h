@@ -28,7 +28,8 @@ using TQzLogDropHook = std::function<void(const TQzLogDrop& ADrop)>;
 // past the appender that raised. What it raises is dropped. Any thread; a call of the old hook may still be on its way.
 QZ_API void QzSetLogDropHook(TQzLogDropHook AHook);
 
-// The number of messages so far whose way ended with an exception. Any thread.
+// The number of messages so far that were lost: whose way ended with an exception, that waited in vain for a full disk, or that
+// the log of the system did not take. Any thread.
 QZ_API std::uint64_t QzDroppedLogMessages() noexcept;
 
 namespace detail {

@@ -21,23 +21,4 @@ int64_t UtcNowSeconds() noexcept {
     return time(nullptr) + cUnixEpochSeconds;
 }
 
-TLocalTime LocalNow() noexcept {
-    timespec Now;
-    clock_gettime(CLOCK_REALTIME, &Now);
-    tm Parts{};
-    localtime_r(&Now.tv_sec, &Parts);
-    return {
-        .Year = static_cast<uint16_t>(Parts.tm_year + 1900),
-        .Month = static_cast<uint8_t>(Parts.tm_mon + 1),
-        .Day = static_cast<uint8_t>(Parts.tm_mday),
-        .Hour = static_cast<uint8_t>(Parts.tm_hour),
-        .Minute = static_cast<uint8_t>(Parts.tm_min),
-        // Time zone files that count leap seconds can give 60.
-        .Second = static_cast<uint8_t>(Parts.tm_sec > 59 ? 59 : Parts.tm_sec),
-        .DayOfWeek = static_cast<uint8_t>(Parts.tm_wday),
-        .Millisecond = static_cast<uint16_t>(Now.tv_nsec / 1'000'000),
-        .OffsetMinutes = static_cast<int16_t>(Parts.tm_gmtoff / 60),
-    };
-}
-
 } // namespace qz::platform

@@ -25,19 +25,5 @@ TEST(Clock, UtcNowIsNow) {
     EXPECT_LE(Now, After + cTolerance);
 }
 
-TEST(Clock, LocalNowAgreesWithUtc) {
-    using namespace std::chrono;
-    const int64_t Before = UtcNow100ns();
-    const TLocalTime Local = LocalNow();
-    const int64_t After = UtcNow100ns();
-    const year_month_day Date = year{Local.Year} / Local.Month / Local.Day;
-    ASSERT_TRUE(Date.ok());
-    EXPECT_EQ(weekday{sys_days{Date}}.c_encoding(), Local.DayOfWeek);
-    const auto Time = sys_days{Date} + hours{Local.Hour} + minutes{Local.Minute} + seconds{Local.Second} +
-        milliseconds{Local.Millisecond} - minutes{Local.OffsetMinutes};
-    EXPECT_GE(Since1601(Time), Before - 10'000);
-    EXPECT_LE(Since1601(Time), After);
-}
-
 } // namespace
 } // namespace qz::platform
