@@ -55,6 +55,11 @@ TFileStream OpenFile(const TStringArg& AFileName) {
     return TFileStream(AFileName, fmOpenReadWrite | (GHasForked ? fmShareDenyNone : fmShareDenyWrite));
 }
 
+// Under the lock, which keeps other changes out: others only read.
+template <class T> void AddTo(std::atomic<T>& ATarget, T ACount) noexcept {
+    ATarget.store(ATarget.load(std::memory_order_relaxed) + ACount, std::memory_order_relaxed);
+}
+
 std::span<const std::byte> BytesOf(const char* AText, std::size_t ACount) {
     return std::as_bytes(std::span(AText, ACount));
 }
@@ -114,7 +119,7 @@ void TQzTextFile::Put(const TStringArg& AText, std::u16string_view ATail) {
     const TScopedLock Hold(FLock);
     FlushWaiting();
     PutBytes(BytesOf(Start, static_cast<std::size_t>(End - Start)));
-    FSize.fetch_add(End - Start, std::memory_order_relaxed);
+    AddTo(FSize, std::int64_t{End - Start});
 }
 
 // A file that comes to its limit is asked about anew, since the limit may have been raised.
@@ -133,7 +138,7 @@ void TQzTextFile::FlushWaiting() {
         return;
     PutBytes(BytesOf(FBuffer.get(), FWaiting));
     FWaiting = 0;
-    FLines = 0;
+    FLines.store(0, std::memory_order_relaxed);
 }
 
 void TQzTextFile::WriteLnLater(const TStringArg& AText) {
@@ -146,9 +151,10 @@ void TQzTextFile::WriteLnLater(const TStringArg& AText) {
                 FlushWaiting();
             char* const Start = FBuffer.get() + FWaiting;
             char* const End = std::copy(cLineEnd.begin(), cLineEnd.end(), Utf16ToUtf8(Text, Start));
-            FSize.fetch_add(End - Start, std::memory_order_relaxed);
+            AddTo(FSize, std::int64_t{End - Start});
             FWaiting += static_cast<std::size_t>(End - Start);
-            if (++FLines == 1 && !TLineFlusher::Instance().Await())
+            AddTo(FLines, 1u);
+            if (FLines.load(std::memory_order_relaxed) == 1 && !TLineFlusher::Instance().Await())
                 FlushWaiting();
             return;
         }
@@ -171,7 +177,10 @@ void TQzTextFile::Flush() {
     FlushWaiting();
 }
 
+// Lines that wait are with no file yet.
 bool TQzTextFile::HasGone() {
+    if (FLines.load(std::memory_order_relaxed) != 0)
+        return false;
     const std::uint64_t Now = platform::CoarseTickCount64();
     if (!FIsWholePath || Now - FLookedAt.load(std::memory_order_relaxed) < cLookEvery)
         return false;
