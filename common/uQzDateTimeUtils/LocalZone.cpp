@@ -26,6 +26,8 @@ TDateTime DateInThisYear(TDateTime ATime, std::int32_t AOccurrence, std::int32_t
                          std::int32_t AWeekday) {
     if (AMonth == 0)
         return 0;
+    if (!(std::fabs(ATime) <= 1))
+        throw EConvertError(u"Invalid date and time");
     const int Year = CurrentYear();
     const TDateTime First = EncodeDate(Year, AMonth, 1);
     TDateTime Result = First + ATime;
@@ -89,15 +91,8 @@ UnicodeString QzGetTimeZone() {
 
 void QzCalcTimeZoneOffset(TDateTime AMoment, std::int32_t& AOffset, std::uint16_t& AHours,
                           std::uint16_t& AMinutes) {
-    const double Moment = AMoment;
-    const double Utc = QzLocalToUTC(AMoment);
-    double Difference = (Moment - Utc) * MinsPerDay;
-    if (Moment < 0 || Utc < 0) { // the fraction counts the other way
-        const double Days = std::trunc(Moment) - std::trunc(Utc);
-        const double Fractions = (Moment - std::trunc(Moment)) - (Utc - std::trunc(Utc));
-        Difference = (Days - Fractions) * MinsPerDay;
-    }
-    const auto Offset = static_cast<std::int32_t>(Difference);
+    const auto Offset =
+        static_cast<std::int32_t>(TTimeZone::Local().GetUtcOffset(AMoment).Ticks / TTimeSpan::TicksPerMinute);
     int Hours = std::abs(Offset) / 60;
     int Minutes = std::abs(Offset) % 60;
     if (Minutes >= 58) {

@@ -21,7 +21,8 @@ struct TQzTimeZoneInfo {
 
     TQzTimeZoneInfo() noexcept = default;
     // The dates are told by a month, 0 for none, a weekday, 1 Monday to 7 Sunday, and its occurrence in that month, where too
-    // high a number is the last; the time is a fraction of a day. Raises EConvertError for a month beyond 12.
+    // high a number is the last; the time is a fraction of a day. Raises EConvertError for a month beyond 12 and a time of more
+    // than a day.
     QZ_API TQzTimeZoneInfo(std::int32_t ABias, TDateTime AStandardTime, std::int32_t AStandardOccurrence,
                            std::int32_t AStandardMonth, std::int32_t AStandardWeekday,
                            std::int32_t ADaylightBias, TDateTime ADaylightTime,
@@ -37,8 +38,8 @@ QZ_API TQzTimeZoneInfo QzLocalTimeZone();
 // is beyond the hours is left out: +5:30 gives "GMT +5".
 QZ_API UnicodeString QzGetTimeZone();
 
-// The offset at a local time in whole minutes, cut off as the floats happen to give it, and the same without its sign in
-// hours and minutes, where two minutes more or less than an hour count as the hour.
+// The offset at a local time in whole minutes, cut off, and the same without its sign in hours and minutes, where two minutes
+// more or less than an hour count as the hour.
 QZ_API void QzCalcTimeZoneOffset(TDateTime AMoment, std::int32_t& AOffset, std::uint16_t& AHours,
                                  std::uint16_t& AMinutes);
 

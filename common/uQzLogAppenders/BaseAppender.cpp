@@ -44,17 +44,37 @@ void TQzBaseAppender::Write(const UnicodeString&, const UnicodeString&, TQzLogLe
     Initialize();
 }
 
+// Keeps layouts that are replaced meanwhile.
+class TQzBaseAppender::TFormatting {
+public:
+    explicit TFormatting(TQzBaseAppender& AAppender) noexcept : FAppender(AAppender) {
+        ++FAppender.FFormatting;
+    }
+    TFormatting(const TFormatting&) = delete;
+    TFormatting& operator=(const TFormatting&) = delete;
+    ~TFormatting() {
+        if (--FAppender.FFormatting == 0 && !FAppender.FFormerLayouts.empty()) [[unlikely]]
+            FAppender.FFormerLayouts.clear();
+    }
+
+private:
+    TQzBaseAppender& FAppender;
+};
+
+UnicodeString TQzBaseAppender::Header() {
+    const TFormatting Formatting(*this);
+    return FLayout->GetHeader();
+}
+
+UnicodeString TQzBaseAppender::Footer() {
+    const TFormatting Formatting(*this);
+    return FLayout->GetFooter();
+}
+
 UnicodeString TQzBaseAppender::FormatLine(const UnicodeString& ALogger, TQzLogLevel ALevel,
                                           const UnicodeString& AMessage, PQzDataRec AValue,
                                           TQzLogIndent AIndent) {
-    struct TFormatting {
-        ~TFormatting() {
-            if (--Appender.FFormatting == 0 && !Appender.FFormerLayouts.empty()) [[unlikely]]
-                Appender.FFormerLayouts.clear();
-        }
-        TQzBaseAppender& Appender;
-    } const Formatting{*this};
-    ++FFormatting;
+    const TFormatting Formatting(*this);
     return FLayout->FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
 }
 

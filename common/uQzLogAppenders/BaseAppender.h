@@ -60,8 +60,10 @@ protected:
     // The layout, which may be null, and whether the appender is open; under the lock.
     IQzLogLayout* Layout() const noexcept { return FLayout.Get(); }
     bool IsInitialized() const noexcept { return FInitialized; }
-    // The line that the layout, which is not null, makes of a message; under the lock. The layout may do as it likes with the
-    // appender meanwhile: it may be closed, or have another layout, when this returns.
+    // The line that the layout, which is not null, makes of a message, and what it wants in front and behind; under the lock.
+    // The layout may do as it likes with the appender meanwhile: it may be closed, or have another layout, when these return.
+    UnicodeString Header();
+    UnicodeString Footer();
     UnicodeString FormatLine(const UnicodeString& ALogger, TQzLogLevel ALevel, const UnicodeString& AMessage,
                              PQzDataRec AValue, TQzLogIndent AIndent);
     TCriticalSection& OwnLock() noexcept { return FLock; }
@@ -82,6 +84,8 @@ protected:
     };
 
 private:
+    class TFormatting;
+
     Ref<IQzLogLayout> FLayout;
     std::vector<Ref<IQzLogLayout>> FFormerLayouts; // one of which may be formatting
     int FFormatting = 0;

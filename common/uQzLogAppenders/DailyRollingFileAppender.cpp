@@ -139,9 +139,9 @@ void TQzDailyRollingFileAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
     const TScopedLock Hold(*this);
     Inherited::SetConfig(AConfigurator);
     if (AConfigurator != nullptr) {
-        StorePattern(
-            QzVarToStr(AConfigurator->GetAppenderValue(ConfiguredName(), u"DatePattern", mtkString, FDatePattern),
-                       FDatePattern, true));
+        StorePattern(QzVarToStr(
+            AConfigurator->GetAppenderValue(ConfiguredName(), u"DatePattern", mtkString, FDatePattern),
+            FDatePattern, true));
     }
 }
 

@@ -81,9 +81,9 @@ void TQzFileAppender::OpenFile(bool AContinues) {
 void TQzFileAppender::PayHeader() {
     if (!FOwesHeader)
         return;
-    const UnicodeString Header = Layout() != nullptr ? Layout()->GetHeader() : UnicodeString();
-    if (!Header.IsEmpty() && FFileStream != nullptr)
-        FFileStream->WriteLn(Header);
+    const UnicodeString Text = Layout() != nullptr ? Header() : UnicodeString();
+    if (!Text.IsEmpty() && FFileStream != nullptr)
+        FFileStream->WriteLn(Text);
     FOwesHeader = false;
 }
 
@@ -98,6 +98,8 @@ void TQzFileAppender::Write(const UnicodeString& ASource, const UnicodeString& A
     if (FOwesHeader) [[unlikely]]
         PayHeader();
     const UnicodeString Line = FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
+    if (FFileStream == nullptr) [[unlikely]] // the layout has closed the appender
+        Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
     if (Line.IsEmpty() || FFileStream == nullptr)
         return;
     if (FBufferSize != 0 && ALevel < FFlushLevel)
@@ -109,9 +111,9 @@ void TQzFileAppender::Write(const UnicodeString& ASource, const UnicodeString& A
 void TQzFileAppender::WriteFooter() {
     if (Layout() == nullptr || FFileStream == nullptr || FFileStream->IsInherited())
         return;
-    const UnicodeString Footer = Layout()->GetFooter();
-    if (!Footer.IsEmpty())
-        FFileStream->Write(Footer);
+    const UnicodeString Text = Footer();
+    if (!Text.IsEmpty() && FFileStream != nullptr)
+        FFileStream->Write(Text);
 }
 
 void TQzFileAppender::EndFile() {

@@ -7,7 +7,6 @@
 #include "common/uQzLogger/LogDispatch.h"
 #include "common/uQzLogger/LogDrops.h"
 #include "common/uQzLogger/QzLogger.h"
-#include "platform/Threads.h"
 
 namespace qz::detail {
 
@@ -54,8 +53,13 @@ void TLogAppenderCore::EnterGate() noexcept {
     ++ThisLogThread().Gates;
 }
 
-bool TLogAppenderCore::HoldsGate() const noexcept {
-    return FGate.GetLockedBy() == static_cast<std::int32_t>(platform::CurrentThreadId());
+// By what the lock itself knows: the number of a thread is another one behind a fork.
+bool TLogAppenderCore::HoldsGate() noexcept {
+    if (!FGate.TryEnter(0))
+        return false;
+    const bool Result = FGate.GetLockCount() > 1;
+    FGate.Leave();
+    return Result;
 }
 
 bool TLogAppenderCore::TryEnterGate(std::uint32_t ATimeOut) noexcept {
@@ -68,10 +72,13 @@ bool TLogAppenderCore::TryEnterGate(std::uint32_t ATimeOut) noexcept {
 void TLogAppenderCore::LeaveGate() noexcept {
     TLogThread& Thread = ThisLogThread();
     std::vector<Ref<IQzLogAppender>> Removed;
+    TLogAppenderCorePtr Self; // an appender that ends may end the logger
     for (;;) {
         const bool IsLast = FGate.GetLockCount() == 1;
-        if (IsLast && FHasRemoved)
+        if (IsLast && FHasRemoved) {
+            Self = weak_from_this().lock();
             TakeRemoved(Removed);
+        }
         FGate.Leave();
         --Thread.Gates;
         if (!IsLast || !FHasRemoved || !TryEnterGate(0))
@@ -83,11 +90,17 @@ void TLogAppenderCore::LeaveGate() noexcept {
         SendWaiting();
 }
 
+// One by one, for there may be many.
+void TLogAppenderCore::DropOlder() noexcept {
+    for (std::unique_ptr<TAppenderSnapshot> Next = std::move(FLatest->Older); Next != nullptr;)
+        Next = std::move(Next->Older);
+}
+
 // The caller holds the gate.
 void TLogAppenderCore::TakeRemoved(std::vector<Ref<IQzLogAppender>>& ATarget) noexcept {
     const std::lock_guard Hold(FLock);
     FHasRemoved = false;
-    FLatest->Older.reset();
+    DropOlder();
     if (FRemoved.empty())
         return;
     if (ATarget.empty()) {
@@ -173,7 +186,8 @@ bool TLogAppenderCore::Extract(const TComponent* AComponent) {
                         [&IsMeant](const TAppenderEntry& AEntry) { return IsMeant(AEntry.Appender); });
     if (Fresh->Items.size() == FLatest->Items.size())
         return false;
-    FRemoved.reserve(FRemoved.size() + FItems.size());
+    if (FRemoved.capacity() < FRemoved.size() + FItems.size())
+        FRemoved.reserve(2 * FRemoved.size() + FItems.size());
     const auto First =
         std::stable_partition(FItems.begin(), FItems.end(),
                               [&](const Ref<IQzLogAppender>& AItem) { return !IsMeant(AItem.Get()); });
@@ -190,6 +204,7 @@ void TLogAppenderCore::Add(IQzLogAppender* AAppender) {
 }
 
 void TLogAppenderCore::Remove(const TComponent* AComponent) {
+    const auto Self = shared_from_this(); // an appender that ends may end the logger
     if (Extract(AComponent))
         Changed();
 }

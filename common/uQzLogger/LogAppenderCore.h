@@ -33,13 +33,16 @@ struct TAppenderSnapshot {
 class TLogAppenderCore : public std::enable_shared_from_this<TLogAppenderCore> {
 public:
     explicit TLogAppenderCore(TQzLogger* ALogger) noexcept : FLogger(ALogger) {}
+    TLogAppenderCore(const TLogAppenderCore&) = delete;
+    TLogAppenderCore& operator=(const TLogAppenderCore&) = delete;
+    ~TLogAppenderCore() { DropOlder(); }
 
     // The gate, which re-enters. Whoever leaves it last lets go of what was removed, when he holds no gate and no tree.
     void EnterGate() noexcept;
     bool TryEnterGate(std::uint32_t ATimeOut) noexcept;
     void LeaveGate() noexcept;
     // Whether the calling thread holds it.
-    bool HoldsGate() const noexcept;
+    bool HoldsGate() noexcept;
 
     // Any thread.
     bool IsEmpty() const noexcept { return FCount.load(std::memory_order_relaxed) == 0; }
@@ -67,12 +70,16 @@ public:
     bool TryLockItems() { return FLock.try_lock(); }
     void UnlockItems() { FLock.unlock(); }
 
+    // In the child of a fork, where this thread is the only one.
+    void ForgetThreads() noexcept { FLettingGo = ThisLogThread().IsLettingGo ? 1 : 0; }
+
     // There is no logger any more to be told of changes.
     void LoseLogger();
 
 private:
     class TChange;
     void Publish(std::unique_ptr<TAppenderSnapshot> ASnapshot) noexcept;
+    void DropOlder() noexcept;
     void Changed();
     bool Insert(IQzLogAppender* AAppender);
     bool Extract(const TComponent* AComponent);

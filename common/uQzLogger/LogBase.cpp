@@ -178,11 +178,16 @@ int TQzAppenderInstances::Count() const {
 
 Ref<IQzLogAppender> TQzAppenderInstances::Find(std::u16string_view AName) const {
     const TScopedLock Hold(FLock);
+    TQzLogBase* Other = nullptr; // that was made under the name and bears another one by now
     for (TQzLogBase* Item : FList) {
-        if (Item->FIsComplete && Item->IsAppender() && Item->NameToFind() == AName && Item->TryAddReference())
+        if (!Item->FIsComplete || !Item->IsAppender())
+            continue;
+        if (Item->Name() == AName && Item->TryAddReference())
             return AppenderOf(Item);
+        if (Other == nullptr && Item->NameToFind() == AName)
+            Other = Item;
     }
-    return {};
+    return Other != nullptr && Other->TryAddReference() ? AppenderOf(Other) : Ref<IQzLogAppender>();
 }
 
 std::vector<Ref<IQzLogAppender>> TQzAppenderInstances::Items() const {

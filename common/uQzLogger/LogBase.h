@@ -123,6 +123,7 @@ public:
     TQzLogBaseClass GetClass(const TStringArg& AName) const;
 
 private:
+    friend struct detail::TForkLocks;
     mutable std::mutex FLock;
     TList<TClass> FList;
 };
@@ -140,7 +141,8 @@ public:
 
     // Any thread; the answers are of that moment.
     int Count() const;
-    // The first that was made under that name, case-sensitive; null when there is none. See TQzLogBase::ConfiguredName.
+    // The first that bears that name, case-sensitive, or else was made under it; null when there is none. See
+    // TQzLogBase::ConfiguredName.
     Ref<IQzLogAppender> Find(std::u16string_view AName) const;
     std::vector<Ref<IQzLogAppender>> Items() const;
 

@@ -130,7 +130,7 @@ void Walk(TLogDispatch& APresent, TQzLogger& ALogger, const TLogMessage& AMessag
 // What was raised ends the way of the message, and is told when no gate is held any more. The thread is sending.
 void Send(TQzLogger& ALogger, const TLogMessage& AMessage, std::vector<std::uint64_t> ASkipped) noexcept {
     TLogThread& Thread = ThisLogThread();
-    TLogDispatch Present;
+    TLogDispatch Present{&ALogger, 0, 0, {}, {}};
     Present.Skipped = std::move(ASkipped);
     Thread.Present = &Present;
     try {
@@ -186,7 +186,8 @@ bool LetGoLater(TLogAppenderCore& ACore, std::vector<Ref<IQzLogAppender>>& ARemo
 bool ReleaseLater(TQzLogger& ALogger) noexcept {
     try {
         std::vector<Ref<TQzLogger>>& Loggers = Waiting(ThisLogThread()).Loggers;
-        Loggers.reserve(Loggers.size() + 1);
+        if (Loggers.size() == Loggers.capacity())
+            Loggers.reserve(2 * Loggers.size() + 1);
         Loggers.push_back(Ref<TQzLogger>::Attach(&ALogger));
         return true;
     } catch (const std::exception&) {

@@ -24,6 +24,7 @@ struct TLogMessage {
 
 // The message that a thread is on the way with.
 struct TLogDispatch {
+    const TQzLogger* Logger; // where it began
     // Appenders by their serials, 0 for none.
     std::uint64_t Writing = 0; // to which it is being written
     std::uint64_t Failed = 0;  // which raised

@@ -24,8 +24,8 @@ struct TForkLocks {
             return false;
         FHasOwn = true;
         try {
-            FHasDrops =
-                TryGates() && TryTree() && TryLists() && TryAppenders() && TryFlusher() && TryLockDrops();
+            FHasDrops = TryRegistries() && TryGates() && TryTree() && TryLists() && TryAppenders() &&
+                TryFlusher() && TryLockDrops();
         } catch (const std::bad_alloc&) {
             FHasDrops = false;
         }
@@ -38,6 +38,12 @@ struct TForkLocks {
     void ShareFiles() noexcept {
         if (FFlusher != nullptr)
             FFlusher->ShareAll();
+    }
+
+    // Those that a child does not have.
+    void ForgetThreads() noexcept {
+        for (const TLogAppenderCorePtr& Gate : FGates)
+            Gate->ForgetThreads();
     }
 
     void GiveBack() {
@@ -56,11 +62,21 @@ struct TForkLocks {
             TLogTreeLock::Leave();
         for (const TLogAppenderCorePtr& Gate : std::exchange(FGates, {}))
             Gate->LeaveGate();
+        for (TQzLogBaseClassList* List : std::exchange(FRegistries, {}))
+            List->FLock.unlock();
         if (std::exchange(FHasOwn, false))
             FOwn.Leave();
     }
 
 private:
+    bool TryRegistries() {
+        for (TQzLogBaseClassList* List : {&RegisteredLayouts(), &RegisteredAppenders()}) {
+            if (!List->FLock.try_lock())
+                return false;
+            FRegistries.push_back(List);
+        }
+        return true;
+    }
     // The gates come before the lock of the tree, as for a message.
     bool TryGates() {
         if (!TLogTreeLock::TryEnter(cPatience))
@@ -112,6 +128,7 @@ private:
     }
 
     TCriticalSection FOwn; // who forks, forks alone
+    std::vector<TQzLogBaseClassList*> FRegistries;
     std::vector<TLogAppenderCorePtr> FGates;
     std::vector<TLogAppenderCore*> FLists;
     std::vector<TQzBaseAppender*> FAppenders; // alive as long as the instances are locked
@@ -135,7 +152,7 @@ thread_local bool GHasForkLocks = false;
 
 void TakeLocks() {
     ThisLogThread().IsForking = true;
-    GForkIsPending = true;
+    ++GPendingForks;
     const std::uint32_t Start = platform::TickCount();
     while (!GHasForkLocks && platform::TickCount() - Start < cMostMilliseconds) {
         GHasForkLocks = ForkLocks().TryTake();
@@ -145,7 +162,7 @@ void TakeLocks() {
 }
 
 void EndFork() noexcept {
-    GForkIsPending = false;
+    --GPendingForks;
     ThisLogThread().IsForking = false;
 }
 
@@ -159,6 +176,8 @@ void GiveLocksBack() {
 
 void BeginChild() {
     ForgetTelling();
+    GPendingForks = 1; // those of other threads are not here
+    ForkLocks().ForgetThreads();
     if (GHasForkLocks)
         TLineFlusher::BeginChild();
     GiveLocksBack();

@@ -9,16 +9,15 @@ TLogThread& ThisLogThread() noexcept {
     return Result;
 }
 
-constinit std::atomic<bool> GForkIsPending{false};
+constinit std::atomic<int> GPendingForks{0};
 
-// Not for ever, so that no fault of the fork stops anybody.
 void AwaitFork() noexcept {
     const TLogThread& Thread = ThisLogThread();
-    constexpr int cMostTries = 20000;
-    for (int Try = 0; Try < cMostTries && GForkIsPending.load(std::memory_order_acquire); ++Try) {
+    constexpr int cMostTries = 5;
+    for (int Try = 0; Try < cMostTries && GPendingForks.load(std::memory_order_acquire) != 0; ++Try) {
         if (Thread.Gates != 0 || Thread.Trees != 0 || Thread.IsForking)
             return;
-        platform::SleepMs(Try < 10 ? 0 : 1);
+        platform::SleepMs(1);
     }
 }
 

@@ -14,10 +14,10 @@ struct TWaitingMessages;
 
 // What a thread is about. Without a destructor, for it may be asked to the very end of the thread.
 struct TLogThread {
-    int Gates = 0;                       // how many it holds
-    int Trees = 0;                       // how often it holds the lock of the tree
-    bool IsLettingGo = false;            // it is ending appenders that were removed
-    bool IsSending = false;              // it is on the way with a message
+    int Gates = 0;            // how many it holds
+    int Trees = 0;            // how often it holds the lock of the tree
+    bool IsLettingGo = false; // it is ending appenders that were removed
+    bool IsSending = false;   // it is on the way with a message
     bool IsForking = false;
     TLogDispatch* Present = nullptr;     // that message
     TWaitingMessages* Waiting = nullptr; // messages that arose meanwhile; owned
@@ -28,11 +28,12 @@ TLogThread& ThisLogThread() noexcept;
 // Sends what waits, and ends the appenders that wait for their end, if the thread is free to.
 void SendWaiting() noexcept;
 
-// A fork that wants all locks holds up the threads that hold none, for a moment.
-QZ_API extern constinit std::atomic<bool> GForkIsPending;
+// A fork that wants all locks holds up the threads that come for their first one, for some milliseconds: not longer, since they
+// may hold locks of which nobody knows here.
+QZ_API extern constinit std::atomic<int> GPendingForks;
 void AwaitFork() noexcept;
 inline void LetForkPass() noexcept {
-    if (GForkIsPending.load(std::memory_order_relaxed)) [[unlikely]]
+    if (GPendingForks.load(std::memory_order_relaxed) != 0) [[unlikely]]
         AwaitFork();
 }
 

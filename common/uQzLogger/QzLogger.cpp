@@ -161,12 +161,13 @@ void TQzLogger::LeaveParent() {
         FParent->FChildLoggers->FList.Remove(this);
 }
 
-// A parent may end with its last child, and so on up the tree, which may be high. A logger does not end while its thread is
-// on the way with a message, which may be this one's.
+// A parent may end with its last child, and so on up the tree, which may be high. What a thread drops of the
+// logger with whose message it is on the way counts until that has arrived.
 std::uint32_t TQzLogger::_Release() {
     std::int32_t Count = 0;
-    if (detail::ThisLogThread().IsSending && FRefCount.Value() == 1 && detail::ReleaseLater(*this))
-        return 1;
+    const detail::TLogDispatch* Present = detail::ThisLogThread().Present;
+    if (Present != nullptr && Present->Logger == this && detail::ReleaseLater(*this))
+        return static_cast<std::uint32_t>(FRefCount.Value() - 1);
     TQzLogger* Ending = DropReference(Count) ? this : nullptr;
     while (Ending != nullptr) {
         TQzLogger* Parent = Ref<TQzLogger>(Ending->FParent).Detach();

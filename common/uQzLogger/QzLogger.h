@@ -125,7 +125,8 @@ public:
     // get the IQzLogger interface from the rootlogger!". A Ref takes it without asking.
     HRESULT QueryInterface(const TGUID& AIid, void** AObject) override;
     std::uint32_t _AddRef() override;
-    // The last one ends a logger, unless it has no parent by birth.
+    // The last one ends a logger, unless it has no parent by birth; one that an appender drops while this logger's message is
+    // on its way counts until that has arrived.
     std::uint32_t _Release() override;
     int RefCount() const noexcept { return FRefCount.Value(); }
 

@@ -15,8 +15,8 @@
 #include "platform/linux/ZoneFile.h"
 #include "platform/linux/ZoneText.h"
 
-// What TZ may hold, as the C library takes it: the name of a file, absolute or below the folder of zones, else a rule
-// text; a colon in front means nothing. Without TZ it is /etc/localtime. Whatever cannot be read is UTC.
+// What TZ may hold: the name of a file, absolute or below the folder of zones, else a rule
+// text; a colon in front means nothing. Without TZ it is /etc/localtime. Whatever cannot be read, in full, is UTC.
 
 namespace qz::platform {
 

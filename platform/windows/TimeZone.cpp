@@ -1,5 +1,6 @@
 #include "platform/TimeZone.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string_view>
 
@@ -45,8 +46,10 @@ TZoneDay DayOf(const SYSTEMTIME& ADay) {
     if (ADay.wMonth < 1 || ADay.wMonth > 12)
         return Result;
     Result.Month = static_cast<uint8_t>(ADay.wMonth);
-    Result.MSecs = ((ADay.wHour * 60 + ADay.wMinute) * 60 + ADay.wSecond) * 1000 +
-        static_cast<int32_t>(ADay.wMilliseconds);
+    const int Hour = std::min<int>(ADay.wHour, 24); // of a damaged registry
+    const int Minute = std::min<int>(ADay.wMinute, 59);
+    const int Second = std::min<int>(ADay.wSecond, 59);
+    Result.MSecs = ((Hour * 60 + Minute) * 60 + Second) * 1000 + std::min<int>(ADay.wMilliseconds, 999);
     if (ADay.wYear == 0) {
         Result.Form = TZoneDayForm::zdWeekday;
         Result.Week = static_cast<uint8_t>(ADay.wDay);
@@ -58,8 +61,11 @@ TZoneDay DayOf(const SYSTEMTIME& ADay) {
     return Result;
 }
 
-uint16_t NumberOf(LONG ABias, bool AIsDaylight, const WCHAR* AName, std::vector<TZoneKind>& AKinds) {
-    const TZoneKind Kind{-static_cast<int32_t>(ABias) * 60, AIsDaylight,
+constexpr int64_t cMostMinutes = 26 * 60 - 1;
+
+uint16_t NumberOf(int64_t ABias, bool AIsDaylight, const WCHAR* AName, std::vector<TZoneKind>& AKinds) {
+    const int64_t Minutes = std::clamp<int64_t>(ABias, -cMostMinutes, cMostMinutes);
+    const TZoneKind Kind{static_cast<int32_t>(-Minutes * 60), AIsDaylight,
                          std::u16string(detail::FromWide(AName))};
     size_t Result = 0;
     while (Result < AKinds.size() && AKinds[Result] != Kind)
@@ -71,13 +77,13 @@ uint16_t NumberOf(LONG ABias, bool AIsDaylight, const WCHAR* AName, std::vector<
 
 void AddYear(DWORD AYear, const TIME_ZONE_INFORMATION& AInfo, TSystemZone& AZone) {
     TZoneRule Rule{.FirstYear = static_cast<int32_t>(AYear),
-                   .Standard =
-                       NumberOf(AInfo.Bias + AInfo.StandardBias, false, AInfo.StandardName, AZone.Kinds),
+                   .Standard = NumberOf(int64_t{AInfo.Bias} + AInfo.StandardBias, false, AInfo.StandardName,
+                                        AZone.Kinds),
                    .Daylight = 0,
                    .ToStandard = DayOf(AInfo.StandardDate),
                    .ToDaylight = DayOf(AInfo.DaylightDate)};
     Rule.Daylight = Rule.HasDaylight()
-        ? NumberOf(AInfo.Bias + AInfo.DaylightBias, true, AInfo.DaylightName, AZone.Kinds)
+        ? NumberOf(int64_t{AInfo.Bias} + AInfo.DaylightBias, true, AInfo.DaylightName, AZone.Kinds)
         : Rule.Standard;
     if (!AZone.Rules.empty()) {
         TZoneRule Before = AZone.Rules.back();
@@ -99,7 +105,8 @@ TSystemZone ReadZoneYears(const DYNAMIC_TIME_ZONE_INFORMATION& AZone) {
     const TYears Years = YearsOf(AZone);
     for (DWORD Year = Years.First; Year <= Years.Last; ++Year) {
         TIME_ZONE_INFORMATION Info{};
-        if (!GetTimeZoneInformationForYear(static_cast<USHORT>(Year), &Zone, &Info))
+        if (AZone.DynamicDaylightTimeDisabled ||
+            !GetTimeZoneInformationForYear(static_cast<USHORT>(Year), &Zone, &Info))
             std::memcpy(&Info, &AZone, sizeof Info); // the longer record begins as the other
         AddYear(Year, Info, Result);
     }

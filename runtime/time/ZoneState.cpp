@@ -16,18 +16,22 @@ constinit TZoneState GZoneState{nullptr, cNotYet};
 
 namespace {
 
+// Of all that follows, and of writes to GZoneState. Held around a fork, from the start of the program on.
+constinit std::mutex GLock;
+[[maybe_unused]] const bool GIsWatched = [] {
+    platform::AroundFork([] { GLock.lock(); }, [] { GLock.unlock(); }, [] { GLock.unlock(); });
+    return true;
+}();
+
 struct TLoader {
-    std::mutex Lock; // of all that follows, and of writes to GZoneState
     std::string Stamp;
     std::deque<TZoneTable> Tables;
 
-    TLoader() {
-        platform::AroundFork([] { Loader().Lock.lock(); }, [] { Loader().Lock.unlock(); },
-                             [] { Loader().Lock.unlock(); });
-    }
-    // Never destroyed: threads may look while the program ends.
+    // Never destroyed: threads may look while the program ends. Under the lock.
     static TLoader& Loader() {
-        static auto* const Result = new TLoader;
+        constinit static TLoader* Result = nullptr;
+        if (Result == nullptr)
+            Result = new TLoader;
         return *Result;
     }
 
@@ -44,9 +48,12 @@ private:
     }
 };
 
+// Under the lock.
 const TZoneTable& UtcTable() {
-    static const auto* const Result = new TZoneTable(
-        {.Id = u"UTC", .Kinds = {{0, false, u"UTC"}}, .FirstKind = 0, .Changes = {}, .Rules = {}});
+    constinit static const TZoneTable* Result = nullptr;
+    if (Result == nullptr)
+        Result = new TZoneTable(
+            {.Id = u"UTC", .Kinds = {{0, false, u"UTC"}}, .FirstKind = 0, .Changes = {}, .Rules = {}});
     return *Result;
 }
 
@@ -69,19 +76,17 @@ void TLoader::Look(std::int64_t ANowSeconds, bool AInFull) noexcept {
 } // namespace
 
 const TZoneTable& LookAtZone(std::int64_t ANowSeconds) noexcept {
-    TLoader& Loader = TLoader::Loader();
-    std::unique_lock Guard(Loader.Lock, std::try_to_lock);
+    std::unique_lock Guard(GLock, std::try_to_lock);
     if (!Guard && GZoneState.Table.load(std::memory_order_acquire) == nullptr)
         Guard.lock();
     if (Guard)
-        Loader.Look(ANowSeconds, false);
+        TLoader::Loader().Look(ANowSeconds, false);
     return *GZoneState.Table.load(std::memory_order_acquire);
 }
 
 void RefreshZone() noexcept {
-    TLoader& Loader = TLoader::Loader();
-    const std::lock_guard Guard(Loader.Lock);
-    Loader.Look(platform::UtcNowSeconds(), true);
+    const std::lock_guard Guard(GLock);
+    TLoader::Loader().Look(platform::UtcNowSeconds(), true);
 }
 
 } // namespace qz::detail

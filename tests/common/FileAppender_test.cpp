@@ -222,7 +222,7 @@ TEST(FileAppender, LayoutsMayDoAsTheyLike) {
     Say(File, u"one");
     Say(File, u"replace");
     Say(File, u"two");
-    EXPECT_EQ("head|footone|foottwo|", Files.Text());
+    EXPECT_EQ("head|footclose|one|footreplace|two|", Files.Text());
 }
 
 TEST(FileAppender, WhatCannotBeOpenedIsTriedAgain) {
