@@ -16,8 +16,25 @@ constinit TZoneState GZoneState{nullptr, cNotYet};
 
 namespace {
 
+// A mutex that is there before any code runs, which std::mutex is not everywhere.
+class TEarlyLock {
+public:
+    bool try_lock() noexcept { return !FIsHeld.exchange(true, std::memory_order_acquire); }
+    void lock() noexcept {
+        while (!try_lock())
+            FIsHeld.wait(true, std::memory_order_relaxed);
+    }
+    void unlock() noexcept {
+        FIsHeld.store(false, std::memory_order_release);
+        FIsHeld.notify_one();
+    }
+
+private:
+    std::atomic<bool> FIsHeld{false};
+};
+
 // Of all that follows, and of writes to GZoneState. Held around a fork, from the start of the program on.
-constinit std::mutex GLock;
+constinit TEarlyLock GLock;
 [[maybe_unused]] const bool GIsWatched = [] {
     platform::AroundFork([] { GLock.lock(); }, [] { GLock.unlock(); }, [] { GLock.unlock(); });
     return true;
