@@ -146,6 +146,7 @@ void OfLog4cplus(benchmark::State& AState, bool AFlushes) {
         File->setLayout(std::make_unique<log4cplus::PatternLayout>(
             LOG4CPLUS_TEXT("%D{%Y-%m-%d %H:%M:%S:%q} - %p %c - %m\r%n")));
         Log.setAdditivity(false);
+        Log.setLogLevel(log4cplus::ALL_LOG_LEVEL);
         Log.removeAllAppenders();
         Log.addAppender(File);
     }
