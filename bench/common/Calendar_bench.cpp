@@ -11,6 +11,7 @@
 #include <ctime>
 #include <random>
 
+#include "bench/common/Samples.h"
 #include "common/uQzDateTimeUtils.h"
 
 namespace {
@@ -47,14 +48,7 @@ const std::array<TSample, cDates>& Samples() {
 
 // Runs AStep on one sample after the other.
 template <class TStep> void Over(benchmark::State& AState, TStep AStep) {
-    const auto& All = Samples();
-    std::size_t Next = 0;
-    for (auto _ : AState)
-        AStep(All[Next++ % cDates]);
-}
-
-template <class... T> void Keep(T... AValues) {
-    (benchmark::DoNotOptimize(AValues), ...);
+    OverSamples(AState, Samples(), AStep);
 }
 
 void BM_EncodeDate_ours(benchmark::State& AState) {

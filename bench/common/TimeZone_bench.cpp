@@ -9,6 +9,7 @@
 #include <ctime>
 #include <random>
 
+#include "bench/common/Samples.h"
 #include "common/uQzDateTimeUtils.h"
 #include "platform/Environment.h"
 #include "runtime/time/LocalClock.h"
@@ -46,14 +47,7 @@ const std::array<TSample, cMoments>& Samples() {
 
 // Runs AStep on one sample after the other.
 template <class TStep> void Over(benchmark::State& AState, TStep AStep) {
-    const auto& All = Samples();
-    std::size_t Next = 0;
-    for (auto _ : AState)
-        AStep(All[Next++ % cMoments]);
-}
-
-template <class... T> void Keep(T... AValues) {
-    (benchmark::DoNotOptimize(AValues), ...);
+    OverSamples(AState, Samples(), AStep);
 }
 
 void BM_ToLocal_ours(benchmark::State& AState) {

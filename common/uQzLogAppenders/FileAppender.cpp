@@ -17,8 +17,8 @@ namespace {
 
 constexpr TTextConstant cExtension = u".log";
 constexpr std::int32_t cCommonDocuments = 46;
-constexpr std::uint16_t cKeepsOffPrograms =
-    601; // systems where programs cannot write beside themselves, from this one on
+// From this version on a program cannot write beside itself.
+constexpr std::uint16_t cKeepsOffPrograms = 601;
 constexpr std::int64_t cLargestBuffer = std::int64_t{1} << 30;
 
 UnicodeString NameAmongDocuments(const UnicodeString& AProgram) {

@@ -73,7 +73,8 @@ std::vector<TQzRollingFileAppender::TMember> TQzRollingFileAppender::Family() {
     std::vector<TMember> Result;
     for (const platform::TDirEntry& Entry : Entries) {
         if (IsOfFamily(Entry.Name))
-            Result.push_back({Entry.Name, !SameFileName(Entry.Name, Live), CreateFileInfo(Entry.Name)});
+            Result.push_back(
+                {Entry.Name, !SameFileName(Entry.Name, Live), CreateFileInfo(Entry.Name), false});
     }
     std::sort(Result.begin(), Result.end(), [](const TMember& ALeft, const TMember& ARight) {
         return std::tie(ALeft.IsBackup, ALeft.Info.Index, ALeft.Name) <
@@ -82,24 +83,27 @@ std::vector<TQzRollingFileAppender::TMember> TQzRollingFileAppender::Family() {
     return Result;
 }
 
-// Gives the member its place. What another process has put there meanwhile stays, and so does the member.
-void TQzRollingFileAppender::Move(const std::vector<TMember>& AFamily, const TMember& AMember,
-                                  std::int64_t APlace) {
+// Gives the member its place. One that cannot leave its own place is deleted for the next; what another process has put there
+// meanwhile stays, and so does the member.
+void TQzRollingFileAppender::Move(std::vector<TMember>& AFamily, TMember& AMember, std::int64_t APlace) {
     const UnicodeString Path = ExtractFilePath(FileName());
     const UnicodeString Name = UnicodeString(BaseOf(FileName(), FileExt())) + u'.' + IntToStr(APlace) +
         AMember.Info.FileNameRight + FileExt();
     if (SameFileName(Name, AMember.Name))
         return;
-    const auto IsNamed = [&Name](const TMember& AOther) { return SameFileName(AOther.Name, Name); };
-    if (std::any_of(AFamily.begin(), AFamily.end(), IsNamed) && FileExists(Path + Name))
+    const bool IsInTheWay = std::any_of(AFamily.begin(), AFamily.end(), [&Name](const TMember& AOther) {
+        return AOther.IsStuck && SameFileName(AOther.Name, Name);
+    });
+    if (IsInTheWay)
         DeleteFile(Path + Name);
-    RenameFile(Path + AMember.Name, Path + Name);
+    if (!RenameFile(Path + AMember.Name, Path + Name))
+        AMember.IsStuck = FileExists(Path + AMember.Name) && (IsInTheWay || !FileExists(Path + Name));
 }
 
 // Those behind a gap come down from the bottom up, the others go up from the top down: so each name is free by then.
 void TQzRollingFileAppender::Shift() {
     CheckBackupCount();
-    const std::vector<TMember> All = Family();
+    std::vector<TMember> All = Family();
     const std::size_t Count = std::min<std::size_t>(All.size(), FMaxBackupCount);
     const auto PlaceOf = [](std::size_t AIndex) { return static_cast<std::int64_t>(AIndex) + 1; };
     for (std::size_t I = 0; I < Count; ++I) {
@@ -172,10 +176,11 @@ void TQzRollingFileAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
         const Variant Answer = AConfigurator->GetAppenderValue(ConfiguredName(), AKey, mtkInteger, APresent);
         return VarIsClear(Answer) || VarIsNull(Answer) ? APresent : QzVarToInt64(Answer, 0, true);
     };
-    FMaxFileSize = static_cast<std::uint32_t>(Ask(u"MaxFileSize", FMaxFileSize));
+    const std::int64_t Size = Ask(u"MaxFileSize", FMaxFileSize);
     const std::int64_t Count = Ask(u"MaxBackupCount", FMaxBackupCount);
     if (Count < 0 || Count > UINT16_MAX)
         throw ERangeError(u"%d is not a number of files", {Count});
+    FMaxFileSize = static_cast<std::uint32_t>(Size);
     SetMaxBackupCount(static_cast<std::uint16_t>(Count));
 }
 

@@ -58,7 +58,8 @@ class QZ_API TQzRollingFileAppender : public TQzFileAppender, public IQzRollingF
 
 public:
     void Initialize() override;
-    // Asks for "MaxFileSize" and "MaxBackupCount" beside what a file appender asks for.
+    // Asks for "MaxFileSize", which is cut to 32 bits, and "MaxBackupCount" beside what a file appender asks for. Raises
+    // ERangeError for a count outside 0 to 65535.
     void SetConfig(IQzLogConfigurator* AConfigurator) override;
     void Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
                const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) override;
@@ -89,9 +90,10 @@ private:
         UnicodeString Name;
         bool IsBackup;
         TQzFileInfo Info;
+        bool IsStuck; // where it is
     };
     std::vector<TMember> Family();
-    void Move(const std::vector<TMember>& AFamily, const TMember& AMember, std::int64_t APlace);
+    void Move(std::vector<TMember>& AFamily, TMember& AMember, std::int64_t APlace);
     void Shift();
 
     bool IsFull() const;

@@ -40,8 +40,7 @@ void MakeFile(const TStringArg& AFileName) {
     File.Close();
     try {
         QzSetFileCreated(AFileName, NowUTC());
-    } catch (
-        const Exception&) { // NOLINT(bugprone-empty-catch): then the system's own time of the file counts
+    } catch (const Exception&) { // NOLINT(bugprone-empty-catch): the system's own time counts, then
     }
 }
 
@@ -177,7 +176,7 @@ void TQzTextFile::Flush() {
     FlushWaiting();
 }
 
-// Lines that wait are with no file yet.
+// Not while lines wait, which has its end within a second: that saves a look at the clock with each of them.
 bool TQzTextFile::HasGone() {
     if (FLines.load(std::memory_order_relaxed) != 0)
         return false;

@@ -18,6 +18,21 @@ struct TLinePen {
             Place[I] = static_cast<char16_t>(u'0' + ANumber % 10);
         Place += ADigits;
     }
+    // 2024-01-31 and 07:15:02.
+    void PutDate(unsigned AYear, unsigned AMonth, unsigned ADay) noexcept {
+        PutNumber(AYear, 4);
+        Put(u'-');
+        PutNumber(AMonth, 2);
+        Put(u'-');
+        PutNumber(ADay, 2);
+    }
+    void PutTime(unsigned AHour, unsigned AMinute, unsigned ASecond) noexcept {
+        PutNumber(AHour, 2);
+        Put(u':');
+        PutNumber(AMinute, 2);
+        Put(u':');
+        PutNumber(ASecond, 2);
+    }
 };
 
 } // namespace qz::detail

@@ -31,11 +31,7 @@ std::u16string_view DateText(std::int32_t ADay) noexcept {
         std::uint16_t Day = 0;
         DecodeDate(static_cast<double>(ADay), Year, Month, Day);
         TLinePen Pen{Known.Text};
-        Pen.PutNumber(Year, 4);
-        Pen.Put(u'-');
-        Pen.PutNumber(Month, 2);
-        Pen.Put(u'-');
-        Pen.PutNumber(Day, 2);
+        Pen.PutDate(Year, Month, Day);
         Pen.Put(u' ');
         Known.Day = ADay;
     }
@@ -46,11 +42,7 @@ void PutTime(TLinePen& APen) noexcept {
     const TLocalInstant Now = LocalClock();
     const auto MSecs = static_cast<unsigned>(Now.MSecs);
     APen.Put(DateText(Now.Day));
-    APen.PutNumber(MSecs / 3600000, 2);
-    APen.Put(u':');
-    APen.PutNumber(MSecs / 60000 % 60, 2);
-    APen.Put(u':');
-    APen.PutNumber(MSecs / 1000 % 60, 2);
+    APen.PutTime(MSecs / 3600000, MSecs / 60000 % 60, MSecs / 1000 % 60);
     APen.Put(u':');
     APen.PutNumber(MSecs % 1000, 3);
 }

@@ -31,17 +31,9 @@ void AppendTime(UnicodeString& ATarget) {
     DecodeDateTime(NowUTC(), Year, Month, Day, Hour, Minute, Second, MSec);
     constexpr std::size_t cLength = 20; // 2024-01-31T07:15:02Z
     detail::TLinePen Pen{ATarget.AppendRoom(cLength)};
-    Pen.PutNumber(Year, 4);
-    Pen.Put(u'-');
-    Pen.PutNumber(Month, 2);
-    Pen.Put(u'-');
-    Pen.PutNumber(Day, 2);
+    Pen.PutDate(Year, Month, Day);
     Pen.Put(u'T');
-    Pen.PutNumber(Hour, 2);
-    Pen.Put(u':');
-    Pen.PutNumber(Minute, 2);
-    Pen.Put(u':');
-    Pen.PutNumber(Second, 2);
+    Pen.PutTime(Hour, Minute, Second);
     Pen.Put(u'Z');
 }
 
