@@ -141,7 +141,7 @@ private:
 
 namespace {
 
-constexpr std::uint32_t cMostMilliseconds = 2000;
+constexpr std::uint32_t cMostMilliseconds = 5000;
 
 TForkLocks& ForkLocks() {
     static auto* const Result = new TForkLocks;

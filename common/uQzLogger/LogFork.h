@@ -3,7 +3,7 @@
 
 namespace qz::detail {
 
-// Has all locks of the loggers and appenders free in a child, unless some thread keeps one for two seconds on end. Called
+// Has all locks of the loggers and appenders free in a child, unless some thread keeps one for five seconds on end. Called
 // once, at the start of the program.
 void WatchForks();
 

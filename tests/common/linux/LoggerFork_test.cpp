@@ -27,7 +27,7 @@ TEST(LoggerFork, TheChildCanLog) {
                 Logger().RemoveAppender(static_cast<IQzLogAppender*>(&Brief));
             }
         });
-    for (int I = 0; I < 20; ++I) {
+    for (int I = 0; I < 10; ++I) {
         const pid_t Child = fork();
         ASSERT_GE(Child, 0);
         if (Child == 0) {
