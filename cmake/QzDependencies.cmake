@@ -1,15 +1,14 @@
-# What the library itself links to, collected in QZ_LIBRARIES.
+# What each layer of the library links to; QZ_LIBRARIES is all of it.
 set(THREADS_PREFER_PTHREAD_FLAG ON)
 find_package(Threads REQUIRED)
-find_package(ZLIB REQUIRED)
 find_package(PCRE2 REQUIRED)
 
-set(QZ_LIBRARIES PCRE2::16BIT ZLIB::ZLIB Threads::Threads)
+set(QZ_RUNTIME_LIBRARIES PCRE2::16BIT)
+set(QZ_PLATFORM_LIBRARIES Threads::Threads)
 if(WIN32)
-    list(APPEND QZ_LIBRARIES
-        ole32 oleaut32 uuid user32 advapi32 shell32 shlwapi version dbghelp psapi ntdll ws2_32 iphlpapi wtsapi32
-        kernel32)
+    list(APPEND QZ_PLATFORM_LIBRARIES ole32 oleaut32 uuid)
 else()
     find_package(ICU REQUIRED COMPONENTS uc i18n)
-    list(APPEND QZ_LIBRARIES ICU::i18n ICU::uc ${CMAKE_DL_LIBS})
+    list(APPEND QZ_PLATFORM_LIBRARIES ICU::i18n ICU::uc ${CMAKE_DL_LIBS})
 endif()
+set(QZ_LIBRARIES ${QZ_RUNTIME_LIBRARIES} ${QZ_PLATFORM_LIBRARIES})

@@ -10,7 +10,7 @@ mark_as_advanced(QZ_WINDMC)
 
 # The texts end as the lines of the file do, and that is CR LF.
 set(Folder ${PROJECT_BINARY_DIR}/messages)
-configure_file(platform/windows/EventMessages.mc ${Folder}/EventMessages.mc @ONLY NEWLINE_STYLE CRLF)
+configure_file(qz/platform/windows/EventMessages.mc ${Folder}/EventMessages.mc @ONLY NEWLINE_STYLE CRLF)
 add_custom_command(
     OUTPUT ${Folder}/EventMessages.rc ${Folder}/EventMessages.bin
     COMMAND ${QZ_WINDMC} -h ${Folder} -r ${Folder} ${Folder}/EventMessages.mc

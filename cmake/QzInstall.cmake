@@ -4,8 +4,8 @@ include(CMakePackageConfigHelpers)
 set(QZ_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/rQzCommon210)
 set(QZ_INSTALLED_HEADERS ${CMAKE_INSTALL_INCLUDEDIR}/rQzCommon210)
 
-install(DIRECTORY common runtime DESTINATION ${QZ_INSTALLED_HEADERS} FILES_MATCHING PATTERN "*.h")
-install(FILES ${QZ_PLATFORM_HEADERS} DESTINATION ${QZ_INSTALLED_HEADERS}/platform)
+install(DIRECTORY qz DESTINATION ${QZ_INSTALLED_HEADERS} FILES_MATCHING PATTERN "*.h"
+    PATTERN detail EXCLUDE PATTERN linux EXCLUDE PATTERN windows EXCLUDE)
 
 # Each form has an export file of its own: a user of the shared one needs none of the libraries underneath.
 install(TARGETS rQzCommon210_static EXPORT rQzCommon210-static)
@@ -29,12 +29,11 @@ install(FILES
 
 # Libraries that pkg-config knows by a name of their own, and those it is given as flags. The mingw libraries of
 # Debian have no pkg-config files.
-set(QZ_PC_REQUIRES libpcre2-16 zlib)
+set(QZ_PC_REQUIRES libpcre2-16)
 set(QZ_PC_LIBS ${QZ_LIBRARIES})
 if(WIN32)
     set(QZ_PC_REQUIRES)
     list(TRANSFORM QZ_PC_LIBS REPLACE "^PCRE2::16BIT$" pcre2-16)
-    list(TRANSFORM QZ_PC_LIBS REPLACE "^ZLIB::ZLIB$" z)
 else()
     list(APPEND QZ_PC_REQUIRES icu-i18n icu-uc)
     list(APPEND QZ_PC_LIBS stdc++ m)

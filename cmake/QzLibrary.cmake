@@ -5,28 +5,42 @@ else()
     set(QZ_SYSTEM linux)
 endif()
 
-file(GLOB_RECURSE QZ_SOURCES CONFIGURE_DEPENDS
-    ${PROJECT_SOURCE_DIR}/common/*.cpp ${PROJECT_SOURCE_DIR}/runtime/*.cpp)
-file(GLOB QZ_PLATFORM_SOURCES CONFIGURE_DEPENDS
-    ${PROJECT_SOURCE_DIR}/platform/*.cpp ${PROJECT_SOURCE_DIR}/platform/${QZ_SYSTEM}/*.cpp)
-file(GLOB_RECURSE QZ_HEADERS CONFIGURE_DEPENDS
-    ${PROJECT_SOURCE_DIR}/common/*.h ${PROJECT_SOURCE_DIR}/runtime/*.h)
-file(GLOB QZ_PLATFORM_HEADERS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*.h)
-list(APPEND QZ_SOURCES ${QZ_PLATFORM_SOURCES})
-list(APPEND QZ_HEADERS ${QZ_PLATFORM_HEADERS})
+# One set of objects a layer. The tests of a layer link to it and the layers below alone, so that the linker sees a
+# call upwards.
+set(QZ_LAYERS platform runtime common)
+set(QZ_HEADERS)
+set(QZ_OBJECTS)
+foreach(Layer IN LISTS QZ_LAYERS)
+    set(Folder ${PROJECT_SOURCE_DIR}/qz/${Layer})
+    if(Layer STREQUAL platform)
+        file(GLOB Sources CONFIGURE_DEPENDS ${Folder}/*.cpp ${Folder}/${QZ_SYSTEM}/*.cpp)
+        file(GLOB Headers CONFIGURE_DEPENDS ${Folder}/*.h)
+    else()
+        file(GLOB_RECURSE Sources CONFIGURE_DEPENDS ${Folder}/*.cpp)
+        file(GLOB_RECURSE Headers CONFIGURE_DEPENDS ${Folder}/*.h)
+        list(FILTER Headers EXCLUDE REGEX "/detail/")
+    endif()
+    list(APPEND QZ_HEADERS ${Headers})
 
-add_library(qz_objects OBJECT ${QZ_SOURCES})
-qz_target(qz_objects PCH ${QZ_STD_HEADERS})
-target_include_directories(qz_objects PRIVATE ${PROJECT_SOURCE_DIR})
-target_link_libraries(qz_objects PRIVATE ${QZ_LIBRARIES})
+    add_library(qz_${Layer} OBJECT ${Sources})
+    qz_target(qz_${Layer} PCH ${QZ_STD_HEADERS})
+    target_include_directories(qz_${Layer} PUBLIC ${PROJECT_SOURCE_DIR})
+    list(APPEND QZ_OBJECTS qz_${Layer})
+    set(QZ_OBJECTS_${Layer} ${QZ_OBJECTS})
+endforeach()
+target_link_libraries(qz_platform PRIVATE ${QZ_PLATFORM_LIBRARIES})
+target_link_libraries(qz_runtime PRIVATE ${QZ_RUNTIME_LIBRARIES})
 if(MINGW)
     # gcc aligns the stack to 16 bytes there and yet takes vectors of 32 bytes on it for aligned.
-    set_source_files_properties(${PROJECT_SOURCE_DIR}/runtime/text/UtfAvx2.cpp PROPERTIES
+    set_source_files_properties(${PROJECT_SOURCE_DIR}/qz/runtime/base/detail/UtfAvx2.cpp PROPERTIES
         COMPILE_OPTIONS -Wa,-muse-unaligned-vector-move)
 endif()
 
 function(qz_add_library Target Kind)
-    add_library(${Target} ${Kind} $<TARGET_OBJECTS:qz_objects>)
+    add_library(${Target} ${Kind})
+    foreach(Objects IN LISTS QZ_OBJECTS)
+        target_sources(${Target} PRIVATE $<TARGET_OBJECTS:${Objects}>)
+    endforeach()
     target_compile_features(${Target} INTERFACE cxx_std_20)
     target_include_directories(${Target} INTERFACE
         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>

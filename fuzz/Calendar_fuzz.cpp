@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "common/uQzDateTimeUtils.h"
-#include "runtime/errors/Exceptions.h"
+#include <qz/common/uQzDateTimeUtils.h>
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace {
 

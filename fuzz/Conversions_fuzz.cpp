@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "common/uQzTypes.h"
-#include "runtime/errors/Exceptions.h"
+#include <qz/common/uQzTypes.h>
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace {
 

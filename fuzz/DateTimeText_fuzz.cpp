@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "runtime/time/DateTimeText.h"
+#include <qz/runtime/time/DateTimeText.h>
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "runtime/errors/Exceptions.h"
-#include "runtime/text/Format.h"
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/text/Format.h>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {
     constexpr std::size_t cMostOfOnePlace = 66000;

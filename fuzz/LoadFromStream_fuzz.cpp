@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <initializer_list>
 
-#include "common/uQzClasses/QzStringStream.h"
-#include "runtime/errors/Exceptions.h"
+#include <qz/common/uQzClasses/QzStringStream.h>
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "runtime/text/FloatPattern.h"
-#include "runtime/text/FloatText.h"
-#include "runtime/text/NumberText.h"
+#include <qz/runtime/text/FloatPattern.h>
+#include <qz/runtime/text/FloatText.h>
+#include <qz/runtime/text/NumberText.h>
 
 namespace {
 

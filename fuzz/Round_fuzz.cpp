@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "common/uQzSysUtils/Numbers.h"
-#include "runtime/text/FloatText.h"
+#include <qz/common/uQzSysUtils/Numbers.h>
+#include <qz/runtime/text/FloatText.h>
 
 namespace {
 

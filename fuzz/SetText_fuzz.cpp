@@ -2,10 +2,10 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "runtime/errors/Exceptions.h"
-#include "runtime/lists/Set.h"
-#include "runtime/reflection/Describe.h"
-#include "runtime/reflection/EnumNames.h"
+#include <qz/runtime/base/Set.h>
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/values/EnumNames.h>
 
 enum class TTone : std::uint8_t { tnLow, tnMiddle, tnHigh };
 using TTones = qz::TSet<TTone, 64>;

@@ -3,10 +3,10 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "common/uQzSysUtils/Numbers.h"
-#include "runtime/errors/Exceptions.h"
-#include "runtime/text/NumberText.h"
-#include "runtime/text/StringUtils.h"
+#include <qz/common/uQzSysUtils/Numbers.h>
+#include <qz/runtime/base/StringUtils.h>
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/text/NumberText.h>
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "runtime/lists/StringList.h"
+#include <qz/runtime/lists/StringList.h>
 
 namespace {
 

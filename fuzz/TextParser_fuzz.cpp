@@ -2,7 +2,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "tests/support/ParserSteps.h"
+#include "tests/common/support/ParserSteps.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {
     if (ASize < 4)

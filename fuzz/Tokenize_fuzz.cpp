@@ -2,7 +2,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "common/uQzSysUtils/Tokenize.h"
+#include <qz/common/uQzSysUtils/Tokenize.h>
 
 namespace {
 

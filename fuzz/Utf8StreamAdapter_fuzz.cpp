@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "common/uQzClasses/QzStringStream.h"
-#include "common/uQzClasses/Utf8StreamAdapter.h"
-#include "runtime/errors/Exceptions.h"
-#include "runtime/text/Utf.h"
+#include <qz/common/uQzClasses/QzStringStream.h>
+#include <qz/common/uQzClasses/Utf8StreamAdapter.h>
+#include <qz/runtime/base/Utf.h>
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "runtime/text/UnicodeString.h"
-#include "runtime/text/UtfForms.h"
-#include "runtime/text/UtfPaths.h"
+#include <qz/runtime/base/UnicodeString.h>
+#include <qz/runtime/base/UtfForms.h>
+#include <qz/runtime/base/detail/UtfPaths.h>
 
 namespace {
 

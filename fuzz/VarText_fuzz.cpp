@@ -5,10 +5,10 @@
 #include <cstdlib>
 #include <type_traits>
 
-#include "common/uQzTypes/VarTolerant.h"
-#include "runtime/errors/Exceptions.h"
-#include "runtime/values/VariantArray.h"
-#include "runtime/values/VariantConvert.h"
+#include <qz/common/uQzTypes/VarTolerant.h>
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/values/VariantArray.h>
+#include <qz/runtime/values/VariantConvert.h>
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include <cstdio>
 #include <string>
 
-#include "platform/CodePages.h"
+#include <qz/platform/CodePages.h>
 
 namespace {
 

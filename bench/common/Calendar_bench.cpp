@@ -12,7 +12,7 @@
 #include <random>
 
 #include "bench/common/Samples.h"
-#include "common/uQzDateTimeUtils.h"
+#include <qz/common/uQzDateTimeUtils.h>
 
 namespace {
 

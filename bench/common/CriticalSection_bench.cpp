@@ -5,8 +5,8 @@
 #include <mutex>
 #include <shared_mutex>
 
-#include "common/uQzThreads/CriticalSection.h"
-#include "common/uQzThreads/MultiReadLock.h"
+#include <qz/common/uQzThreads/CriticalSection.h>
+#include <qz/common/uQzThreads/MultiReadLock.h>
 
 namespace {
 

@@ -12,9 +12,9 @@
 #include <spdlog/sinks/null_sink.h>
 #include <spdlog/spdlog.h>
 
-#include "common/uQzLogAppenders.h"
-#include "common/uQzLogLayouts.h"
-#include "common/uQzLogger.h"
+#include <qz/common/uQzLogAppenders.h>
+#include <qz/common/uQzLogLayouts.h>
+#include <qz/common/uQzLogger.h>
 
 namespace {
 

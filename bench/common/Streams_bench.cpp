@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "common/uQzClasses/QzStringStream.h"
+#include <qz/common/uQzClasses/QzStringStream.h>
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <sstream>
 #include <string>
 
-#include "common/uQzClasses/TextParser.h"
-#include "runtime/text/Encoding.h"
+#include <qz/common/uQzClasses/TextParser.h>
+#include <qz/runtime/text/Encoding.h>
 
 namespace {
 

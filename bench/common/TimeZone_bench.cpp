@@ -10,10 +10,10 @@
 #include <random>
 
 #include "bench/common/Samples.h"
-#include "common/uQzDateTimeUtils.h"
-#include "platform/Environment.h"
-#include "runtime/time/LocalClock.h"
-#include "runtime/time/TimeZone.h"
+#include <qz/common/uQzDateTimeUtils.h>
+#include <qz/platform/Environment.h>
+#include <qz/runtime/time/LocalClock.h>
+#include <qz/runtime/time/TimeZone.h>
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "common/uQzSysUtils/Strings.h"
-#include "common/uQzSysUtils/Tokenize.h"
+#include <qz/common/uQzSysUtils/Strings.h>
+#include <qz/common/uQzSysUtils/Tokenize.h>
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include <iconv.h>
 #include <unicode/ucnv.h>
 
-#include "platform/CodePages.h"
+#include <qz/platform/CodePages.h>
 
 namespace {
 

@@ -6,10 +6,10 @@
 #include <cstdio>
 #include <string>
 
-#include "runtime/text/Format.h"
-#include "runtime/text/NumberText.h"
-#include "runtime/text/Utf.h"
-#include "runtime/time/DateTimeText.h"
+#include <qz/runtime/base/Utf.h>
+#include <qz/runtime/text/Format.h>
+#include <qz/runtime/text/NumberText.h>
+#include <qz/runtime/time/DateTimeText.h>
 
 namespace {
 

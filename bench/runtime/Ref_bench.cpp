@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "runtime/objects/InterfacedObject.h"
+#include <qz/runtime/objects/InterfacedObject.h>
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "runtime/lists/StringList.h"
-#include "runtime/text/StringUtils.h"
+#include <qz/runtime/base/StringUtils.h>
+#include <qz/runtime/lists/StringList.h>
 
 namespace {
 

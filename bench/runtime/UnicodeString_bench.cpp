@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "runtime/text/UnicodeString.h"
+#include <qz/runtime/base/UnicodeString.h>
 
 namespace {
 

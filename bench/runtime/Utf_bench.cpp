@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "runtime/text/Utf.h"
-#include "runtime/text/UtfForms.h"
-#include "runtime/text/UtfPaths.h"
+#include <qz/runtime/base/Utf.h>
+#include <qz/runtime/base/UtfForms.h>
+#include <qz/runtime/base/detail/UtfPaths.h>
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include <Poco/Dynamic/Var.h>
 
-#include "runtime/values/Value.h"
+#include <qz/runtime/values/Value.h>
 
 namespace {
 

@@ -7,8 +7,8 @@
 
 #include <Poco/Dynamic/Var.h>
 
-#include "runtime/values/VariantArray.h"
-#include "runtime/values/VariantConvert.h"
+#include <qz/runtime/values/VariantArray.h>
+#include <qz/runtime/values/VariantConvert.h>
 
 namespace {
 

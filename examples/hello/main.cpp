@@ -1,16 +1,16 @@
 // A walk through what every program uses first: text, formatted text, dates, objects and threads.
-#include <common/Version.h>
-#include <common/uQzClasses.h>
-#include <common/uQzThreads.h>
+#include <qz/common/Version.h>
+#include <qz/common/uQzClasses.h>
+#include <qz/common/uQzThreads.h>
 
 #include <iostream>
 
-#include <runtime/errors/Exceptions.h>
-#include <runtime/reflection/Describe.h>
-#include <runtime/text/Format.h>
-#include <runtime/text/StringUtils.h>
-#include <runtime/threads/Thread.h>
-#include <runtime/time/DateTime.h>
+#include <qz/runtime/base/StringUtils.h>
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/text/Format.h>
+#include <qz/runtime/threads/Thread.h>
+#include <qz/runtime/time/DateTime.h>
 
 using namespace qz;
 

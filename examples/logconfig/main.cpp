@@ -5,18 +5,18 @@
 //     screen.class = TScreenAppender
 //
 // from the file that is given, or from the text below, and an appender of its own, found by the name of its class.
-#include <common/uQzLogAppenders.h>
-#include <common/uQzLogLayouts.h>
-#include <common/uQzLogger.h>
-#include <common/uQzTypes.h>
+#include <qz/common/uQzLogAppenders.h>
+#include <qz/common/uQzLogLayouts.h>
+#include <qz/common/uQzLogger.h>
+#include <qz/common/uQzTypes.h>
 
 #include <fstream>
 #include <iostream>
 #include <map>
 #include <sstream>
 
-#include <runtime/text/StringUtils.h>
-#include <runtime/values/VariantArray.h>
+#include <qz/runtime/base/StringUtils.h>
+#include <qz/runtime/values/VariantArray.h>
 
 using namespace qz;
 

@@ -1,12 +1,12 @@
 #include "Configuration.h"
 
-#include <common/uQzLogAppenders.h>
-#include <common/uQzLogLayouts.h>
+#include <qz/common/uQzLogAppenders.h>
+#include <qz/common/uQzLogLayouts.h>
 
 #include <map>
 
-#include <runtime/text/StringUtils.h>
-#include <runtime/values/VariantArray.h>
+#include <qz/runtime/base/StringUtils.h>
+#include <qz/runtime/values/VariantArray.h>
 
 using namespace qz;
 

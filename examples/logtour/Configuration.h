@@ -5,7 +5,7 @@
 //     Tour->GetLogger("readme")->Info("to all four appenders");
 #pragma once
 
-#include <common/uQzLogger.h>
+#include <qz/common/uQzLogger.h>
 
 // "root.tour" and the loggers right below it write to four appenders, whose files are in ADirectory, which ends with a
 // separator. Hold the first as long as messages are to go to the same files.

@@ -1,12 +1,12 @@
 #include "Places.h"
 
-#include <platform/Environment.h>
-#include <platform/Files.h>
+#include <qz/platform/Environment.h>
+#include <qz/platform/Files.h>
 
 #include <algorithm>
 
-#include <runtime/files/FileNames.h>
-#include <runtime/text/StringUtils.h>
+#include <qz/runtime/base/StringUtils.h>
+#include <qz/runtime/files/FileNames.h>
 
 using namespace qz;
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include <runtime/text/UnicodeString.h>
+#include <qz/runtime/base/UnicodeString.h>
 
 // Text files that most machines have, one of each of a few directories: the largest one, up to 16 MiB. May be empty.
 std::vector<qz::UnicodeString> TextFilesOfThisMachine();

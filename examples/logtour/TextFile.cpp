@@ -1,11 +1,11 @@
 #include "TextFile.h"
 
-#include <common/uQzClasses.h>
-#include <common/uQzTypes.h>
+#include <qz/common/uQzClasses.h>
+#include <qz/common/uQzTypes.h>
 
-#include <runtime/files/FileSystem.h>
-#include <runtime/streams/FileStream.h>
-#include <runtime/text/StringUtils.h>
+#include <qz/runtime/base/StringUtils.h>
+#include <qz/runtime/files/FileSystem.h>
+#include <qz/runtime/streams/FileStream.h>
 
 using namespace qz;
 

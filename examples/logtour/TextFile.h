@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <functional>
 
-#include <common/uQzLogger.h>
+#include <qz/common/uQzLogger.h>
 
 struct TTextFile {
     std::uint16_t CodePage = 0; // 0 for the system's

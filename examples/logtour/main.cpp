@@ -1,9 +1,9 @@
 // Reads text files of any code page and logs their lines, by a tree of loggers that an application's configurator sets up, to
 // a plain file, two families of files and an XML document with its stylesheet; then tells what it did and how fast.
-#include <common/uQzClasses.h>
-#include <common/uQzLogger.h>
-#include <common/uQzTypes.h>
-#include <platform/CommandLine.h>
+#include <qz/common/uQzClasses.h>
+#include <qz/common/uQzLogger.h>
+#include <qz/common/uQzTypes.h>
+#include <qz/platform/CommandLine.h>
 
 #include <algorithm>
 #include <chrono>
@@ -14,11 +14,11 @@
 #include "Places.h"
 #include "TextFile.h"
 
-#include <runtime/files/FileNames.h>
-#include <runtime/files/FileSystem.h>
-#include <runtime/text/Format.h>
-#include <runtime/text/NumberText.h>
-#include <runtime/text/StringUtils.h>
+#include <qz/runtime/base/StringUtils.h>
+#include <qz/runtime/files/FileNames.h>
+#include <qz/runtime/files/FileSystem.h>
+#include <qz/runtime/text/Format.h>
+#include <qz/runtime/text/NumberText.h>
 
 using namespace qz;
 

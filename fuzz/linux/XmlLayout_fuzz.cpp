@@ -9,8 +9,8 @@
 
 #include <expat.h>
 
-#include "common/uQzLogLayouts.h"
-#include "runtime/text/Utf.h"
+#include <qz/common/uQzLogLayouts.h>
+#include <qz/runtime/base/Utf.h>
 
 namespace {
 

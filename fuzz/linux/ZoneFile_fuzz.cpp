@@ -2,9 +2,9 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "platform/linux/ZoneFile.h"
-#include "platform/linux/ZoneText.h"
-#include "runtime/time/ZoneTable.h"
+#include <qz/platform/linux/ZoneFile.h>
+#include <qz/platform/linux/ZoneText.h>
+#include <qz/runtime/time/detail/ZoneTable.h>
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "common/Version.h"
+#include <qz/common/Version.h>
 
 #include <gtest/gtest.h>
 

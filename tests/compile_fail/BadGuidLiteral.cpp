@@ -1,5 +1,5 @@
 // expect: a GUID is written | is not a constant expression | call to consteval function
-#include "runtime/objects/Guid.h"
+#include <qz/runtime/base/Guid.h>
 
 constexpr qz::TGUID cGood = qz::Guid("{0417F540-9CCC-4DE6-B2C4-1063D0508346}");
 

@@ -1,5 +1,5 @@
 // expect: this class lacks a QZ_CLASS line of its own
-#include "runtime/objects/Object.h"
+#include <qz/runtime/objects/Object.h>
 
 class TPlain : public qz::TObject {};
 

@@ -1,5 +1,5 @@
 // expect: protected
-#include "runtime/objects/InterfacedObject.h"
+#include <qz/runtime/objects/InterfacedObject.h>
 
 class TCounted : public qz::TInterfacedObject {
     QZ_CLASS(TCounted, TInterfacedObject)

@@ -1,7 +1,7 @@
 // expect: abstract | protected
 #include <memory>
 
-#include "runtime/objects/Component.h"
+#include <qz/runtime/components/Component.h>
 
 class TPart : public qz::TComponent {
     QZ_CLASS(TPart, TComponent)

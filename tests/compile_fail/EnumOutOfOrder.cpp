@@ -1,5 +1,5 @@
 // expect: ItemsHaveToAscend | is not a constant expression
-#include "runtime/reflection/Describe.h"
+#include <qz/runtime/objects/Describe.h>
 
 enum class TTone { tnLow, tnHigh };
 

@@ -1,5 +1,5 @@
 // expect: FloatsHave4Or8Bytes | is not a constant expression
-#include "runtime/reflection/Describe.h"
+#include <qz/runtime/objects/Describe.h>
 
 #ifdef QZ_SHOULD_FAIL
 using TFloat = long double;

@@ -1,5 +1,5 @@
 // expect: TList<bool> has no bool to refer to
-#include "runtime/lists/List.h"
+#include <qz/runtime/lists/List.h>
 
 qz::TList<unsigned char> Flags;
 

@@ -1,5 +1,5 @@
 // expect: no matching
-#include "runtime/lists/ObjectList.h"
+#include <qz/runtime/lists/ObjectList.h>
 
 qz::TObjectList<> Seen(false);
 

@@ -1,5 +1,5 @@
 // expect: no matching
-#include "runtime/lists/StringList.h"
+#include <qz/runtime/lists/StringList.h>
 
 qz::TStringList Owning(true);
 

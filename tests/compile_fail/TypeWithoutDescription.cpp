@@ -1,5 +1,5 @@
 // expect: this type has no description
-#include "runtime/reflection/BasicTypes.h"
+#include <qz/runtime/values/BasicTypes.h>
 
 struct TUnknown {};
 

@@ -1,5 +1,5 @@
 // expect: could not convert | no viable conversion
-#include "common/Version.h"
+#include <qz/common/Version.h>
 
 #include <string>
 

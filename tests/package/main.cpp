@@ -1,10 +1,10 @@
 // Uses the library as an application does: derives from its classes, raises and catches its exceptions, and reads
 // its data across the border of the library.
-#include <common/Version.h>
-#include <common/uQzClasses.h>
-#include <common/uQzSysUtils.h>
-#include <runtime/objects/DescribeComponent.h>
-#include <runtime/text/Format.h>
+#include <qz/common/Version.h>
+#include <qz/common/uQzClasses.h>
+#include <qz/common/uQzSysUtils.h>
+#include <qz/runtime/components/DescribeComponent.h>
+#include <qz/runtime/text/Format.h>
 
 #include <cstdio>
 #include <string>

@@ -1,10 +1,10 @@
 // A source that sees <windows.h> before the library: the names that are macros there still mean ours.
 #include <windows.h>
 
-#include <platform/PlainNames.h>
+#include <qz/platform/PlainNames.h>
 
-#include <common/uQzClasses.h>
-#include <runtime/objects/ClassRegistry.h>
+#include <qz/common/uQzClasses.h>
+#include <qz/runtime/objects/ClassRegistry.h>
 
 bool UsesNamesThatAreMacros() {
     qz::RegisterClass(qz::ClassOf<qz::TQzObject>());

@@ -1,4 +1,4 @@
-#include "platform/Clock.h"
+#include <qz/platform/Clock.h>
 
 #include <chrono>
 #include <cstdlib>

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/CodePages.h"
+#include <qz/platform/CodePages.h>
 
 namespace qz::platform {
 namespace {

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/CodePages.h"
+#include <qz/platform/CodePages.h>
 
 namespace qz::platform {
 namespace {

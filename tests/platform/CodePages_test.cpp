@@ -1,4 +1,4 @@
-#include "platform/CodePages.h"
+#include <qz/platform/CodePages.h>
 
 #include <climits>
 #include <string>

@@ -1,4 +1,4 @@
-#include "platform/CommandLine.h"
+#include <qz/platform/CommandLine.h>
 
 #include <gtest/gtest.h>
 

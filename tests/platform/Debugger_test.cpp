@@ -1,4 +1,4 @@
-#include "platform/Debugger.h"
+#include <qz/platform/Debugger.h>
 
 #include <string_view>
 

@@ -1,4 +1,4 @@
-#include "platform/Environment.h"
+#include <qz/platform/Environment.h>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/Error.h"
+#include <qz/platform/Error.h>
 
 #include <string_view>
 

@@ -1,10 +1,10 @@
-#include "platform/FileHandle.h"
+#include <qz/platform/FileHandle.h>
 
 #include <array>
 #include <thread>
 #include <vector>
 
-#include "tests/platform/TemporaryDirectory.h"
+#include "tests/support/TemporaryDirectory.h"
 
 namespace qz::platform {
 namespace {

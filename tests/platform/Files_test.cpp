@@ -1,4 +1,4 @@
-#include "platform/Files.h"
+#include <qz/platform/Files.h>
 
 #include <algorithm>
 #include <atomic>
@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "TemporaryDirectory.h"
+#include "tests/support/TemporaryDirectory.h"
 
 namespace qz::platform {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/Locale.h"
+#include <qz/platform/Locale.h>
 
 #include <set>
 

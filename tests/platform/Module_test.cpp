@@ -1,8 +1,8 @@
-#include "platform/Module.h"
+#include <qz/platform/Module.h>
 
 #include <gtest/gtest.h>
 
-#include "platform/Files.h"
+#include <qz/platform/Files.h>
 
 namespace qz::platform {
 namespace {

@@ -1,11 +1,11 @@
-#include "platform/Mutex.h"
+#include <qz/platform/Mutex.h>
 
 #include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "platform/Threads.h"
+#include <qz/platform/Threads.h>
 
 namespace qz::platform {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/SlimLock.h"
+#include <qz/platform/SlimLock.h>
 
 #include <atomic>
 #include <memory>
@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/Threads.h"
+#include <qz/platform/Threads.h>
 
 namespace qz::platform {
 namespace {

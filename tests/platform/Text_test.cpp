@@ -1,4 +1,4 @@
-#include "platform/Text.h"
+#include <qz/platform/Text.h>
 
 #include <atomic>
 #include <thread>

@@ -1,7 +1,7 @@
 // A list of text as one text, each line with a bar behind it.
 #pragma once
 
-#include "runtime/lists/Strings.h"
+#include <qz/runtime/lists/Strings.h>
 
 namespace qz {
 

@@ -1,7 +1,7 @@
 // What a step raises, as text.
 #pragma once
 
-#include "runtime/errors/Exceptions.h"
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
 

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "tests/platform/TemporaryDirectory.h"
+#include "tests/support/TemporaryDirectory.h"
 #include "tests/support/Variables.h"
 
 namespace qz::platform {

@@ -1,7 +1,7 @@
 // The system's code page is another one within a block.
 #pragma once
 
-#include "runtime/text/CodePages.h"
+#include <qz/runtime/text/CodePages.h>
 
 namespace qz {
 

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "runtime/text/UnicodeString.h"
+#include <qz/runtime/base/UnicodeString.h>
 
 namespace qz {
 

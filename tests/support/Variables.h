@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Environment.h"
+#include <qz/platform/Environment.h>
 
 namespace qz::platform {
 

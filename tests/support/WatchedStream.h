@@ -1,8 +1,8 @@
 // A stream in memory that counts its end.
 #pragma once
 
-#include "common/uQzClasses/QzMemoryStream.h"
-#include "runtime/reflection/Describe.h"
+#include <qz/common/uQzClasses/QzMemoryStream.h>
+#include <qz/runtime/objects/Describe.h>
 
 namespace qz {
 

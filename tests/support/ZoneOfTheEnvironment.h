@@ -4,8 +4,8 @@
 #include <stdlib.h>
 #include <time.h>
 
-#include "platform/Environment.h"
-#include "runtime/time/TimeZone.h"
+#include <qz/platform/Environment.h>
+#include <qz/runtime/time/TimeZone.h>
 
 namespace qz {
 

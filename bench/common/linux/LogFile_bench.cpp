@@ -23,9 +23,9 @@
 #include <spdlog/sinks/basic_file_sink.h>
 #include <spdlog/spdlog.h>
 
-#include "common/uQzLogAppenders.h"
-#include "common/uQzLogLayouts.h"
-#include "common/uQzLogger.h"
+#include <qz/common/uQzLogAppenders.h>
+#include <qz/common/uQzLogLayouts.h>
+#include <qz/common/uQzLogger.h>
 
 // Counts what a thread allocates, in whatever library.
 namespace {

@@ -1,10 +1,10 @@
-#include "platform/linux/Charset.h"
+#include <qz/platform/linux/Charset.h>
 
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "platform/CodePages.h"
+#include <qz/platform/CodePages.h>
 
 namespace qz::platform {
 namespace {

@@ -6,8 +6,8 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
-#include "platform/FileHandle.h"
-#include "tests/platform/TemporaryDirectory.h"
+#include "tests/support/TemporaryDirectory.h"
+#include <qz/platform/FileHandle.h>
 
 namespace qz::platform {
 namespace {

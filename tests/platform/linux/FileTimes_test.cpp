@@ -1,4 +1,4 @@
-#include "platform/FileTimes.h"
+#include <qz/platform/FileTimes.h>
 
 #include <cerrno>
 #include <limits>
@@ -10,9 +10,9 @@
 
 #include <gtest/gtest.h>
 
-#include "../TemporaryDirectory.h"
-#include "platform/Clock.h"
-#include "platform/linux/NativeText.h"
+#include "tests/support/TemporaryDirectory.h"
+#include <qz/platform/Clock.h>
+#include <qz/platform/linux/NativeText.h>
 
 namespace qz::platform {
 namespace {

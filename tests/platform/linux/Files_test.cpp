@@ -1,4 +1,4 @@
-#include "platform/Files.h"
+#include <qz/platform/Files.h>
 
 #include <cerrno>
 #include <csignal>
@@ -12,8 +12,8 @@
 
 #include <gtest/gtest.h>
 
-#include "../TemporaryDirectory.h"
-#include "platform/linux/NativeText.h"
+#include "tests/support/TemporaryDirectory.h"
+#include <qz/platform/linux/NativeText.h>
 
 namespace qz::platform {
 namespace {

@@ -1,8 +1,8 @@
-#include "platform/linux/LocalePattern.h"
+#include <qz/platform/linux/LocalePattern.h>
 
 #include <gtest/gtest.h>
 
-#include "platform/linux/LocaleName.h"
+#include <qz/platform/linux/LocaleName.h>
 
 namespace qz::platform::detail {
 namespace {

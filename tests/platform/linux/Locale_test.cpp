@@ -1,11 +1,11 @@
-#include "platform/Locale.h"
+#include <qz/platform/Locale.h>
 
 #include <map>
 #include <optional>
 
 #include <gtest/gtest.h>
 
-#include "platform/Environment.h"
+#include <qz/platform/Environment.h>
 
 namespace qz::platform {
 namespace {

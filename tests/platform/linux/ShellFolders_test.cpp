@@ -1,4 +1,4 @@
-#include "platform/ShellFolders.h"
+#include <qz/platform/ShellFolders.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -9,12 +9,12 @@
 
 #include <gtest/gtest.h>
 
-#include "../TemporaryDirectory.h"
-#include "platform/linux/NativeText.h"
-#include "platform/linux/SharedPlaces.h"
-#include "platform/linux/UserDirs.h"
-#include "platform/linux/UserRecord.h"
+#include "tests/support/TemporaryDirectory.h"
 #include "tests/support/Variables.h"
+#include <qz/platform/linux/NativeText.h>
+#include <qz/platform/linux/SharedPlaces.h>
+#include <qz/platform/linux/UserDirs.h>
+#include <qz/platform/linux/UserRecord.h>
 
 namespace qz::platform {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/linux/SystemLog.h"
+#include <qz/platform/linux/SystemLog.h>
 
 #include <array>
 #include <cstring>
@@ -14,8 +14,8 @@
 
 #include <gtest/gtest.h>
 
-#include "../TemporaryDirectory.h"
-#include "platform/linux/NativeText.h"
+#include "tests/support/TemporaryDirectory.h"
+#include <qz/platform/linux/NativeText.h>
 
 namespace qz::platform {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/Threads.h"
+#include <qz/platform/Threads.h>
 
 #include <atomic>
 #include <chrono>

@@ -1,4 +1,4 @@
-#include "platform/linux/ZoneFile.h"
+#include <qz/platform/linux/ZoneFile.h>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -7,8 +7,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/Environment.h"
-#include "platform/linux/ZoneText.h"
+#include <qz/platform/Environment.h>
+#include <qz/platform/linux/ZoneText.h>
 
 namespace qz::platform {
 namespace {

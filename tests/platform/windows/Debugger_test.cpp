@@ -1,8 +1,8 @@
-#include "platform/Debugger.h"
+#include <qz/platform/Debugger.h>
 
 #include <gtest/gtest.h>
 
-#include "platform/Module.h"
+#include <qz/platform/Module.h>
 
 namespace qz::platform {
 namespace {

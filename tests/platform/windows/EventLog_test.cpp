@@ -1,13 +1,13 @@
-#include "platform/EventLog.h"
+#include <qz/platform/EventLog.h>
 
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "platform/Accounts.h"
-#include "platform/Module.h"
-#include "platform/Threads.h"
-#include "platform/windows/WideText.h"
+#include <qz/platform/Accounts.h>
+#include <qz/platform/Module.h>
+#include <qz/platform/Threads.h>
+#include <qz/platform/windows/WideText.h>
 
 namespace qz::platform {
 namespace {

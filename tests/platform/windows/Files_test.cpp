@@ -1,4 +1,4 @@
-#include "platform/Files.h"
+#include <qz/platform/Files.h>
 
 #include <cstdio>
 
@@ -8,9 +8,9 @@
 
 #include <gtest/gtest.h>
 
-#include "../TemporaryDirectory.h"
-#include "platform/windows/LongPath.h"
-#include "platform/windows/WideText.h"
+#include "tests/support/TemporaryDirectory.h"
+#include <qz/platform/windows/LongPath.h>
+#include <qz/platform/windows/WideText.h>
 
 namespace qz::platform {
 namespace {

@@ -1,11 +1,11 @@
-#include "platform/Threads.h"
+#include <qz/platform/Threads.h>
 
 #include <string>
 #include <thread>
 
 #include <gtest/gtest.h>
 
-#include "platform/Module.h"
+#include <qz/platform/Module.h>
 
 namespace qz::platform {
 namespace {

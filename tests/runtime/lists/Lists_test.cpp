@@ -2,10 +2,10 @@
 
 #include <thread>
 
-#include "runtime/errors/Exceptions.h"
-#include "runtime/lists/Lists.h"
-#include "runtime/objects/InterfacedObject.h"
-#include "runtime/reflection/Describe.h"
+#include <qz/runtime/lists/Lists.h>
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/InterfacedObject.h>
 
 namespace qz {
 namespace {

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "runtime/errors/Exceptions.h"
-#include "runtime/lists/StringList.h"
-#include "runtime/reflection/Describe.h"
-#include "runtime/text/StringUtils.h"
-#include "tests/platform/TemporaryDirectory.h"
+#include "tests/support/TemporaryDirectory.h"
+#include <qz/runtime/base/StringUtils.h>
+#include <qz/runtime/lists/StringList.h>
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
 namespace {

@@ -2,10 +2,10 @@
 
 #include <thread>
 
-#include "runtime/errors/Exceptions.h"
-#include "runtime/objects/InterfacedObject.h"
-#include "runtime/objects/Persistent.h"
-#include "runtime/reflection/Describe.h"
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/InterfacedObject.h>
+#include <qz/runtime/objects/Persistent.h>
 
 namespace qz {
 namespace {

@@ -1,12 +1,12 @@
-#include "runtime/reflection/Properties.h"
+#include <qz/runtime/reflection/Properties.h>
 
 #include <gtest/gtest.h>
 
-#include "runtime/lists/Set.h"
-#include "runtime/objects/InterfacedObject.h"
-#include "runtime/reflection/Describe.h"
-#include "runtime/text/FormatSettings.h"
 #include "tests/support/Message.h"
+#include <qz/runtime/base/Set.h>
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/InterfacedObject.h>
+#include <qz/runtime/text/FormatSettings.h>
 
 namespace qz {
 namespace {

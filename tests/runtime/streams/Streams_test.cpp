@@ -1,10 +1,10 @@
-#include "runtime/streams/Streams.h"
+#include <qz/runtime/streams/Streams.h>
 
 #include <gtest/gtest.h>
 
-#include "runtime/errors/Exceptions.h"
-#include "runtime/reflection/Describe.h"
-#include "tests/platform/TemporaryDirectory.h"
+#include "tests/support/TemporaryDirectory.h"
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
 namespace {

@@ -1,8 +1,8 @@
-#include "runtime/text/AnsiString.h"
+#include <qz/runtime/text/AnsiString.h>
 
 #include <gtest/gtest.h>
 
-#include "runtime/errors/Exceptions.h"
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
 namespace {

@@ -1,4 +1,4 @@
-#include "runtime/text/FloatPattern.h"
+#include <qz/runtime/text/FloatPattern.h>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "runtime/text/FloatText.h"
+#include <qz/runtime/text/FloatText.h>
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <limits>
 #include <random>
 
-#include "runtime/errors/Exceptions.h"
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
 namespace {

@@ -1,8 +1,9 @@
-#include "runtime/text/Format.h"
+#include <qz/runtime/text/AnsiString.h>
+#include <qz/runtime/text/Format.h>
 
 #include <gtest/gtest.h>
 
-#include "runtime/errors/Exceptions.h"
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
 namespace {

@@ -1,10 +1,10 @@
-#include "runtime/text/NumberText.h"
+#include <qz/runtime/text/NumberText.h>
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "runtime/errors/Exceptions.h"
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
 namespace {

@@ -1,4 +1,4 @@
-#include "runtime/text/RegEx.h"
+#include <qz/runtime/text/RegEx.h>
 
 #include <gtest/gtest.h>
 

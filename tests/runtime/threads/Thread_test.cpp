@@ -1,12 +1,12 @@
-#include "runtime/threads/Thread.h"
+#include <qz/runtime/threads/Thread.h>
 
 #include <gtest/gtest.h>
 
-#include "platform/Threads.h"
-#include "runtime/errors/Exceptions.h"
-#include "runtime/reflection/Describe.h"
-#include "runtime/threads/CriticalSection.h"
-#include "runtime/threads/MultiReadLock.h"
+#include <qz/platform/Threads.h>
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/threads/CriticalSection.h>
+#include <qz/runtime/threads/MultiReadLock.h>
 
 namespace qz {
 namespace {

@@ -1,9 +1,9 @@
-#include "runtime/time/DateTimeText.h"
+#include <qz/runtime/time/DateTimeText.h>
 
 #include <gtest/gtest.h>
 
-#include "runtime/errors/Exceptions.h"
-#include "runtime/text/Format.h"
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/text/Format.h>
 
 namespace qz {
 namespace {

@@ -1,10 +1,10 @@
-#include "runtime/time/DateTime.h"
+#include <qz/runtime/time/DateTime.h>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "runtime/errors/Exceptions.h"
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
 namespace {

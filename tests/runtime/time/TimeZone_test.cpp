@@ -1,4 +1,4 @@
-#include "runtime/time/TimeZone.h"
+#include <qz/runtime/time/TimeZone.h>
 
 #include <gtest/gtest.h>
 
@@ -6,10 +6,10 @@
 #include <cmath>
 #include <thread>
 
-#include "platform/TimeZone.h"
-#include "runtime/time/LocalClock.h"
-#include "runtime/time/ZoneState.h"
-#include "runtime/time/ZoneTable.h"
+#include <qz/platform/TimeZone.h>
+#include <qz/runtime/time/LocalClock.h>
+#include <qz/runtime/time/detail/ZoneState.h>
+#include <qz/runtime/time/detail/ZoneTable.h>
 
 namespace qz {
 namespace {

@@ -1,17 +1,17 @@
-#include "runtime/values/Value.h"
+#include <qz/runtime/values/Value.h>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "runtime/lists/Set.h"
-#include "runtime/objects/InterfacedObject.h"
-#include "runtime/reflection/Describe.h"
-#include "runtime/text/FloatText.h"
-#include "runtime/text/Format.h"
-#include "runtime/text/NumberText.h"
 #include "tests/support/Message.h"
 #include "tests/support/Trace.h"
+#include <qz/runtime/base/Set.h>
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/InterfacedObject.h>
+#include <qz/runtime/text/FloatText.h>
+#include <qz/runtime/text/Format.h>
+#include <qz/runtime/text/NumberText.h>
 
 namespace qz {
 namespace {

@@ -1,4 +1,4 @@
-#include "runtime/values/VariantConvert.h"
+#include <qz/runtime/values/VariantConvert.h>
 
 #include <cmath>
 #include <functional>
@@ -6,11 +6,11 @@
 
 #include <gtest/gtest.h>
 
-#include "runtime/objects/InterfacedObject.h"
-#include "runtime/text/FloatText.h"
-#include "runtime/text/NumberText.h"
-#include "runtime/time/DateTimeText.h"
-#include "runtime/values/VariantArray.h"
+#include <qz/runtime/objects/InterfacedObject.h>
+#include <qz/runtime/text/FloatText.h>
+#include <qz/runtime/text/NumberText.h>
+#include <qz/runtime/time/DateTimeText.h>
+#include <qz/runtime/values/VariantArray.h>
 
 namespace qz {
 namespace {

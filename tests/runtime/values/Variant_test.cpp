@@ -1,4 +1,4 @@
-#include "runtime/values/Variant.h"
+#include <qz/runtime/values/Variant.h>
 
 #include <bit>
 #include <cmath>
@@ -7,9 +7,9 @@
 
 #include <gtest/gtest.h>
 
-#include "runtime/objects/InterfacedObject.h"
-#include "runtime/values/VariantArray.h"
-#include "runtime/values/VariantConvert.h"
+#include <qz/runtime/objects/InterfacedObject.h>
+#include <qz/runtime/values/VariantArray.h>
+#include <qz/runtime/values/VariantConvert.h>
 
 namespace qz {
 namespace {

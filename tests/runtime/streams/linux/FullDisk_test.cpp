@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
-#include "runtime/errors/Exceptions.h"
-#include "runtime/streams/Streams.h"
-#include "tests/platform/TemporaryDirectory.h"
+#include "tests/support/TemporaryDirectory.h"
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/streams/Streams.h>
 
 namespace qz {
 namespace {

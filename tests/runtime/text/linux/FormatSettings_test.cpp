@@ -1,10 +1,10 @@
 // The settings are those of the locale in the environment, whether it is installed or not.
-#include "runtime/text/FormatSettings.h"
+#include <qz/runtime/text/FormatSettings.h>
 
 #include <gtest/gtest.h>
 
-#include "runtime/time/DateTimeText.h"
 #include "tests/support/LocaleOfTheEnvironment.h"
+#include <qz/runtime/time/DateTimeText.h>
 
 namespace qz {
 namespace {

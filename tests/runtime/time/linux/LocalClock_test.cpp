@@ -1,4 +1,4 @@
-#include "runtime/time/LocalClock.h"
+#include <qz/runtime/time/LocalClock.h>
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
@@ -6,7 +6,7 @@
 #include <time.h>
 #include <unistd.h>
 
-#include "runtime/time/DateTime.h"
+#include <qz/runtime/time/TimeZone.h>
 
 namespace qz {
 namespace {
@@ -16,7 +16,7 @@ int MinutesAheadOfUtc(const char* AZone) {
     const pid_t Child = fork();
     if (Child == 0) {
         setenv("TZ", AZone, 1);
-        RefreshLocalClock();
+        TTimeZone::Refresh();
         const std::int64_t Utc = time(nullptr) % 86400;
         const std::int64_t Ahead = (LocalClock().MSecs / 1000 - Utc + 2 * 86400 + 30) % 86400;
         _exit(static_cast<int>(Ahead / 60 / 15));

@@ -1,4 +1,4 @@
-#include "runtime/time/TimeZone.h"
+#include <qz/runtime/time/TimeZone.h>
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
@@ -10,10 +10,10 @@
 #include <filesystem>
 #include <thread>
 
-#include "runtime/time/DateTimeText.h"
-#include "runtime/time/LocalClock.h"
-#include "runtime/time/ZoneState.h"
 #include "tests/support/ZoneOfTheEnvironment.h"
+#include <qz/runtime/time/DateTimeText.h>
+#include <qz/runtime/time/LocalClock.h>
+#include <qz/runtime/time/detail/ZoneState.h>
 
 namespace qz {
 namespace {

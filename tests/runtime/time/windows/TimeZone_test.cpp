@@ -1,13 +1,13 @@
-#include "runtime/time/TimeZone.h"
+#include <qz/runtime/time/TimeZone.h>
 
 #include <gtest/gtest.h>
 
 #include <map>
 #include <stdexcept>
 
-#include "platform/Module.h"
-#include "platform/windows/ZoneYears.h"
-#include "runtime/time/ZoneTable.h"
+#include <qz/platform/Module.h>
+#include <qz/platform/windows/ZoneYears.h>
+#include <qz/runtime/time/detail/ZoneTable.h>
 
 // The system's records, as it lays them out.
 struct TSystemTime {

@@ -1,9 +1,9 @@
-#include "runtime/values/SystemVariant.h"
+#include <qz/runtime/values/SystemVariant.h>
 
 #include <gtest/gtest.h>
 
-#include "runtime/objects/InterfacedObject.h"
-#include "runtime/values/VariantArray.h"
+#include <qz/runtime/objects/InterfacedObject.h>
+#include <qz/runtime/values/VariantArray.h>
 
 namespace qz {
 namespace {

@@ -1,4 +1,4 @@
-#include "runtime/values/SystemVariant.h"
+#include <qz/runtime/values/SystemVariant.h>
 
 #include <cstring>
 #include <limits>
@@ -6,10 +6,10 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/Module.h"
-#include "runtime/objects/InterfacedObject.h"
-#include "runtime/values/VariantArray.h"
-#include "runtime/values/VariantConvert.h"
+#include <qz/platform/Module.h>
+#include <qz/runtime/objects/InterfacedObject.h>
+#include <qz/runtime/values/VariantArray.h>
+#include <qz/runtime/values/VariantConvert.h>
 
 namespace {
 

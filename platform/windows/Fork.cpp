@@ -1,7 +1,0 @@
-#include "platform/Fork.h"
-
-namespace qz::platform {
-
-void AroundFork(void (*)(), void (*)(), void (*)()) {}
-
-} // namespace qz::platform

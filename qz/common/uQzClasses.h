@@ -1,0 +1,54 @@
+// Unit uQzClasses: objects that know who ends them, and what the other units are built from.
+#pragma once
+
+// TQzObject, an object for use as it is or through interfaces,
+// and the policy of who ends it.
+#include <qz/common/uQzClasses/QzObject.h>
+// TQzObjectEx, an object that tells others of its end
+// and is told of theirs.
+#include <qz/common/uQzClasses/QzObjectEx.h>
+// TQzFreeNotifies, the same for any object,
+// on any number of threads.
+#include <qz/common/uQzClasses/QzFreeNotifies.h>
+// TQzObjectAdapter, which carries any object
+// through an interface variable.
+#include <qz/common/uQzClasses/QzObjectAdapter.h>
+// TQzComponent, a component whose life may be that of the references to it,
+// and whose properties can follow others.
+#include <qz/common/uQzClasses/QzComponent.h>
+// TQzMemoryStream, a stream over one block of memory
+// that is its own or somebody else's.
+#include <qz/common/uQzClasses/QzMemoryStream.h>
+// QzStreamToReadBuf and QzStreamToWriteBuf,
+// streams as blocks of memory.
+#include <qz/common/uQzClasses/StreamBuf.h>
+// TQzStringStream, a stream of text
+// in one code page.
+#include <qz/common/uQzClasses/QzStringStream.h>
+// TQzUTF8StreamAdapter, a stream of UTF-8
+// shown as 16-bit text.
+#include <qz/common/uQzClasses/Utf8StreamAdapter.h>
+// QzStreamToWideString, QzUTF8Decode and the like,
+// whole streams as text.
+#include <qz/common/uQzClasses/StreamText.h>
+// TQzTextParser, the scanner for text
+// of any 8-bit code page, UTF-16 and UTF-8.
+#include <qz/common/uQzClasses/TextParser.h>
+// cQzSpace, cQzComma and the like,
+// the characters that parsers meet, by name.
+#include <qz/common/uQzClasses/Characters.h>
+// TQzFileStream, a file as a stream,
+// to which texts are written as they stand.
+#include <qz/common/uQzClasses/QzFileStream.h>
+// TQzStringList, a string list
+// that takes the pieces of a text.
+#include <qz/common/uQzClasses/QzStringList.h>
+// TQzKeyDescStringList, keys paired with descriptions,
+// for lists to choose from.
+#include <qz/common/uQzClasses/QzKeyDescStringList.h>
+// TQzObjectList, a list of objects
+// that holds references to those that count them.
+#include <qz/common/uQzClasses/QzObjectList.h>
+// TQzMemoList, texts of many lines,
+// each under a code of its own.
+#include <qz/common/uQzClasses/QzMemoList.h>

@@ -1,0 +1,90 @@
+#include <qz/common/uQzClasses/QzObject.h>
+
+#include <qz/common/uQzClasses/QzComponent.h>
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/text/Format.h>
+
+namespace qz {
+namespace {
+
+constexpr std::u16string_view cUnit = u"uQzClasses";
+
+TQzObject* MakeObject() {
+    return TQzObject::Create();
+}
+
+constexpr TMakerEntry cObjectMakers[] = {Maker<TQzObject::TVirtualCreate, &MakeObject>()};
+
+} // namespace
+
+constinit const TClassRec TQzObject::ClassRec = DescribeClass<TQzObject>(
+    u"TQzObject", {.Unit = cUnit, .Interfaces = Interfaces<TQzObject, IQzObject>(), .Makers = cObjectMakers});
+constinit const TClassRec TQzInterfacedObject::ClassRec =
+    DescribeClass<TQzInterfacedObject>(u"TQzInterfacedObject", {.Unit = cUnit});
+
+bool TQzObject::GetAutoDestroy() const {
+    return AutoDestroyPolicy() == radTrue;
+}
+
+void TQzObject::SetAutoDestroy(bool AValue) noexcept {
+    FAutoDestroy.store(AValue ? radTrue : radFalse, std::memory_order_relaxed);
+}
+
+HRESULT TQzObject::QueryInterface(const TGUID& AIid, void** AObject) {
+    return detail::QueryObject(*this, AIid, AObject);
+}
+
+std::uint32_t TQzObject::_AddRef() {
+    const std::int32_t Count = FRefCount.Increment();
+    if (AutoDestroyPolicy() == radComputed) {
+        TQzAutoDestroy Undecided = radComputed;
+        FAutoDestroy.compare_exchange_strong(Undecided, radTrue, std::memory_order_relaxed);
+    }
+    return static_cast<std::uint32_t>(Count);
+}
+
+std::uint32_t TQzObject::_Release() {
+    const std::int32_t Count = FRefCount.Decrement();
+    if (Count == 0 && AutoDestroyPolicy() == radTrue && !FDestroying)
+        Free();
+    return static_cast<std::uint32_t>(Count);
+}
+
+void TQzObject::FinishCreate() {
+    FRefCount.Decrement();
+}
+
+// References that are taken and dropped from here on, by notifications, end nothing.
+bool TQzObject::BeginDestruction() noexcept {
+    return !FDestroying.exchange(true);
+}
+
+void TQzObject::BeforeDestruction() {
+    if (FRefCount.Value() != 0)
+        throw Exception(SObjRefCountNotZero, {ClassName()});
+    Inherited::BeforeDestruction();
+}
+
+void TQzObject::DestructionRefused() noexcept {
+    FDestroying = false;
+}
+
+TQzPolicyHold::TQzPolicyHold(TObject* AObject) noexcept {
+    if (auto* Object = dynamic_cast<TQzObject*>(AObject)) {
+        FPolicy = &Object->FAutoDestroy;
+        FWasReferenced = Object->RefCount() != 0;
+    } else if (auto* Component = dynamic_cast<TQzComponent*>(AObject)) {
+        FPolicy = &Component->FAutoDestroy;
+        FWasReferenced = Component->RefCount() != 0;
+    }
+    if (FPolicy != nullptr)
+        FOld = FPolicy->exchange(radFalse, std::memory_order_relaxed);
+}
+
+TQzPolicyHold::~TQzPolicyHold() {
+    if (FPolicy != nullptr)
+        FPolicy->store(FOld, std::memory_order_relaxed);
+}
+
+} // namespace qz

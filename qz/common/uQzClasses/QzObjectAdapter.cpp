@@ -1,0 +1,16 @@
+#include <qz/common/uQzClasses/QzObjectAdapter.h>
+
+#include <qz/runtime/objects/Describe.h>
+
+namespace qz {
+
+constinit const TClassRec TQzObjectAdapter::ClassRec = DescribeClass<TQzObjectAdapter>(
+    u"TQzObjectAdapter",
+    {.Unit = u"uQzClasses", .Interfaces = Interfaces<TQzObjectAdapter, IQzObjectAdapter, IQzObject>()});
+
+TQzObjectAdapter::~TQzObjectAdapter() {
+    if (FOwnership == ooOwned)
+        FreeAndNil(FObject);
+}
+
+} // namespace qz

@@ -1,0 +1,240 @@
+#include <qz/common/uQzLogAppenders/FileAppender.h>
+
+#include <qz/common/uQzTypes/VarTolerant.h>
+#include <qz/common/uQzWindows/ShellFolders.h>
+#include <qz/common/uQzWindows/SystemVersion.h>
+#include <qz/runtime/base/StringUtils.h>
+#include <qz/runtime/files/FileNames.h>
+#include <qz/runtime/files/FileSystem.h>
+
+namespace qz {
+
+constinit const TClassRec TQzFileAppender::ClassRec = DescribeLogBase<TQzFileAppender>(
+    u"TQzFileAppender",
+    {.Unit = u"uQzLogAppenders", .Interfaces = Interfaces<TQzFileAppender, IQzFileAppender>()});
+
+namespace {
+
+constexpr TTextConstant cExtension = u".log";
+constexpr std::int32_t cCommonDocuments = 46;
+// From this version on a program cannot write beside itself.
+constexpr std::uint16_t cKeepsOffPrograms = 601;
+constexpr std::int64_t cLargestBuffer = std::int64_t{1} << 30;
+
+UnicodeString NameAmongDocuments(const UnicodeString& AProgram) {
+    const UnicodeString Name = ChangeFileExt(ExtractFileName(AProgram), u"");
+    const UnicodeString Directory =
+        IncludeTrailingPathDelimiter(IncludeTrailingPathDelimiter(QzGetShellFolder(cCommonDocuments)) + Name);
+    ForceDirectories(Directory);
+    return Directory + Name + cExtension;
+}
+
+// A user without any place for documents can still give the file another name.
+UnicodeString DefaultFileName() {
+    const UnicodeString Program = ProgramFileName();
+    if (QzGetWindowsVersion() >= cKeepsOffPrograms) {
+        try {
+            return NameAmongDocuments(Program);
+        } catch (const Exception&) { // NOLINT(bugprone-empty-catch)
+        }
+    }
+    return ChangeFileExt(Program, cExtension);
+}
+
+} // namespace
+
+TQzFileAppender::TQzFileAppender(TQzLogger* ALogger, const UnicodeString& AName)
+    : Inherited(ALogger, AName),
+      FFileName(DefaultFileName()),
+      FFileExt(cExtension) {}
+
+TQzFileAppender::~TQzFileAppender() = default;
+
+void TQzFileAppender::Initialize() {
+    const TScopedLock Hold(*this);
+    OpenFile(FAppendExisting);
+}
+
+void TQzFileAppender::OpenFile(bool AContinues) {
+    const TInitializing Now(*this);
+    FFileStream.reset();
+    if (TrimView(FFileName).empty())
+        return;
+    const bool IsThere = FileExists(FFileName);
+    FIsContinuing = IsThere && AContinues;
+    if (IsThere && !AContinues)
+        DeleteFile(FFileName);
+    auto File = std::make_unique<TQzTextFile>(FFileName, &OwnLock());
+    File->SetBufferSize(FBufferSize);
+    FFileStream = std::move(File);
+    FOwesHeader = Layout() != nullptr && !FIsContinuing;
+    try {
+        PayHeader();
+    } catch (const EStreamError&) { // NOLINT(bugprone-empty-catch): before the first line, then
+    } catch (...) {
+        FFileStream.reset();
+        throw;
+    }
+    Inherited::Initialize();
+}
+
+void TQzFileAppender::PayHeader() {
+    if (!FOwesHeader)
+        return;
+    const UnicodeString Text = Layout() != nullptr ? Header() : UnicodeString();
+    if (!Text.IsEmpty() && FFileStream != nullptr)
+        FFileStream->WriteLn(Text);
+    FOwesHeader = false;
+}
+
+void TQzFileAppender::Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
+                            const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) {
+    const TScopedLock Hold(*this);
+    if (FFileStream != nullptr && FFileStream->HasGone())
+        CloseQuietly();
+    Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
+    if (Layout() == nullptr || FFileStream == nullptr)
+        return;
+    if (FOwesHeader) [[unlikely]]
+        PayHeader();
+    const UnicodeString Line = FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
+    if (FFileStream == nullptr) [[unlikely]] // the layout has closed the appender
+        Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
+    if (Line.IsEmpty() || FFileStream == nullptr)
+        return;
+    if (FBufferSize != 0 && ALevel < FFlushLevel)
+        FFileStream->WriteLnLater(Line);
+    else
+        FFileStream->WriteLn(Line);
+}
+
+void TQzFileAppender::WriteFooter() {
+    if (Layout() == nullptr || FFileStream == nullptr || FFileStream->IsInherited())
+        return;
+    const UnicodeString Text = Footer();
+    if (!Text.IsEmpty() && FFileStream != nullptr)
+        FFileStream->Write(Text);
+}
+
+void TQzFileAppender::EndFile() {
+    FFileStream.reset();
+    Inherited::Close();
+}
+
+void TQzFileAppender::Close() {
+    const TScopedLock Hold(*this);
+    struct TEnd {
+        ~TEnd() { Appender.EndFile(); }
+        TQzFileAppender& Appender;
+    } const End{*this};
+    WriteFooter();
+}
+
+void TQzFileAppender::CloseQuietly() {
+    try {
+        Close();
+    } catch (const EStreamError&) { // NOLINT(bugprone-empty-catch): the file is closed nevertheless
+    }
+}
+
+void TQzFileAppender::SetLayout(IQzLogLayout* ALayout) {
+    const TScopedLock Hold(*this);
+    CloseQuietly();
+    if (const auto Layout = As<IQzLogLayoutEx>(ALayout))
+        SetFileExt(Layout->GetFileExt());
+    Inherited::SetLayout(ALayout);
+}
+
+void TQzFileAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
+    const TScopedLock Hold(*this);
+    if (AConfigurator != nullptr) {
+        const auto Ask = [&](const UnicodeString& AKey, TQzMainTypeKind AKind, const Variant& ADefault) {
+            return AConfigurator->GetAppenderValue(ConfiguredName(), AKey, AKind, ADefault);
+        };
+        FAppendExisting = QzVarToBool(Ask(u"AppendExisting", mtkBoolean, true), true, true);
+        const UnicodeString FileName = QzVarToStr(Ask(u"FileName", mtkString, u""), {}, true);
+        const UnicodeString FileExt = QzVarToStr(Ask(u"FileExt", mtkString, u""), {}, true);
+        if (!FileExt.IsEmpty())
+            SetFileExt(FileExt);
+        if (!FileName.IsEmpty())
+            SetFileName(FileName);
+        const auto Size = static_cast<std::int32_t>(FBufferSize);
+        SetBufferSize(QzVarToInt(Ask(u"BufferSize", mtkInteger, Size), Size, true));
+        const auto Level = static_cast<std::int32_t>(FFlushLevel);
+        SetFlushLevel(QzLogLevelOf(QzVarToInt(Ask(u"FlushLevel", mtkInteger, Level), Level, true)));
+    }
+    Inherited::SetConfig(AConfigurator);
+}
+
+UnicodeString TQzFileAppender::GetFileName() {
+    const TScopedLock Hold(*this);
+    return FFileName;
+}
+
+bool TQzFileAppender::GetAppendExisting() {
+    const TScopedLock Hold(*this);
+    return FAppendExisting;
+}
+
+UnicodeString TQzFileAppender::GetFileExt() {
+    const TScopedLock Hold(*this);
+    return FFileExt;
+}
+
+void TQzFileAppender::SetFileExt(const UnicodeString& AExtension) {
+    const TScopedLock Hold(*this);
+    if (AExtension == FFileExt)
+        return;
+    CloseQuietly();
+    FFileExt = !AExtension.IsEmpty() && AExtension[0] == u'.' ? AExtension : u'.' + AExtension;
+    FFileName = ChangeFileExt(FFileName, FFileExt);
+}
+
+void TQzFileAppender::SetAppendExisting(bool AValue) {
+    const TScopedLock Hold(*this);
+    FAppendExisting = AValue;
+}
+
+void TQzFileAppender::SetFileName(const UnicodeString& AName) {
+    const TScopedLock Hold(*this);
+    if (AName == FFileName)
+        return;
+    CloseQuietly();
+    UnicodeString Extension = ExtractFileExt(AName);
+    const bool IsComplete = !Extension.IsEmpty() || TrimView(AName).empty();
+    FFileName = IsComplete ? AName : AName + FFileExt;
+    if (!Extension.IsEmpty())
+        FFileExt = std::move(Extension);
+}
+
+std::int64_t TQzFileAppender::GetBufferSize() {
+    const TScopedLock Hold(*this);
+    return static_cast<std::int64_t>(FBufferSize);
+}
+
+void TQzFileAppender::SetBufferSize(std::int64_t AValue) {
+    if (AValue < 0 || AValue > cLargestBuffer)
+        throw ERangeError(u"%d is not the size of a buffer", {AValue});
+    const TScopedLock Hold(*this);
+    if (FFileStream != nullptr)
+        FFileStream->SetBufferSize(static_cast<std::size_t>(AValue));
+    FBufferSize = static_cast<std::size_t>(AValue);
+}
+
+TQzLogLevel TQzFileAppender::GetFlushLevel() {
+    const TScopedLock Hold(*this);
+    return FFlushLevel;
+}
+
+void TQzFileAppender::SetFlushLevel(TQzLogLevel AValue) {
+    const TScopedLock Hold(*this);
+    FFlushLevel = AValue;
+}
+
+void TQzFileAppender::Flush() {
+    const TScopedLock Hold(*this);
+    if (FFileStream != nullptr)
+        FFileStream->Flush();
+}
+
+} // namespace qz

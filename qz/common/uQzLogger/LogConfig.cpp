@@ -1,0 +1,70 @@
+// How a logger asks its configurator for its values.
+#include <vector>
+
+#include <qz/common/uQzLogger/LogBase.h>
+#include <qz/common/uQzLogger/LogTreeLock.h>
+#include <qz/common/uQzLogger/QzLogger.h>
+#include <qz/common/uQzTypes/VarTolerant.h>
+#include <qz/runtime/values/VariantArray.h>
+
+namespace qz {
+
+using detail::TLogTreeLock;
+
+Ref<IQzLogConfigurator> TQzLogger::Configurator() const {
+    const TLogTreeLock Hold;
+    return FConfigurator;
+}
+
+void TQzLogger::SetConfig(IQzLogConfigurator* AConfigurator) {
+    const Ref<IQzLogConfigurator> Configurator(AConfigurator);
+    std::vector<Ref<IQzLogConfigurator>> Old; // ends with no lock held
+    {
+        const TLogTreeLock Hold;
+        Old.push_back(std::exchange(FConfigurator, Configurator));
+        std::vector<TQzLogger*> Nodes;
+        if (Configurator == nullptr)
+            Nodes.push_back(this);
+        while (!Nodes.empty()) {
+            TQzLogger* Node = Nodes.back();
+            Nodes.pop_back();
+            Old.push_back(std::exchange(Node->FConfigurator, {}));
+            Nodes.insert(Nodes.end(), Node->FChildLoggers->FList.begin(), Node->FChildLoggers->FList.end());
+        }
+    }
+    if (Configurator == nullptr)
+        return;
+    if (const auto Ex = As<IQzLogConfiguratorEx>(Configurator))
+        Ex->ConfigureLogger(*this);
+    ReadLevel(*Configurator);
+    ReadAppenders(*Configurator);
+}
+
+void TQzLogger::ReadLevel(IQzLogConfigurator& AConfigurator) {
+    constexpr auto cNothing = static_cast<std::int32_t>(llDoNotLog);
+    SetLevel(QzLogLevelOf(QzVarToInt(AConfigurator.GetLoggerValue(FullName(), u"Level", mtkInteger, cNothing),
+                                     cNothing, true)));
+    SetAdditive(QzVarToBool(AConfigurator.GetLoggerValue(FullName(), u"Additive", mtkBoolean, GetAdditive()),
+                            GetAdditive(), true));
+}
+
+void TQzLogger::ReadAppenders(IQzLogConfigurator& AConfigurator) {
+    const Variant Names = AConfigurator.GetLoggerValue(FullName(), u"Appenders", mtkArray, VarArrayOf({}));
+    if (!VarIsArray(Names))
+        return;
+    const int Low = VarArrayLowBound(Names);
+    const std::int64_t Count = std::int64_t{VarArrayHighBound(Names)} - Low + 1;
+    for (int I = 0; I < Count; ++I) {
+        const UnicodeString Name = QzVarToStr(VarArrayGet(Names, Low + I), {}, true);
+        const UnicodeString ClassName =
+            QzVarToStr(AConfigurator.GetAppenderValue(Name, u"class", mtkString, u""), {}, true);
+        const TLogTreeLock Hold; // one appender of a name, whoever asks
+        Ref<IQzLogAppender> Appender = AppenderInstances().Find(Name);
+        if (Appender == nullptr && !ClassName.IsEmpty())
+            Appender = As<IQzLogAppender>(MakeLogBase(RegisteredAppenders().GetClass(ClassName), this, Name));
+        if (Appender != nullptr)
+            AddAppender(Appender.Get());
+    }
+}
+
+} // namespace qz

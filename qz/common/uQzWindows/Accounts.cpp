@@ -1,0 +1,46 @@
+#include <qz/common/uQzWindows/Accounts.h>
+
+#include <qz/platform/Accounts.h>
+#include <qz/platform/Threads.h>
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/EnumItems.h>
+
+namespace qz {
+namespace {
+
+constexpr auto cLevels = EnumItems({u"elDefault", u"elFull", u"elLimited"});
+
+} // namespace
+
+constinit const TTypeInfo TTypeDescription<TQzElevationLevel>::Info =
+    DescribeEnum<TQzElevationLevel>(u"TQzElevationLevel", u"uQzWindows", cLevels);
+
+TQzElevationLevel QzGetElevationLevel() noexcept {
+    switch (platform::Elevation()) {
+    case platform::TElevation::Full: return elFull;
+    case platform::TElevation::Limited: return elLimited;
+    case platform::TElevation::Unknown: break;
+    }
+    return elDefault;
+}
+
+UnicodeString QzGetComputerName() {
+    return platform::ComputerName();
+}
+
+UnicodeString QzGetUserName() {
+    return platform::UserName();
+}
+
+UnicodeString QzGetUserName(UnicodeString& ADomain) {
+    std::u16string Domain;
+    UnicodeString Name = platform::AccountName(Domain);
+    ADomain = Domain;
+    return Name;
+}
+
+std::uint32_t QzGetCurrentThreadId() noexcept {
+    return platform::CurrentThreadId();
+}
+
+} // namespace qz

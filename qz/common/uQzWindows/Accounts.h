@@ -1,0 +1,38 @@
+// Who runs this program, where, with which rights.
+//
+//     UnicodeString Domain;
+//     const UnicodeString User = QzGetUserName(Domain);
+//     if (QzGetElevationLevel() == elFull) ...
+//
+// All functions tell what holds at that moment and may run on any number of threads. Linux keeps the name of a user once it
+// was found.
+#pragma once
+
+#include <qz/runtime/base/UnicodeString.h>
+#include <qz/runtime/objects/TypeInfo.h>
+
+namespace qz {
+
+enum class TQzElevationLevel : std::uint8_t { elDefault, elFull, elLimited };
+using enum TQzElevationLevel;
+
+// elFull with an administrator's rights, elLimited without, elDefault where the system does not tell. On Linux root has
+// them.
+QZ_API TQzElevationLevel QzGetElevationLevel() noexcept;
+
+// The host name, on Windows the NetBIOS name; empty if the system does not tell.
+QZ_API UnicodeString QzGetComputerName();
+
+// The user as whom the calling thread acts. Linux gives the number of one whose name no database of users tells. Empty if
+// the system does not tell.
+QZ_API UnicodeString QzGetUserName();
+// The account of the process, and where it belongs: the computer's name for a local one. Both are empty if the system
+// does not tell.
+QZ_API UnicodeString QzGetUserName(UnicodeString& ADomain);
+
+// The system's number of the calling thread, never 0.
+QZ_API std::uint32_t QzGetCurrentThreadId() noexcept;
+
+} // namespace qz
+
+QZ_TYPE_INFO(qz::TQzElevationLevel);

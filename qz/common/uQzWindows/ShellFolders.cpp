@@ -1,0 +1,20 @@
+#include <qz/common/uQzWindows/ShellFolders.h>
+
+#include <qz/platform/ShellFolders.h>
+#include <qz/runtime/objects/Exceptions.h>
+
+namespace qz {
+
+UnicodeString QzGetShellFolder(std::int32_t AFolder) {
+    std::u16string Path;
+    if (!platform::ShellFolder(AFolder, Path))
+        throw Exception(u"Invalid pidl");
+    return Path;
+}
+
+UnicodeString QzGetMyDocumentsFolder() {
+    constexpr std::int32_t cMyDocuments = 5;
+    return QzGetShellFolder(cMyDocuments);
+}
+
+} // namespace qz

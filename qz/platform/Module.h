@@ -1,0 +1,23 @@
+// The program file, and functions of loaded libraries by name. Any thread.
+//
+//     using TVersion = int (*)();
+//     void* Address = FindModuleFunction(u"libfoo.so.2", "foo_version");
+//     if (Address != nullptr)
+//         reinterpret_cast<TVersion>(Address)();
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include <qz/platform/Export.h>
+
+namespace qz::platform {
+
+// The whole path of the running program, empty if the system doesn't tell.
+QZ_API std::u16string ExecutablePath();
+
+// The address of AName in the library AModule, which must be loaded already; null if either isn't there. An
+// empty AModule means the program itself, and on Linux everything that is loaded with it.
+QZ_API void* FindModuleFunction(std::u16string_view AModule, const char* AName);
+
+} // namespace qz::platform

@@ -1,0 +1,15 @@
+// Conversion by the tables of a page.
+#pragma once
+
+#include <qz/platform/CodePages.h>
+#include <qz/platform/linux/CodePageTables.h>
+
+namespace qz::platform::detail {
+
+// As the functions of platform/CodePages.h.
+size_t TablesToUtf16(const TCodePage& APage, std::span<const std::byte> ASource, std::span<char16_t> ATarget,
+                     TDecoding ADecoding, TError& AError) noexcept;
+size_t TablesFromUtf16(const TCodePage& APage, std::u16string_view ASource, std::span<char> ATarget,
+                       TComposing AComposing, TError& AError) noexcept;
+
+} // namespace qz::platform::detail

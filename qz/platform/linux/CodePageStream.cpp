@@ -1,0 +1,167 @@
+#include <qz/platform/linux/CodePageStream.h>
+
+#include <array>
+#include <cerrno>
+#include <memory>
+
+#include <unicode/ucnv.h>
+#include <unicode/ucnv_err.h>
+
+namespace qz::platform::detail {
+
+namespace {
+
+constexpr uint32_t cUtf8Page = 65001;
+
+struct TStreamPage {
+    uint32_t Page;
+    uint32_t MaxCharSize; // as Windows counts it
+    const char* Converter;
+};
+
+// ICU's converters of the pages that have no tables.
+constexpr TStreamPage cPages[] = {
+    {50220, 5, "ISO-2022-JP"},
+    {50221, 5, "JIS7"},
+    {50222, 5, "JIS7"},
+    {50225, 5, "ISO-2022-KR"},
+    {50227, 5, "ISO-2022-CN"},
+    {51932, 3, "EUC-JP"},
+    {52936, 5, "HZ-GB-2312"},
+    {54936, 4, "gb18030"},
+    {57002, 4, "ISCII,version=0"},
+    {57003, 4, "ISCII,version=1"},
+    {57004, 4, "ISCII,version=5"},
+    {57005, 4, "ISCII,version=6"},
+    {57006, 4, "ISCII,version=1"},
+    {57007, 4, "ISCII,version=4"},
+    {57008, 4, "ISCII,version=7"},
+    {57009, 4, "ISCII,version=8"},
+    {57010, 4, "ISCII,version=3"},
+    {57011, 4, "ISCII,version=2"},
+    {65000, 5, "UTF-7"},
+    {cUtf8Page, 4, "UTF-8"},
+};
+
+using TConverter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
+
+TConverter OpenCodePage(uint32_t APage) {
+    for (const TStreamPage& Known : cPages) {
+        if (APage != Known.Page)
+            continue;
+        UErrorCode Status = U_ZERO_ERROR;
+        TConverter Result(ucnv_open(Known.Converter, &Status), ucnv_close);
+        if (U_SUCCESS(Status))
+            return Result;
+    }
+    return {nullptr, ucnv_close};
+}
+
+// A converter in its first state, or null. The thread keeps the last one, as making one is dear.
+UConverter* Converter(uint32_t APage) {
+    thread_local uint32_t Page = 0;
+    thread_local TConverter Kept(nullptr, ucnv_close);
+    if (Kept && Page == APage) {
+        ucnv_reset(Kept.get());
+        return Kept.get();
+    }
+    TConverter Opened = OpenCodePage(APage);
+    if (!Opened)
+        return nullptr;
+    ucnv_setFallback(Opened.get(), true);
+    if (APage != cUtf8Page && APage != 54936) {
+        UErrorCode Status = U_ZERO_ERROR;
+        ucnv_setSubstString(Opened.get(), u"?", 1, &Status);
+    }
+    Page = APage;
+    Kept = std::move(Opened);
+    return Kept.get();
+}
+
+int ErrorOf(UErrorCode AStatus) {
+    switch (AStatus) {
+    case U_MEMORY_ALLOCATION_ERROR: return ENOMEM;
+    case U_BUFFER_OVERFLOW_ERROR: return CodeOfTooSmallTarget();
+    case U_INVALID_CHAR_FOUND:
+    case U_ILLEGAL_CHAR_FOUND:
+    case U_TRUNCATED_CHAR_FOUND: return EILSEQ;
+    default: return EINVAL;
+    }
+}
+
+// Calls AStep, which moves the target and its own source on as ICU's streaming converters do. What doesn't go
+// into ATarget goes to a place of no interest: to be counted, or to see whether there is anything at all, as a
+// converter also asks for room when only an escape sequence is left.
+template <class TUnit, class TStep>
+size_t Stream(std::span<TUnit> ATarget, TError& AError, const TStep& AStep) {
+    std::array<TUnit, 1024> Scratch;
+    std::span<TUnit> Room = ATarget.empty() ? std::span<TUnit>(Scratch) : ATarget;
+    for (size_t Length = 0;; Room = Scratch) {
+        UErrorCode Status = U_ZERO_ERROR;
+        TUnit* Target = Room.data();
+        AStep(&Target, Room.data() + Room.size(), &Status);
+        Length += static_cast<size_t>(Target - Room.data());
+        if (!ATarget.empty() && Length > ATarget.size())
+            Status = U_BUFFER_OVERFLOW_ERROR;
+        else if (Status == U_BUFFER_OVERFLOW_ERROR)
+            continue;
+        AError.Code = U_SUCCESS(Status) ? 0 : ErrorOf(Status);
+        return AError.Code == 0 ? Length : 0;
+    }
+}
+
+// Whether the page takes part in strict decoding; see TDecoding.
+bool KnowsStrictness(uint32_t APage) {
+    switch (APage) {
+    case 50220:
+    case 50221:
+    case 50222:
+    case 50225:
+    case 50227:
+    case 50229:
+    case 65000:
+    case cUtf8Page: return false;
+    default: return APage < 57002 || APage > 57011;
+    }
+}
+
+} // namespace
+
+size_t StreamToUtf16(uint32_t APage, std::span<const std::byte> ASource, std::span<char16_t> ATarget,
+                     TDecoding ADecoding, TError& AError) {
+    UConverter* Page = Converter(APage);
+    AError.Code = Page != nullptr ? 0 : EINVAL;
+    if (Page == nullptr)
+        return 0;
+    UErrorCode Ignored = U_ZERO_ERROR;
+    const bool Strict = ADecoding == TDecoding::Strict && KnowsStrictness(APage);
+    ucnv_setToUCallBack(Page, Strict ? UCNV_TO_U_CALLBACK_STOP : UCNV_TO_U_CALLBACK_SUBSTITUTE, nullptr,
+                        nullptr, nullptr, &Ignored);
+    const char* Source = reinterpret_cast<const char*>(ASource.data());
+    const char* Limit = Source + ASource.size();
+    return Stream(ATarget, AError, [&](char16_t** AOut, const char16_t* AOutLimit, UErrorCode* AStatus) {
+        ucnv_toUnicode(Page, AOut, AOutLimit, &Source, Limit, nullptr, true, AStatus);
+    });
+}
+
+size_t StreamFromUtf16(uint32_t APage, std::u16string_view ASource, std::span<char> ATarget, TError& AError) {
+    UConverter* Page = Converter(APage);
+    AError.Code = Page != nullptr ? 0 : EINVAL;
+    if (Page == nullptr)
+        return 0;
+    const char16_t* Source = ASource.data();
+    const char16_t* Limit = Source + ASource.size();
+    return Stream(ATarget, AError, [&](char** AOut, const char* AOutLimit, UErrorCode* AStatus) {
+        ucnv_fromUnicode(Page, AOut, AOutLimit, &Source, Limit, nullptr, true, AStatus);
+    });
+}
+
+uint32_t StreamMaxCharSize(uint32_t APage) {
+    for (const TStreamPage& Known : cPages) {
+        if (APage == Known.Page)
+            return Converter(APage) != nullptr ? Known.MaxCharSize : 0;
+    }
+    return 0;
+}
+
+} // namespace qz::platform::detail

@@ -1,0 +1,151 @@
+#include <qz/platform/FileHandle.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <optional>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <qz/platform/FileLimit.h>
+#include <qz/platform/linux/FileSharing.h>
+#include <qz/platform/linux/NativeFile.h>
+#include <qz/platform/linux/NativeText.h>
+
+namespace qz::platform {
+
+namespace {
+
+bool Outcome(TError& AError, bool AOk) {
+    AError.Code = AOk ? 0 : errno;
+    return AOk;
+}
+
+bool Fail(TError& AError, int ACode) {
+    AError.Code = ACode;
+    return false;
+}
+
+// A file that is there is emptied only once it is known that nobody is in the way.
+int FlagsOf(TFileAccess AAccess, TFileCreation ACreation) {
+    constexpr int cAccess[] = {O_RDONLY, O_WRONLY, O_RDWR};
+    constexpr int cCreation[] = {0, O_CREAT, O_CREAT, O_CREAT | O_EXCL};
+    return cAccess[static_cast<int>(AAccess) - 1] | cCreation[static_cast<int>(ACreation)] | O_NOCTTY;
+}
+
+// What has to be right about a file that has just been opened: 0, or the error.
+int Settle(int AFile, TFileAccess AAccess, TFileCreation ACreation, TFileSharing ASharing) {
+    struct stat Status;
+    if (fstat(AFile, &Status) != 0)
+        return errno;
+    if (S_ISDIR(Status.st_mode))
+        return EISDIR;
+    if (!detail::ShareFile(AFile, AAccess, ASharing))
+        return ETXTBSY;
+    const bool Empties = ACreation == TFileCreation::Always && S_ISREG(Status.st_mode);
+    return Empties && ftruncate(AFile, 0) != 0 ? errno : 0;
+}
+
+} // namespace
+
+bool TFileHandle::Open(std::u16string_view APath, TFileAccess AAccess, TFileCreation ACreation,
+                       TFileSharing ASharing, TError& AError) {
+    Close();
+    const std::optional<std::string> Path = detail::ToNativeArgument(APath);
+    if (!Path)
+        return Fail(AError, EINVAL);
+    const int File = detail::OpenNative(Path->c_str(), FlagsOf(AAccess, ACreation));
+    if (File < 0)
+        return Outcome(AError, false);
+    AError.Code = Settle(File, AAccess, ACreation, ASharing);
+    if (AError.Code != 0) {
+        close(File);
+        return false;
+    }
+    FHandle = File;
+    return true;
+}
+
+bool TFileHandle::Close() noexcept {
+    const auto File = static_cast<int>(std::exchange(FHandle, cNone));
+    // An interrupted close has closed nevertheless.
+    return File < 0 || close(File) == 0 || errno == EINTR;
+}
+
+// What these change is the file, so they are not const.
+// NOLINTBEGIN(readability-make-member-function-const)
+
+bool TFileHandle::Read(std::span<std::byte> ATarget, size_t& ADone, TError& AError) {
+    const ssize_t Got = detail::ReadSome(static_cast<int>(FHandle), ATarget);
+    ADone = static_cast<size_t>(std::max<ssize_t>(Got, 0));
+    return Outcome(AError, Got >= 0);
+}
+
+bool TFileHandle::Write(std::span<const std::byte> ASource, size_t& ADone, TError& AError) {
+    return Outcome(AError, detail::WriteAll(static_cast<int>(FHandle), ASource, ADone));
+}
+
+bool TFileHandle::Seek(int64_t AOffset, TFileOrigin AOrigin, int64_t& APosition, TError& AError) {
+    constexpr int cOrigins[] = {SEEK_SET, SEEK_CUR, SEEK_END};
+    const off_t Position = lseek(static_cast<int>(FHandle), AOffset, cOrigins[static_cast<int>(AOrigin)]);
+    if (Position >= 0)
+        APosition = Position;
+    return Outcome(AError, Position >= 0);
+}
+
+bool TFileHandle::SetSize(int64_t ASize, TError& AError) {
+    int Status = 0;
+    do {
+        Status = ftruncate(static_cast<int>(FHandle), ASize);
+    } while (Status != 0 && errno == EINTR);
+    return Outcome(AError, Status == 0);
+}
+
+bool TFileHandle::WriteAtEnd(TError& AError) {
+    const int Flags = fcntl(static_cast<int>(FHandle), F_GETFL);
+    return Outcome(AError, Flags >= 0 && fcntl(static_cast<int>(FHandle), F_SETFL, Flags | O_APPEND) == 0);
+}
+
+// Past the C library's write, which costs more in a program of several threads, as it can be cancelled, and without the lock of
+// the position.
+bool TFileHandle::Append(std::span<const std::byte> ASource, size_t& ADone, TError& AError) {
+    const auto File = static_cast<int>(FHandle);
+    const long Written = syscall(SYS_pwrite64, File, ASource.data(), ASource.size(), 0L);
+    ADone = static_cast<size_t>(std::max(Written, 0L));
+    if (ADone == ASource.size()) [[likely]]
+        return true;
+    size_t More = 0; // a pipe has no place to write at
+    const TNoLimitSignal Quiet;
+    const bool Ok = detail::WriteAll(File, ASource.subspan(ADone), More);
+    ADone += More;
+    return Outcome(AError, Ok);
+}
+
+void TFileHandle::DenyNothing() noexcept {
+    struct flock All = {};
+    All.l_type = F_UNLCK;
+    All.l_whence = SEEK_SET;
+    fcntl(static_cast<int>(FHandle), F_OFD_SETLK, &All);
+}
+
+bool TFileHandle::IsAt(std::u16string_view APath) const {
+    struct stat Open, Named;
+    const std::optional<std::string> Path = detail::ToNativeArgument(APath);
+    if (!Path || fstat(static_cast<int>(FHandle), &Open) != 0)
+        return true;
+    if (stat(Path->c_str(), &Named) != 0)
+        return errno != ENOENT && errno != ENOTDIR;
+    return Open.st_dev == Named.st_dev && Open.st_ino == Named.st_ino;
+}
+
+bool TFileHandle::Flush(TError& AError) {
+    // A pipe or a device has nothing to wait for.
+    const bool Ok = fsync(static_cast<int>(FHandle)) == 0 || errno == EINVAL || errno == EROFS;
+    return Outcome(AError, Ok);
+}
+
+// NOLINTEND(readability-make-member-function-const)
+
+} // namespace qz::platform

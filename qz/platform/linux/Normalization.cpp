@@ -1,0 +1,63 @@
+#include <qz/platform/Normalization.h>
+
+#include <cerrno>
+#include <climits>
+
+#include <unicode/unorm2.h>
+#include <unicode/utf16.h>
+
+namespace qz::platform {
+
+namespace {
+
+const UNormalizer2* NormalizerOf(int AForm, UErrorCode& AStatus) {
+    switch (AForm) {
+    case 1: return unorm2_getNFCInstance(&AStatus);
+    case 2: return unorm2_getNFDInstance(&AStatus);
+    case 5: return unorm2_getNFKCInstance(&AStatus);
+    case 6: return unorm2_getNFKDInstance(&AStatus);
+    default: AStatus = U_ILLEGAL_ARGUMENT_ERROR; return nullptr;
+    }
+}
+
+// ICU takes lone surrogates as they are; Windows refuses them.
+bool IsWellFormed(std::u16string_view AText) {
+    for (size_t I = 0; I < AText.size(); ++I) {
+        if (!U16_IS_SURROGATE(AText[I]))
+            continue;
+        if (!U16_IS_LEAD(AText[I]) || I + 1 == AText.size() || !U16_IS_TRAIL(AText[I + 1]))
+            return false;
+        ++I;
+    }
+    return true;
+}
+
+} // namespace
+
+TNormalizer PrepareNormalizer() {
+    return TNormalizer::Ready;
+}
+
+bool NormalizeText(int AForm, std::u16string_view AText, std::u16string& AOut, TError& AError) {
+    AOut.clear();
+    UErrorCode Status = U_ZERO_ERROR;
+    const UNormalizer2* Normalizer = NormalizerOf(AForm, Status);
+    if (AText.empty() || AText.size() > INT_MAX || U_FAILURE(Status) || !IsWellFormed(AText)) {
+        AError.Code = EINVAL;
+        return false;
+    }
+    const auto Length = static_cast<int32_t>(AText.size());
+    AOut.resize(AText.size() * 2 + 16);
+    for (;;) {
+        Status = U_ZERO_ERROR;
+        const int32_t Needed = unorm2_normalize(Normalizer, AText.data(), Length, AOut.data(),
+                                                static_cast<int32_t>(AOut.size()), &Status);
+        AOut.resize(U_SUCCESS(Status) || Status == U_BUFFER_OVERFLOW_ERROR ? static_cast<size_t>(Needed) : 0);
+        if (Status != U_BUFFER_OVERFLOW_ERROR)
+            break;
+    }
+    AError.Code = U_SUCCESS(Status) ? 0 : Status == U_MEMORY_ALLOCATION_ERROR ? ENOMEM : EINVAL;
+    return AError.Code == 0;
+}
+
+} // namespace qz::platform

@@ -1,0 +1,26 @@
+// The system's log as the event log: messages to the journal and the syslog by their sockets.
+#pragma once
+
+#include <string>
+
+#include <qz/platform/EventLog.h>
+
+namespace qz::platform::detail {
+
+class TSystemLog final : public IEventLog {
+public:
+    // The paths of the sockets on which the daemons listen.
+    TSystemLog(std::string AJournal, std::string ASyslog);
+
+    void EnterSource(std::u16string_view AName, std::u16string_view AProgram) noexcept override;
+    uintptr_t OpenSource(std::u16string_view AName) noexcept override;
+    void CloseSource(uintptr_t ASource) noexcept override;
+    bool Write(uintptr_t ASource, TEventType AType, uint32_t AId, std::u16string_view AText,
+               int32_t ALocalOffset) noexcept override;
+
+private:
+    std::string FJournal;
+    std::string FSyslog;
+};
+
+} // namespace qz::platform::detail

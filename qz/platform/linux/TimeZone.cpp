@@ -1,0 +1,116 @@
+#include <qz/platform/TimeZone.h>
+
+#include <climits>
+#include <optional>
+#include <string_view>
+
+#include <fcntl.h>
+#include <sys/auxv.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <qz/platform/linux/NativeEnvironment.h>
+#include <qz/platform/linux/NativeFile.h>
+#include <qz/platform/linux/NativeText.h>
+#include <qz/platform/linux/ZoneFile.h>
+#include <qz/platform/linux/ZoneText.h>
+
+// What TZ may hold: the name of a file, absolute or below the folder of zones, else a rule
+// text; a colon in front means nothing. Without TZ it is /etc/localtime. Whatever cannot be read, in full, is UTC.
+
+namespace qz::platform {
+
+namespace {
+
+constexpr const char* cSystemFile = "/etc/localtime";
+constexpr std::string_view cUsualFolder = "/usr/share/zoneinfo";
+
+struct TSetting {
+    std::string Value; // without colon; empty for the system's own
+    std::string Path;
+};
+
+// A program that runs with the rights of another user must not be made to read any file.
+bool MayRead(const std::string& AName) {
+    if (getauxval(AT_SECURE) == 0)
+        return true;
+    return (AName.front() != '/' || AName == cSystemFile || AName.starts_with(cUsualFolder)) &&
+        AName.find("../") == std::string::npos;
+}
+
+TSetting Setting() {
+    const std::optional<std::string> Given = detail::NativeEnvironment("TZ");
+    if (!Given)
+        return {{}, cSystemFile};
+    TSetting Result{Given->empty() ? "Universal" : *Given, {}};
+    if (Result.Value.front() == ':')
+        Result.Value.erase(0, 1);
+    if (Result.Value.empty() || !MayRead(Result.Value))
+        return Result;
+    Result.Path = Result.Value;
+    if (Result.Value.front() != '/') {
+        const std::string Folder = detail::NativeEnvironment("TZDIR").value_or("");
+        Result.Path = (Folder.empty() ? std::string(cUsualFolder) : Folder) + '/' + Result.Value;
+    }
+    return Result;
+}
+
+bool ReadWhole(const std::string& APath, std::vector<std::byte>& AData) {
+    // Not to wait for a pipe that nobody writes to.
+    const int File = detail::OpenNative(APath.c_str(), O_RDONLY | O_NONBLOCK);
+    if (File < 0)
+        return false;
+    struct stat Info;
+    ssize_t Got = -1;
+    if (fstat(File, &Info) == 0 && S_ISREG(Info.st_mode) && Info.st_size > 0 &&
+        static_cast<size_t>(Info.st_size) <= detail::cLongestZoneFile) {
+        AData.resize(static_cast<size_t>(Info.st_size));
+        size_t Done = 0;
+        while (Done < AData.size() && (Got = detail::ReadSome(File, std::span(AData).subspan(Done))) > 0)
+            Done += static_cast<size_t>(Got);
+        AData.resize(Done);
+    }
+    close(File);
+    return Got >= 0;
+}
+
+// /etc/localtime points to the file of its zone, whose path holds the name.
+std::string NameBehind(const std::string& APath) {
+    std::string Target(PATH_MAX, '\0');
+    const ssize_t Size = readlink(APath.c_str(), Target.data(), Target.size());
+    Target.resize(Size > 0 ? static_cast<size_t>(Size) : 0);
+    constexpr std::string_view cFolder = "zoneinfo/";
+    const size_t Found = Target.rfind(cFolder);
+    return Found == std::string::npos ? std::string() : Target.substr(Found + cFolder.size());
+}
+
+} // namespace
+
+TSystemZone ReadSystemZone() {
+    const TSetting Now = Setting();
+    TSystemZone Result;
+    std::vector<std::byte> Data;
+    const bool IsRead =
+        (!Now.Path.empty() && ReadWhole(Now.Path, Data) && detail::ReadZoneFile(Data, Result)) ||
+        detail::ReadZoneText(Now.Value, Result);
+    if (!IsRead)
+        Result.Kinds.push_back({0, false, u"UTC"});
+    Result.Id = detail::FromNative(Now.Value.empty() && !Now.Path.empty() ? NameBehind(Now.Path) : Now.Value);
+    return Result;
+}
+
+std::string SystemZoneStamp() {
+    const TSetting Now = Setting();
+    std::string Result = Now.Value + '\0' + Now.Path + '\0';
+    struct stat Info;
+    if (!Now.Path.empty() && stat(Now.Path.c_str(), &Info) == 0) {
+        for (const int64_t Each :
+             {static_cast<int64_t>(Info.st_dev), static_cast<int64_t>(Info.st_ino),
+              static_cast<int64_t>(Info.st_size), int64_t{Info.st_mtim.tv_sec}, int64_t{Info.st_mtim.tv_nsec},
+              int64_t{Info.st_ctim.tv_sec}, int64_t{Info.st_ctim.tv_nsec}})
+            Result.append(reinterpret_cast<const char*>(&Each), sizeof Each);
+    }
+    return Result;
+}
+
+} // namespace qz::platform

@@ -1,0 +1,13 @@
+#include <qz/platform/FileLimit.h>
+
+namespace qz::platform {
+
+uint64_t FileSizeLimit() noexcept {
+    return UINT64_MAX;
+}
+
+TNoLimitSignal::TNoLimitSignal() noexcept = default;
+
+TNoLimitSignal::~TNoLimitSignal() = default;
+
+} // namespace qz::platform

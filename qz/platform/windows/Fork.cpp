@@ -1,0 +1,7 @@
+#include <qz/platform/Fork.h>
+
+namespace qz::platform {
+
+void AroundFork(void (*)(), void (*)(), void (*)()) {}
+
+} // namespace qz::platform

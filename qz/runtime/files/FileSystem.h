@@ -1,0 +1,26 @@
+// Questions to the file system, and simple changes of it, which tell by their result whether they succeeded.
+//
+//     if (FileExists(Old) && !RenameFile(Old, New))
+//         ...                                             // it stays where it was
+//     ForceDirectories(ExtractFilePath(New));
+//
+// Names are as in platform/Files.h. Nothing is raised but std::bad_alloc. Any thread.
+#pragma once
+
+#include <qz/runtime/base/StringArg.h>
+
+namespace qz {
+
+// Whether there is a file, or a directory, of that name.
+QZ_API bool FileExists(const TStringArg& AFileName);
+QZ_API bool DirectoryExists(const TStringArg& ADirectory);
+// Removes a file or a link, never a directory.
+QZ_API bool DeleteFile(const TStringArg& AFileName);
+// Fails where the new name is taken.
+QZ_API bool RenameFile(const TStringArg& AFileName, const TStringArg& ANewName);
+// Makes the directory and those above it that are missing; true when it is there then, whoever made it.
+QZ_API bool ForceDirectories(const TStringArg& ADirectory);
+// The whole path of the running program.
+QZ_API UnicodeString ProgramFileName();
+
+} // namespace qz

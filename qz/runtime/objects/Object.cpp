@@ -1,0 +1,66 @@
+#include <qz/runtime/objects/Object.h>
+
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/Interface.h>
+
+namespace qz {
+
+constinit const TClassRec TObject::ClassRec = DescribeClass<TObject>(u"TObject", {.Unit = u"System"});
+
+bool TClassRec::InheritsFrom(TClass AAncestor) const noexcept {
+    for (TClass Class = this; Class != nullptr; Class = Class->Parent)
+        if (Class == AAncestor)
+            return true;
+    return false;
+}
+
+const void* TClassRec::FindMaker(TMakerFamily AFamily) const noexcept {
+    for (const TMakerEntry& Entry : Makers)
+        if (Entry.Family == AFamily)
+            return Entry.Make;
+    return nullptr;
+}
+
+TObject::~TObject() = default;
+
+UnicodeString TObject::ToString() const {
+    return ClassName();
+}
+
+void* TObject::FindInterface(const TGUID& AIid) noexcept {
+    const bool IsRoot = AIid == IInterface::IID;
+    for (TClass Class = ClassType(); Class != nullptr; Class = Class->Parent)
+        for (const TInterfaceEntry& Entry : Class->Interfaces)
+            if (IsRoot || *Entry.Iid == AIid)
+                return Entry.Cast(this);
+    return nullptr;
+}
+
+bool TObject::GetInterface(const TGUID& AIid, void** AObject) {
+    *AObject = FindInterface(AIid);
+    if (*AObject == nullptr)
+        return false;
+    static_cast<IInterface*>(*AObject)->_AddRef();
+    return true;
+}
+
+HRESULT detail::QueryObject(TObject& AObject, const TGUID& AIid, void** AFound) {
+    if (AFound == nullptr)
+        return E_POINTER_RESULT;
+    return AObject.GetInterface(AIid, AFound) ? S_OK_RESULT : E_NOINTERFACE_RESULT;
+}
+
+void TObject::Free() {
+    if (!BeginDestruction())
+        throw EInvalidOperation(u"An instance of %s is freed while it is being destroyed", {ClassName()});
+    try {
+        BeforeDestruction();
+    } catch (...) {
+        DestructionRefused();
+        throw;
+    }
+    delete this;
+}
+
+} // namespace qz

@@ -1,0 +1,257 @@
+#include <qz/runtime/text/Format.h>
+
+#include <algorithm>
+#include <array>
+
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/text/AnsiString.h>
+#include <qz/runtime/text/FloatText.h>
+#include <qz/runtime/text/NumberText.h>
+
+namespace qz {
+namespace {
+
+constexpr int cUnset = -1;
+// The most that a width, a precision or an index may be.
+constexpr int cMaxNumber = 65535;
+// The most digits that a precision gives an integer.
+constexpr int cMaxIntDigits = 255;
+
+// One place of the pattern.
+struct TPlace {
+    int Index = cUnset;
+    int Width = cUnset;
+    int Precision = cUnset;
+    bool IsLeft = false;
+    char16_t Type = 0;
+};
+
+class TFormatter {
+public:
+    TFormatter(std::u16string_view APattern, TVarRecs AArgs, const TFormatSettings& ASettings)
+        : FPattern(APattern),
+          FArgs(AArgs),
+          FSettings(ASettings) {
+        FResult.Reserve(APattern.size() + 16 * AArgs.size());
+    }
+
+    UnicodeString Run() {
+        while (true) {
+            const std::size_t Mark = std::min(FPattern.find(u'%', FHere), FPattern.size());
+            FResult.Append(FPattern.substr(FHere, Mark - FHere));
+            FHere = Mark + 1;
+            if (Mark == FPattern.size())
+                return std::move(FResult);
+            if (FHere < FPattern.size() && FPattern[FHere] == u'%')
+                FResult += FPattern[FHere++];
+            else
+                Write(ReadPlace());
+        }
+    }
+
+private:
+    [[noreturn]] void RaiseInvalid() const {
+        UnicodeString Message = u"Format '";
+        Message += FPattern;
+        throw EConvertError(Message += u"' invalid or incompatible with argument");
+    }
+    [[noreturn]] void RaiseMissing() const {
+        UnicodeString Message = u"No argument for format '";
+        Message += FPattern;
+        throw EConvertError(Message += u'\'');
+    }
+
+    char16_t Peek() const {
+        if (FHere >= FPattern.size())
+            RaiseInvalid();
+        return FPattern[FHere];
+    }
+    bool Take(char16_t AChar) {
+        if (Peek() != AChar)
+            return false;
+        ++FHere;
+        return true;
+    }
+
+    const TVarRec& NextArg() {
+        if (FNextArg >= FArgs.size())
+            RaiseMissing();
+        return FArgs.begin()[FNextArg++];
+    }
+
+    // Digits, or "*" for an argument; cUnset when neither stands here.
+    int ReadNumber() {
+        if (Take(u'*')) {
+            const TVarRec& Arg = NextArg();
+            if ((Arg.Kind() != vtInteger && Arg.Kind() != vtInt64) || Arg.Int() < -cMaxNumber ||
+                Arg.Int() > cMaxNumber)
+                RaiseInvalid();
+            return static_cast<int>(Arg.Int());
+        }
+        int Number = cUnset;
+        while (Peek() >= u'0' && Peek() <= u'9') {
+            Number = std::max(Number, 0) * 10 + (FPattern[FHere++] - u'0');
+            if (Number > cMaxNumber)
+                RaiseInvalid();
+        }
+        return Number;
+    }
+
+    // A negative width from an argument sets the text to the left, a negative precision counts as none.
+    TPlace ReadPlace() {
+        TPlace Place;
+        int Number = Peek() == u'*' ? cUnset : ReadNumber();
+        if (Take(u':')) {
+            if (Number == cUnset)
+                Number = 0;
+            FNextArg = static_cast<std::size_t>(Number);
+            Number = cUnset;
+        }
+        if (Number == cUnset) {
+            Place.IsLeft = Take(u'-');
+            const bool IsArg = Peek() == u'*';
+            Number = ReadNumber();
+            if (IsArg && Number < 0) {
+                Place.IsLeft = true;
+                Number = -Number;
+            }
+        }
+        Place.Width = Number;
+        if (Take(u'.'))
+            Place.Precision = std::max(ReadNumber(), cUnset);
+        Place.Type = Peek();
+        ++FHere;
+        return Place;
+    }
+
+    void Write(const TPlace& APlace) {
+        const TVarRec& Arg = NextArg();
+        const std::size_t Start = FResult.size();
+        switch (APlace.Type | 0x20) {
+        case u'd':
+        case u'u':
+        case u'x': WriteInteger(APlace, Arg); break;
+        case u's': WriteText(APlace, Arg); break;
+        case u'p': WritePointer(Arg); break;
+        case u'e': WriteFloat(Arg, ffExponent, APlace.Precision == cUnset ? 15 : APlace.Precision, 3); break;
+        case u'f': WriteFloat(Arg, ffFixed, 18, APlace.Precision == cUnset ? 2 : APlace.Precision); break;
+        case u'g': WriteFloat(Arg, ffGeneral, APlace.Precision == cUnset ? 15 : APlace.Precision, 0); break;
+        case u'n': WriteFloat(Arg, ffNumber, 18, APlace.Precision == cUnset ? 2 : APlace.Precision); break;
+        case u'm':
+            WriteFloat(Arg, ffCurrency, 18,
+                       APlace.Precision == cUnset ? FSettings.CurrencyDecimals : APlace.Precision);
+            break;
+        default: RaiseInvalid();
+        }
+        Pad(APlace, Start);
+    }
+
+    // Blanks in front of what was written from AStart on, or behind it, up to the width.
+    void Pad(const TPlace& APlace, std::size_t AStart) {
+        const std::size_t Length = FResult.size() - AStart;
+        if (APlace.Width == cUnset || Length >= static_cast<std::size_t>(APlace.Width))
+            return;
+        const std::size_t Missing = static_cast<std::size_t>(APlace.Width) - Length;
+        FResult.Append(Missing, u' ');
+        if (APlace.IsLeft)
+            return;
+        char16_t* Text = FResult.UniqueData() + AStart;
+        std::move_backward(Text, Text + Length, Text + Length + Missing);
+        std::fill_n(Text, Missing, u' ');
+    }
+
+    void WriteInteger(const TPlace& APlace, const TVarRec& AArg) {
+        if (AArg.Kind() != vtInteger && AArg.Kind() != vtInt64 && AArg.Kind() != vtUInt64)
+            RaiseInvalid();
+        const char16_t Type = static_cast<char16_t>(APlace.Type | 0x20);
+        auto Bits = static_cast<std::uint64_t>(AArg.Int());
+        const bool IsNegative = Type == u'd' && AArg.Kind() != vtUInt64 && AArg.Int() < 0;
+        if (IsNegative)
+            Bits = 0 - Bits;
+        else if (AArg.Kind() == vtInteger && Type != u'd')
+            Bits = static_cast<std::uint32_t>(Bits);
+        std::array<char16_t, cMaxIntDigits + 1> Buffer;
+        char16_t* End = Buffer.data() + Buffer.size();
+        char16_t* Here = Type == u'x' ? detail::WriteHex(Bits, End) : detail::WriteDecimal(Bits, End);
+        const int Digits = std::min(APlace.Precision, cMaxIntDigits);
+        while (End - Here < Digits)
+            *--Here = u'0';
+        if (IsNegative)
+            *--Here = u'-';
+        FResult.Append({Here, static_cast<std::size_t>(End - Here)});
+    }
+
+    void WriteFloat(const TVarRec& AArg, TFloatFormat AFormat, int APrecision, int ADigits) {
+        double Value = 0;
+        if (AArg.Kind() == vtExtended)
+            Value = AArg.Float();
+        else if (AArg.Kind() == vtInteger || AArg.Kind() == vtInt64)
+            Value = static_cast<double>(AArg.Int());
+        else if (AArg.Kind() == vtUInt64)
+            Value = static_cast<double>(static_cast<std::uint64_t>(AArg.Int()));
+        else
+            RaiseInvalid();
+        detail::AppendFloat(FResult, Value, AFormat, APrecision, ADigits, FSettings);
+    }
+
+    void WritePointer(const TVarRec& AArg) {
+        if (AArg.Kind() != vtPointer && AArg.Kind() != vtObject && AArg.Kind() != vtClass &&
+            AArg.Kind() != vtInterface)
+            RaiseInvalid();
+        char16_t* Text = FResult.AppendRoom(16);
+        std::fill_n(Text, 16, u'0');
+        detail::WriteHex(reinterpret_cast<std::uintptr_t>(AArg.Pointer()), Text + 16);
+    }
+
+    void WriteText(const TPlace& APlace, const TVarRec& AArg) {
+        switch (AArg.Kind()) {
+        case vtUnicodeString: return WriteView(APlace, AArg.Wide());
+        case vtWideChar:
+        case vtChar: {
+            const auto Char = static_cast<char16_t>(AArg.Int());
+            return WriteView(APlace, {&Char, 1});
+        }
+        case vtUtf8: return WriteView(APlace, UnicodeString(AArg.Narrow()));
+        case vtAnsiString: return WriteView(APlace, AArg.Ansi().ToUnicode());
+        case vtBoolean: return WriteView(APlace, BoolToStr(AArg.Int() != 0, true));
+        case vtClass: return WriteName(APlace, static_cast<TClass>(AArg.Pointer()));
+        case vtObject:
+            return WriteName(APlace,
+                             AArg.Pointer() == nullptr
+                                 ? nullptr
+                                 : static_cast<const TObject*>(AArg.Pointer())->ClassType());
+        default: RaiseInvalid();
+        }
+    }
+
+    void WriteName(const TPlace& APlace, TClass AClass) {
+        WriteView(APlace, AClass == nullptr ? std::u16string_view(u"nil") : AClass->Name());
+    }
+
+    void WriteView(const TPlace& APlace, std::u16string_view AText) {
+        FResult.Append(
+            APlace.Precision == cUnset ? AText : AText.substr(0, static_cast<std::size_t>(APlace.Precision)));
+    }
+
+    std::u16string_view FPattern;
+    std::size_t FHere = 0;
+    TVarRecs FArgs;
+    std::size_t FNextArg = 0;
+    const TFormatSettings& FSettings;
+    UnicodeString FResult;
+};
+
+} // namespace
+
+// Declared with Exception. It stands here because Format raises exceptions, and they are formatted by it.
+Exception::Exception(const TStringArg& APattern, TVarRecs AArgs) : Exception(Format(APattern, AArgs)) {}
+
+UnicodeString Format(const TStringArg& APattern, TVarRecs AArgs) {
+    return Format(APattern, AArgs, DefaultFormatSettings());
+}
+
+UnicodeString Format(const TStringArg& APattern, TVarRecs AArgs, const TFormatSettings& ASettings) {
+    return TFormatter(APattern, AArgs, ASettings).Run();
+}
+
+} // namespace qz

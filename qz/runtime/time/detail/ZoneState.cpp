@@ -1,0 +1,109 @@
+#include <qz/runtime/time/detail/ZoneState.h>
+
+#include <deque>
+#include <limits>
+#include <memory>
+#include <mutex>
+#include <new>
+
+#include <qz/platform/Fork.h>
+
+namespace qz::detail {
+
+constexpr std::int64_t cNotYet = std::numeric_limits<std::int64_t>::min() / 2;
+
+constinit TZoneState GZoneState{nullptr, cNotYet};
+
+namespace {
+
+// A mutex that is there before any code runs, which std::mutex is not everywhere.
+class TEarlyLock {
+public:
+    bool try_lock() noexcept { return !FIsHeld.exchange(true, std::memory_order_acquire); }
+    void lock() noexcept {
+        while (!try_lock())
+            FIsHeld.wait(true, std::memory_order_relaxed);
+    }
+    void unlock() noexcept {
+        FIsHeld.store(false, std::memory_order_release);
+        FIsHeld.notify_one();
+    }
+
+private:
+    std::atomic<bool> FIsHeld{false};
+};
+
+// Of all that follows, and of writes to GZoneState. Held around a fork, from the start of the program on.
+constinit TEarlyLock GLock;
+[[maybe_unused]] const bool GIsWatched = [] {
+    platform::AroundFork([] { GLock.lock(); }, [] { GLock.unlock(); }, [] { GLock.unlock(); });
+    return true;
+}();
+
+struct TLoader {
+    std::string Stamp;
+    std::deque<TZoneTable> Tables;
+
+    // Never destroyed: threads may look while the program ends. Under the lock.
+    static TLoader& Loader() {
+        constinit static TLoader* Result = nullptr;
+        if (Result == nullptr)
+            Result = new TLoader;
+        return *Result;
+    }
+
+    void Look(std::int64_t ANowSeconds, bool AInFull) noexcept;
+
+private:
+    const TZoneTable* Find() {
+        platform::TSystemZone Zone = platform::ReadSystemZone();
+        for (const TZoneTable& Table : Tables) {
+            if (Table.Zone() == Zone)
+                return &Table;
+        }
+        return &Tables.emplace_back(std::move(Zone));
+    }
+};
+
+// Under the lock.
+const TZoneTable& UtcTable() {
+    constinit static const TZoneTable* Result = nullptr;
+    if (Result == nullptr)
+        Result = new TZoneTable(
+            {.Id = u"UTC", .Kinds = {{0, false, u"UTC"}}, .FirstKind = 0, .Changes = {}, .Rules = {}});
+    return *Result;
+}
+
+// Without memory the zone stays as it was.
+void TLoader::Look(std::int64_t ANowSeconds, bool AInFull) noexcept {
+    try {
+        // The stamp comes first: a setting that changes meanwhile is found by the next look.
+        std::string Now = platform::SystemZoneStamp();
+        if (AInFull || Now != Stamp || GZoneState.Table.load(std::memory_order_relaxed) == nullptr) {
+            GZoneState.Table.store(Find(), std::memory_order_release);
+            Stamp = std::move(Now);
+        }
+    } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch)
+    }
+    if (GZoneState.Table.load(std::memory_order_relaxed) == nullptr)
+        GZoneState.Table.store(&UtcTable(), std::memory_order_release);
+    GZoneState.LookedAt.store(ANowSeconds, std::memory_order_release);
+}
+
+} // namespace
+
+const TZoneTable& LookAtZone(std::int64_t ANowSeconds) noexcept {
+    std::unique_lock Guard(GLock, std::try_to_lock);
+    if (!Guard && GZoneState.Table.load(std::memory_order_acquire) == nullptr)
+        Guard.lock();
+    if (Guard)
+        TLoader::Loader().Look(ANowSeconds, false);
+    return *GZoneState.Table.load(std::memory_order_acquire);
+}
+
+void RefreshZone() noexcept {
+    const std::lock_guard Guard(GLock);
+    TLoader::Loader().Look(platform::UtcNowSeconds(), true);
+}
+
+} // namespace qz::detail

@@ -1,0 +1,37 @@
+#include <qz/runtime/values/Variant.h>
+
+#include <qz/runtime/objects/DescribeException.h>
+#include <qz/runtime/values/detail/VariantItems.h>
+
+namespace qz {
+
+const TClassRec EVariantError::ClassRec = DescribeException<EVariantError>(u"EVariantError", u"Variants");
+const TClassRec EVariantInvalidOpError::ClassRec =
+    DescribeException<EVariantInvalidOpError>(u"EVariantInvalidOpError", u"Variants");
+const TClassRec EVariantTypeCastError::ClassRec =
+    DescribeException<EVariantTypeCastError>(u"EVariantTypeCastError", u"Variants");
+const TClassRec EVariantOverflowError::ClassRec =
+    DescribeException<EVariantOverflowError>(u"EVariantOverflowError", u"Variants");
+
+constinit const TTypeInfo TTypeDescription<Variant>::Info =
+    DescribeType<Variant>(tkVariant, u"Variant", u"System");
+
+void Variant::ShareOther(const Variant& AOther) noexcept {
+    if (FType == varString)
+        new (&FData.Narrow) TByteText(AOther.FData.Narrow);
+    else if (VarIsArray(*this))
+        detail::AddRef(FData.Items);
+    else if (FData.Interface != nullptr)
+        FData.Interface->_AddRef();
+}
+
+void Variant::DropOther() noexcept {
+    if (FType == varString)
+        std::destroy_at(&FData.Narrow);
+    else if (VarIsArray(*this))
+        detail::Release(FData.Items);
+    else if (FData.Interface != nullptr)
+        FData.Interface->_Release();
+}
+
+} // namespace qz

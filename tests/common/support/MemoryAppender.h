@@ -1,0 +1,77 @@
+// An appender that keeps what it gets, and does what a test wants with each message.
+#pragma once
+
+#include <functional>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include <qz/common/uQzLogAppenders/BaseAppender.h>
+#include <qz/common/uQzLogger/QzLogger.h>
+
+namespace qz {
+
+class TMemoryAppender : public TQzBaseAppender {
+    QZ_CLASS(TMemoryAppender, TQzBaseAppender)
+
+public:
+    void Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
+               const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) override {
+        {
+            const TScopedLock Hold(*this);
+            Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
+            UnicodeString Line =
+                ASource + u'>' + ALogger + u' ' + QzLogLevels[static_cast<int>(ALevel)] + u' ' + AMessage;
+            if (AValue != nullptr)
+                Line += u'=' + AValue->ToString();
+            if (AIndent != liIndentNone)
+                Line += AIndent == liIndentIncrease ? u" {" : u" }";
+            Lines.push_back(Line);
+        }
+        if (OnWrite)
+            OnWrite(AMessage);
+    }
+    void Initialize() override {
+        Inherited::Initialize();
+        ++Opened;
+    }
+    void Close() override {
+        Inherited::Close();
+        if (OnClose)
+            OnClose();
+    }
+    // What came since the last call, a bar behind each line.
+    UnicodeString Take() {
+        const TScopedLock Hold(*this);
+        UnicodeString Result;
+        for (const UnicodeString& Line : std::exchange(Lines, {}))
+            Result += Line + u'|';
+        return Result;
+    }
+
+    std::function<void(const UnicodeString& AMessage)> OnWrite;
+    std::function<void()> OnClose;
+    std::vector<UnicodeString> Lines;
+    int Opened = 0;
+
+protected:
+    using TQzBaseAppender::TQzBaseAppender;
+};
+
+// A tree of loggers for one test.
+class TLogTree {
+public:
+    TLogTree() { CloseRootLogger(); }
+    ~TLogTree() { CloseRootLogger(); }
+    TLogTree(const TLogTree&) = delete;
+    TLogTree& operator=(const TLogTree&) = delete;
+};
+
+// An appender that the logger holds; the result is good as long as it does.
+inline TMemoryAppender& AddMemory(IQzLogger& ALogger, const UnicodeString& AName = u"") {
+    TMemoryAppender* Result = TMemoryAppender::Create(nullptr, AName);
+    ALogger.AddAppender(static_cast<IQzLogAppender*>(Result));
+    return *Result;
+}
+
+} // namespace qz

@@ -1,0 +1,279 @@
+#include <gtest/gtest.h>
+
+#include "tests/support/Trace.h"
+#include <qz/common/uQzClasses/QzComponent.h>
+#include <qz/runtime/components/DescribeComponent.h>
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/values/BasicTypes.h>
+
+namespace qz {
+namespace {
+
+// Has a text and a number, of which changes are told to its bindings.
+class TView : public TQzComponent {
+    QZ_CLASS(TView, TQzComponent)
+
+public:
+    const UnicodeString& GetTitle() const { return FTitle; }
+    void SetTitle(const UnicodeString& ATitle) {
+        FTitle = ATitle;
+        ++FWrites;
+        NotifyBindings(u"Title");
+        if (FOnTitle)
+            FOnTitle();
+    }
+    int GetWidth() const { return FWidth; }
+    void SetWidth(int AWidth) {
+        FWidth = AWidth;
+        NotifyBindings(u"Width");
+    }
+    int FWrites = 0;
+    std::function<void()> FOnTitle;
+
+protected:
+    explicit TView(TComponent* AOwner) : TQzComponent(AOwner) {}
+    ~TView() override { GTrace += u"freed(" + Name() + u") "; }
+
+private:
+    UnicodeString FTitle;
+    int FWidth = 0;
+};
+
+// A control whose value is its text.
+class TEdit : public TComponent {
+    QZ_CLASS(TEdit, TComponent)
+
+public:
+    const UnicodeString& GetText() const { return FText; }
+    void SetText(const UnicodeString& AText) { FText = AText; }
+    void Type(const UnicodeString& AText) {
+        FText = AText;
+        Observers().ControlValueModified();
+    }
+    UnicodeString GetControlValueMember() const override { return u"Text"; }
+
+protected:
+    explicit TEdit(TComponent* AOwner) : TComponent(AOwner) {}
+    bool CanObserve(int AId) const override { return AId == TObservers::cControlValueId; }
+
+private:
+    UnicodeString FText;
+};
+
+constexpr TPropInfo WriteOnly(TPropInfo AProp) noexcept {
+    AProp.Get = nullptr;
+    return AProp;
+}
+
+constexpr TPropInfo cViewProps[] = {Property<&TView::GetTitle, &TView::SetTitle>(u"Title"),
+                                    Property<&TView::GetWidth, &TView::SetWidth>(u"Width"),
+                                    WriteOnly(Property<&TView::GetTitle, &TView::SetTitle>(u"Sink"))};
+constexpr TPropInfo cEditProps[] = {Property<&TEdit::GetText, &TEdit::SetText>(u"Text")};
+constinit const TClassRec TView::ClassRec =
+    DescribeComponent<TView>(u"TView", {.Unit = u"Test", .Properties = cViewProps});
+constinit const TClassRec TEdit::ClassRec =
+    DescribeComponent<TEdit>(u"TEdit", {.Unit = u"Test", .Properties = cEditProps});
+
+TView* NewView(const UnicodeString& AName, TComponent* AOwner = nullptr) {
+    TView* View = TView::Create(AOwner);
+    View->SetName(AName);
+    return View;
+}
+
+class QzComponent : public testing::Test {
+protected:
+    void SetUp() override { TakeTrace(); }
+};
+
+TEST_F(QzComponent, WithoutOwnerDiesWithItsLastReference) {
+    Ref<IQzComponent> View = NewView(u"a");
+    Ref<IQzObject> Same = As<IQzObject>(View);
+    EXPECT_TRUE(View->GetAutoDestroy());
+    View.Clear();
+    EXPECT_EQ(TakeTrace(), "");
+    Same.Clear();
+    EXPECT_EQ(TakeTrace(), "freed(a) ");
+}
+
+TEST_F(QzComponent, WithOwnerIsEndedByTheOwnerAlone) {
+    TView* Owner = NewView(u"owner");
+    TView* Child = NewView(u"child", Owner);
+    {
+        const Ref<IQzComponent> Passing(Child);
+        EXPECT_EQ(Passing->_GetOwner(), Owner);
+    }
+    EXPECT_EQ(Child->AutoDestroyPolicy(), radComputed);
+    Owner->Free();
+    EXPECT_EQ(TakeTrace(), "freed(owner) freed(child) ");
+}
+
+TEST_F(QzComponent, PolicyMayForbidTheLastReferenceToEndIt) {
+    TView* View = NewView(u"a");
+    View->SetAutoDestroy(false);
+    { const Ref<IQzComponent> Passing(View); }
+    EXPECT_EQ(TakeTrace(), "");
+    View->Free();
+    EXPECT_EQ(TakeTrace(), "freed(a) ");
+}
+
+TEST_F(QzComponent, FreeIsRefusedWhileReferencesRemain) {
+    Ref<IQzComponent> View = NewView(u"a");
+    try {
+        static_cast<TView*>(View.Get())->Free();
+        FAIL() << "no exception";
+    } catch (const Exception& E) {
+        EXPECT_EQ(E.Message(),
+                  "An instance of TView with the name a is destroyed while it's refcount is not 0!");
+    }
+    EXPECT_EQ(TakeTrace(), "");
+    View.Clear();
+    EXPECT_EQ(TakeTrace(), "freed(a) ");
+}
+
+TEST_F(QzComponent, BoundPropertiesFollowEachOtherUntilCleared) {
+    const TOwned<TView> First(NewView(u"a"));
+    const TOwned<TView> Second(NewView(u"b"));
+    First->Bind(u"Title", Second.get(), u"Title");
+    First->Bind(u"Width", Second.get(), u"Width");
+    First->SetTitle(u"one");
+    EXPECT_EQ(Second->GetTitle(), u"one");
+    Second->SetTitle(u"two");
+    EXPECT_EQ(First->GetTitle(), u"two");
+    EXPECT_EQ(First->FWrites + Second->FWrites, 4) << "each change is written once on each side";
+    Second->SetWidth(5);
+    EXPECT_EQ(First->GetWidth(), 5);
+    First->ClearBindings();
+    First->SetTitle(u"three");
+    Second->SetWidth(6);
+    EXPECT_EQ(Second->GetTitle(), u"two");
+    EXPECT_EQ(First->GetWidth(), 5);
+}
+
+TEST_F(QzComponent, BindingConvertsAndEvaluatesAtOnceWhenAsked) {
+    const TOwned<TView> First(NewView(u"a"));
+    const TOwned<TView> Second(NewView(u"b"));
+    First->SetWidth(42);
+    First->Bind(u"Width", Second.get(), u"Title", {TBindings::coEvaluate});
+    EXPECT_EQ(Second->GetTitle(), u"42");
+    Second->SetTitle(u"43");
+    EXPECT_EQ(First->GetWidth(), 43);
+    EXPECT_THROW(Second->SetTitle(u"wide"), EConvertError);
+    EXPECT_EQ(First->GetWidth(), 43);
+}
+
+TEST_F(QzComponent, FailedBindLeavesNoHalfBehind) {
+    const TOwned<TView> First(NewView(u"a"));
+    const TOwned<TView> Second(NewView(u"b"));
+    EXPECT_THROW(First->Bind(u"Title", Second.get(), u"Nothing"), EEvaluatorError);
+    EXPECT_THROW(First->Bind(u"Nothing", Second.get(), u"Title"), EEvaluatorError);
+    EXPECT_THROW(First->Bind(u"Title", Second.get(), u"Sink"), EEvaluatorError)
+        << "the way back cannot be read";
+    First->SetTitle(u"alone");
+    EXPECT_EQ(Second->GetTitle(), u"");
+    EXPECT_EQ(Second->FWrites, 0);
+}
+
+TEST_F(QzComponent, ControlAndPropertyFollowEachOther) {
+    const TOwned<TView> View(NewView(u"a"));
+    const TOwned<TEdit> Edit(TEdit::Create(nullptr));
+    View->SetTitle(u"shown");
+    View->Bind(u"Title", Edit.get());
+    EXPECT_EQ(Edit->GetText(), u"shown");
+    Edit->Type(u"typed");
+    EXPECT_EQ(View->GetTitle(), u"typed");
+    View->SetTitle(u"set");
+    EXPECT_EQ(Edit->GetText(), u"set");
+    View->ClearBindings();
+    Edit->Type(u"unheard");
+    EXPECT_EQ(View->GetTitle(), u"set");
+    EXPECT_EQ(View->ComponentCount(), 0);
+}
+
+TEST_F(QzComponent, OnlyAControlCanBeBoundByItsValue) {
+    const TOwned<TView> First(NewView(u"a"));
+    const TOwned<TView> Second(NewView(u"b"));
+    try {
+        First->Bind(u"Title", static_cast<TComponent*>(Second.get()));
+        FAIL() << "no exception";
+    } catch (const EAssertionFailed& E) {
+        EXPECT_EQ(E.Message(), "Assertion failure");
+    }
+    const TOwned<TEdit> Edit(TEdit::Create(nullptr));
+    EXPECT_THROW(First->Bind(u"Nothing", Edit.get()), EEvaluatorError);
+    EXPECT_EQ(First->ComponentCount(), 0) << "the link is gone";
+}
+
+TEST_F(QzComponent, SetterMayEndTheLinkOrTheControlThatFeedsIt) {
+    const TOwned<TView> First(NewView(u"a"));
+    const TOwned<TView> Second(NewView(u"b"));
+    TEdit* Edit = TEdit::Create(nullptr);
+    First->Bind(u"Title", Edit);
+    First->FOnTitle = [&] { First->ClearBindings(); };
+    Edit->Type(u"one");
+    First->FOnTitle = {};
+    First->Bind(u"Title", Edit);
+    Second->Bind(u"Title", Edit);
+    First->FOnTitle = [&] { FreeAndNil(Edit); };
+    Edit->Type(u"two");
+    EXPECT_EQ(First->GetTitle(), u"two");
+    EXPECT_EQ(Second->GetTitle(), u"") << "the control ended before its turn";
+}
+
+// Refers to itself while it is made and while it ends.
+class TSelfReferring : public TView {
+    QZ_CLASS(TSelfReferring, TView)
+
+public:
+    void AfterConstruction() override {
+        TView::AfterConstruction();
+        const Ref<IQzComponent> Passing(this);
+    }
+    void BeforeDestruction() override {
+        const Ref<IQzComponent> Passing = Ref<IQzComponent>(this);
+        FreeOfReferences();
+    }
+
+protected:
+    TSelfReferring() : TView(nullptr) {}
+    ~TSelfReferring() override { const Ref<IQzComponent> Passing(this); }
+
+private:
+    void FreeOfReferences() { GTrace += u"ending "; }
+};
+constinit const TClassRec TSelfReferring::ClassRec =
+    DescribeClass<TSelfReferring>(u"TSelfReferring", {.Unit = u"Test"});
+
+TEST_F(QzComponent, ReferencesWhileItIsMadeAndEndsEndNothing) {
+    TSelfReferring* Self = TSelfReferring::Create();
+    EXPECT_EQ(Self->RefCount(), 0);
+    EXPECT_EQ(TakeTrace(), "");
+    { const Ref<IQzComponent> Passing(Self); }
+    EXPECT_EQ(TakeTrace(), "ending freed() ");
+}
+
+TEST_F(QzComponent, ChildThatIsReferredToOutlivesItsOwner) {
+    TView* Owner = NewView(u"owner");
+    Ref<IQzComponent> Child = NewView(u"child", Owner);
+    Owner->Free();
+    EXPECT_EQ(TakeTrace(), "freed(owner) ");
+    EXPECT_EQ(Child->_GetOwner(), nullptr);
+    Child.Clear();
+    EXPECT_EQ(TakeTrace(), "freed(child) ");
+}
+
+TEST_F(QzComponent, BindingsOutliveNeitherSide) {
+    TView* First = NewView(u"a");
+    TView* Second = NewView(u"b");
+    TEdit* Edit = TEdit::Create(nullptr);
+    First->Bind(u"Title", Second, u"Title");
+    First->Bind(u"Title", Edit);
+    Edit->Free();
+    Second->Free();
+    First->SetTitle(u"alone");
+    First->Free();
+    EXPECT_EQ(TakeTrace(), "freed(b) freed(a) ");
+}
+
+} // namespace
+} // namespace qz

@@ -1,0 +1,214 @@
+#include <qz/common/uQzClasses/QzMemoryStream.h>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/TemporaryDirectory.h"
+#include <qz/common/uQzClasses/StreamBuf.h>
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/streams/FileStream.h>
+#include <qz/runtime/streams/MemoryStream.h>
+
+namespace qz {
+namespace {
+
+std::string Content(const TQzMemoryStream& AStream) {
+    return {reinterpret_cast<const char*>(AStream.FBufferStart), AStream.FContentSize};
+}
+
+// What holds for a stream that owns its block, after each step.
+void Check(const TQzMemoryStream& AStream) {
+    EXPECT_LE(AStream.FBufferStart, AStream.FCurPos);
+    EXPECT_LE(AStream.FCurPos, AStream.FContentEnd);
+    EXPECT_EQ(AStream.FContentEnd, AStream.FBufferStart + AStream.FContentSize);
+    EXPECT_LT(AStream.FContentSize, AStream.FBufferSize);
+}
+
+TEST(QzMemoryStream, ABlockIsAMultipleOfTheStepAndLargerThanItsContent) {
+    struct TCase {
+        std::size_t Written, Block;
+    };
+    for (const TCase Case : {TCase{0, 16}, {15, 16}, {16, 32}, {31, 48}, {32, 48}, {100, 112}}) {
+        TQzMemoryStream Stream(16);
+        Stream.WriteBuffer(std::string(Case.Written, 'x').data(), static_cast<std::int64_t>(Case.Written));
+        EXPECT_EQ(Case.Block, Stream.FBufferSize) << Case.Written;
+        Check(Stream);
+    }
+    TQzMemoryStream Sized(16);
+    Sized.SetSize(32);
+    EXPECT_EQ(48u, Sized.FBufferSize);
+    Sized.SetBufSize(0);
+    EXPECT_EQ(16u, Sized.FBufferSize);
+    EXPECT_EQ(0, Sized.Size());
+    EXPECT_THROW(TQzMemoryStream(0), EAssertionFailed);
+    EXPECT_THROW(Sized.CheckSize(SIZE_MAX - 1), std::bad_alloc);
+    EXPECT_THROW(Sized.SetSize(INT64_MAX), std::bad_alloc);
+    Check(Sized);
+}
+
+TEST(QzMemoryStream, SeekStopsAtBothEnds) {
+    TQzMemoryStream Stream(16);
+    Stream.WriteBuffer("0123456789", 10);
+    struct TCase {
+        std::int64_t From, Offset;
+        TSeekOrigin Origin;
+        std::int64_t Place;
+    };
+    const TCase Cases[] = {
+        {0, 1000, soBeginning, 10},
+        {0, 7, soBeginning, 7},
+        {0, -1, soBeginning, 0},
+        {5, 3, soCurrent, 8},
+        {5, -3, soCurrent, 2},
+        {5, 6, soCurrent, 10},
+        {5, -6, soCurrent, 0},
+        {5, INT64_MAX, soCurrent, 10},
+        {5, INT64_MIN, soCurrent, 0},
+        {0, 3, soEnd, 7},
+        {0, 1000, soEnd, 0},
+        {0, -1, soEnd, 10},
+        {0, INT64_MIN, soEnd, 10},
+        {0, 10, soEnd, 0},
+        {9, 0, soEnd, 10},
+    };
+    for (const TCase& Case : Cases) {
+        Stream.Seek(Case.From, soBeginning);
+        EXPECT_EQ(Case.Place, Stream.Seek(Case.Offset, Case.Origin))
+            << Case.Offset << ' ' << int(Case.Origin);
+        Check(Stream);
+    }
+    EXPECT_EQ(7, Stream.Seek(3, soFromEnd));
+}
+
+TEST(QzMemoryStream, SizesCutAndLengthenAndKeepThePosition) {
+    TQzMemoryStream Stream(4);
+    Stream.WriteBuffer("0123456789", 10);
+    Stream.SetPosition(8);
+    Stream.SetSize(100);
+    EXPECT_EQ(8, Stream.Position());
+    EXPECT_EQ(100, Stream.Size());
+    Stream.SetSize(5);
+    EXPECT_EQ(5, Stream.Position());
+    EXPECT_EQ("01234", Content(Stream));
+    Stream.SetBufSize(100);
+    EXPECT_EQ("01234", Content(Stream));
+    Stream.SetBufSize(3);
+    EXPECT_EQ("012", Content(Stream));
+    EXPECT_EQ(3, Stream.Position());
+    Stream.SetSize(-1);
+    EXPECT_EQ(0, Stream.Size());
+    Stream.WriteBuffer("abc", 3);
+    Stream.Clear();
+    EXPECT_EQ(4u, Stream.FBufferSize);
+    EXPECT_EQ(0, Stream.Position());
+    Check(Stream);
+}
+
+TEST(QzMemoryStream, AnEarlierContentEndHidesWhatFollows) {
+    TQzMemoryStream Stream(16);
+    Stream.WriteBuffer("0123456789", 10);
+    Stream.SetContentEnd(4);
+    EXPECT_EQ(10, Stream.Size());
+    EXPECT_EQ(4, Stream.Position());
+    EXPECT_EQ(3, Stream.Seek(1, soEnd));
+    char Buffer[10];
+    EXPECT_EQ(1, Stream.Read(Buffer, 10));
+    Stream.WriteBuffer("abcdefghij", 10);
+    EXPECT_EQ(0, Stream.Read(Buffer, 10)) << "the position is behind the end that is shown";
+    EXPECT_EQ(14, Stream.Size());
+    Stream.SetContentEnd(20);
+    EXPECT_EQ(20, Stream.Size());
+    Check(Stream);
+}
+
+TEST(QzMemoryStream, NumbersAndBytesComeBack) {
+    TQzMemoryStream Stream(1);
+    Stream.WriteByte(0xFE);
+    Stream.WriteWord(0xFEDC);
+    Stream.WriteLongWord(0xFEDCBA98);
+    Stream.WriteInt64(-2);
+    Stream.WriteBytes({1, 2, 3});
+    EXPECT_EQ(18, Stream.Size());
+    EXPECT_EQ(0xDC, Stream.FBufferStart[1]) << "the lowest byte is first";
+    Stream.SetPosition(0);
+    EXPECT_EQ(0xFE, Stream.ReadByte());
+    EXPECT_EQ(0xFEDC, Stream.ReadWord());
+    EXPECT_EQ(0xFEDCBA98u, Stream.ReadLongWord());
+    EXPECT_EQ(-2, Stream.ReadInt64());
+    EXPECT_EQ((TBytes{1, 2}), Stream.ReadBytes(2));
+    EXPECT_THROW(Stream.ReadBytes(0), EAssertionFailed);
+    for (const auto& Step : {std::function<void()>([&] { Stream.ReadLongWord(); }),
+                             std::function<void()>([&] { Stream.ReadBytes(INT32_MAX); })}) {
+        Stream.SetPosition(17);
+        try {
+            Step();
+            FAIL();
+        } catch (const Exception& Error) {
+            EXPECT_EQ(u"Unexpected EOF", Error.Message());
+        }
+        EXPECT_EQ(18, Stream.Position());
+    }
+}
+
+TEST(QzMemoryStream, WritesWhatLiesInItsOwnBlock) {
+    TQzMemoryStream Stream(16);
+    Stream.WriteBuffer("0123456789", 10);
+    for (int I = 0; I < 12; ++I)
+        Stream.Write(Stream.FBufferStart, static_cast<std::int32_t>(Stream.FContentSize));
+    EXPECT_EQ(10 << 12, Stream.Size());
+    EXPECT_EQ("0123456789", Content(Stream).substr((10 << 12) - 10));
+}
+
+TEST(QzMemoryStream, AWrappedBlockIsOverwrittenInPlaceAndNeverResized) {
+    char Block[] = "0123456789";
+    {
+        TQzMemoryStream Stream(Block, 10);
+        EXPECT_EQ(10, Stream.Size());
+        Stream.SetPosition(8);
+        Stream.WriteBuffer("ab", 2);
+        const std::function<void()> Steps[] = {[&] { Stream.WriteByte(1); }, [&] { Stream.SetSize(3); },
+                                               [&] { Stream.SetBufSize(3); }, [&] { Stream.Clear(); },
+                                               [&] { Stream.SetContentEnd(11); }};
+        for (const auto& Step : Steps) {
+            try {
+                Step();
+                FAIL();
+            } catch (const Exception& Error) {
+                EXPECT_EQ(u"It is not possible to resize the buffer!", Error.Message());
+            }
+            EXPECT_EQ(10, Stream.Position());
+        }
+    }
+    EXPECT_STREQ("01234567ab", Block);
+}
+
+TEST(StreamBuf, LendsMemoryAndReadsTheRestOfAnythingElse) {
+    TQzMemoryStream Own(16);
+    TMemoryStream Runtime;
+    const platform::TTemporaryDirectory Directory;
+    TFileStream File(Directory / u"file", fmCreate);
+    for (TStream* Stream : std::initializer_list<TStream*>{&Own, &Runtime, &File}) {
+        Stream->WriteBuffer("0123456789", 10);
+        Stream->SetPosition(4);
+        void* Buffer = nullptr;
+        std::size_t Size = 0;
+        const bool IsFile = Stream == &File;
+        EXPECT_EQ(IsFile, QzStreamToReadBuf(*Stream, Buffer, Size));
+        EXPECT_EQ("456789", std::string(static_cast<char*>(Buffer), Size));
+        EXPECT_EQ(IsFile ? 10 : 4, Stream->Position());
+        if (IsFile)
+            QzFreeStreamBuf(Buffer);
+        const bool IsOwn = Stream == &Own;
+        EXPECT_EQ(!IsOwn, QzStreamToWriteBuf(*Stream, Buffer, 3));
+        std::memcpy(Buffer, "abc", 3);
+        if (!IsOwn)
+            QzFreeStreamBuf(Buffer);
+        EXPECT_EQ(IsOwn ? 7 : 10, Stream->Size());
+    }
+    EXPECT_EQ("0123abc", Content(Own));
+    void* Buffer = nullptr;
+    EXPECT_THROW(QzStreamToWriteBuf(Own, Buffer, SIZE_MAX), std::bad_alloc);
+    EXPECT_EQ("0123abc", Content(Own));
+}
+
+} // namespace
+} // namespace qz

@@ -1,0 +1,389 @@
+#include <qz/common/uQzClasses/QzStringStream.h>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/Message.h"
+#include "tests/support/SystemPage.h"
+#include "tests/support/TemporaryDirectory.h"
+#include "tests/support/WatchedStream.h"
+#include <qz/common/uQzClasses/StreamText.h>
+#include <qz/common/uQzTypes/QzEncoding.h>
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/streams/FileStream.h>
+
+namespace qz {
+namespace {
+
+using namespace std::string_literals;
+
+std::string Content(const TQzMemoryStream& AStream) {
+    return {reinterpret_cast<const char*>(AStream.FBufferStart), AStream.FContentSize};
+}
+
+AnsiString Ansi(std::string_view AText) {
+    return AnsiString(AText);
+}
+
+class QzStringStream : public testing::Test {
+protected:
+    TSystemPage Page{1252};
+};
+
+TEST_F(QzStringStream, KeepsEachTextInItsCodePage) {
+    const std::pair<int, std::string> Cases[] = {
+        {0,
+         "\xE4"
+         "b"s},
+        {1252,
+         "\xE4"
+         "b"s},
+        {65001,
+         "\xC3\xA4"
+         "b"s},
+        {1200, "\xE4\0b\0"s},
+        {1201, "\0\xE4\0b"s},
+        {12001, "\0\0\0\xE4\0\0\0b"s},
+    };
+    for (const auto& [CodePage, Expected] : Cases) {
+        TQzStringStream Stream(static_cast<std::uint16_t>(CodePage), 16);
+        const std::function<void()> Steps[] = {[&] { Stream.SetWString(u"äb"); },
+                                               [&] {
+                                                   Stream.SetAString(Ansi("\xE4"
+                                                                          "b"));
+                                               },
+                                               [&] { Stream.SetAsUTF8(UTF8String("äb")); },
+                                               [&] { Stream.SetValue(u"äb"); },
+                                               [&] { Stream.SetValue(WideString(UnicodeString(u"äb"))); },
+                                               [&] {
+                                                   Stream.SetValue(Ansi("\xE4"
+                                                                        "b"));
+                                               }};
+        for (const auto& Step : Steps) {
+            Stream.SetWString(u"longer than before");
+            Step();
+            EXPECT_EQ(Expected, Content(Stream)) << CodePage;
+            EXPECT_EQ(0, Stream.Position());
+        }
+        Stream.SetPosition(1);
+        EXPECT_EQ(u"äb", Stream.WString());
+        EXPECT_EQ("\xE4"
+                  "b",
+                  std::string(Stream.AString().View()));
+        EXPECT_EQ(UTF8String("äb"), Stream.AsUTF8());
+        EXPECT_EQ("\x84"
+                  "b",
+                  std::string(Stream.StringData(850).View()));
+        EXPECT_EQ(2, Stream.CharCnt());
+        EXPECT_EQ(varUString, VarType(Stream.Value()));
+        EXPECT_EQ(1, Stream.Position());
+        EXPECT_EQ(u"Unsupported type 3!", Message([&] { Stream.SetValue(7); }));
+        EXPECT_EQ(Expected, Content(Stream));
+    }
+}
+
+TEST_F(QzStringStream, TakesTextsAsTheyStandWhenMade) {
+    EXPECT_EQ("a\0\x42\x30"s, Content(TQzStringStream(u"a\u3042")));
+    EXPECT_EQ("\xE3\x81\x82", Content(TQzStringStream(UTF8String("\xE3\x81\x82"))));
+    TQzStringStream Labelled(1200, 16);
+    Labelled.SetValue(AnsiString("\x84", 850));
+    EXPECT_EQ(u"\u201E", Labelled.WString()) << "an 8-bit variant is in code page 0";
+    TQzStringStream Bytes(Ansi("\xE4"), 850);
+    EXPECT_EQ(u"\u00F5", Bytes.WString());
+    EXPECT_EQ(0, Bytes.Position());
+    EXPECT_EQ(2, QzCodePageMaxCharSize(1200));
+    EXPECT_EQ(4, QzCodePageMaxCharSize(12001));
+    EXPECT_EQ(2, QzCodePageMaxCharSize(932));
+    EXPECT_EQ(1, QzCodePageMaxCharSize(0));
+    EXPECT_EQ(1, QzCodePageMaxCharSize(4711));
+}
+
+TEST_F(QzStringStream, WritesAtThePositionAndAddsTowardsTheEnd) {
+    TQzStringStream Stream(65001, 16);
+    Stream.Write(u"0123456789");
+    Stream.SetPosition(2);
+    Stream.Write(Ansi("\xE4"));
+    Stream.WriteChar(u'x');
+    Stream.WriteChar('\xE4');
+    EXPECT_EQ("01äxä789", Content(Stream));
+    Stream.SetPosition(0);
+    Stream.Add(u"A");
+    EXPECT_EQ(10, Stream.Position());
+    Stream.SetPosition(0);
+    Stream.Add(RawByteString("B"), 65001);
+    Stream.SetPosition(1);
+    Stream.Add(RawByteString("\x84"), 850);
+    Stream.SetPosition(0);
+    Stream.AddChar('\xE4');
+    Stream.SetPosition(0);
+    Stream.AddChar(u'\u20AC');
+    EXPECT_EQ("BäÃ¤xä789ä€"s.replace(1, 6, "\xC3\xA4\xA4"), Content(Stream));
+    Stream.Add(u"");
+    Stream.Write(u"");
+    Stream.Write(Ansi(""));
+    Stream.WriteEOF();
+    EXPECT_EQ('\0', Content(Stream).back());
+    TQzStringStream Wide(1200, 16);
+    Wide.Write(Ansi("\x80"));
+    Wide.WriteEOF();
+    EXPECT_EQ("\xAC\x20\0\0"s, Content(Wide));
+}
+
+TEST_F(QzStringStream, AddsAnotherStreamAndTakesItOver) {
+    TQzStringStream Other(0, 16);
+    Other.SetAString(Ansi("\x80"
+                          "b"));
+    Other.SetPosition(1);
+    TQzStringStream Stream(65001, 16);
+    Stream.Add(Other);
+    EXPECT_EQ("€b", Content(Stream));
+    Other.Add(Stream);
+    EXPECT_EQ("\x80\x80"
+              "b",
+              Content(Other));
+    Stream.Assign(Other);
+    EXPECT_EQ("\x80\x80"
+              "b",
+              Content(Stream));
+    EXPECT_EQ(0, Stream.FCodePage);
+    EXPECT_EQ(1, Stream.FCodePageMaxCharSize);
+    EXPECT_EQ(3, Stream.Position());
+    Stream.Assign(Stream);
+    EXPECT_EQ(3, Stream.Size());
+}
+
+TEST_F(QzStringStream, ChangesItsCodePageWithOrWithoutItsContent) {
+    TQzStringStream Stream(0, 16);
+    Stream.ChangeCodePage(1200, false);
+    Stream.SetWString(u"ä€");
+    EXPECT_EQ(u"The current codepage cannot be changed without updating the content!",
+              Message([&] { Stream.ChangeCodePage(1252, false); }));
+    EXPECT_EQ(1200, Stream.FCodePage);
+    Stream.ChangeCodePage(1252, true);
+    EXPECT_EQ("\xE4\x80", Content(Stream));
+    EXPECT_EQ(2, Stream.Position());
+    Stream.ChangeCodePage(850, false);
+    EXPECT_EQ(u"\u00F5\u00C7", Stream.WString());
+    EXPECT_NE(u"", Message([&] { Stream.ChangeCodePage(1200, false); }));
+    EXPECT_THROW(Stream.ChangeCodePage(4711, true), EOSError);
+    EXPECT_EQ("\xE4\x80", Content(Stream));
+    EXPECT_EQ(850, Stream.FCodePage);
+    char Block[] = "abc";
+    TQzStringStream Wrapped(Block, 3, 1252);
+    Wrapped.ChangeCodePage(850, false);
+    EXPECT_EQ(u"Updating the content is not allowed (the stream is probably using a wrapped buffer)!",
+              Message([&] { Wrapped.ChangeCodePage(65001, true); }));
+    Wrapped.Write(u"xyz");
+    EXPECT_STREQ("xyz", Block);
+    EXPECT_EQ(u"It is not possible to resize the buffer!", Message([&] { Wrapped.WriteChar(u'!'); }));
+}
+
+TEST_F(QzStringStream, ReadsCharactersOneByOne) {
+    const UnicodeString Text = u"aä€\u65E5z";
+    for (const int CodePage : {65001, 1200, 1201, 12000, 932, 936}) {
+        TQzStringStream Stream(static_cast<std::uint16_t>(CodePage), 16);
+        Stream.SetWString(Text);
+        const UnicodeString Stored = Stream.WString();
+        UnicodeString Read;
+        while (Stream.Position() < Stream.Size())
+            Read += Stream.ReadChar();
+        EXPECT_EQ(Stored, Read) << CodePage;
+        EXPECT_EQ(u'\0', Stream.ReadWChar());
+        EXPECT_EQ('\0', Stream.ReadAChar());
+        Stream.SetPosition(0);
+        std::string Narrow;
+        while (Stream.Position() < Stream.Size())
+            Narrow += Stream.ReadAChar();
+        EXPECT_EQ(UnicodeString(Stored.View().substr(0, 1)), TQzEncoding::ConvertA(Narrow.data(), 1, 0));
+        for (const std::uint32_t Count : {1u, 2u, 3u, 100u, 0xFFFFFFFFu}) {
+            Stream.SetPosition(0);
+            Read = u"";
+            while (Stream.Position() < Stream.Size())
+                Read += Stream.ReadWString(Count);
+            EXPECT_EQ(Stored, Read) << CodePage << ' ' << Count;
+        }
+        EXPECT_EQ(u"", Stream.ReadString(5));
+        EXPECT_EQ(u"", Stream.ReadString(-1));
+    }
+}
+
+TEST_F(QzStringStream, ReadsBothHalvesOfAPairInUtf8) {
+    const TSystemPage Utf8(65001);
+    for (const std::uint16_t CodePage : {std::uint16_t{0}, std::uint16_t{65001}}) {
+        TQzStringStream Whole(RawByteString("a\U0001F600b\U0001F601"), CodePage);
+        UnicodeString All;
+        while (Whole.Position() < Whole.Size())
+            All += Whole.ReadWChar();
+        EXPECT_EQ(u"a\U0001F600b\U0001F601", All) << CodePage;
+    }
+    TQzStringStream Wide(12000, 16);
+    Wide.SetWString(u"a\U0001F600b");
+    EXPECT_EQ(u"a\xD83D", Wide.ReadWString(2)) << "the second unit is passed with the first";
+    EXPECT_EQ(u"b", Wide.ReadWString(2));
+    TQzStringStream Stream(UTF8String("a\U0001F600b\U0001F601"));
+    UnicodeString Read;
+    while (Stream.Position() < Stream.Size())
+        Read += Stream.ReadWChar();
+    EXPECT_EQ(u"a\U0001F600b\U0001F601", Read);
+    Stream.SetPosition(0);
+    EXPECT_EQ(u"a\xD83D", Stream.ReadString(2));
+    EXPECT_EQ(u"\xDE00"
+              u"b",
+              Stream.ReadString(2));
+    EXPECT_EQ(u"\U0001F601", Stream.ReadString(9));
+    TQzStringStream Torn(RawByteString("\xC3"), 65001);
+    EXPECT_EQ(u'\uFFFD', Torn.ReadChar());
+    EXPECT_EQ(1, Torn.Position()) << "never behind the end";
+}
+
+TEST_F(QzStringStream, ReadsRunsInTheSystemsCodePage) {
+    TQzStringStream Plain(Ansi("\x80xyz"), 0);
+    EXPECT_EQ("\x80x", std::string(Plain.ReadAString(2).View()));
+    EXPECT_EQ('y', Plain.ReadAChar());
+    EXPECT_EQ("z", std::string(Plain.ReadAString(9).View()));
+    EXPECT_EQ("", std::string(Plain.ReadAString(9).View()));
+    TQzStringStream Wide(u"€x\u0416");
+    EXPECT_EQ("\x80x", std::string(Wide.ReadAString(2).View()));
+    EXPECT_EQ('?', Wide.ReadAChar());
+    TQzStringStream Half(RawByteString("a\0b"s), 1200);
+    EXPECT_EQ(u"a", Half.ReadWString(9));
+    EXPECT_EQ(u'\0', Half.ReadWChar());
+}
+
+class QzStringStreamFiles : public QzStringStream {
+protected:
+    std::string Saved(const TQzStringStream& AStream, std::uint16_t ACodePage, bool AWriteBOM) {
+        TQzMemoryStream Target(16);
+        AStream.SaveToStream(Target, ACodePage, AWriteBOM);
+        AStream.SaveToFile(Name, ACodePage, AWriteBOM);
+        TFileStream File(Name, fmOpenRead);
+        std::string Text(static_cast<std::size_t>(File.Size()), '\0');
+        File.ReadBuffer(Text.data(), File.Size());
+        EXPECT_EQ(Content(Target), Text);
+        return Text;
+    }
+    platform::TTemporaryDirectory Directory;
+    UnicodeString Name = UnicodeString(Directory / u"file");
+};
+
+TEST_F(QzStringStreamFiles, SavesInAnyCodePageWithItsMark) {
+    TQzStringStream Stream(Ansi("\xE4"), 0);
+    EXPECT_EQ("\xE4", Saved(Stream, 0, true));
+    EXPECT_EQ("\xEF\xBB\xBFä", Saved(Stream, 65001, true));
+    EXPECT_EQ("ä", Saved(Stream, 65001, false));
+    EXPECT_EQ("\xFF\xFE\xE4\0"s, Saved(Stream, 1200, true));
+    EXPECT_EQ("\xFE\xFF\0\xE4"s, Saved(Stream, 1201, true));
+    EXPECT_EQ("\xFF\xFE\0\0\xE4\0\0\0"s, Saved(Stream, 12000, true));
+    EXPECT_EQ("\0\0\xFE\xFF\0\0\0\xE4"s, Saved(Stream, 12001, true));
+    EXPECT_EQ("\x84", Saved(Stream, 850, true));
+    EXPECT_EQ("\xE4\0"s, Saved(TQzStringStream(u"ä"), 1200, false));
+    const TQzStringStream Utf8(RawByteString("\xFF"), 65001);
+    EXPECT_EQ("\xEF\xBF\xBD", Saved(Utf8, 65001, false)) << "it goes through UTF-16";
+    EXPECT_THROW(Stream.SaveToFile(Name, 4711, true), EOSError);
+    EXPECT_THROW(Stream.SaveToFile(Directory.Path()), EFCreateError);
+    EXPECT_EQ("\xE4", Content(Stream));
+}
+
+TEST_F(QzStringStreamFiles, LoadsByMarkOrByCodePageAndAppends) {
+    TQzStringStream Utf8(UTF8String("ä"));
+    Utf8.SaveToFile(Name);
+    TQzStringStream Stream(0, 16);
+    Stream.LoadFromFile(Name, -1);
+    Stream.LoadFromFile(Name, 65001);
+    EXPECT_EQ("\xE4\xE4", Content(Stream));
+    for (const int CodePage : {1252, 0})
+        EXPECT_EQ(u"The specified encoding does not match the BOM of the stream!",
+                  Message([&] { Stream.LoadFromFile(Name, CodePage); }));
+    EXPECT_EQ(u"File " + Name + u"x not found.", Message([&] { Stream.LoadFromFile(Name + u"x", -1); }));
+    EXPECT_THROW(Stream.LoadFromFile(Name + u"x", -1), EFOpenError);
+    EXPECT_EQ("\xE4\xE4", Content(Stream));
+}
+
+struct TLoadCase {
+    int StreamPage;
+    std::string Bytes;
+    int CodePage;
+    bool Detect;
+    UnicodeString Text;
+};
+
+TEST_F(QzStringStreamFiles, LoadsStreamsAsTheyAreLabelled) {
+    const TLoadCase Cases[] = {
+        {0, "\xE4", -1, false, u"ä"},
+        {0, "\xE4", -1, true, u"ä"},
+        {0, "\x84", 850, true, u"ä"},
+        {65001, "\xE4", -1, false, u"ä"},
+        {1200, "\xFF\xFE\xE4\0"s, -1, true, u"ä"},
+        {1200, "\xE4\0x"s, 1200, false, u"ä"},
+        {65001, "\xFE\xFF\0\xE4"s, -1, true, u"ä"},
+        {0, "\0\0\xFE\xFF\0\0\0\xE4"s, 12001, true, u"ä"},
+        {1200, "a\0\xE4\0"s, -1, true, u"aä"},
+        {0, "", -1, true, u""},
+    };
+    for (const TLoadCase& Case : Cases) {
+        TQzMemoryStream Source(16);
+        Source.WriteBuffer("skipped", 7);
+        Source.WriteBuffer(Case.Bytes.data(), static_cast<std::int64_t>(Case.Bytes.size()));
+        Source.SetPosition(7);
+        TQzStringStream Stream(static_cast<std::uint16_t>(Case.StreamPage), 16);
+        Stream.LoadFromStream(&Source, false, false, Case.Detect, Case.CodePage);
+        EXPECT_EQ(Case.Text, Stream.WString()) << Case.Bytes;
+        Source.SetPosition(7);
+        EXPECT_EQ(Case.Text, QzStreamToWideString(&Source, false, false, Case.Detect, Case.CodePage))
+            << Case.Bytes;
+    }
+}
+
+TEST_F(QzStringStreamFiles, EndsAStreamThatItIsGivenInAnyCase) {
+    int Ends = 0;
+    const auto Fresh = [&] {
+        auto Stream = TWatchedStream::Create(Ends);
+        Stream->WriteBuffer("\xEF\xBB\xBFx", 4);
+        return Stream.release();
+    };
+    TQzStringStream Stream(0, 16);
+    Stream.LoadFromStream(Fresh(), true, true, true, -1);
+    EXPECT_EQ(1, Ends);
+    EXPECT_THROW(Stream.LoadFromStream(Fresh(), true, true, true, 1252), Exception);
+    EXPECT_EQ(u"x", QzStreamToWideString(Fresh(), true, true, true, -1));
+    EXPECT_EQ(u"The specified encoding is not supported!",
+              Message([&] { QzStreamToAnsiString(Fresh(), true, true, true, -1, 1200); }));
+    EXPECT_EQ("x", std::string(QzStreamToAnsiString(Fresh(), true, true, true, -1, 1252).View()));
+    EXPECT_EQ(5, Ends);
+    EXPECT_THROW(QzStreamToWideString(nullptr, true, true, true, -1), EAssertionFailed);
+    EXPECT_EQ("x", Content(Stream));
+}
+
+TEST_F(QzStringStreamFiles, LoadsAsAWholeOrNotAtAll) {
+    char Block[] = "0123456789";
+    TQzStringStream Wrapped(Block, 10, 0);
+    TQzMemoryStream Source(16);
+    Source.WriteBuffer("abcdefghijk", 11);
+    EXPECT_THROW(Wrapped.LoadFromStream(&Source, false, true, false, 0), Exception);
+    EXPECT_STREQ("0123456789", Block);
+    Source.SetSize(10);
+    Wrapped.LoadFromStream(&Source, false, true, false, 0);
+    EXPECT_STREQ("abcdefghij", Block);
+    EXPECT_EQ(10, Source.Position());
+    EXPECT_THROW(QzStreamToWideString(&Source, false, true, false, 65536 + 850),
+                 EArgumentOutOfRangeException);
+    TQzStringStream Unknown(4711, 16);
+    EXPECT_THROW(Unknown.SetWString(u"x"), EOSError);
+    EXPECT_EQ(0, Unknown.Size());
+}
+
+TEST_F(QzStringStream, StreamsGiveTextByTheirMark) {
+    TQzMemoryStream Source(16);
+    Source.WriteBuffer("\xFF\xFE\xAC\x20", 4);
+    EXPECT_EQ(u"€", QzStreamToWideString(&Source, false, true, true, -1));
+    EXPECT_EQ(u"€", QzStreamToString(&Source, false, true, true, 1200));
+    EXPECT_EQ("\x80", std::string(QzStreamToAnsiString(&Source, false, true, true, -1, 1252).View()));
+    const RawByteString Same = QzStreamToAnsiString(&Source, false, true, false, 1252, 1252);
+    EXPECT_EQ("\xFF\xFE\xAC\x20", std::string(Same.View()));
+    EXPECT_EQ(1252, Same.CodePage());
+    EXPECT_THROW(QzStreamToString(&Source, false, true, true, 0), Exception);
+    EXPECT_EQ(2, Source.Position()) << "behind the mark";
+}
+
+} // namespace
+} // namespace qz

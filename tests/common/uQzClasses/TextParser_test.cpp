@@ -1,0 +1,341 @@
+#include <qz/common/uQzClasses/TextParser.h>
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "tests/common/support/ParserSteps.h"
+#include "tests/support/SystemPage.h"
+#include <qz/common/uQzClasses/QzMemoryStream.h>
+#include <qz/runtime/streams/MemoryStream.h>
+#include <qz/runtime/text/Encoding.h>
+
+namespace qz {
+namespace {
+
+std::string BytesOf(const UnicodeString& AText, std::uint16_t ACodePage) {
+    const TBytes Bytes = TEncoding(ACodePage).GetBytes(AText);
+    return std::string(Bytes.begin(), Bytes.end());
+}
+
+TEST(TextParser, StepsAndCountsByKind) {
+    struct TStep {
+        char16_t Char;
+        const char16_t* Places;
+    };
+    struct TCase {
+        std::uint16_t CodePage;
+        std::vector<TStep> Steps;
+    };
+    const TCase Cases[] = {
+        {1252,
+         {{u'a', u"1:0 0/0"},
+          {u'\n', u"2:1 1/1"},
+          {u'ä', u"2:2 2/2"},
+          {u'b', u"2:3 3/3"},
+          {0, u"2:4 4/4 end"}}},
+        {1200,
+         {{u'a', u"1:0 0/0"},
+          {u'\n', u"2:1 2/2"},
+          {u'ä', u"2:2 4/4"},
+          {u'b', u"2:3 6/6"},
+          {0, u"2:4 8/8 end"}}},
+        {65001,
+         {{u'a', u"1:0 0/0"},
+          {u'\n', u"1:1 1/1"},
+          {u'ä', u"2:1 2/2"},
+          {u'b', u"2:2 3/4"},
+          {0, u"2:3 4/5 end"}}},
+    };
+    for (const TCase& Case : Cases) {
+        const std::string Bytes = BytesOf(u"a\näb", Case.CodePage);
+        TQzTextParser Parser(Bytes.data(), static_cast<std::ptrdiff_t>(Bytes.size()), Case.CodePage);
+        for (int Round = 0; Round < 2; ++Round) {
+            char16_t Before = 0;
+            for (const TStep& Step : Case.Steps) {
+                EXPECT_EQ(Step.Char, Parser.CurrChar()) << Case.CodePage;
+                EXPECT_EQ(Step.Places, Places(Parser)) << Case.CodePage;
+                EXPECT_EQ(Before, Parser.PrevChar());
+                Before = Step.Char;
+                if (!Parser.Eof())
+                    Parser.Next();
+            }
+            EXPECT_THROW(Parser.Next(), EQzTextParserEOF);
+            EXPECT_THROW(Parser.CheckEOF(), EQzTextParserEOF);
+            EXPECT_EQ(0, Parser.ReadChar());
+            EXPECT_EQ(0, Parser.PeekChar());
+            Parser.First();
+        }
+        Parser.Last();
+        EXPECT_EQ(u"1:0 0/0 end", Places(Parser)) << "the counters stay";
+    }
+}
+
+TEST(TextParser, RefusesWhatItCannotParse) {
+    TQzMemoryStream Empty(16);
+    EXPECT_THROW(TQzTextParser(&Empty, false, 0), EAssertionFailed);
+    EXPECT_THROW(TQzTextParser("", 0, 0), EAssertionFailed);
+    for (const int Page : {1201, 12000, 12001})
+        EXPECT_EQ(u"raised The specified encoding is not supported!", Outcome([&] {
+                      TQzTextParser("abcd", 4, static_cast<std::uint16_t>(Page));
+                      return UnicodeString();
+                  }));
+    TQzTextParser Parser("a\xE4", 2, 1252);
+    Parser.SetContentCodePage(850);
+    Parser.Next();
+    EXPECT_EQ(u'\u00F5', Parser.CurrChar());
+    for (const int Page : {1200, 65001})
+        EXPECT_THROW(Parser.SetContentCodePage(static_cast<std::uint16_t>(Page)), Exception);
+    EXPECT_EQ(850, Parser.ContentCodePage());
+    EXPECT_EQ(u"raised Invalid MarkType specified!",
+              Outcome([&] { return Parser.SetMark(tpCurPos), UnicodeString(); }));
+    EXPECT_EQ(u"raised Invalid TillPos specified!",
+              Outcome([&] { return Parser.GetPos(static_cast<TQzTextParserPosType>(6)), UnicodeString(); }));
+    EXPECT_THROW(Parser.Selected(tpMarkPos1, tpCurPos, false), EAssertionFailed);
+    EXPECT_THROW(TQzTextParser("\xE4", 1, 4711).CurrChar(), EOSError);
+}
+
+TEST(TextParser, SelectsBetweenAnyTwoPlaces) {
+    const TSystemPage Page(1252);
+    for (const std::uint16_t CodePage : {std::uint16_t{1252}, std::uint16_t{1200}, std::uint16_t{65001}}) {
+        const std::string Bytes = BytesOf(u"xäöüz", CodePage);
+        TQzTextParser Parser(Bytes.data(), static_cast<std::ptrdiff_t>(Bytes.size()), CodePage);
+        Parser.Next();
+        Parser.SetMark(tpMarkPos1);
+        Parser.SkipChars(2);
+        EXPECT_EQ(u"äöü", Parser.Selected(tpMarkPos1, tpPeekPos, false));
+        EXPECT_EQ(u"ü", Parser.Selected(tpCurPos, tpPeekPos, false));
+        EXPECT_EQ(u"öü", Parser.Selected(tpPrevPos, tpPeekPos, false));
+        EXPECT_EQ("\xE4\xF6", std::string(Parser.SelectedA(tpMarkPos1, tpCurPos, false).View()));
+        EXPECT_EQ(u"öüz", Parser.PeekString(1).IsEmpty() ? u"" : u"ö" + Parser.PeekString(9));
+        EXPECT_EQ("\xFCz", std::string(Parser.PeekStringA(2).View()));
+        EXPECT_EQ(u"", Parser.PeekString(-1));
+        EXPECT_EQ(u"äö", Parser.Selected(tpMarkPos1, tpCurPos, true));
+        EXPECT_EQ(nullptr, Parser.GetPos(tpMarkPos1));
+        Parser.SetMark(tpMarkPos2);
+        Parser.Next();
+        EXPECT_THROW(Parser.SelectedCnt(tpCurPos, tpMarkPos2), EAssertionFailed) << "in the wrong order";
+        Parser.Next();
+        EXPECT_THROW(Parser.SelectedCnt(tpMarkPos2, tpPeekPos), EQzTextParserEOF);
+        EXPECT_TRUE(Parser.Eof());
+        EXPECT_EQ(u"üz", Parser.Selected(tpMarkPos2, tpCurPos, true));
+    }
+}
+
+TEST(TextParser, LooksAheadBeyondControlCharacters) {
+    for (const std::uint16_t CodePage : {std::uint16_t{1252}, std::uint16_t{1200}, std::uint16_t{65001}}) {
+        const std::string Bytes = BytesOf(u"a\r\nb\tc\r\n", CodePage);
+        TQzTextParser Parser(Bytes.data(), static_cast<std::ptrdiff_t>(Bytes.size()), CodePage);
+        EXPECT_EQ(u'b', Parser.PeekChar());
+        EXPECT_EQ(u"1:0 0/0", Places(Parser));
+        EXPECT_EQ(nullptr, Parser.GetPos(tpPeekPos));
+        Parser.NextChar();
+        EXPECT_EQ(u'b', Parser.ReadChar());
+        EXPECT_EQ(u'\t', Parser.CurrChar());
+        EXPECT_EQ('c', Parser.PeekCharA());
+        EXPECT_EQ('b', Parser.PrevCharA());
+        Parser.NextChar();
+        EXPECT_EQ(u'\0', Parser.PeekChar());
+        EXPECT_FALSE(Parser.Eof());
+        Parser.NextChar();
+        EXPECT_TRUE(Parser.Eof());
+    }
+}
+
+TEST(TextParser, SkipsRuns) {
+    const TSystemPage Page(1252);
+    for (const std::uint16_t CodePage : {std::uint16_t{1252}, std::uint16_t{1200}, std::uint16_t{65001}}) {
+        const std::string Bytes = BytesOf(u"  \r\n 123é\u20AC4x", CodePage);
+        TQzTextParser Parser(Bytes.data(), static_cast<std::ptrdiff_t>(Bytes.size()), CodePage);
+        Parser.SkipWhile(sopLtEq, cQzSpaceW);
+        EXPECT_EQ(u'1', Parser.CurrChar());
+        EXPECT_EQ(2, Parser.LineNr());
+        Parser.SkipWhile(sopIn, u'1');
+        Parser.SkipWhileInSet(sopIn, TCharSet::Range('0', '9'));
+        EXPECT_EQ(u'é', Parser.CurrChar());
+        Parser.SkipWhile(sopEq, '\xE9');
+        EXPECT_EQ(u'\u20AC', Parser.CurrChar());
+        Parser.SkipWhile(sopGt, '4');
+        EXPECT_EQ(u'4', Parser.CurrChar());
+        Parser.SkipWhile(sopUnEq, u'q');
+        EXPECT_TRUE(Parser.Eof());
+        Parser.SkipWhile(sopUnEq, u'q');
+        EXPECT_EQ(u'x', Parser.PrevChar());
+    }
+    TQzTextParser Wide(u"12\u20AC3x", 10, 1200);
+    Wide.SkipWhileInSet(sopIn, TCharSet::Range('0', '9'));
+    EXPECT_EQ(u'x', Wide.CurrChar()) << "what is above 255 is passed";
+}
+
+TEST(TextParser, RaisesWhereTheEndCutsAForm) {
+    TQzTextParser Parser("a\xE2\x82", 3, 65001);
+    Parser.Next();
+    EXPECT_THROW(Parser.CurrChar(), EQzTextParserEOF);
+    EXPECT_THROW(Parser.SkipWhile(sopGt, u' '), EQzTextParserEOF);
+    EXPECT_THROW(Parser.Next(), EQzTextParserEOF);
+    Parser.First();
+    EXPECT_THROW(Parser.PeekChar(), EQzTextParserEOF);
+    EXPECT_EQ(u'a', Parser.CurrChar());
+    EXPECT_EQ(u'a', Parser.ReadChar());
+    TQzTextParser Half("a\0b", 3, 1200);
+    Half.Next();
+    EXPECT_TRUE(Half.Eof());
+    EXPECT_EQ(u'\0', Half.CurrChar());
+    EXPECT_TRUE(TQzTextParser("a", 1, 1200).Eof());
+    TQzTextParser Pair("\xF0\x9F\x98\x80x", 5, 65001);
+    EXPECT_EQ(u'\uFFFD', Pair.ReadChar());
+    EXPECT_EQ(u'x', Pair.CurrChar());
+}
+
+TEST(TextParser, StartsWhereTheStreamStands) {
+    TQzMemoryStream Memory(16);
+    Memory.WriteBuffer("head\nab", 7);
+    Memory.SetPosition(5);
+    TPlainStream Plain("head\nab");
+    Plain.SetPosition(5);
+    for (TStream* Stream : std::initializer_list<TStream*>{&Memory, &Plain}) {
+        TChunkedParser Parser(Stream, 1252, 1);
+        for (int Round = 0; Round < 2; ++Round) {
+            EXPECT_EQ(u'a', Parser.ReadChar());
+            EXPECT_EQ(u'b', Parser.ReadChar());
+            EXPECT_TRUE(Parser.Eof());
+            EXPECT_EQ(7, Stream->Position());
+            Parser.First();
+        }
+    }
+    Plain.SetPosition(0);
+    TChunkedParser Shrunk(&Plain, 1252, 2);
+    Plain.FBytes.resize(3);
+    EXPECT_EQ(u"hea", Shrunk.PeekString(10));
+    Shrunk.SkipWhile(sopUnEq, u'#');
+    EXPECT_EQ(3, Shrunk.Position());
+    Plain.FBytes.clear();
+    Shrunk.First();
+    EXPECT_TRUE(Shrunk.Eof());
+    TMemoryStream Emptied;
+    Emptied.WriteBuffer("abc", 3);
+    Emptied.SetPosition(0);
+    TQzTextParser Over(&Emptied, false, 1252);
+    Emptied.Clear();
+    Over.First();
+    EXPECT_TRUE(Over.Eof());
+    EXPECT_EQ(u'\0', Over.CurrChar());
+}
+
+// Nothing is read twice or lost, and no place is left behind, when the stream raises.
+TEST(TextParser, SurvivesAStreamThatRaises) {
+    for (const std::uint16_t CodePage : {std::uint16_t{1252}, std::uint16_t{1200}, std::uint16_t{65001}}) {
+        const std::string Bytes = BytesOf(u"abcdefghijkl", CodePage);
+        for (int FailAfter = 0; FailAfter < 6; ++FailAfter) {
+            TPlainStream Stream(Bytes);
+            TChunkedParser Parser(&Stream, CodePage, 4);
+            Parser.Next();
+            const auto Fails = [&](auto AStep) {
+                Stream.FFailAfter = FailAfter;
+                const UnicodeString Result = Outcome([&] { return AStep(), UnicodeString(); });
+                Stream.FFailAfter = -1;
+                Parser.CurrChar();
+                return !Result.IsEmpty();
+            };
+            Fails([&] { Parser.Last(); });
+            Parser.First();
+            EXPECT_EQ(u"abcdefghijkl", Parser.PeekString(99)) << FailAfter;
+            Fails([&] { Parser.First(); });
+            Parser.First();
+            const bool Failed = Fails([&] { Parser.SkipWhile(sopUnEq, u'l'); });
+            EXPECT_TRUE(Failed || Parser.CurrChar() == u'l');
+            Parser.First();
+            EXPECT_EQ(u"abcdefghijkl", Parser.PeekString(99)) << FailAfter;
+            Parser.First();
+            Fails([&] { Parser.PeekString(6); });
+            Parser.SkipWhile(sopUnEq, u'l');
+            Parser.First();
+            EXPECT_EQ(u"abcdefghijkl", Parser.PeekString(99)) << "a read that was tried again";
+        }
+    }
+}
+
+TEST(TextParser, TakesTheRestForAnotherKindOfText) {
+    TQzTextParser Parser("abc", 3, 1252);
+    Parser.SkipChars(2);
+    Parser.SetCharacterSetType(DBCS);
+    EXPECT_TRUE(Parser.Eof()) << "half a unit is left";
+    EXPECT_EQ(u'\0', Parser.CurrChar());
+    Parser.SkipWhile(sopUnEq, u'x');
+    TQzTextParser Half("a\0b\0c", 5, 1200);
+    Half.Next();
+    EXPECT_EQ(2, Half.SelectedCnt(tpCurPos, tpPeekPos));
+    TQzTextParser One("a", 1, 1200);
+    EXPECT_TRUE(One.GetEOF());
+}
+
+// Whatever is asked for, in whatever chunks: a parser over a stream answers as one over memory.
+TEST(TextParser, AnswersAlikeWhateverTheChunks) {
+    const TSystemPage Page(1252);
+    std::mt19937 Engine(7);
+    const auto Random = [&] { return static_cast<unsigned>(Engine()); };
+    const char16_t* const Pieces[] = {u"a", u"b",      u" ",  u"\n", u"\r\n",
+                                      u"ä", u"\u20AC", u"zz", u"\t", u"aaaaa"};
+    for (int Round = 0; Round < 600; ++Round) {
+        const std::uint16_t CodePage = Round % 3 == 0 ? 1252 : Round % 3 == 1 ? 1200 : 65001;
+        UnicodeString Text;
+        for (unsigned I = Random() % 40 + 1; I > 0; --I)
+            Text += Pieces[Random() % std::size(Pieces)];
+        std::string Bytes = BytesOf(Text, CodePage);
+        if (Random() % 4 == 0)
+            Bytes.resize(Bytes.size() - 1 + (Bytes.size() == 1 ? 1 : 0));
+        TPlainStream Stream(Bytes);
+        TQzTextParser Reference(Bytes.data(), static_cast<std::ptrdiff_t>(Bytes.size()), CodePage);
+        TChunkedParser Parser(&Stream, CodePage, Random() % 9 + 1);
+        for (int Step = 0; Step < 60; ++Step) {
+            const unsigned Kind = Random(), Value = Random();
+            ASSERT_EQ(Try(Reference, Kind, Value), Try(Parser, Kind, Value))
+                << "round " << Round << ", step " << Step << ", operation " << Kind % 16 << ", value "
+                << Value;
+        }
+    }
+}
+
+// Runs are passed as steps would pass them.
+TEST(TextParser, PassesRunsAsStepsWould) {
+    std::mt19937 Engine(8);
+    const auto Random = [&] { return static_cast<unsigned>(Engine()); };
+    for (int Round = 0; Round < 300; ++Round) {
+        const std::uint16_t CodePage = Round % 3 == 0 ? 1252 : Round % 3 == 1 ? 1200 : 65001;
+        UnicodeString Text;
+        for (unsigned I = Random() % 100 + 1; I > 0; --I)
+            Text += UnicodeString(u"ab\n \u00E4"[Random() % 5]);
+        const std::string Bytes = BytesOf(Text, CodePage);
+        TQzTextParser ByRun(Bytes.data(), static_cast<std::ptrdiff_t>(Bytes.size()), CodePage);
+        TQzTextParser ByStep(Bytes.data(), static_cast<std::ptrdiff_t>(Bytes.size()), CodePage);
+        while (!ByStep.Eof()) {
+            const char16_t Stop = u"ab\n \u00E4"[Random() % 5];
+            const bool Set = Stop < 0x80 && Random() % 2 == 0;
+            if (Set)
+                ByRun.SkipWhileInSet(sopNotIn, {static_cast<char>(Stop)});
+            else
+                ByRun.SkipWhile(sopUnEq, Stop);
+            while (!ByStep.Eof() && ByStep.CurrChar() != Stop)
+                ByStep.Next();
+            ASSERT_EQ(Places(ByStep), Places(ByRun)) << Round;
+            ASSERT_EQ(ByStep.PrevChar(), ByRun.PrevChar());
+            if (!ByStep.Eof()) {
+                ByRun.Next();
+                ByStep.Next();
+            }
+        }
+    }
+}
+
+TEST(TextParser, FindsAPlaceAheadWithoutMoving) {
+    TPlainStream Stream("a\r\nbc");
+    TChunkedParser Parser(&Stream, 1252, 2);
+    EXPECT_EQ('b', *Parser.SrcPeekNext(1));
+    EXPECT_EQ('c', *Parser.SrcPeekNext(4));
+    EXPECT_EQ(u'a', Parser.CurrChar());
+    EXPECT_THROW(Parser.SrcPeekNext(5), EQzTextParserEOF);
+    EXPECT_EQ(u"1:0 0/0", Places(Parser));
+}
+
+} // namespace
+} // namespace qz

@@ -1,0 +1,149 @@
+#include <qz/common/uQzClasses/Utf8StreamAdapter.h>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/Message.h"
+#include "tests/support/WatchedStream.h"
+#include <qz/common/uQzClasses/QzStringStream.h>
+#include <qz/common/uQzClasses/StreamText.h>
+#include <qz/runtime/base/Utf.h>
+#include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
+
+namespace qz {
+namespace {
+
+using namespace std::string_literals;
+
+// Takes so many bytes and no more.
+class TSmallStream : public TQzMemoryStream {
+    QZ_CLASS(TSmallStream, TQzMemoryStream)
+
+public:
+    explicit TSmallStream(std::int64_t ARoom) : TQzMemoryStream(16), FRoom(ARoom) {}
+    std::int32_t Write(const void* ABuffer, std::int32_t ACount) override {
+        const auto Count = static_cast<std::int32_t>(std::min<std::int64_t>(ACount, FRoom - Size()));
+        return TQzMemoryStream::Write(ABuffer, Count);
+    }
+
+private:
+    std::int64_t FRoom;
+};
+constinit const TClassRec TSmallStream::ClassRec =
+    DescribeClass<TSmallStream>(u"TSmallStream", {.Unit = u"Test"});
+
+std::unique_ptr<TQzMemoryStream> StreamOf(std::string_view ABytes) {
+    auto Stream = std::make_unique<TQzMemoryStream>(16);
+    Stream->WriteBuffer(ABytes.data(), static_cast<std::int64_t>(ABytes.size()));
+    Stream->SetPosition(0);
+    return Stream;
+}
+
+std::string Content(const TQzMemoryStream& AStream) {
+    return {reinterpret_cast<const char*>(AStream.FBufferStart), AStream.FContentSize};
+}
+
+TEST(Utf8StreamAdapter, ReadsUnitsAndNoByteMoreThanTheyHave) {
+    const auto Source = StreamOf("aä€\xF1\x80\x80z");
+    TQzUTF8StreamAdapter Adapter(Source.get(), false);
+    char16_t Units[16];
+    const std::pair<std::int32_t, std::u16string> Steps[] = {{3, u"a"}, {4, u"\u00E4\u20AC"}, {1, u""},
+                                                             {-4, u""}, {32, u"\u1000z"},     {32, u""}};
+    const std::int64_t Places[] = {1, 6, 6, 6, 10, 10};
+    for (std::size_t I = 0; I < std::size(Steps); ++I) {
+        const std::int32_t Got = Adapter.Read(Units, Steps[I].first);
+        EXPECT_EQ(Steps[I].second, std::u16string(Units, static_cast<std::size_t>(Got / 2)));
+        EXPECT_EQ(Places[I], Source->Position());
+    }
+}
+
+TEST(Utf8StreamAdapter, SaysWhatIsWrongWithTheBytes) {
+    const UnicodeString Invalid = u"The stream does not contain valid UTF-8 code!";
+    struct TCase {
+        std::string Bytes;
+        UnicodeString Text;
+        std::int64_t Position;
+    };
+    const TCase Cases[] = {
+        {"ab\x80"
+         "cd",
+         Invalid, 3},
+        {"\xBF", Invalid, 1},
+        {"a\xC3", Invalid + u"\r\nThere are 1 or 2 bytes missing!", 2},
+        {"a\xE2", Invalid + u"\r\nThere are 1 or 2 bytes missing!", 2},
+        {"a\xE2\x82", Invalid + u"\r\nThere is 1 byte missing!", 3},
+    };
+    for (const TCase& Case : Cases) {
+        const auto Source = StreamOf(Case.Bytes);
+        TQzUTF8StreamAdapter Adapter(Source.get(), false);
+        char16_t Units[16];
+        EXPECT_EQ(Case.Text, Message([&] { Adapter.Read(Units, sizeof Units); }));
+        EXPECT_EQ(Case.Position, Source->Position());
+        Source->SetPosition(0);
+        TQzMemoryStream Target(16);
+        EXPECT_EQ(Case.Text, Message([&] { QzUTF8DecodeStream(*Source, Target); }));
+        Source->SetPosition(0);
+        EXPECT_EQ(Case.Text, Message([&] { QzUTF8Decode(*Source); }));
+    }
+}
+
+TEST(Utf8StreamAdapter, WritesAMarkOnceAndTellsWhetherAllWasTaken) {
+    TSmallStream Target(10);
+    TQzUTF8StreamAdapter Adapter(&Target, false);
+    EXPECT_EQ(5, Adapter.Write(u"ä€x", 5)) << "two units";
+    EXPECT_EQ("\xEF\xBB\xBFä€", Content(Target));
+    EXPECT_EQ(14, Adapter.Seek(-2, soCurrent));
+    Target.SetPosition(8);
+    EXPECT_EQ(0, Adapter.Write(u"abc", 6));
+    TSmallStream Full(2);
+    TQzUTF8StreamAdapter First(&Full, false);
+    EXPECT_EQ(0, First.Write(u"a", 2));
+    EXPECT_TRUE(First.FWriteUTF8Prefix);
+    TQzMemoryStream Plain(16);
+    TQzUTF8StreamAdapter(&Plain, false, false).Write(u"\U0001F600", 4);
+    EXPECT_EQ("\U0001F600", Content(Plain));
+    const std::u16string Long(9999, u'\u20AC');
+    EXPECT_EQ(19998, TQzUTF8StreamAdapter(&Plain, false, false).Write(Long.data(), 19998));
+    EXPECT_EQ(4 + 3 * 9999, Plain.Size());
+}
+
+TEST(Utf8StreamAdapter, EndsAStreamThatItOwns) {
+    int Ends = 0;
+    for (const bool Owns : {false, true}) {
+        TWatchedStream Kept(Ends);
+        TStream* Stream = Owns ? TWatchedStream::Create(Ends).release() : &Kept;
+        TQzUTF8StreamAdapter Adapter(Stream, Owns);
+        EXPECT_EQ(0, Adapter.Size());
+    }
+    EXPECT_EQ(3, Ends) << "both that were kept, and the one that was owned";
+}
+
+// Texts across the borders of the steps in which they are converted.
+TEST(StreamText, RecodesBetweenUtf8AndUtf16) {
+    for (const std::size_t Length : {0u, 1u, 511u, 512u, 513u, 4095u, 4096u, 4097u, 20000u}) {
+        for (const std::u16string_view Unit : {u"a", u"\u20AC", u"\U0001F600"}) {
+            std::u16string Text = u"x";
+            while (Text.size() < Length)
+                Text += Unit;
+            const auto Source = StreamOf({reinterpret_cast<const char*>(Text.data()), Text.size() * 2});
+            Source->SetPosition(2);
+            TQzMemoryStream Narrow(4096);
+            QzUTF8EncodeStream(*Source, Narrow, Length % 2 == 0);
+            EXPECT_EQ((Length % 2 == 0 ? "\xEF\xBB\xBF" : "") + Utf16ToUtf8(Text.substr(1)), Content(Narrow));
+            if (Unit.size() == 2)
+                continue;
+            Narrow.SetPosition(0);
+            TQzMemoryStream Wide(4096);
+            QzUTF8DecodeStream(Narrow, Wide);
+            EXPECT_EQ(Content(*Source).substr(2), Content(Wide));
+            Narrow.SetPosition(0);
+            EXPECT_EQ(Text.substr(1), QzUTF8Decode(Narrow));
+        }
+    }
+    EXPECT_EQ(u"The sourcestream does not contain unicode data!",
+              Message([&] { QzUTF8Decode(*StreamOf("\xFF\xFEx\0"s)); }));
+    EXPECT_THROW(QzUTF8Decode(*StreamOf("a\0b\0"s)), EConvertError);
+}
+
+} // namespace
+} // namespace qz

@@ -1,0 +1,269 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cmath>
+#include <functional>
+#include <random>
+
+#include <qz/common/uQzDateTimeUtils.h>
+#include <qz/common/uQzSysUtils/Age.h>
+#include <qz/runtime/objects/Exceptions.h>
+
+namespace qz {
+namespace {
+
+namespace chrono = std::chrono;
+using chrono::year_month_day;
+
+// A date as yyyymmdd.
+TDateTime At(int ADate, int AHour = 0, int AMinute = 0, int ASecond = 0, int AMSec = 0) {
+    return EncodeDateTime(ADate / 10000, ADate / 100 % 100, ADate % 100, AHour, AMinute, ASecond, AMSec);
+}
+
+TDateTime Of(chrono::sys_days ADay) {
+    return static_cast<double>(
+        (ADay - chrono::sys_days(year_month_day(chrono::year(1899), chrono::month(12), chrono::day(30))))
+            .count());
+}
+
+TDateTime Of(year_month_day ADate) {
+    return Of(chrono::sys_days(ADate));
+}
+
+void CheckPeriods(TDateTime ADate, year_month_day ACivil) {
+    const auto Year = ACivil.year();
+    const TDateTime NewYear = Of(Year / 1 / 1);
+    const auto MonthEnd = year_month_day(Year / ACivil.month() / chrono::last);
+    ASSERT_EQ(QzBOMonth(ADate), Of(Year / ACivil.month() / 1));
+    ASSERT_EQ(QzEOMonth(ADate), Of(MonthEnd));
+    ASSERT_EQ(QzBOYear(ADate), NewYear);
+    ASSERT_EQ(QzEOYear(ADate), Of(Year / 12 / 31));
+    ASSERT_EQ(QzDaysInMonth(ADate), static_cast<unsigned>(MonthEnd.day()));
+    ASSERT_EQ(QzDaysInYear(ADate), Year.is_leap() ? 366 : 365);
+    ASSERT_EQ(QzDecodeDate(ADate, dtYear), static_cast<int>(Year));
+    ASSERT_EQ(QzDecodeDate(ADate, dtMonth), static_cast<int>(static_cast<unsigned>(ACivil.month())));
+    ASSERT_EQ(QzDecodeDate(ADate, dtDayOfMonth), static_cast<int>(static_cast<unsigned>(ACivil.day())));
+    ASSERT_EQ(QzDecodeDate(ADate, dtDayOfYear), Of(ACivil) - NewYear + 1);
+}
+
+void CheckWeeks(TDateTime ADate, year_month_day ACivil, double ATime) {
+    const chrono::sys_days Day(ACivil);
+    const chrono::weekday WeekDay(Day);
+    const auto FromSunday = static_cast<int>(WeekDay.c_encoding());
+    const auto SameTimeOn = [ATime](chrono::sys_days AThen) {
+        return TDateTime(Of(AThen) + (Of(AThen) < 0 ? -ATime : ATime));
+    };
+    ASSERT_EQ(DayOfTheWeek(ADate), static_cast<int>(WeekDay.iso_encoding()));
+    for (int First = 1; First <= 7; ++First) {
+        const chrono::sys_days Start = Day - (WeekDay - chrono::weekday(static_cast<unsigned>(First - 1)));
+        if (Of(Start) >= MinDateTime) {
+            ASSERT_EQ(QzBOWeek(ADate, First), SameTimeOn(Start)) << First;
+        }
+    }
+    ASSERT_EQ(QzEOWeek(ADate), SameTimeOn(Day + chrono::days(6 - FromSunday)));
+    const chrono::sys_days Thursday(ACivil.year() / 1 / chrono::Thursday[1]);
+    ASSERT_EQ(QzFirstThursdayOfYear(ADate), Of(Thursday));
+    const auto DaysOfWeeks = (Day - (Thursday - chrono::days(3))).count();
+    ASSERT_EQ(QzWeekOfYear(ADate), DaysOfWeeks < 0 ? 1 : DaysOfWeeks / 7 + 1);
+    const bool HasFifth = (ACivil.year() / ACivil.month() / WeekDay[5]).ok();
+    ASSERT_EQ(QzNthWeekDayOfMonth(ADate), HasFifth ? 5 : 4);
+    const bool IsWeekEnd = ADate > 0 && (FromSunday == 0 || FromSunday == 6);
+    const chrono::days ToMonday(FromSunday == 0 ? 1 : 2);
+    ASSERT_EQ(QzClosestWeekDay(ADate, wdNext), IsWeekEnd ? SameTimeOn(Day + ToMonday) : ADate);
+    ASSERT_EQ(QzClosestWeekDay(ADate, wdLast),
+              IsWeekEnd ? SameTimeOn(Day + ToMonday - chrono::days(3)) : ADate);
+}
+
+TEST(Calendar, EachDayIsWhatTheStandardLibrarySays) {
+    constexpr double cTime = 0.75;
+    const auto Check = [](chrono::sys_days ADay) {
+        const year_month_day Civil(ADay);
+        const TDateTime Day = Of(ADay);
+        const TDateTime Date = Day + (Day < 0 ? -cTime : cTime);
+        CheckPeriods(Date, Civil);
+        if (!testing::Test::HasFatalFailure() && Day < static_cast<int>(MaxDateTime) - 6)
+            CheckWeeks(Date, Civil, cTime);
+        if (testing::Test::HasFatalFailure())
+            ADD_FAILURE() << "on day " << Day;
+    };
+    const auto Each = [&Check](int AFirstYear, int AEndYear, int AStep) {
+        chrono::sys_days Day(chrono::year(AFirstYear) / 1 / 1);
+        const chrono::sys_days End(chrono::year(AEndYear) / 1 / 1);
+        for (; Day < End && !testing::Test::HasFailure(); Day += chrono::days(AStep))
+            Check(Day);
+    };
+    Each(1600, 2401, 1);
+    Each(1, 1600, 97);
+    Each(2401, 10000, 97);
+    Check(chrono::sys_days(chrono::year(9999) / 12 / 31));
+}
+
+// In the month that the standard library says, on the same day or the last.
+TEST(Calendar, MonthsAddedKeepTheDayThatExists) {
+    std::mt19937 Random(1);
+    for (int I = 0; I < 20000; ++I) {
+        const TDateTime Date = -200000.0 + static_cast<double>(Random() % 1000000);
+        const int Count = static_cast<int>(Random() % 4801) - 2400;
+        const chrono::sys_days Day(chrono::days(static_cast<int>(Date.Value) - 25569));
+        auto Expected = year_month_day(Day) + chrono::months(Count);
+        if (!Expected.ok())
+            Expected = Expected.year() / Expected.month() / chrono::last;
+        ASSERT_EQ(QzAddMonths(Date, Count), Of(Expected)) << Date << " " << Count;
+        ASSERT_EQ(QzAddYears(Date, Count / 12), QzAddMonths(Date, Count / 12 * 12));
+        ASSERT_EQ(QzAddQuarters(Date, Count / 3), QzAddMonths(Date, Count / 3 * 3));
+    }
+}
+
+TEST(Calendar, MovesKeepTheTimeOfDay) {
+    const TDateTime Fine = 45000.123456789; // not in whole milliseconds
+    const TDateTime Added[][2] = {
+        {QzAddMonths(At(20240131, 23, 59, 59, 999), 1), At(20240229, 23, 59, 59, 999)},
+        {QzAddMonths(At(20240131), 13), At(20250228)},
+        {QzAddMonths(At(20240331), -1), At(20240229)},
+        {QzAddMonths(At(18991231, 6), -1), At(18991130, 6)},
+        {QzAddMonths(Fine, 0), Fine},
+        {QzAddQuarters(Fine, 0), Fine},
+        {QzAddYears(At(20240229, 7, 8, 9, 10), 1), At(20250228, 7, 8, 9, 10)},
+        {QzAddYears(At(20240229), 4), At(20280229)},
+        {QzAddYears(At(20240229, 6), -200), At(18240229, 6)},
+        {QzAddWeeks(Fine, -3), Fine - 21},
+        {QzAddDays(At(20240228, 6), 2), At(20240301, 6)},
+        {QzAddWeeks(0, INT32_MAX), 7.0 * INT32_MAX},
+        {QzClosestWeekDay(0, wdNext), 0},
+    };
+    for (const auto& [Result, Expected] : Added)
+        EXPECT_EQ(Result, Expected) << "case " << &Result - &Added[0][0];
+
+    const TDateTime Noon = At(20240229, 12);
+    for (const auto& [Result, Expected] :
+         {std::pair{QzAddHrs(Noon, -36), At(20240228)}, std::pair{QzAddMins(Noon, 721), At(20240301, 0, 1)},
+          std::pair{QzAddSecs(Noon, 90), At(20240229, 12, 1, 30)},
+          std::pair{QzAddMSecs(Noon, -1), At(20240229, 11, 59, 59, 999)}})
+        EXPECT_NEAR(Result, Expected, 1e-9);
+}
+
+TEST(Calendar, WeeksByNumber) {
+    const struct {
+        int Date, Week;
+        std::u16string_view Text;
+    } cCases[] = {
+        {20210101, 1, u"202101"},  {20210104, 1, u"202101"},  {20181231, 53, u"201853"},
+        {20151231, 53, u"201553"}, {20170101, 1, u"201701"},  {20200106, 2, u"202002"},
+        {10101, 1, u"000101"},     {99991231, 52, u"999952"},
+    };
+    for (const auto& Case : cCases) {
+        EXPECT_EQ(QzWeekOfYear(At(Case.Date, 23, 59)), Case.Week) << Case.Date;
+        EXPECT_EQ(QzWeekOfYear(At(Case.Date), true), Case.Text);
+        EXPECT_EQ(QzWeekOfYear(At(Case.Date), false), Case.Text.substr(4));
+    }
+    EXPECT_EQ(QzWeekToDate(2021, 1), At(20210104));
+    EXPECT_EQ(QzEOWeek(2021, 1), At(20210110));
+    EXPECT_EQ(QzWeekToDate(2020, 1), At(20191230));
+    EXPECT_EQ(QzWeekToDate(2020, 0), At(20191223));
+    EXPECT_EQ(QzWeekToDate(2020, 54), At(20210104));
+}
+
+TEST(Calendar, AgesAndDifferences) {
+    const struct {
+        int Reference, Birth, Age;
+    } cCases[] = {
+        {20240228, 20000229, 23}, {20240229, 20000229, 24},  {20230228, 20000229, 22},
+        {20230301, 20000229, 23}, {20001231, 20000101, 0},   {20000101, 20000229, -1},
+        {19990301, 20000229, -1}, {20240229, 18991230, 124}, {20240229, 18000101, 0},
+    };
+    for (const auto& Case : cCases)
+        EXPECT_EQ(QzAge(At(Case.Reference), At(Case.Birth, 12)), Case.Age) << Case.Reference << Case.Birth;
+    EXPECT_EQ(QzAge(At(20240229), 0), 0);
+    EXPECT_EQ(QzAge(QzAddYears(Now(), -30)), 30);
+    EXPECT_EQ(QzCalculateAge(QzAddDays(QzAddYears(Now(), -30), 2)), 29);
+
+    EXPECT_EQ(QzDateCompare(At(20240229, 23, 59, 59, 999), At(20240229)), 0);
+    EXPECT_EQ(QzDateCompare(At(20240228, 23), At(20240301)), -2);
+    EXPECT_EQ(QzDateCompare(At(18991230, 18), At(18991229, 18)), 1);
+    EXPECT_EQ(QzDateCompare(MaxDateTime, MinDateTime), 3652058);
+    EXPECT_EQ(QzDateCompare(At(20240301) - 1e-9, At(20240301)), -1); // cut off
+    EXPECT_EQ(QzDayOfYear(At(20240101) - 1e-9), 1);                  // the day that DecodeDate tells
+}
+
+TEST(Calendar, TimesRoundedUp) {
+    const struct {
+        TDateTime Time;
+        int Interval;
+        TDateTime Rounded;
+    } cCases[] = {
+        {At(20240229, 10, 50, 30), 15, At(20240229, 11)},
+        {At(20240229, 10, 45, 30), 15, At(20240229, 10, 45)},
+        {At(20240229, 12, 0, 59, 999), 1, At(20240229, 12)},
+        {At(20240229, 10, 1), 60, At(20240229, 11)},
+        {At(20240229, 10, 1), 25, At(20240229, 10, 25)},
+        {At(18500228, 10, 46), 15, At(18500228, 11)},
+        {At(20240229, 10, 0, 7), INT32_MAX, At(20240229, 10)},
+    };
+    for (const auto& Case : cCases)
+        EXPECT_EQ(QzRoundTime(Case.Time, Case.Interval), Case.Rounded) << Case.Time << " " << Case.Interval;
+}
+
+TEST(Calendar, BadInputIsRefused) {
+    const TDateTime Leap = At(20240229, 23, 46);
+    const std::function<void()> cCalls[] = {[] { QzBOMonth(0, 1); },
+                                            [] { QzEOMonth(10000, 1); },
+                                            [] { QzDaysInMonth(2024, 13); },
+                                            [] { QzDaysInMonth(2024, 0); },
+                                            [] { QzBOYear(0); },
+                                            [] { QzEOYear(10000); },
+                                            [] { QzBOYear(std::int64_t{1} << 32); },
+                                            [] { QzWeekToDate(2024, INT32_MAX); },
+                                            [] { QzEOWeek(9999, 52); },
+                                            [=] { QzBOWeek(Leap, 0); },
+                                            [=] { QzBOWeek(Leap, 8); },
+                                            [] { QzBOWeek(MinDateTime, 1); },
+                                            [] { QzEOWeek(MaxDateTime - 1); },
+                                            [=] { QzAddYears(Leap, 7976); },
+                                            [=] { QzAddYears(Leap, INT32_MIN); },
+                                            [=] { QzAddQuarters(Leap, INT32_MAX); },
+                                            [=] { QzRoundTime(Leap, 0); },
+                                            [=] { QzRoundTime(Leap, -15); },
+                                            [=] { QzRoundTime(Leap, 15); },
+                                            [] { QzRoundTime(At(20240229, 10, 51), 25); },
+                                            [=] { QzDecodeDate(Leap, static_cast<TQzDecodeType>(9)); }};
+    for (const auto& Call : cCalls)
+        EXPECT_THROW(Call(), EConvertError) << "call " << &Call - cCalls;
+    for (const TDateTime Bad : {std::nan(""), double{INFINITY}, -1e300, MinDateTime - 1, 2958466.0}) {
+        EXPECT_THROW(QzBOMonth(Bad), EConvertError) << Bad;
+        EXPECT_THROW(QzBOWeek(Bad, 1), EConvertError) << Bad;
+        EXPECT_THROW(QzAddMonths(Bad, 0), EConvertError) << Bad;
+        EXPECT_THROW(QzDateCompare(0, Bad), EConvertError) << Bad;
+        EXPECT_THROW(QzRoundTime(Bad, 5), EConvertError) << Bad;
+        EXPECT_THROW(QzAge(Bad, 1), EConvertError) << Bad;
+    }
+    EXPECT_EQ(QzDaysInMonth(-4, 2), 29); // the rule for leap years goes on
+}
+
+// A sum of a date and days is a double, and is a date.
+TEST(Calendar, IntegersAreYearsAndFloatsAreDates) {
+    const TDateTime Last = At(20231231, 12);
+    EXPECT_EQ(QzBOYear(Last + 1), At(20240101));
+    EXPECT_EQ(QzDaysInYear(Last + 1), 366);
+    EXPECT_EQ(QzEOYear(TDate(Last)), At(20231231));
+    EXPECT_EQ(QzFirstThursdayOfYear(TQzUTCDate(Last)), At(20230105));
+    EXPECT_EQ(QzBOYear(std::uint16_t{2024}), At(20240101));
+    EXPECT_EQ(QzDaysInYear(2024L), 366);
+}
+
+TEST(Calendar, TypesAreTypesOfTheirOwn) {
+    static_assert(!std::is_same_v<TQzUTCDateTime, TDateTime> && sizeof(TQzUTCDate) == sizeof(TDateTime));
+    EXPECT_EQ(TypeInfo<TQzUTCDateTime>()->QualifiedName(), u"uQzDateTimeUtils.TQzUTCDateTime");
+    EXPECT_EQ(TypeInfo<TQzUTCTime>()->Kind, tkFloat);
+    EXPECT_EQ(TypeInfo<TQzDatePeriod>()->Items[7].Name, u"dpDay");
+    const auto Fields = TypeInfo<TQzDuration>()->Fields;
+    ASSERT_EQ(Fields.size(), 3u);
+    EXPECT_EQ(Fields[1].Offset(), offsetof(TQzDuration, Months));
+
+    EXPECT_EQ(QzEncodeDuration(1, 2, 3, 0, 0, 1, 500, false), TQzDuration(14, 259201.5, false));
+    constexpr std::uint16_t cMost = 65535;
+    EXPECT_EQ(QzEncodeDuration(cMost, cMost, cMost, cMost, cMost, cMost, cMost, true),
+              TQzDuration(851955, 5902147700.535, true));
+}
+
+} // namespace
+} // namespace qz

@@ -1,0 +1,436 @@
+// What a log file is worth when things go wrong: the process killed, the disk full, the file taken away, forks, and others at
+// the same family.
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <map>
+#include <set>
+#include <sstream>
+#include <thread>
+
+#include "tests/common/support/LogFiles.h"
+#include "tests/common/support/MemoryAppender.h"
+#include <qz/common/uQzLogger.h>
+#include <qz/common/uQzLogger/LogDrops.h>
+#include <qz/platform/Threads.h>
+#include <qz/runtime/text/Format.h>
+
+namespace qz {
+namespace {
+
+std::vector<std::string> LinesOf(const std::string& AText) {
+    std::vector<std::string> Result;
+    std::istringstream Stream(AText);
+    for (std::string Line; std::getline(Stream, Line, '|');)
+        Result.push_back(Line);
+    return Result;
+}
+
+// Runs ABody in a child that must end with 0.
+template <class F> void InChild(F ABody) {
+    const pid_t Child = fork();
+    ASSERT_GE(Child, 0);
+    if (Child == 0) {
+        alarm(60);
+        _exit(ABody() ? 0 : 1);
+    }
+    int Status = 0;
+    waitpid(Child, &Status, 0);
+    EXPECT_EQ(0, Status);
+}
+
+// Each thread tells by the pipe which of its lines has returned.
+TEST(LogFaults, KilledAtAnyMoment) {
+    constexpr int cThreads = 4;
+    for (int Round = 0; Round < 12; ++Round) {
+        TLogFiles Files;
+        int Pipe[2];
+        ASSERT_EQ(0, pipe(Pipe));
+        const pid_t Child = fork();
+        ASSERT_GE(Child, 0);
+        if (Child == 0) {
+            CloseRootLogger();
+            Logger().AddAppender(Files.Make<TQzFileAppender>().Get());
+            for (int T = 1; T < cThreads; ++T)
+                std::thread([T, &Pipe] {
+                    for (int I = 0;; ++I) {
+                        Logger().Info(Format(u"%d:%d", {T, I}));
+                        const int Told[2] = {T, I};
+                        if (write(Pipe[1], Told, sizeof Told) < 0)
+                            return;
+                    }
+                }).detach();
+            for (;;)
+                Logger().Info(u"0:0");
+        }
+        close(Pipe[1]);
+        int Returned[cThreads] = {-1, -1, -1, -1};
+        int Told[2];
+        for (int I = 0; I < 200 + 97 * Round && read(Pipe[0], Told, sizeof Told) > 0; ++I)
+            Returned[Told[0]] = Told[1];
+        kill(Child, SIGKILL);
+        while (read(Pipe[0], Told, sizeof Told) > 0)
+            Returned[Told[0]] = Told[1];
+        close(Pipe[0]);
+        int Status = 0;
+        waitpid(Child, &Status, 0);
+        ASSERT_TRUE(WIFSIGNALED(Status));
+        int Next[cThreads] = {};
+        const std::vector<std::string> Lines = LinesOf(Files.Text());
+        ASSERT_EQ("head", Lines.at(0));
+        for (std::size_t I = 1; I < Lines.size(); ++I) {
+            int T = 0, Line = 0;
+            ASSERT_EQ(2, std::sscanf(Lines[I].c_str(), "%d:%d", &T, &Line)) << Lines[I];
+            if (T != 0) {
+                ASSERT_EQ(Next[T]++, Line);
+            }
+        }
+        for (int T = 1; T < cThreads; ++T)
+            EXPECT_GT(Next[T], Returned[T]);
+    }
+}
+
+// The limit falls within a line and between two; its signal would end the process.
+TEST(LogFaults, AFileThatMayNotGrow) {
+    for (const rlim_t Limit : {100u, 101u, 102u, 103u, 106u}) {
+        for (const int BufferSize : {0, 32}) {
+            TLogFiles Files;
+            InChild([&] {
+                CloseRootLogger();
+                rlimit Old;
+                getrlimit(RLIMIT_FSIZE, &Old);
+                const rlimit Low{Limit, Old.rlim_max};
+                setrlimit(RLIMIT_FSIZE, &Low);
+                const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>();
+                File->SetBufferSize(BufferSize);
+                Logger().AddAppender(File.Get());
+                const std::uint64_t Before = QzDroppedLogMessages();
+                for (int I = 10; I < 60; ++I)
+                    Logger().Info(Format(u"a line %d", {I}));
+                const bool HasDropped = QzDroppedLogMessages() > Before;
+                setrlimit(RLIMIT_FSIZE, &Old);
+                Logger().Info(u"room");
+                File->Flush();
+                return HasDropped;
+            });
+            const std::vector<std::string> Lines = LinesOf(Files.Text());
+            ASSERT_GE(Lines.size(), 5u) << Files.Text();
+            EXPECT_EQ("room", Lines.back());
+            for (std::size_t I = 1; I + 1 < Lines.size(); ++I)
+                EXPECT_EQ("a line " + std::to_string(I + 9), Lines[I]);
+        }
+    }
+}
+
+TEST(LogFaults, AFullDevice) {
+    const TLogTree Tree;
+    const Ref<TQzFileAppender> File(TQzFileAppender::Create(nullptr, u""));
+    File->SetFileExt(u"");
+    File->SetFileName(u"/dev/full.");
+    TLogFiles Files;
+    ASSERT_EQ(0, symlink("/dev/full", Utf16ToUtf8(Files.Path(u"full.log")).c_str()));
+    File->SetFileName(Files.Path(u"full.log"));
+    File->SetLayout(TQzLogBaseClass::Of<TPlainLayout>());
+    Logger().AddAppender(File.Get());
+    const std::uint64_t Before = QzDroppedLogMessages();
+    for (int I = 0; I < 10; ++I)
+        Logger().Info(u"x");
+    EXPECT_EQ(Before + 10, QzDroppedLogMessages());
+    // what waits at the end is told as lost too
+    File->SetBufferSize(100);
+    for (int I = 0; I < 3; ++I)
+        Logger().Info(u"waits");
+    EXPECT_THROW(File->Flush(), EWriteError);
+    EXPECT_THROW(File->Close(), EWriteError);
+    EXPECT_EQ(Before + 13, QzDroppedLogMessages());
+}
+
+TEST(LogFaults, AFullDisk) {
+    TLogFiles Files;
+    const std::string Disk = Utf16ToUtf8(Files.Path(u"disk"));
+    mkdir(Disk.c_str(), 0700);
+    if (mount("none", Disk.c_str(), "tmpfs", 0, "size=64k") != 0)
+        GTEST_SKIP() << "mounting a small disk is not allowed here";
+    {
+        const TLogTree Tree;
+        const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>(u"disk/app.log");
+        Logger().AddAppender(File.Get());
+        const std::uint64_t Before = QzDroppedLogMessages();
+        for (int I = 10000; I < 16000; ++I)
+            Logger().Info(Format(u"a line %d of some length", {I}));
+        const std::uint64_t Lost = QzDroppedLogMessages() - Before;
+        EXPECT_GT(Lost, 0u);
+        const std::vector<std::string> Lines = LinesOf(Files.Text(u"disk/app.log"));
+        EXPECT_EQ(6000u, Lines.size() - 1 + Lost);
+        for (std::size_t I = 1; I < Lines.size(); ++I)
+            EXPECT_TRUE(Lines[I].starts_with("a line 1") && Lines[I].ends_with(" of some length"))
+                << Lines[I];
+        ASSERT_EQ(0, mount("none", Disk.c_str(), "tmpfs", MS_REMOUNT, "size=256k"));
+        Logger().Info(u"room");
+        EXPECT_TRUE(Files.Text(u"disk/app.log").ends_with("|room|"));
+        File->Close();
+    }
+    EXPECT_EQ(0, umount(Disk.c_str()));
+}
+
+TEST(LogFaults, AFileThatIsTakenAway) {
+    TLogFiles Files;
+    const TLogTree Tree;
+    Logger().AddAppender(Files.Make<TQzFileAppender>().Get());
+    Logger().Info(u"one");
+    ASSERT_EQ(
+        0, rename(Utf16ToUtf8(Files.Path(u"app.log")).c_str(), Utf16ToUtf8(Files.Path(u"old.log")).c_str()));
+    platform::SleepMs(1100);
+    Logger().Info(u"two");
+    EXPECT_EQ("head|one|foot", Files.Text(u"old.log"));
+    EXPECT_EQ("head|two|", Files.Text());
+    ASSERT_EQ(0, unlink(Utf16ToUtf8(Files.Path(u"app.log")).c_str()));
+    platform::SleepMs(1100);
+    Logger().Info(u"three");
+    EXPECT_EQ("head|three|", Files.Text());
+    // emptied by another program
+    ASSERT_EQ(0, truncate(Utf16ToUtf8(Files.Path(u"app.log")).c_str(), 0));
+    Logger().Info(u"four");
+    EXPECT_EQ("four|", Files.Text());
+}
+
+TEST(LogFaults, ADirectoryWithoutRight) {
+    struct TUser {
+        ~TUser() {
+            EXPECT_EQ(0, seteuid(getuid()));
+            EXPECT_EQ(0, setegid(getgid()));
+        }
+    } const Restored;
+    if (geteuid() == 0 && (setegid(65534) != 0 || seteuid(65534) != 0)) // root lacks no right
+        GTEST_SKIP() << "needs a user without rights";
+    {
+        TLogFiles Files;
+        const TLogTree Tree;
+        const Ref<TQzRollingFileAppender> File = Files.Make<TQzRollingFileAppender>();
+        File->SetMaxFileSize(10);
+        Logger().AddAppender(File.Get());
+        Logger().Info(u"0123456789");
+        const std::string Directory = Utf16ToUtf8(Files.Path(u""));
+        ASSERT_EQ(0, chmod(Directory.c_str(), 0500));
+        Logger().Info(u"stays");
+        Logger().Info(u"too");
+        EXPECT_EQ("head|0123456789|footstays|too|", Files.Text()); // tried once a second
+        ASSERT_EQ(0, chmod(Directory.c_str(), 0700));
+        platform::SleepMs(1100);
+        Logger().Info(u"rolls");
+        EXPECT_EQ("head|rolls|", Files.Text());
+    }
+}
+
+// All lines of the family once and in order, as long as the family is large enough for them.
+TEST(LogFaults, ThreadsThatRollOver) {
+    constexpr int cThreads = 8;
+    constexpr int cLines = 4000;
+    TLogFiles Files;
+    {
+        const TLogTree Tree;
+        const Ref<TQzRollingFileAppender> File = Files.Make<TQzRollingFileAppender>();
+        File->SetMaxFileSize(64 << 10);
+        File->SetMaxBackupCount(100);
+        Logger().AddAppender(File.Get());
+        std::vector<std::thread> Threads;
+        for (int T = 0; T < cThreads; ++T)
+            Threads.emplace_back([T] {
+                for (int I = 0; I < cLines; ++I)
+                    Logger().Info(Format(u"%d:%d of a line", {T, I}));
+            });
+        for (std::thread& Thread : Threads)
+            Thread.join();
+        File->Close();
+    }
+    int Next[cThreads] = {};
+    int Number = 99;
+    for (; Number >= 0; --Number) {
+        const std::string Text =
+            Files.Text(Number == 0 ? UnicodeString(u"app.log") : Format(u"app.%d.log", {Number}));
+        if (Text == "-")
+            continue;
+        const std::vector<std::string> Lines = LinesOf(Text);
+        ASSERT_EQ("head", Lines.front());
+        ASSERT_EQ("foot", Lines.back());
+        for (std::size_t I = 1; I + 1 < Lines.size(); ++I) {
+            int T = 0, Line = 0;
+            ASSERT_EQ(2, std::sscanf(Lines[I].c_str(), "%d:%d of a line", &T, &Line)) << Lines[I];
+            ASSERT_EQ(Next[T]++, Line);
+        }
+    }
+    for (const int Count : Next)
+        EXPECT_EQ(cLines, Count);
+}
+
+// Each line is whole and none is there twice. What was not counted as lost is there, but for a file now and then that one
+// process takes for a backup too many while another moves it.
+TEST(LogFaults, ProcessesThatRollOneFamily) {
+    TLogFiles Files;
+    int Pipe[2];
+    ASSERT_EQ(0, pipe(Pipe));
+    std::vector<pid_t> Children;
+    for (int P = 0; P < 3; ++P) {
+        const pid_t Child = fork();
+        ASSERT_GE(Child, 0);
+        if (Child == 0) {
+            alarm(60);
+            CloseRootLogger();
+            const Ref<TQzRollingFileAppender> File = Files.Make<TQzRollingFileAppender>();
+            File->SetMaxFileSize(2000);
+            File->SetMaxBackupCount(50);
+            Logger().AddAppender(File.Get());
+            const std::uint64_t Before = QzDroppedLogMessages();
+            for (int I = 0; I < 2000; ++I)
+                Logger().Info(Format(u"<%d:%d>", {P, I}));
+            File->Close();
+            const std::uint64_t Lost = QzDroppedLogMessages() - Before;
+            _exit(write(Pipe[1], &Lost, sizeof Lost) == sizeof Lost ? 0 : 1);
+        }
+        Children.push_back(Child);
+    }
+    for (const pid_t Child : Children) {
+        int Status = 0;
+        waitpid(Child, &Status, 0);
+        EXPECT_EQ(0, Status);
+    }
+    close(Pipe[1]);
+    std::set<std::string> Seen;
+    for (const std::string& Name : LinesOf([&] {
+             std::string Names = Files.Names();
+             std::replace(Names.begin(), Names.end(), ' ', '|');
+             return Names;
+         }())) {
+        for (std::string Line : LinesOf(Files.Text(Name))) {
+            while (Line.starts_with("foot") || Line.starts_with("head"))
+                Line.erase(0, 4);
+            if (Line.empty())
+                continue;
+            int P = 0, I = 0, Length = 0;
+            ASSERT_EQ(2, std::sscanf(Line.c_str(), "<%d:%d>%n", &P, &I, &Length)) << Line;
+            ASSERT_EQ(Line.size(), static_cast<std::size_t>(Length)) << Line;
+            EXPECT_TRUE(Seen.insert(Line).second) << Line;
+        }
+    }
+    std::uint64_t Lost = 0;
+    for (std::uint64_t One = 0; Lost != UINT64_MAX && read(Pipe[0], &One, sizeof One) > 0;)
+        Lost += One;
+    close(Pipe[0]);
+    EXPECT_LE(Seen.size() + Lost, 6000u);
+    EXPECT_GT(Seen.size() + Lost, 5000u); // a file holds 220
+}
+
+// A child of which nobody hears keeps the parent from nothing, and ends no file of its.
+TEST(LogFaults, AChildThatLivesOn) {
+    TLogFiles Files;
+    const TLogTree Tree;
+    const Ref<TQzRollingFileAppender> File = Files.Make<TQzRollingFileAppender>();
+    Logger().AddAppender(File.Get());
+    Logger().Info(u"one");
+    int Pipe[2];
+    ASSERT_EQ(0, pipe(Pipe));
+    const pid_t Child = fork();
+    ASSERT_GE(Child, 0);
+    if (Child == 0) {
+        alarm(60);
+        close(Pipe[1]);
+        char Byte = 0;
+        while (read(Pipe[0], &Byte, 1) > 0) {}
+        Logger().Info(u"of the child"); // to the file of that name
+        File->Close();
+        _exit(0);
+    }
+    File->Close();
+    Logger().Info(u"two");
+    File->RollOver();
+    Logger().Info(u"three");
+    platform::SleepMs(1100);
+    close(Pipe[1]);
+    int Status = 0;
+    waitpid(Child, &Status, 0);
+    close(Pipe[0]);
+    EXPECT_EQ(0, Status);
+    Logger().Info(u"four");
+    EXPECT_EQ("head|one|foottwo|foot", Files.Text(u"app.1.log"));
+    EXPECT_EQ("head|three|of the child|footfour|", Files.Text());
+}
+
+TEST(LogFaults, AHeaderThatFindsNoRoom) {
+    TLogFiles Files;
+    InChild([&] {
+        CloseRootLogger();
+        rlimit Old;
+        getrlimit(RLIMIT_FSIZE, &Old);
+        const rlimit None{0, Old.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &None);
+        const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>();
+        Logger().AddAppender(File.Get());
+        Logger().Info(u"lost");
+        setrlimit(RLIMIT_FSIZE, &Old);
+        Logger().Info(u"room");
+        return true;
+    });
+    EXPECT_EQ("head|room|", Files.Text());
+}
+
+// Lines that wait are the parent's; parent and child write to one file from then on.
+TEST(LogFaults, AChildGoesOn) {
+    TLogFiles Files;
+    const TLogTree Tree;
+    const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>();
+    File->SetBufferSize(4096);
+    Logger().AddAppender(File.Get());
+    Logger().Info(u"waits");
+    InChild([&] {
+        Logger().Info(u"of the child");
+        for (int I = 0; I < 300 && Files.Text().find("|of the child|") == std::string::npos; ++I)
+            platform::SleepMs(10); // its own flusher
+        return true;
+    });
+    Logger().Warn(u"of the parent");
+    std::vector<std::string> Lines = LinesOf(Files.Text());
+    std::sort(Lines.begin(), Lines.end());
+    EXPECT_EQ((std::vector<std::string>{"head", "of the child", "of the parent", "waits"}), Lines);
+}
+
+// Lines reach the file at the end of the program, also from the destructors of static objects.
+TEST(LogFaults, TheEndOfTheProgram) {
+    struct TLast {
+        ~TLast() {
+            if (!Words.IsEmpty())
+                Logger().Info(Words);
+        }
+        UnicodeString Words;
+    };
+    static TLast Early; // gone after the root
+    TLogFiles Files;
+    const pid_t Child = fork();
+    ASSERT_GE(Child, 0);
+    if (Child == 0) {
+        alarm(60);
+        CloseRootLogger();
+        static TLast Late;
+        const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>();
+        File->SetBufferSize(4096);
+        Logger().AddAppender(File.Get());
+        Logger().Info(u"waits");
+        Early.Words = u"early";
+        Late.Words = u"late";
+        Logger().GetLogger("kept").Detach()->AddAppender(File.Get()); // which outlives the root
+        std::exit(0);
+    }
+    int Status = 0;
+    waitpid(Child, &Status, 0);
+    EXPECT_EQ(0, Status);
+    EXPECT_TRUE(Files.Text().starts_with("head|waits|late|")) << Files.Text();
+}
+
+} // namespace
+} // namespace qz

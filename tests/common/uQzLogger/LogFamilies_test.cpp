@@ -1,0 +1,164 @@
+#include <gtest/gtest.h>
+
+#include "tests/common/support/MemoryAppender.h"
+#include "tests/support/Message.h"
+#include <qz/common/uQzLogger.h>
+#include <qz/runtime/text/Format.h>
+#include <qz/runtime/values/VariantArray.h>
+
+namespace qz {
+namespace {
+
+enum class TShade : std::uint8_t { shLight, shDark };
+constexpr TEnumItem cShades[] = {{u"shLight", 0}, {u"shDark", 1}};
+
+} // namespace
+} // namespace qz
+
+template <> struct qz::TTypeDescription<qz::TShade> { static const qz::TTypeInfo Info; };
+
+namespace qz {
+namespace {
+
+// An object with a property of each kind, some of which are not to be shown.
+class TSample : public TPersistent {
+    QZ_CLASS(TSample, TPersistent)
+
+public:
+    std::int32_t GetBad() const { throw EConvertError(u"no value"); }
+    void SetBad(std::int32_t) {}
+    std::int32_t GetFixed() const { return 1; }
+
+    std::int32_t FNumber = 17;
+    double FRatio = 0.5;
+    TShade FShade = TShade::shDark;
+    bool FOpen = true;
+    UnicodeString FText = u"16 bits are not shown";
+    AnsiString FNarrow{AnsiString("eight bits")};
+    std::int64_t FLong = 1;
+    Variant FAny = VarArrayOf({1, u"two"});
+    TSample* FInner = nullptr;
+    TObject* FPlain = this;
+};
+
+constexpr TPropInfo cSampleProps[] = {
+    Property<&TSample::FNumber, &TSample::FNumber>(u"Number"),
+    Property<&TSample::GetBad, &TSample::SetBad>(u"Bad"),
+    ReadOnly<&TSample::GetFixed>(u"Fixed"),
+    Property<&TSample::FRatio, &TSample::FRatio>(u"Ratio"),
+    Property<&TSample::FShade, &TSample::FShade>(u"Shade"),
+    Property<&TSample::FOpen, &TSample::FOpen>(u"Open"),
+    Property<&TSample::FText, &TSample::FText>(u"Text"),
+    Property<&TSample::FNarrow, &TSample::FNarrow>(u"Narrow"),
+    Property<&TSample::FLong, &TSample::FLong>(u"Long"),
+    Property<&TSample::FAny, &TSample::FAny>(u"Any"),
+    Property<&TSample::FInner, &TSample::FInner>(u"Inner"),
+};
+
+const TClassRec TSample::ClassRec =
+    DescribeClass<TSample>(u"TSample", {.Unit = u"Tests", .Properties = cSampleProps});
+
+TEST(LogFamilies, EachMakesItsMessage) {
+    const TLogTree Tree;
+    TMemoryAppender& Out = AddMemory(Logger());
+    TQzLogger& Log = Logger();
+    Log.SetLevel(llAll);
+    const TSample Object;
+    const EConvertError Failure(u"went wrong");
+    const Ref<IQzLogData> Data = TQzLogData::Create(llWarn, u"kept");
+    const UnicodeString Address = Format(u"%p", {static_cast<const void*>(&Object)});
+    const UnicodeString Shown =
+        u"=(EConvertError @ " + Format(u"%p", {static_cast<const void*>(&Failure)}) + u")|";
+    const UnicodeString ObjectShown = u"=(TSample @ " + Address + u")|";
+    const std::pair<std::function<void()>, UnicodeString> Cases[] = {
+        {[&] { Log.Trace("m"); }, u"Trace m|"},
+        {[&] { Log.Trace(&Object, "x%"); }, u"Trace TSample($" + Address + u").x%|"},
+        {[&] { Log.Trace(&Object, "%d", {1}); }, u"Trace TSample($" + Address + u").1|"},
+        {[&] { Log.Debug("100%"); }, u"Debug 100%|"},
+        {[&] {
+             Log.Debug("%s took %d ms", {u"it", 17});
+         },
+         u"Debug it took 17 ms|"},
+        {[&] { Log.Debug("m", 1.5); }, u"Debug m=1.5|"},
+        {[&] { Log.Debug("m", u"text"); }, u"Debug m=text|"},
+        {[&] { Log.Debug("m", &Object); }, u"Debug m" + ObjectShown},
+        {[&] { Log.Debug("m", Failure); }, u"Debug m" + Shown},
+        {[&] { Log.Info("m"); }, u"Info m|"},
+        {[&] { Log.Warn("m"); }, u"Warn m|"},
+        {[&] { Log.Error("m"); }, u"Error m|"},
+        {[&] { Log.Error("m", Failure); }, u"Error m\r\nwent wrong|"},
+        {[&] { Log.Fatal("m"); }, u"Fatal m|"},
+        {[&] { Log.Fatal("%d", {2}); }, u"Fatal 2|"},
+        {[&] { Log.Fatal(Failure); }, u"Fatal went wrong" + Shown},
+        {[&] { Log.Fatal("m", Failure); }, u"Fatal m" + Shown},
+        {[&] { Log.Count("hits", -3); }, u"Debug #counter::hits#=-3|"},
+        {[&] { Log.ClearLog(); }, u""},
+        {[&] { Log.EnterMethod("Run", llWarn); }, u"Warn Run {|"},
+        {[&] { Log.EnterMethod("%d", {3}, llInfo); }, u"Info 3 {|"},
+        {[&] { Log.EnterMethod(&Object, "Run%"); }, u"Trace TSample.Run% {|"},
+        {[&] { Log.EnterMethod(&Object, "Run %d", {4}, llInfo); }, u"Info TSample.Run 4 {|"},
+        {[&] { Log.ExitMethod("Run", llWarn); }, u"Warn Run }|"},
+        {[&] { Log.ExitMethod("%d", {3}, llInfo); }, u"Info 3 }|"},
+        {[&] { Log.ExitMethod(&Object, "Run"); }, u"Trace TSample.Run }|"},
+        {[&] { Log.Log(llFatal, "m"); }, u"Fatal m|"},
+        {[&] { Log.Log(llFatal, "m", liIndentDecrease); }, u"Fatal m }|"},
+        {[&] { Log.Log(llFatal, "m", true, liIndentIncrease); }, u"Fatal m=True {|"},
+        {[&] { Log.Log(llFatal, "m", &Object); }, u"Fatal m" + ObjectShown},
+        {[&] { Log.Log(llFatal, "m", Failure); }, u"Fatal m" + Shown},
+        {[&] { Log.LogValue(llFatal, "m", TShade::shDark); }, u"Fatal m=shDark|"},
+        {[&] { Log.Log(Data); }, u"Warn kept|"},
+        {[&] {
+             const TQzMethodScope Scope(&Log, &Object, "Run");
+             Log.Info("m");
+         },
+         u"Trace TSample.Run {|root>root Info m|root>root Trace TSample.Run }|"},
+    };
+    for (const auto& [Call, Expected] : Cases) {
+        Call();
+        EXPECT_EQ(Expected.IsEmpty() ? u"" : u"root>root " + Expected, Out.Take());
+    }
+}
+
+TEST(LogFamilies, BadPatternsReachTheCaller) {
+    const TLogTree Tree;
+    const TSample Object;
+    EXPECT_THROW(Logger().Debug("%d", {u"x"}), EConvertError);
+    EXPECT_THROW(Logger().EnterMethod(&Object, "%s", {}), EConvertError);
+    EXPECT_THROW(Logger().Trace(&Object, "%q", {1}), EConvertError);
+    EXPECT_THROW(Logger().Log(static_cast<IQzLogData*>(nullptr)), EAssertionFailed);
+    TMemoryAppender& Out = AddMemory(Logger());
+    Logger().SetLevel(llAll);
+    Logger().EnterMethod(static_cast<TObject*>(nullptr), "x");
+    EXPECT_EQ(u"root>root Trace nil.x {|", Out.Take());
+}
+
+TEST(DataRec, DumpsPublishedProperties) {
+    TSample Outer;
+    TSample Inner;
+    Outer.FInner = &Inner;
+    Inner.FInner = &Outer; // a circle ends where it began
+    Inner.FShade = static_cast<TShade>(7);
+    const auto Lines = [](const UnicodeString& AIndent, const char16_t* AShade) {
+        UnicodeString Result;
+        for (const UnicodeString Line :
+             {u"Number = 17",
+              u"Exception EConvertError(no value) was raised while trying to read property: Bad",
+              u"Ratio = 0.5", AShade, u"Open = True", u"Narrow = eight bits", u"Any = 1\r\ntwo\r\n"})
+            Result += AIndent + Line + u"\r\n";
+        return Result;
+    };
+    const TValue Value(static_cast<TObject*>(&Outer));
+    EXPECT_EQ(u"object : TSample\r\n" + Lines(u"  ", u"Shade = shDark") + u"  object : TSample\r\n" +
+                  Lines(u"    ", u"Shade = 7"),
+              QzDataRecToString(&Value));
+    const TValue Null(static_cast<TObject*>(nullptr));
+    EXPECT_EQ(Null.ToString(), QzDataRecToString(&Null));
+    const TValue Number(5);
+    EXPECT_EQ(u"5", QzDataRecToString(&Number));
+}
+
+} // namespace
+
+const TTypeInfo TTypeDescription<TShade>::Info = DescribeEnum<TShade>(u"TShade", u"Tests", cShades);
+
+} // namespace qz

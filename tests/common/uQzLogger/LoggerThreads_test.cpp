@@ -1,0 +1,220 @@
+// What changes while eight threads log; the sanitizers look on.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+#include <thread>
+
+#include "tests/common/support/MemoryAppender.h"
+#include <qz/common/uQzLogger.h>
+
+namespace qz {
+namespace {
+
+constexpr int cThreads = 8;
+
+// Threads that log numbered messages until they are told to stop.
+class TLoggingThreads {
+public:
+    explicit TLoggingThreads(const char* APath = "a.b") {
+        for (int I = 0; I < cThreads; ++I)
+            FThreads.emplace_back([this, I, APath] {
+                for (int Number = 0; !FStop; ++Number) {
+                    const Ref<IQzLogger> Log = Logger().GetLogger(APath);
+                    Log->Debug("%d:%d", {I, Number});
+                    Log->Info("text");
+                }
+            });
+    }
+    ~TLoggingThreads() {
+        FStop = true;
+        for (std::thread& Thread : FThreads)
+            Thread.join();
+    }
+
+private:
+    std::atomic<bool> FStop{false};
+    std::vector<std::thread> FThreads;
+};
+
+TEST(LoggerThreads, LevelsAndListsChangeWhileOthersLog) {
+    const TLogTree Tree;
+    const Ref<IQzLogger> Parent = Logger().GetLogger("a");
+    const TLoggingThreads Threads;
+    for (int I = 0; I < 200; ++I) {
+        const Ref<IQzLogger> Log = Logger().GetLogger("a.b");
+        TMemoryAppender& One = AddMemory(*Parent, u"One");
+        const Ref<IQzLogAppender> Two = Logger().AddAppender(TQzLogBaseClass::Of<TMemoryAppender>());
+        Log->SetLevel(I % 2 == 0 ? llDoNotLog : llAll);
+        Parent->SetAdditive(I % 3 == 0);
+        Parent->SetParentLevel(I % 5 == 0);
+        Logger().LockAppenders()->Count();
+        Logger().UnLockAppenders();
+        if (I % 2 == 0)
+            One.Free();
+        else
+            Parent->RemoveAppender(static_cast<IQzLogAppender*>(&One));
+        Logger().ClearAppenders();
+        EXPECT_EQ(0, Parent->GetAppenders()->Count());
+    }
+}
+
+// Whoever removed an appender may take apart what it writes to.
+TEST(LoggerThreads, NothingComesBehindARemoval) {
+    const TLogTree Tree;
+    const TLoggingThreads Threads("a");
+    for (int I = 0; I < 200; ++I) {
+        std::atomic<bool> IsRemoved{false};
+        TMemoryAppender& Out = *TMemoryAppender::Create(nullptr, u"");
+        const Ref<IQzLogAppender> Hold(static_cast<IQzLogAppender*>(&Out));
+        Out.OnWrite = [&IsRemoved](const UnicodeString&) { EXPECT_FALSE(IsRemoved.load()); };
+        Logger().AddAppender(Hold.Get());
+        std::this_thread::yield();
+        Logger().RemoveAppender(Hold.Get());
+        IsRemoved = true;
+        Out.OnWrite = nullptr; // a message on its way would be a race here
+    }
+}
+
+TEST(LoggerThreads, EachMessageComesOnceAndInOrder) {
+    const TLogTree Tree;
+    TMemoryAppender& Out = AddMemory(Logger());
+    constexpr int cMessages = 500;
+    std::vector<std::thread> Threads;
+    for (int I = 0; I < cThreads; ++I)
+        Threads.emplace_back([I] {
+            const Ref<IQzLogger> Log = Logger().GetLogger("x.y");
+            for (int Number = 0; Number < cMessages; ++Number)
+                Log->Info(UnicodeString(std::to_string(I) + ":" + std::to_string(Number)));
+        });
+    for (std::thread& Thread : Threads)
+        Thread.join();
+    ASSERT_EQ(static_cast<std::size_t>(cThreads * cMessages), Out.Lines.size());
+    std::map<char16_t, int> Next;
+    for (const UnicodeString& Line : Out.Lines) {
+        const std::string Text = ToUtf8(Line);
+        const std::string Message = Text.substr(Text.rfind(' ') + 1);
+        EXPECT_EQ(Next[static_cast<char16_t>(Message[0])]++, std::stoi(Message.substr(2)));
+    }
+}
+
+// Two appenders that each log through the logger of the other, on two threads, with changes of the other's list.
+TEST(LoggerThreads, AppendersThatLogCrosswiseDoNotStop) {
+    const TLogTree Tree;
+    const Ref<IQzLogger> Left = Logger().GetLogger("left");
+    const Ref<IQzLogger> Right = Logger().GetLogger("right");
+    const auto Cross = [](const Ref<IQzLogger>& AOwn, const Ref<IQzLogger>& AOther) {
+        TMemoryAppender& Out = AddMemory(*AOwn);
+        Out.OnWrite = [AOther](const UnicodeString&) {
+            AOther->Info("crosswise");
+            TMemoryAppender& Brief = AddMemory(*AOther);
+            AOther->RemoveAppender(static_cast<IQzLogAppender*>(&Brief));
+            Logger().GetLogger("new.one")->SetLevel(llError);
+        };
+    };
+    Cross(Left, Right);
+    Cross(Right, Left);
+    std::thread Other([&] {
+        for (int I = 0; I < 300; ++I)
+            Left->Info("x");
+    });
+    for (int I = 0; I < 300; ++I)
+        Right->Info("x");
+    Other.join();
+    Left->ClearAppenders();
+    Right->ClearAppenders();
+}
+
+TEST(LoggerThreads, ChildrenAreWalkedWhileTheyComeAndGo) {
+    const TLogTree Tree;
+    const TLoggingThreads Threads;
+    TQzLoggerList& List = *Logger().GetChildLoggers();
+    for (int I = 0; I < 500; ++I) {
+        List.Lock(u"walk", true);
+        for (int Child = 0; Child < List.Count(); ++Child)
+            EXPECT_EQ(u"root.a", List.GetLogger(Child)->GetFullName());
+        List.Unlock();
+    }
+}
+
+// Takes all messages, and logs each question.
+class TTalkingConfiguration : public TInterfacedObject, public IQzLogConfigurator {
+    QZ_CLASS(TTalkingConfiguration, TInterfacedObject)
+    QZ_INTERFACE_COUNTING(TInterfacedObject)
+
+public:
+    Variant GetLoggerValue(const UnicodeString& ALogger, const UnicodeString& AKey, TQzMainTypeKind,
+                           const Variant& ADefault) override {
+        Logger().Info(u"asked by " + ALogger);
+        return AKey == UnicodeString(u"Level") ? Variant(0) : ADefault;
+    }
+    Variant GetAppenderValue(const UnicodeString&, const UnicodeString&, TQzMainTypeKind,
+                             const Variant& ADefault) override {
+        return ADefault;
+    }
+};
+
+const TClassRec TTalkingConfiguration::ClassRec = DescribeClass<TTalkingConfiguration>(
+    u"TTalkingConfiguration",
+    {.Unit = u"Tests", .Interfaces = Interfaces<TTalkingConfiguration, IQzLogConfigurator>()});
+
+// The configurator logs while a logger is got; the appender gets a logger while a message is on its way.
+TEST(LoggerThreads, ConfiguratorsAndAppendersDoNotWaitForEachOther) {
+    const TLogTree Tree;
+    const Ref<IQzLogConfigurator> Configuration = TTalkingConfiguration::Create();
+    AddMemory(Logger()).OnWrite = [](const UnicodeString&) { Logger().GetLogger("of.appender"); };
+    Logger().SetConfig(Configuration.Get());
+    const TLoggingThreads Threads;
+    for (int I = 0; I < 200; ++I)
+        Logger().GetLogger("main")->Info("x");
+    Logger().SetConfig(nullptr);
+}
+
+TEST(LoggerThreads, TwoFirstCallersGetOneRoot) {
+    for (int Round = 0; Round < 50; ++Round) {
+        const TLogTree Tree;
+        std::mutex Lock;
+        std::set<TQzLogger*> Roots;
+        std::vector<std::thread> Threads;
+        for (int I = 0; I < 4; ++I)
+            Threads.emplace_back([&] {
+                TQzLogger& Root = Logger();
+                const std::lock_guard Hold(Lock);
+                Roots.insert(&Root);
+            });
+        for (std::thread& Thread : Threads)
+            Thread.join();
+        EXPECT_EQ(1U, Roots.size());
+    }
+}
+
+// Loggers that were got before go on while the tree ends and another begins.
+TEST(LoggerThreads, TheTreeEndsWhileOthersLog) {
+    for (int Round = 0; Round < 30; ++Round) {
+        const TLogTree Tree;
+        std::vector<Ref<IQzLogger>> Logs;
+        for (int I = 0; I < cThreads; ++I)
+            Logs.push_back(Logger().GetLogger("a.b"));
+        AddMemory(Logger());
+        AddMemory(*Logs[0]->GetParentLogger());
+        std::atomic<bool> Stop{false};
+        std::vector<std::thread> Threads;
+        for (Ref<IQzLogger>& Log : Logs)
+            Threads.emplace_back([&Stop, Mine = std::exchange(Log, nullptr)]() mutable {
+                while (!Stop) {
+                    Mine->Info("x");
+                    Mine->GetLogger("c.d")->Info("y");
+                }
+                Mine.Clear();
+            });
+        std::this_thread::yield();
+        CloseRootLogger();
+        Stop = true;
+        for (std::thread& Thread : Threads)
+            Thread.join();
+    }
+    EXPECT_EQ(0, AppenderInstances().Count());
+}
+
+} // namespace
+} // namespace qz

@@ -1,0 +1,352 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "tests/support/Lines.h"
+#include <qz/common/uQzSysUtils.h>
+#include <qz/runtime/time/DateTime.h>
+
+namespace qz {
+namespace {
+
+TEST(Tokenize, ByCharactersGivesTokensAndDelimiters) {
+    const struct {
+        std::u16string_view Text, Delimiters, Tokens, Found;
+    } cCases[] = {
+        {u"a,,b", u",", u"a|b|", u",|,|"},   {u"", u",", u"", u""},
+        {u";;", u",;", u"", u";|;|"},        {u"a.b_c\td", u"", u"a|b_c\td|", u".|"},
+        {u"x€y¤z", u"€,", u"x|y¤z|", u"€|"}, {u"x\xD800y\xDC00", u"\xDC00", u"x\xD800y|", u"\xDC00|"},
+        {u"a,b", u"€", u"a,b|", u""},
+    };
+    for (const auto& Case : cCases) {
+        TStringList Tokens, Found;
+        QzTokenize(Case.Text, Tokens, Case.Delimiters, &Found);
+        EXPECT_EQ(Lines(Tokens), Case.Tokens) << UnicodeString(Case.Text);
+        EXPECT_EQ(Lines(Found), Case.Found) << UnicodeString(Case.Text);
+    }
+}
+
+TEST(Tokenize, EachDefaultDelimiterSeparatesAndNothingElse) {
+    UnicodeString Kept;
+    int Separating = 0;
+    for (char16_t Char = 1; Char < 256; ++Char) {
+        TStringList List;
+        QzTokenize(u"a" + UnicodeString(Char) + u"b", List);
+        Separating += List.Count() == 2 ? 1 : 0;
+        if (Char > u' ' && Char < 127 && List.Count() == 1)
+            Kept += Char;
+    }
+    EXPECT_EQ(Separating, 31);
+    EXPECT_EQ(Kept, u"0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ_`abcdefghijklmnopqrstuvwxyz");
+}
+
+TEST(Tokenize, AppendsByTheRulesOfTheList) {
+    TStringList List;
+    List.SetDuplicates(dupIgnore);
+    List.SetSorted(true);
+    List.Add(u"m");
+    QzTokenize(u"z a z", List, u" ");
+    QzTokenize(List, u"b1a", u"\\d");
+    EXPECT_EQ(Lines(List), u"a|b|m|z|");
+}
+
+TEST(Tokenize, ByExpressionKeepsEmptyTokens) {
+    const struct {
+        std::u16string_view Text, Expression, Tokens;
+    } cCases[] = {
+        {u"a,,b,", u",", u"a||b||"},
+        {u"abc", u",", u"abc|"},
+        {u"", u",", u"|"},
+        {u"  a \t b  c ", u"", u"a|\t|b|c|"},
+        {u"a1b22", u"\\d+", u"a|b||"},
+        {u"ab", u"(?=b)", u"a|b|"},
+        {u"", u"", u""},
+        {u"aXb", u"x", u"a|b|"},
+    };
+    for (const auto& Case : cCases) {
+        TStringList List;
+        QzTokenize(List, Case.Text, Case.Expression, {roIgnoreCase});
+        EXPECT_EQ(Lines(List), Case.Tokens)
+            << UnicodeString(Case.Text) << " by " << UnicodeString(Case.Expression);
+    }
+    TStringList List;
+    EXPECT_THROW(QzTokenize(List, u"a", u"("), ERegularExpressionError);
+}
+
+TEST(StringToList, SplitsAndJoins) {
+    const struct {
+        std::u16string_view Text, Delimiter, Tokens;
+    } cCases[] = {
+        {u"a,b,", u",", u"a|b||"}, {u"", u",", u"|"}, {u"---", u"--", u"|-|"}, {u"ab", u"", u"ab|"}};
+    for (const auto& Case : cCases) {
+        TStringList List;
+        QzStringToList(Case.Text, Case.Delimiter, List);
+        EXPECT_EQ(Lines(List), Case.Tokens) << UnicodeString(Case.Text);
+        EXPECT_EQ(QzListToString(List, Case.Delimiter), Case.Text);
+    }
+    TStringList List;
+    EXPECT_EQ(QzListToString(List, u","), u"");
+    for (const char16_t Char : {u'a', u'b', u'c'})
+        List.Add(UnicodeString(499999, Char));
+    const UnicodeString Cut = QzListToString(List, u"--");
+    EXPECT_EQ(Cut.Length(), 999999);
+    EXPECT_EQ(QzRight(Cut, 2), u"bb");
+}
+
+TEST(CharCase, ConvertsByModeInBothWidths) {
+    const struct {
+        TQzCharCase Case;
+        const char* Text;
+        const char* Delimiters;
+        const char* Result;
+    } cCases[] = {
+        {rcNormal, "hElLo", "", "hElLo"},
+        {rcUpperCase, "hé-x", "-", "HÉ-X"},
+        {rcLowerCase, "HÉ-X", "-", "hé-x"},
+        {rcTitleCase, "hello WORLD", " ", "Hello world"},
+        {rcUpperCamelCase, "hello wORLD-x", " -", "Hello World-X"},
+        {rcLowerCamelCase, "Hello  wORLD", " ", "hello  World"},
+        {rcUpperCamelCase, "ab CD", "", "Ab cd"},
+        {rcUpperCamelCase, "xAxb", "X", "Xaxb"},
+        {rcUpperCamelCase, "xaxb", "x", "xAxB"},
+        {rcUpperCamelCase, "éa éB", " ", "Éa Éb"},
+        {rcUpperCaseFirstLetter, "éLLO", "", "ÉLLO"},
+        {rcLowerCaseFirstLetter, "ÉLLO", "", "éLLO"},
+        {rcTitleCase, "", "", ""},
+    };
+    for (const auto& Case : cCases) {
+        EXPECT_EQ(QzCharCase(WideString(Case.Text), Case.Case, Case.Delimiters), Case.Result) << Case.Text;
+        const AnsiString Narrow{UnicodeString(Case.Text)};
+        EXPECT_EQ(QzCharCase(Narrow, Case.Case, AnsiString(UnicodeString(Case.Delimiters))).ToUnicode(),
+                  AnsiString(UnicodeString(Case.Result)).ToUnicode());
+    }
+    EXPECT_EQ(QzCharCase(u"\xD800 \xDC00z", rcUpperCamelCase, u" "), u"\xD800 \xDC00z");
+}
+
+TEST(StringIncrement, CountsTheNumberAtTheEnd) {
+    const struct {
+        const char16_t* Text;
+        int Step;
+        const char16_t* Result;
+    } cCases[] = {
+        {u"9", 1, u"10"},
+        {u"007", -1, u"006"},
+        {u"A1", -5, u"A-4"},
+        {u"AB99", 1, u"AB100"},
+        {u"AB0099", 1, u"AB0100"},
+        {u"A100", -105, u"A0-5"},
+        {u" 1x9", 2, u" 1x11"},
+        {u"-5", 1, u"-6"},
+        {u"9999999999", 1, u"10000000000"},
+        {u"9223372036854775806", 1, u"9223372036854775807"},
+        {u"\xD800"
+         u"1",
+         1,
+         u"\xD800"
+         u"2"},
+    };
+    for (const auto& Case : cCases)
+        EXPECT_EQ(QzStringIncrement(Case.Text, Case.Step), Case.Result);
+    for (const char16_t* Text : {u"A", u"1 ", u"x\uFF11", u"9223372036854775807", u"99999999999999999999"})
+        EXPECT_THROW(QzStringIncrement(Text, 1), EConvertError) << UnicodeString(Text);
+    std::uint16_t Year = 0, Month = 0, Day = 0;
+    DecodeDate(Date(), Year, Month, Day);
+    EXPECT_EQ(QzStringIncrement(u" \t", 7), IntToStr(Year) + u"00001");
+}
+
+TEST(StringReplace, FeedsLaterPairsAndNeedsAsManyNewTextsAsOld) {
+    EXPECT_EQ(QzStringReplace(u"aAa", {u"a", u"b"}, {u"b", u"c"}, {rfReplaceAll}), u"cAc");
+    EXPECT_EQ(QzStringReplace(u"aAa", {u"A"}, {u"xy"}, {rfReplaceAll, rfIgnoreCase}), u"xyxyxy");
+    EXPECT_EQ(QzStringReplace(u"aa", {u"a"}, {u""}, {}), u"a");
+    const std::vector<UnicodeString> Old = {u"1", u"2"}, New = {u"2", u"3"};
+    EXPECT_EQ(QzStringReplace(u"12", Old, New, {}), u"32");
+    EXPECT_THROW(QzStringReplace(u"a", {u"a", u"b"}, {u"b"}, {}), EAssertionFailed);
+}
+
+TEST(StringReplace, FindsPiecesOfAnyLengthAtAnyPlace) {
+    for (const std::size_t Length : {1U, 2U, 5U, 64U, 65U})
+        for (std::size_t Before = 0; Before < 70; ++Before)
+            for (const std::size_t Behind : {0U, 1U, 31U, 32U, 33U}) {
+                const UnicodeString Piece = UnicodeString(Length - 1, u'a') + u'b';
+                const UnicodeString Left(Before, u'a'), Right(Behind, u'a');
+                ASSERT_EQ(QzStringReplace(Left + Piece + Right, {Piece}, {u"-"}, {rfReplaceAll}),
+                          Left + u"-" + Right)
+                    << Length << " at " << Before << " before " << Behind;
+            }
+}
+
+TEST(Strings, ShortHelpersTreatTheEnds) {
+    const std::pair<const char16_t*, const char16_t*> cStripped[] = {
+        {u"''", u"'"}, {u"", u""}, {u" \"a'b'\r\n", u"a'b"}, {u"'", u"'"}, {u"' \"", u"\""}};
+    for (const auto& [Text, Result] : cStripped)
+        EXPECT_EQ(QzStripLiterals(Text), Result);
+    const std::pair<const char16_t*, const char16_t*> cSpaced[] = {{u"", u""},
+                                                                   {u"  ", u""},
+                                                                   {u" a  b\tc ", u"a b\tc"},
+                                                                   {u"a b", u"a b"},
+                                                                   {u"\xDC00  \xD800", u"\xDC00 \xD800"}};
+    for (const auto& [Text, Result] : cSpaced)
+        EXPECT_EQ(QzNormalizeSpace(Text), Result);
+    EXPECT_EQ(QzTrimLeft(u" \1a\t"), u"a\t");
+    EXPECT_EQ(QzTrimRight(u" a\1\t"), u" a");
+    EXPECT_EQ(QzTrim(AnsiString(" \x01\xE9\xA0\t")), AnsiString("\xE9\xA0"));
+    EXPECT_EQ(QzTrim(AnsiString(" \t")), AnsiString());
+    EXPECT_EQ(QzLeft(u"abc", 2) + QzLeft(u"abc", -1) + QzLeft(u"abc", 9), u"ababc");
+    EXPECT_EQ(QzRight(u"abc", 2) + QzRight(u"abc", INT32_MIN) + QzRight(u"abc", 9), u"bcabc");
+    EXPECT_EQ(QzAnsiCopy(AnsiString("abc"), 2, 9), AnsiString("bc"));
+    EXPECT_EQ(QzAnsiCopy(AnsiString("abc"), 4, 1), AnsiString());
+    EXPECT_EQ(QzLastPos(u"abab", u'a') * 10 + QzLastPos(u"", u'a'), 30);
+}
+
+TEST(Strings, PadsToALength) {
+    EXPECT_EQ(QzPadLeft(-5, 3, u'0'), u"0-5");
+    EXPECT_EQ(QzPadLeft(INT64_MIN, 21, u'\0'), u" -9223372036854775808");
+    EXPECT_EQ(QzPadLeft(u"abc", 2), u"abc");
+    EXPECT_EQ(QzPadLeft(u"", -1), u"");
+    EXPECT_EQ(QzPadRight(u"ab", 4, u'.'), u"ab..");
+    EXPECT_EQ(QzPadRight(u"ab", 3, u'\0'), u"ab ");
+}
+
+TEST(Strings, SetsAndSearches) {
+    EXPECT_TRUE(QzContainsText(u"ÖL", u"Erdöl"));
+    EXPECT_TRUE(QzContainsText(AnsiString("B"), AnsiString("abc")));
+    EXPECT_FALSE(QzContainsText(u"Erdöl", u"öl"));
+    EXPECT_FALSE(QzContainsText(u"", u"a"));
+    EXPECT_TRUE(QzStrInSet(u"b", {u"a", u"b"}));
+    EXPECT_FALSE(QzStrInSet(u"B", std::vector<UnicodeString>{u"a", u"b"}));
+    UnicodeString Names, Literals;
+    for (char16_t Char = 0; Char < 0x300; ++Char) {
+        Names += QzIsNameDelimiter(Char) ? UnicodeString(Char) : UnicodeString();
+        Literals += QzIsLiteral(Char) ? UnicodeString(Char) : UnicodeString();
+    }
+    EXPECT_EQ(Names, u"\n\r ),;");
+    EXPECT_EQ(Literals, u"\"'");
+    EXPECT_TRUE(QzCharInSet('\xE9', TCharSet{'\xE9'}) && QzIsLiteral('"') && QzIsNameDelimiter(','));
+    EXPECT_TRUE(QzIsUppercase(u"AÄä1") && QzIsUppercase(u"") && !QzIsUppercase(u"Az"));
+}
+
+// What lies before the point takes digits from what lies behind: 1.005 shows less than a half.
+TEST(Round, HalvesGoAwayFromZero) {
+    const double cHuge = 1e300;
+    const struct {
+        double Value;
+        int Digits;
+        double Result;
+    } cCases[] = {
+        {2.5, 0, 3},
+        {-2.5, 0, -3},
+        {1.25, 1, 1.3},
+        {1.24, 1, 1.2},
+        {0.49999999999999994, 0, 1},
+        {0.4999, 0, 0},
+        {-0.5, 0, -1},
+        {2.675, 2, 2.67},
+        {1.005, 2, 1},
+        {-1.005, 2, -1},
+        {0.999, 2, 1},
+        {cHuge, 2, cHuge},
+        {0.1, 400, 0.1},
+        {1250, -2, 1300},
+        {-1249, -2, -1200},
+        {3, -400, 0},
+        {INFINITY, 2, INFINITY},
+        {-INFINITY, -1, -INFINITY},
+    };
+    for (const auto& Case : cCases) {
+        EXPECT_EQ(QzRound(Case.Value, Case.Digits), Case.Result) << Case.Value << ", " << Case.Digits;
+        EXPECT_EQ(QzRound(Extended(Case.Value), Case.Digits).Value, Case.Result);
+    }
+    EXPECT_TRUE(std::isnan(QzRound(NAN, 2)));
+}
+
+TEST(Numbers, BitsCountFromOne) {
+    const std::pair<std::pair<std::int64_t, int>, bool> cCases[] = {
+        {{5, 3}, true},   {{5, 2}, false},          {{0, 0}, true},
+        {{-1, 64}, true}, {{INT64_MAX, 64}, false}, {{-1, 65}, false}};
+    for (const auto& [Arguments, Result] : cCases)
+        EXPECT_EQ(QzIsBitChecked(Arguments.first, Arguments.second), Result) << Arguments.second;
+    EXPECT_EQ(QzIntToAnsiStr(-42), AnsiString("-42"));
+}
+
+TEST(Compare, TextsAndChoices) {
+    EXPECT_TRUE(QzSameText(u"Größe", u"GRÖßE") && QzSameText(AnsiString("aB"), AnsiString("Ab")));
+    EXPECT_FALSE(QzSameText(u"a", u"a\1") || QzSameText(u"@", u"`") || QzSameText(u"a", u"b"));
+    EXPECT_TRUE(QzSameTrimmedText(u" \ta", u"A\r\n"));
+    TGUID Other = Guid("{0417F540-9CCC-4DE6-B2C4-1063D0508346}");
+    const TGUID Same = Other;
+    EXPECT_TRUE(QzSameGuid(Other, Same));
+    Other.D4[7] ^= 1;
+    EXPECT_FALSE(QzSameGuid(Other, Same));
+    EXPECT_EQ(QzIf(true, u"a", "b"), u"a");
+    EXPECT_EQ(QzIf(false, 1, 2), 2);
+    EXPECT_EQ(QzIf(false, 1.5, 2.5), 2.5);
+    EXPECT_EQ(QzIf(true, u'a', u'b'), u'a');
+    EXPECT_FALSE(QzIf(true, false, true));
+    EXPECT_EQ(VarType(QzIf(false, Variant(1), u"text")), varUString);
+}
+
+TEST(Compare, VariantsByValueAndType) {
+    const struct {
+        Variant Left, Right;
+        bool Equal, Same;
+    } cCases[] = {
+        {1, 1, true, true},
+        {1, 1.0, true, false},
+        {1, u"1", true, false},
+        {-1, true, true, false},
+        {-1, UINT64_MAX, false, false},
+        {INT64_MIN, 0x8000000000000000U, false, false},
+        {0.5F, 0.5, true, false},
+        {u"a", u"A", false, false},
+        {u"é", AnsiString(UnicodeString(u"é")), true, false},
+        {Variant(), 0, true, false},
+        {Variant(), u"", true, false},
+        {Variant(), u"a", false, false},
+        {Variant::Null(), Variant::Null(), true, true},
+        {Variant::Null(), Variant(), false, false},
+        {u"true", true, true, false},
+        {NAN, NAN, false, false},
+        {UINT64_MAX, 18446744073709551616.0, true, false},
+    };
+    for (const auto& Case : cCases) {
+        EXPECT_EQ(Case.Left == Case.Right, Case.Equal)
+            << VarToStr(Case.Left) << " and " << VarToStr(Case.Right);
+        EXPECT_EQ(Case.Right == Case.Left, Case.Equal);
+        EXPECT_EQ(QzSameVar(Case.Left, Case.Right), Case.Same);
+    }
+    EXPECT_THROW(static_cast<void>(Variant(1) == Variant(u"one")), EVariantTypeCastError);
+    EXPECT_THROW(static_cast<void>(Variant(true) == Variant(u"one")), EVariantTypeCastError);
+    EXPECT_THROW(static_cast<void>(QzSameVar(VarArrayOf({}), VarArrayOf({}))), EVariantInvalidOpError);
+}
+
+TEST(Compare, ArraysElementByElementOfTheFirst) {
+    Variant Shifted = VarArrayCreate({1, 2});
+    VarArrayPut(Shifted, 2, 1);
+    VarArrayPut(Shifted, 3, 2);
+    const Variant Three = VarArrayOf({1, 2, 3});
+    const struct {
+        Variant Left, Right;
+        bool Same;
+    } cCases[] = {
+        {Three, VarArrayOf({1.0, u"2", 3}), true},
+        {VarArrayOf({1, 2}), Three, true},
+        {Three, VarArrayOf({1, 2}), false},
+        {Shifted, Three, true},
+        {Three, Shifted, false},
+        {VarArrayOf({}), u"no array", true},
+        {u"no array", Three, false},
+        {VarArrayOf({u"x"}), Three, false},
+        {VarArrayOf({Three}), VarArrayOf({Three}), false},
+    };
+    for (std::size_t I = 0; I < std::size(cCases); ++I)
+        EXPECT_EQ(QzSameArray(cCases[I].Left, cCases[I].Right), cCases[I].Same) << I;
+}
+
+TEST(CharCase, TakesAPairForOneDelimiter) {
+    EXPECT_EQ(u"A\U0001F601b\U0001F600C",
+              QzCharCase(WideString(UnicodeString(u"a\U0001F601b\U0001F600c")), rcUpperCamelCase,
+                         WideString(UnicodeString(u"\U0001F600"))));
+}
+
+} // namespace
+} // namespace qz

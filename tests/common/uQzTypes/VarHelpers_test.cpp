@@ -1,0 +1,374 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <map>
+#include <set>
+
+#include "tests/support/Message.h"
+#include "tests/support/SystemPage.h"
+#include <qz/common/uQzTypes.h>
+#include <qz/runtime/text/FloatText.h>
+#include <qz/runtime/text/NumberText.h>
+#include <qz/runtime/time/DateTimeText.h>
+#include <qz/runtime/values/VariantArray.h>
+#include <qz/runtime/values/VariantConvert.h>
+
+namespace qz {
+namespace {
+
+// One variant of each type. Values are their codes modulo 100, so that a result tells by itself what it came from.
+std::vector<Variant> Samples() {
+    return {Variant(),
+            Variant::Null(),
+            Variant(std::int16_t{2}),
+            Variant(3),
+            Variant(4.0F),
+            Variant(5.0),
+            Variant(Currency(6)),
+            Variant(TDateTime(7)),
+            Variant(WideString(u"8")),
+            Variant::Dispatch(nullptr),
+            Variant::Error(10),
+            Variant(true),
+            Variant(Ref<IInterface>()),
+            VarAsType(14, varDecimal),
+            Variant(std::int8_t{16}),
+            Variant(std::uint8_t{17}),
+            Variant(std::uint16_t{18}),
+            Variant(std::uint32_t{19}),
+            Variant(std::int64_t{20}),
+            Variant(std::uint64_t{21}),
+            Variant(static_cast<TObject*>(nullptr)),
+            Variant(AnsiString("56")),
+            Variant(u"58"),
+            VarArrayOf({92})};
+}
+
+UnicodeString Show(std::integral auto AValue) {
+    return IntToStr(AValue);
+}
+UnicodeString Show(bool AValue) {
+    return BoolToStr(AValue, true);
+}
+UnicodeString Show(double AValue) {
+    return FloatToStr(AValue);
+}
+// What a function makes of each type: a default for those of no kind, the number for those listed, the text of Others
+// where it is another, its message for all the rest.
+struct TRow {
+    const char* Name;
+    std::function<UnicodeString(const Variant&, bool ARaise)> Call;
+    std::set<int> Takes;
+    UnicodeString Message;
+    std::map<int, UnicodeString> Others{};
+};
+
+template <class T, class TDefault> auto Strict(T (*AFunction)(const Variant&, TDefault), TDefault ADefault) {
+    return [=](const Variant& AValue, bool) { return Show(AFunction(AValue, ADefault)); };
+}
+template <class T, class TDefault>
+auto Tolerant(T (*AFunction)(const Variant&, TDefault, bool), TDefault ADefault) {
+    return [=](const Variant& AValue, bool ARaise) { return Show(AFunction(AValue, ADefault, ARaise)); };
+}
+
+std::set<int> With(std::set<int> AMore) {
+    AMore.insert({2, 3, 16, 17, 18, 19});
+    return AMore;
+}
+
+// What the two functions for Booleans make of the samples: of texts the first character counts.
+const std::map<int, UnicodeString> cTruths = {{0, u"True"},   {2, u"True"},  {3, u"True"},  {8, u"False"},
+                                              {11, u"True"},  {16, u"True"}, {17, u"True"}, {18, u"True"},
+                                              {19, u"True"},  {20, u"True"}, {21, u"True"}, {256, u"False"},
+                                              {258, u"False"}};
+
+void CheckSample(const TRow& ARow, const Variant& ASample, bool AIsStrict) {
+    const bool HasBools = ARow.Others.contains(0);
+    const int Code = VarType(ASample);
+    const bool IsUnknown = std::set<int>{0, 1, 10, 73}.contains(Code);
+    const UnicodeString Default = HasBools ? u"True" : u"99";
+    const auto Other = ARow.Others.find(Code);
+    const bool Raises = !IsUnknown && Other == ARow.Others.end() && !ARow.Takes.contains(Code);
+    const UnicodeString Expected = IsUnknown ? Default
+        : Other != ARow.Others.end()         ? Other->second
+        : Raises                             ? UnicodeString()
+                                             : IntToStr(Code % 100);
+    UnicodeString Actual;
+    const UnicodeString Raised = Message([&] { Actual = ARow.Call(ASample, true); });
+    EXPECT_EQ(Raises ? u"The given value is not a valid " + ARow.Message + u" value!" : u"", Raised)
+        << ARow.Name << " of type " << Code;
+    EXPECT_EQ(Expected, Actual) << ARow.Name << " of type " << Code;
+    if (!AIsStrict) {
+        EXPECT_EQ(Raises ? Default : Expected, ARow.Call(ASample, false)) << ARow.Name << " of type " << Code;
+    }
+}
+
+void CheckRow(const TRow& ARow, bool AIsStrict) {
+    for (const Variant& Sample : Samples())
+        CheckSample(ARow, Sample, AIsStrict);
+}
+
+TEST(VarStrict, TakesWhatFitsAndNothingElse) {
+    const TRow Rows[] = {
+        {"Shortint", Strict(QzVarShortint, 99), {16, 17}, u"shortint"},
+        {"Byte", Strict(QzVarByte, 99), {16, 17}, u"byte"},
+        {"Smallint", Strict(QzVarSmallint, 99), {2, 3, 16, 17, 18}, u"smallint"},
+        {"Word", Strict(QzVarWord, 99), {2, 16, 17, 18}, u"word"},
+        {"LongInt", Strict(QzVarLongInt, 99), With({}), u"longword"},
+        {"Int", Strict(QzVarInt, 99), With({}), u"longword"},
+        {"Longword", Strict(QzVarLongword, 99), With({}), u"longword"},
+        {"Int64", Strict(QzVarInt64, 99), With({20}), u"int64"},
+        {"Single", Strict(QzVarSingle, 99.0F), With({4}), u"single"},
+        {"Double", Strict(QzVarDouble, 99.0), With({4, 5, 14}), u"double"},
+        {"Extended", Strict(QzVarExtended, Extended(99)), With({4, 5, 6, 14}), u"extended"},
+        {"Date", Strict(QzVarDate, TDateTime(99)), With({4, 5, 7, 14}), u"datetime"},
+        {"Str", [](const Variant& V, bool) { return QzVarStr(V, u"99"); }, {8, 256, 258}, u"string"},
+        {"StrA",
+         [](const Variant& V, bool) { return QzVarStrA(V, AnsiString("99")).ToUnicode(); },
+         {8, 256, 258},
+         u"string"},
+        {"StrW", [](const Variant& V, bool) { return QzVarStrW(V, u"99"); }, {8, 256, 258}, u"string"},
+        {"Bool", Strict(QzVarBool, true), {}, u"boolean", cTruths},
+    };
+    for (const TRow& Row : Rows)
+        CheckRow(Row, true);
+}
+
+TEST(VarTolerant, ConvertsWhatCanBeConverted) {
+    const std::set<int> Integers = With({8, 20, 21, 256, 258});
+    const std::set<int> Floats = With({4, 5, 6, 8, 14, 20, 21, 256, 258});
+    std::set<int> Dates = Floats;
+    Dates.insert(7);
+    const std::map<int, UnicodeString> Truth = {{11, u"1"}};
+    const UnicodeString Day = DateTimeToStr(7);
+    const TRow Rows[] = {
+        {"Shortint", Tolerant(QzVarToShortint, 99), Integers, u"shortint", Truth},
+        {"Smallint", Tolerant(QzVarToSmallint, 99), Integers, u"smalling", Truth},
+        {"LongInt", Tolerant(QzVarToLongInt, 99), Integers, u"LongInt", Truth},
+        {"Int", Tolerant(QzVarToInt, 99), Integers, u"LongInt", Truth},
+        {"Int64", Tolerant(QzVarToInt64, 99), Integers, u"Int64", Truth},
+        {"Byte", Tolerant(QzVarToByte, 99), Integers, u"Byte", Truth},
+        {"Word", Tolerant(QzVarToWord, 99), Integers, u"Word", Truth},
+        {"Longword", Tolerant(QzVarToLongword, 99), Integers, u"LongWord", Truth},
+        {"Single", Tolerant(QzVarToSingle, 99.0F), Floats, u"Single"},
+        {"Double", Tolerant(QzVarToDouble, 99.0), Dates, u"Double"},
+        {"Extended", Tolerant(QzVarToExtended, Extended(99)), Dates, u"Extended"},
+        {"Str",
+         [](const Variant& V, bool R) { return QzVarToStr(V, u"99", R); },
+         Floats,
+         u"String",
+         {{7, Day}, {11, u"True"}, {8192 + 12, u"92\r\n"}}},
+        {"AStr",
+         [](const Variant& V, bool R) { return QzVarToAStr(V, AnsiString("99"), R).ToUnicode(); },
+         Floats,
+         u"AnsiString",
+         {{7, Day}, {11, u"True"}}},
+        {"WStr",
+         [](const Variant& V, bool R) { return QzVarToWStr(V, u"99", R); },
+         Floats,
+         u"WideString",
+         {{7, Day}, {11, u"True"}}},
+        {"Bool", Tolerant(QzVarToBool, true), {}, u"Boolean", cTruths},
+    };
+    for (const TRow& Row : Rows)
+        CheckRow(Row, false);
+    // A date is not written as a number.
+    for (const Variant& Sample : Samples()) {
+        const int Code = VarType(Sample);
+        if (Code != 8 && Code < 256)
+            CheckSample(
+                {"Date", Tolerant(QzVarToDate, TDateTime(99)), With({4, 5, 6, 7, 14, 20, 21}), u"Date"},
+                Sample, false);
+    }
+}
+
+TEST(VarStrict, CutsNumbersAndBoundsSmallintAboveAlone) {
+    EXPECT_EQ(25536, QzVarSmallint(-40000, 0));
+    EXPECT_EQ(-25536, QzVarSmallint(std::uint16_t{40000}, 0));
+    EXPECT_EQ(32767, QzVarSmallint(32767, 0));
+    EXPECT_THROW(QzVarSmallint(32768, 0), EConvertError);
+    EXPECT_EQ(-1, QzVarShortint(std::uint8_t{255}, 0));
+    EXPECT_EQ(255, QzVarByte(std::int8_t{-1}, 0));
+    EXPECT_EQ(4, QzVarByte({}, 260));
+    EXPECT_EQ(65535, QzVarWord(std::int16_t{-1}, 0));
+    EXPECT_EQ(4294967295U, QzVarLongword(4294967295U, 0));
+    EXPECT_EQ(4294967295, QzVarInt64(4294967295U, 0));
+    EXPECT_THROW(QzVarInt(4294967295U, 0), EVariantOverflowError);
+    EXPECT_TRUE(QzVarBool(256, false));
+    EXPECT_TRUE(QzVarBool(u"Yes", false));
+    EXPECT_TRUE(QzVarBool(AnsiString("1"), false));
+    EXPECT_FALSE(QzVarBool(u"", true));
+    EXPECT_EQ(u"", QzVarStr(u"", u"x"));
+}
+
+TEST(VarTolerant, CutsNumbersAndReadsTexts) {
+    EXPECT_EQ(-25, QzVarToShortint(std::int16_t{999}, 0, true));
+    EXPECT_EQ(-1, QzVarToSmallint(u"$FFFF", 0, true));
+    EXPECT_EQ(255, QzVarToByte(u"-1", 0, true));
+    EXPECT_EQ(5000000000, QzVarToInt64(u"5000000000", 0, true));
+    EXPECT_EQ(7U, QzVarToLongword(u"4294967295", 7, false));
+    EXPECT_FALSE(QzVarToBool(256, true, true));
+    EXPECT_TRUE(QzVarToBool(511, false, true));
+    EXPECT_EQ(7, QzVarToLongInt(u"abc", 7, false));
+    EXPECT_EQ(7, QzVarToInt(5000000000, 7, false));
+    EXPECT_THROW(QzVarToInt(5000000000, 7, true), EVariantOverflowError);
+    EXPECT_EQ(7, QzVarToByte(u"", 263, false));
+    EXPECT_TRUE(std::isinf(QzVarToSingle(1e300, 0, true)));
+    EXPECT_TRUE(QzVarToBool(4294967297, true, false)); // the default: it has no 32 bits
+    EXPECT_FALSE(QzVarToBool(4294967297, false, false));
+    EXPECT_EQ(1.5F, QzVarToSingle(u"1,5", 0, true));
+    EXPECT_EQ(1.5, QzVarToDouble(AnsiString("1,5"), 0, true));
+    EXPECT_EQ(7.0, QzVarToExtended(u"1,5", 7, false));
+    EXPECT_EQ(u"1.5", QzVarToStr(VarAsType(u"1.50", varDecimal), u"", true));
+    EXPECT_EQ(u"x", QzVarToStr(std::numeric_limits<std::uint64_t>::max(), u"x", false));
+    const std::pair<UnicodeString, UnicodeString> Errors[] = {
+        {u"'abc' is not a valid integer value", Message([] { QzVarToLongInt(u"abc", 7, true); })},
+        {u"'5000000000' is not a valid integer value",
+         Message([] { QzVarToLongword(u"5000000000", 7, true); })},
+        {u"'x' is not a valid integer value", Message([] { QzVarToInt64(u"x", 7, true); })},
+        {u"'1,2,3' is not a valid floating point value", Message([] { QzVarToDouble(u"1,2,3", 7, true); })},
+        {u"'tomorrow' is not a valid date and time", Message([] { QzVarToDate(u"tomorrow", 7, true); })},
+    };
+    for (const auto& [Expected, Actual] : Errors)
+        EXPECT_EQ(Expected, Actual);
+}
+
+TEST(VarTolerant, ReadsIsoDatesWhateverTheSettings) {
+    const TDateTime Day = EncodeDate(2016, 2, 29);
+    EXPECT_EQ(Day, QzVarToDate(u"2016-02-29", 0, true));
+    EXPECT_EQ(Day + 0.5, QzVarToDate(AnsiString("2016-02-29 12:00"), 0, true));
+    EXPECT_EQ(Day, QzVarToDate(DateTimeToStr(Day), 0, true));
+    EXPECT_EQ(5.0, QzVarToDate(u"2016-02-30", 5, false));
+    EXPECT_EQ(5.0, QzVarToDate(u"016-02-29", 5, false));
+    EXPECT_EQ(5.0, QzVarToDate(u"2016-02/29", 5, false));
+    const TFormatSettings Before = DefaultFormatSettings();
+    TFormatSettings Other = Before;
+    Other.DateSeparator = u'-';
+    Other.ShortDateFormat = u"dd-mm-yyyy";
+    SetDefaultFormatSettings(Other);
+    EXPECT_EQ(Day, QzVarToDate(u"2016-02-29", 0, true));
+    EXPECT_EQ(Day, QzVarToDate(u"29-02-2016", 0, true));
+    SetDefaultFormatSettings(Before);
+}
+
+TEST(VarTolerant, WritesArraysLineByLine) {
+    EXPECT_EQ(u"1\r\n2\r\n", QzVarToStr(VarArrayOf({1, 2}), u"", true));
+    EXPECT_EQ(
+        u"1\r\na\r\nb\r\n\r\n\r\n-\r\nTrue\r\n",
+        QzVarToStr(VarArrayOf({1, VarArrayOf({u"a", u"b"}), VarArrayOf({}), Variant(), true}), u"-", true));
+    Variant Odd = VarArrayCreate({-5, -4}, varInteger);
+    EXPECT_EQ(u"0\r\n0\r\n", QzVarToStr(Odd, u"", true));
+    const Variant Table = VarArrayCreate({0, 1, 0, 1}, varInteger);
+    EXPECT_EQ(u"-", QzVarToStr(Table, u"-", false));
+    EXPECT_EQ(u"The given array is not a to-string convertable value!",
+              Message([&] { QzVarToStr(Table, u"", true); }));
+    const Variant Mixed = VarArrayOf({1, Table, Variant(Ref<IInterface>()), 2});
+    EXPECT_EQ(u"1\r\n-\r\n-\r\n2\r\n", QzVarToStr(Mixed, u"-", false));
+    EXPECT_THROW(QzVarToStr(Mixed, u"-", true), EConvertError);
+    constexpr int cMost = std::numeric_limits<int>::max();
+    EXPECT_EQ(u"0\r\n0\r\n", QzVarToStr(VarArrayCreate({cMost - 1, cMost}, varInteger), u"", true));
+    Variant Deep = 1;
+    for (int I = 0; I < 50000; ++I)
+        Deep = VarArrayOf({Deep});
+    EXPECT_EQ(1 + 2 * 50000, QzVarToStr(Deep, u"", true).Length());
+}
+
+TEST(VarQueries, EmptyCountedAndNullable) {
+    const std::pair<Variant, bool> Cases[] = {{0, true},
+                                              {0.0, true},
+                                              {TDateTime(0), true},
+                                              {u"   ", true},
+                                              {AnsiString(" \t"), true},
+                                              {false, false},
+                                              {true, false},
+                                              {1, false},
+                                              {u" x", false},
+                                              {Variant(), true},
+                                              {Variant::Null(), true},
+                                              {Variant::Error(0), false},
+                                              {Currency(0), true},
+                                              {-0.0, true},
+                                              {std::nan(""), false},
+                                              {VarArrayOf({}), true},
+                                              {VarArrayOf({1}), false},
+                                              {VarArrayCreate({-3, -1}, varByte), true},
+                                              {Variant(static_cast<TObject*>(nullptr)), false}};
+    for (const auto& [Value, Expected] : Cases)
+        EXPECT_EQ(Expected, QzVarIsEmpty(Value)) << VarType(Value);
+    EXPECT_EQ(3, QzVarArrayCount(VarArrayOf({1, 2, 3})));
+    EXPECT_EQ(11, QzVarArrayCount(VarArrayCreate({9, 10}, varByte)));
+    EXPECT_EQ(0, QzVarArrayCount(VarArrayCreate({-3, -1}, varByte)));
+    EXPECT_EQ(0, QzVarArrayCount(u"x"));
+    EXPECT_EQ(0, QzVarArrayCount(Variant::Null()));
+    EXPECT_EQ(nbYes, QzNullableBool(true));
+    EXPECT_EQ(nbNo, QzNullableBool(false));
+    EXPECT_EQ(nbNull, QzNullableBool(1));
+}
+
+TEST(TextValues, BooleansAndFloats) {
+    for (const char16_t* Yes : {u"1", u"True", u"Y", u"tea", u"y?"})
+        EXPECT_TRUE(QzStrToBool(Yes));
+    for (const char16_t* No : {u"", u"no", u"0", u" 1", u"-1", u"J"})
+        EXPECT_FALSE(QzStrToBool(No));
+    EXPECT_EQ(u"shut", QzBoolToStr(false, u"open", u"shut"));
+    EXPECT_EQ(1.5, QzStrToFloat(u"1.5"));
+    EXPECT_EQ(1.5, QzStrToFloat(u"1,5"));
+    EXPECT_EQ(-2.0, QzStrToFloatDef(u"1.5.2", -2));
+    EXPECT_EQ(u"'1;5' is not a valid floating point value", Message([] { QzStrToFloat(u"1;5"); }));
+}
+
+// The other separator is that of the system, whatever the process has.
+TEST(TextValues, TheSecondTryGoesByTheSystem) {
+    const TFormatSettings Before = DefaultFormatSettings();
+    TFormatSettings Other = Before;
+    Other.DecimalSeparator = u';';
+    SetDefaultFormatSettings(Other);
+    const bool HasPoint = TFormatSettings::Create().DecimalSeparator == u'.';
+    EXPECT_EQ(HasPoint ? 1.5 : 7, QzStrToFloatDef(u"1,5", 7));
+    EXPECT_EQ(HasPoint ? 7 : 1.5, QzStrToFloatDef(u"1.5", 7));
+    EXPECT_EQ(1.5, QzStrToFloat(u"1;5"));
+    SetDefaultFormatSettings(Before);
+}
+
+TEST(RawStrings, ConvertByTheSystemsCodePage) {
+    const TSystemPage Page(1252);
+    char* const Narrow = QzStrNewA(WideString(u"\u20AC"));
+    EXPECT_STREQ("\x80", Narrow);
+    QzStrDispose(Narrow);
+    char16_t* const Wide = QzStrNewW(AnsiString("\x80"));
+    EXPECT_EQ(UnicodeString(u"\u20AC"), Wide);
+    QzStrDispose(Wide);
+    EXPECT_EQ("\x80", QzVarStrA(u"\u20AC", {}).View());
+}
+
+TEST(RawStrings, AreCopiesThatEndWithATerminator) {
+    EXPECT_EQ(nullptr, QzStrNew(WideString()));
+    EXPECT_EQ(nullptr, QzStrNewW(AnsiString()));
+    QzStrDispose(static_cast<char*>(nullptr));
+    QzStrDispose(static_cast<char16_t*>(nullptr));
+    char16_t* const Wide = QzStrNew(WideString(std::u16string_view(u"a\0b", 3)));
+    EXPECT_EQ(std::u16string_view(u"a\0b", 4), std::u16string_view(Wide, 4));
+    QzStrDispose(Wide);
+    char* const Empty = QzStrNew(AnsiString());
+    EXPECT_STREQ("", Empty);
+    QzStrDispose(Empty);
+    char* const Narrow = QzStrNewA(AnsiString(std::string_view("a\0b", 3)));
+    EXPECT_STREQ("a", Narrow);
+    QzStrDispose(Narrow);
+    char* const Converted = QzStrNewA(WideString(u"abc"));
+    EXPECT_STREQ("abc", Converted);
+    QzStrDispose(Converted);
+}
+
+TEST(Designing, IsByTheNameOfTheProgram) {
+    EXPECT_FALSE(IsDesigning());
+    QzSetDesignHost(u"TESTS_common");
+    EXPECT_TRUE(IsDesigning());
+    QzSetDesignHost(u"");
+    EXPECT_FALSE(IsDesigning());
+}
+
+} // namespace
+} // namespace qz

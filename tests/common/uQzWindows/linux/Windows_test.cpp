@@ -1,0 +1,54 @@
+#include <qz/common/uQzWindows.h>
+
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/TemporaryDirectory.h"
+#include "tests/support/ZoneOfTheEnvironment.h"
+#include <qz/platform/FileTimes.h>
+
+namespace qz {
+namespace {
+
+TEST(FileTimesLinux, CreationIsLocalTimeOfItsMoment) {
+    const platform::TTemporaryDirectory Directory;
+    const std::u16string Path = Directory / u"file";
+    platform::TError Error;
+    ASSERT_TRUE(platform::WriteWholeFile(Path, std::span<const std::byte>(), Error));
+    const TZoneOfTheEnvironment Zone(u"CET-1CEST,M3.5.0,M10.5.0/3");
+    const auto At = [](int AMonth, int ADay, int AHour, int AMinute, int ASecond, int AMSec = 0) {
+        return EncodeDateTime(2024, AMonth, ADay, AHour, AMinute, ASecond, AMSec);
+    };
+    const std::pair<TDateTime, TDateTime> Cases[] = {{At(1, 15, 23, 30, 1, 999), At(1, 16, 0, 30, 0)},
+                                                     {At(7, 15, 22, 30, 2), At(7, 16, 0, 30, 2)},
+                                                     {At(3, 31, 0, 59, 59, 999), At(3, 31, 1, 59, 58)},
+                                                     {At(3, 31, 1, 0, 0), At(3, 31, 3, 0, 0)},
+                                                     {At(10, 27, 0, 59, 59), At(10, 27, 2, 59, 58)},
+                                                     {At(10, 27, 1, 0, 0), At(10, 27, 2, 0, 0)},
+                                                     {EncodeDate(1979, 6, 1), 0},
+                                                     {EncodeDate(2108, 1, 1), 0}};
+    for (const auto& [Utc, Local] : Cases) {
+        QzSetFileCreated(Path, Utc);
+        EXPECT_EQ(Local, QzGetFileCreated(Path));
+    }
+}
+
+TEST(AccountsLinux, NamesFollowTheProcess) {
+    if (geteuid() != 0) { // who cannot act as others
+        EXPECT_EQ(elLimited, QzGetElevationLevel());
+        return;
+    }
+    const UnicodeString Own = QzGetUserName();
+    ASSERT_EQ(elFull, QzGetElevationLevel());
+    ASSERT_EQ(0, seteuid(3'999'999));
+    const UnicodeString Other = QzGetUserName();
+    const TQzElevationLevel Level = QzGetElevationLevel();
+    ASSERT_EQ(0, seteuid(0));
+    EXPECT_EQ(u"3999999", Other);
+    EXPECT_EQ(elLimited, Level);
+    EXPECT_EQ(Own, QzGetUserName());
+}
+
+} // namespace
+} // namespace qz

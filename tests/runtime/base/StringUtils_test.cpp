@@ -1,0 +1,141 @@
+#include <qz/runtime/base/StringUtils.h>
+
+#include <gtest/gtest.h>
+
+namespace qz {
+namespace {
+
+TEST(StringUtils, CaseOfAsciiAndOfAllLetters) {
+    EXPECT_EQ(UpperCase(u"@az[`{\u00E4"), u"@AZ[`{\u00E4");
+    EXPECT_EQ(LowerCase(u"@AZ[\u00C4"), u"@az[\u00C4");
+    EXPECT_EQ(AnsiUpperCase(u"\u00E4z"), u"\u00C4Z");
+    EXPECT_EQ(AnsiLowerCase(u"\u00C4Z"), u"\u00E4z");
+}
+
+TEST(StringUtils, Comparison) {
+    EXPECT_TRUE(SameText(u"aZ[", u"Az["));
+    EXPECT_FALSE(SameText(u"[", u"{")); // 32 apart as letters are
+    EXPECT_FALSE(SameText(u"\u00E4", u"\u00C4"));
+    EXPECT_TRUE(AnsiSameText(u"\u00E4", u"\u00C4"));
+    EXPECT_LT(CompareText(u"ABC", u"abd"), 0);
+    EXPECT_GT(CompareText(u"b", u"ABC"), 0);
+    EXPECT_LT(CompareText(u"ab", u"ABC"), 0);
+    EXPECT_LT(CompareStr(u"B", u"a"), 0);
+    EXPECT_GT(AnsiCompareStr(u"B", u"a"), 0);
+    EXPECT_EQ(AnsiCompareText(u"b", u"B"), 0);
+}
+
+TEST(StringUtils, Trimming) {
+    const UnicodeString Text = u" \t\x1F a b \r\n";
+    EXPECT_EQ(Trim(Text), u"a b");
+    EXPECT_EQ(TrimLeft(Text), u"a b \r\n");
+    EXPECT_EQ(TrimRight(Text), u" \t\x1F a b");
+    EXPECT_EQ(Trim(u"  "), u"");
+    EXPECT_EQ(Trim(u"\u00A0"), u"\u00A0");
+    EXPECT_EQ(Trim(" \xC3\xA4"), u"\u00E4");
+}
+
+TEST(StringUtils, PositionsCountFromOne) {
+    struct {
+        std::u16string_view Piece;
+        std::u16string_view Text;
+        int Offset;
+        int Expected;
+    } const Cases[] = {
+        {u"=", u"a=b", 1, 2}, {u"a", u"a=b", 1, 1},  {u"b", u"a=b", 3, 3},  {u"a", u"a=b", 2, 0},
+        {u"", u"abc", 1, 0},  {u"a", u"", 1, 0},     {u"a", u"a", 0, 0},    {u"a", u"a", -1, 0},
+        {u"a", u"a", 2, 0},   {u"abc", u"ab", 1, 0}, {u"aa", u"aaa", 2, 2},
+    };
+    for (const auto& Case : Cases)
+        EXPECT_EQ(Pos(Case.Piece, Case.Text, Case.Offset), Case.Expected)
+            << ToUtf8(Case.Piece) << Case.Offset;
+}
+
+TEST(StringUtils, PiecesAreCutToTheText) {
+    struct {
+        int Index;
+        int Count;
+        const char16_t* Copied;
+        const char16_t* Left;
+    } const Cases[] = {
+        {1, 2, u"ab", u"cd"}, {2, 99, u"bcd", u"a"},  {4, 1, u"d", u"abc"},
+        {5, 1, u"", u"abcd"}, {0, 2, u"ab", u"abcd"}, {-5, 1, u"a", u"abcd"},
+        {2, 0, u"", u"abcd"}, {2, -1, u"", u"abcd"},  {2, 0x7FFFFFFF, u"bcd", u"a"},
+    };
+    for (const auto& Case : Cases) {
+        EXPECT_EQ(Copy(u"abcd", Case.Index, Case.Count), Case.Copied) << Case.Index << ' ' << Case.Count;
+        UnicodeString Text = u"abcd";
+        Delete(Text, Case.Index, Case.Count);
+        EXPECT_EQ(Text, Case.Left) << Case.Index << ' ' << Case.Count;
+    }
+}
+
+TEST(StringUtils, InsertsAtTheNearerEnd) {
+    const std::pair<int, const char16_t*> Cases[] = {{1, u"xyab"},  {2, u"axyb"}, {3, u"abxy"},
+                                                     {99, u"abxy"}, {0, u"xyab"}, {-3, u"xyab"}};
+    for (const auto& [Index, Expected] : Cases) {
+        UnicodeString Text = u"ab";
+        Insert(u"xy", Text, Index);
+        EXPECT_EQ(Text, Expected);
+    }
+    UnicodeString Text = u"ab";
+    Insert(Text, Text, 2);
+    EXPECT_EQ(Text, u"aabb");
+}
+
+TEST(StringUtils, Replacing) {
+    const TReplaceFlags All = {rfReplaceAll};
+    const TReplaceFlags AnyCase = {rfReplaceAll, rfIgnoreCase};
+    EXPECT_EQ(StringReplace(u"aXbXc", u"X", u"--"), u"a--bXc");
+    EXPECT_EQ(StringReplace(u"aXbXc", u"X", u"", All), u"abc");
+    EXPECT_EQ(StringReplace(u"aaa", u"aa", u"aaaa", All), u"aaaaa");
+    EXPECT_EQ(StringReplace(u"abc", u"", u"x", All), u"abc");
+    EXPECT_EQ(StringReplace(u"\u00C4B\u00E4b", u"\u00E4b", u"x", AnyCase), u"xx");
+    EXPECT_EQ(StringReplace(u"StraSSe stra\u00DFe", u"\u00DF", u"x", AnyCase), u"StraSSe straxe");
+    const UnicodeString Text = u"nothing to do";
+    EXPECT_EQ(StringReplace(Text, u"x", u"y", All), Text);
+}
+
+TEST(StringUtils, Quoting) {
+    EXPECT_EQ(QuotedStr(u"it's"), u"'it''s'");
+    EXPECT_EQ(QuotedStr(u""), u"''");
+    EXPECT_EQ(AnsiQuotedStr(u"\"", u'"'), u"\"\"\"\"");
+    EXPECT_EQ(AnsiDequotedStr(u"'it''s'", u'\''), u"it's");
+    EXPECT_EQ(AnsiDequotedStr(u"'open", u'\''), u"'open");
+    EXPECT_EQ(AnsiDequotedStr(u"'", u'\''), u"'");
+    EXPECT_EQ(AnsiDequotedStr(u"''", u'\''), u"");
+    struct {
+        std::u16string_view Text;
+        const char16_t* Result;
+        std::u16string_view Rest;
+    } const Cases[] = {
+        {u"'a''b' c", u"a'b", u" c"}, {u"'open", u"open", u""}, {u"plain", u"", u"plain"},
+        {u"''x", u"", u"x"},          {u"", u"", u""},          {u"'a''", u"a'", u""},
+    };
+    for (auto [Text, Result, Rest] : Cases) {
+        EXPECT_EQ(AnsiExtractQuotedStr(Text, u'\''), Result);
+        EXPECT_EQ(Text, Rest);
+    }
+}
+
+TEST(StringUtils, EndsAndContents) {
+    EXPECT_TRUE(StartsText(u"AB", u"abc") && !StartsStr(u"AB", u"abc") && !StartsText(u"abcd", u"abc"));
+    EXPECT_TRUE(EndsText(u"BC", u"abc") && !EndsStr(u"BC", u"abc") && !EndsText(u"xabc", u"abc"));
+    EXPECT_TRUE(ContainsText(u"abc", u"B") && !ContainsText(u"abc", u"x") && !ContainsText(u"abc", u""));
+    EXPECT_EQ(StringOfChar(u'x', 3), u"xxx");
+    EXPECT_EQ(StringOfChar(u'x', -1), u"");
+    EXPECT_EQ(ReverseString(u"abc"), u"cba");
+}
+
+TEST(StringUtils, Identifiers) {
+    for (const std::u16string_view Good : {u"a", u"_1", u"Abc9_"})
+        EXPECT_TRUE(IsValidIdent(Good)) << ToUtf8(Good);
+    for (const std::u16string_view Bad : {u"", u"1a", u"a b", u"\u00E4", u"a.b"})
+        EXPECT_FALSE(IsValidIdent(Bad)) << ToUtf8(Bad);
+    EXPECT_TRUE(IsValidIdent(u"a.b1", true));
+    for (const std::u16string_view Bad : {u".a", u"a.", u"a..b", u"a.1"})
+        EXPECT_FALSE(IsValidIdent(Bad, true)) << ToUtf8(Bad);
+}
+
+} // namespace
+} // namespace qz

@@ -1,0 +1,107 @@
+#include <qz/runtime/base/Utf.h>
+
+#include <gtest/gtest.h>
+
+using namespace std::string_literals;
+
+namespace qz {
+namespace {
+
+struct TUtf8Case {
+    const char* Name;
+    std::string Narrow;
+    std::u16string Wide;
+};
+
+// The ill-formed ones with the replacement of maximal subparts, as chapter 3.9 of the Unicode Standard shows it.
+const TUtf8Case cIllFormed[] = {
+    {"stray continuation", "a\x80z", u"a\uFFFDz"},
+    {"lead without rest", "\xC3", u"\uFFFD"},
+    {"lead before ascii", "\xE2\x82z", u"\uFFFDz"},
+    {"lead before lead", "\xC3\xC3\xA4", u"\uFFFD\u00E4"},
+    {"overlong of two", "\xC0\xAF", u"\uFFFD\uFFFD"},
+    {"overlong of three", "\xE0\x80\xAF", u"\uFFFD\uFFFD\uFFFD"},
+    {"overlong of four", "\xF0\x8F\xBF\xBF", u"\uFFFD\uFFFD\uFFFD\uFFFD"},
+    {"surrogate", "\xED\xA0\x80", u"\uFFFD\uFFFD\uFFFD"},
+    {"above the last", "\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},
+    {"no lead at all", "\xF5\xFE\xFF", u"\uFFFD\uFFFD\uFFFD"},
+    {"cut off after three", "\xF0\x9F\x98", u"\uFFFD"},
+    {"table 3-8", "\xF0\x80\x80\x41\xE1\x80\xE2\xF0\x91\x92\xF1\xBF\x41",
+     u"\uFFFD\uFFFD\uFFFD\u0041\uFFFD\uFFFD\uFFFD\uFFFD\u0041"},
+};
+
+const TUtf8Case cWellFormed[] = {
+    {"empty", "", u""},
+    {"zero", "a\0b"s, u"a\0b"s},
+    {"edges of one and two bytes", "\x7F\xC2\x80\xDF\xBF", u"\x7F\u0080\u07FF"},
+    {"edges of three bytes", "\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF", u"\u0800\uD7FF\uE000\uFFFF"},
+    {"edges of four bytes", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", u"\U00010000\U0010FFFF"},
+    {"a step of eight, then more", "12345678\xC3\xA4 12345678 9", u"12345678\u00E4 12345678 9"},
+    {"not ascii at the eighth", "1234567\xE2\x82\xAC", u"1234567\u20AC"},
+};
+
+TEST(Utf, ReadsUtf8) {
+    for (const auto& Cases : {std::vector(std::begin(cIllFormed), std::end(cIllFormed)),
+                              std::vector(std::begin(cWellFormed), std::end(cWellFormed))}) {
+        for (const TUtf8Case& Case : Cases) {
+            SCOPED_TRACE(Case.Name);
+            EXPECT_EQ(Utf8ToUtf16(Case.Narrow), Case.Wide);
+            EXPECT_EQ(Utf8ToUtf16Length(Case.Narrow), Case.Wide.size());
+        }
+    }
+}
+
+TEST(Utf, WritesUtf8) {
+    for (const TUtf8Case& Case : cWellFormed) {
+        SCOPED_TRACE(Case.Name);
+        EXPECT_EQ(Utf16ToUtf8(Case.Wide), Case.Narrow);
+        EXPECT_EQ(Utf16ToUtf8Length(Case.Wide), Case.Narrow.size());
+    }
+}
+
+TEST(Utf, ReplacesLoneSurrogates) {
+    const std::string Bad = "\xEF\xBF\xBD";
+    const char16_t High = 0xD83D;
+    const char16_t Low = 0xDE00;
+    const std::pair<std::u16string, std::string> Cases[] = {
+        {{High}, Bad},
+        {{Low}, Bad},
+        {{Low, High}, Bad + Bad},
+        {{High, u'a'}, Bad + "a"},
+        {{High, High, Low}, Bad + "\xF0\x9F\x98\x80"},
+    };
+    for (const auto& [Wide, Narrow] : Cases)
+        EXPECT_EQ(Utf16ToUtf8(Wide), Narrow);
+}
+
+TEST(Utf, EveryCodePointSurvivesTheRoundTrip) {
+    for (char32_t Code = 0; Code < 0x110000; ++Code) {
+        if (Code >= 0xD800 && Code < 0xE000)
+            continue;
+        char16_t Wide[2] = {static_cast<char16_t>(Code), 0};
+        const std::size_t Units = Code < 0x10000 ? 1 : 2;
+        if (Units == 2) {
+            Wide[0] = static_cast<char16_t>(0xD800 + ((Code - 0x10000) >> 10));
+            Wide[1] = static_cast<char16_t>(0xDC00 + ((Code - 0x10000) & 0x3FF));
+        }
+        const std::string Narrow = Utf16ToUtf8(std::u16string_view(Wide, Units));
+        std::size_t Pos = 0;
+        ASSERT_EQ(NextCodePoint(std::string_view(Narrow), Pos), Code);
+        ASSERT_EQ(Pos, Narrow.size());
+        ASSERT_EQ(Utf8ToUtf16(Narrow), std::u16string_view(Wide, Units));
+    }
+}
+
+TEST(Utf, KnowsAscii) {
+    std::string Text(20, 'x');
+    EXPECT_TRUE(IsAscii(Text));
+    EXPECT_TRUE(IsAscii(""));
+    for (std::size_t I = 0; I < Text.size(); ++I) {
+        std::string Other = Text;
+        Other[I] = '\x80';
+        EXPECT_FALSE(IsAscii(Other)) << I;
+    }
+}
+
+} // namespace
+} // namespace qz

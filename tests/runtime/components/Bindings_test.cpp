@@ -1,0 +1,343 @@
+#include <gtest/gtest.h>
+
+#include <qz/runtime/components/Bindings.h>
+#include <qz/runtime/components/DescribeComponent.h>
+#include <qz/runtime/components/LinkControlToProperty.h>
+#include <qz/runtime/values/BasicTypes.h>
+#include <qz/runtime/values/Currency.h>
+
+namespace qz {
+namespace {
+
+enum class TColor : std::uint8_t { clRed, clGreen };
+
+struct TLarge {
+    std::array<std::int64_t, 6> Items{};
+    UnicodeString Text;
+    TLarge() = default;
+};
+
+} // namespace
+} // namespace qz
+
+QZ_TYPE_INFO(qz::TColor);
+QZ_TYPE_INFO(qz::TLarge);
+
+namespace qz {
+namespace {
+
+constexpr TEnumItem cColors[] = {{u"clRed", 0}, {u"clGreen", 1}};
+
+// A model and a control in one: each setter tells the bindings and the observers of its value.
+class TModel : public TComponent {
+    QZ_CLASS(TModel, TComponent)
+
+public:
+    int Number() const { return FNumber; }
+    void SetNumber(int AValue) { Change(FNumber, AValue, u"Number"); }
+    const UnicodeString& Text() const { return FText; }
+    void SetText(const UnicodeString& AValue) {
+        Change(FText, AValue, u"Text");
+        Observers().ControlValueUpdate();
+    }
+    double Float() const { return FFloat; }
+    void SetFloat(double AValue) { Change(FFloat, AValue, u"Float"); }
+    TModel* Child() const { return FChild; }
+    void SetChild(TModel* AValue) { Change(FChild, AValue, u"Child"); }
+    void Type(const UnicodeString& AText) {
+        FText = AText;
+        Observers().ControlValueModified();
+    }
+    UnicodeString GetControlValueMember() const override { return u"Text"; }
+
+    float FSingle = 0;
+    TColor FColor = TColor::clRed;
+    bool FFlag = false;
+    std::uint8_t FByte = 0;
+    std::uint64_t FBig = 0;
+    char16_t FChar = u' ';
+    UTF8String FUtf8;
+    WideString FWide;
+    TLarge FLarge;
+    Currency FMoney;
+    int FWrites = 0;
+
+protected:
+    explicit TModel(TComponent* AOwner) : TComponent(AOwner) {}
+    bool CanObserve(int AId) const override { return AId == TObservers::cControlValueId; }
+
+private:
+    template <class T> void Change(T& AField, const T& AValue, std::u16string_view AName) {
+        AField = AValue;
+        ++FWrites;
+        TBindings::Notify(this, AName);
+    }
+
+    int FNumber = 0;
+    UnicodeString FText;
+    double FFloat = 0;
+    TModel* FChild = nullptr;
+};
+
+constexpr TPropInfo cModelProps[] = {
+    Property<&TModel::Number, &TModel::SetNumber>(u"Number"),
+    Property<&TModel::Text, &TModel::SetText>(u"Text"),
+    Property<&TModel::Float, &TModel::SetFloat>(u"Float"),
+    Property<&TModel::Child, &TModel::SetChild>(u"Child"),
+    Property<&TModel::FSingle, &TModel::FSingle>(u"Single"),
+    Property<&TModel::FColor, &TModel::FColor>(u"Color"),
+    Property<&TModel::FFlag, &TModel::FFlag>(u"Flag"),
+    Property<&TModel::FByte, &TModel::FByte>(u"Byte"),
+    Property<&TModel::FBig, &TModel::FBig>(u"Big"),
+    Property<&TModel::FChar, &TModel::FChar>(u"Char"),
+    Property<&TModel::FUtf8, &TModel::FUtf8>(u"Utf8"),
+    Property<&TModel::FWide, &TModel::FWide>(u"Wide"),
+    Property<&TModel::FLarge, &TModel::FLarge>(u"Large"),
+    Property<&TModel::FMoney, &TModel::FMoney>(u"Money"),
+    ReadOnly<&TModel::FWrites>(u"Writes"),
+};
+constinit const TClassRec TModel::ClassRec =
+    DescribeComponent<TModel>(u"TModel", {.Unit = u"Test", .Properties = cModelProps});
+
+using TOptions = TBindings::TCreateOptions;
+
+TBindingExpression* Bind(TObject* ASource, const UnicodeString& AInput, TObject* ADest,
+                         const UnicodeString& AOutput, TOptions AOptions = {}) {
+    return TBindings::CreateManagedBinding(
+        {TBindings::CreateAssociationScope({Associate(ASource, u"src")})}, AInput,
+        {TBindings::CreateAssociationScope({Associate(ADest, u"dst")})}, AOutput, AOptions);
+}
+
+class Bindings : public testing::Test {
+protected:
+    TOwned<TModel> FA{TModel::Create(nullptr)};
+    TOwned<TModel> FB{TModel::Create(nullptr)};
+};
+
+TEST_F(Bindings, BothDirectionsComeToRest) {
+    TBindingExpression* There = Bind(FA.get(), u"src.Number", FB.get(), u"dst.Text", {TBindings::coEvaluate});
+    TBindingExpression* Back = Bind(FB.get(), u"SRC.text", FA.get(), u"dst.Number");
+    EXPECT_EQ(FB->Text(), "0");
+    FA->SetNumber(12);
+    EXPECT_EQ(FB->Text(), "12");
+    FB->SetText(u"$1F");
+    EXPECT_EQ(FA->Number(), 31);
+    EXPECT_EQ(FB->Text(), "31"); // comes back once, in the form of the number
+    EXPECT_THROW(FB->SetText(u"x"), EConvertError);
+    TBindings::RemoveBinding(There);
+    TBindings::RemoveBinding(Back);
+    TBindings::RemoveBinding(Back);
+    FA->SetNumber(7);
+    EXPECT_EQ(FB->Text(), "x");
+}
+
+TEST_F(Bindings, LossyCycleEnds) {
+    TBindingExpression* There = Bind(FA.get(), u"src.Float", FB.get(), u"dst.Number");
+    TBindingExpression* Back = Bind(FB.get(), u"src.Number", FA.get(), u"dst.Float");
+    FA->SetFloat(2.5);
+    EXPECT_EQ(FB->Number(), 2);
+    EXPECT_EQ(FA->Float(), 2);
+    const int Writes = FB->FWrites;
+    TBindings::Notify(FA.get(), u"Float");
+    EXPECT_EQ(FB->FWrites, Writes); // the value is there already
+    TBindings::RemoveBinding(There);
+    TBindings::RemoveBinding(Back);
+}
+
+TEST_F(Bindings, PathFollowsTheObjectOnTheWay) {
+    TModel* First = TModel::Create(FA.get());
+    TModel* Second = TModel::Create(FA.get());
+    TBindingExpression* Binding =
+        Bind(FA.get(), u"src.Child.Number", FB.get(), u"dst.Number", {TBindings::coEvaluate});
+    First->SetNumber(1);
+    FA->SetChild(First);
+    EXPECT_EQ(FB->Number(), 1);
+    First->SetNumber(2);
+    EXPECT_EQ(FB->Number(), 2);
+    Second->SetNumber(3);
+    EXPECT_EQ(FB->Number(), 2);
+    FA->SetChild(Second);
+    EXPECT_EQ(FB->Number(), 3);
+    First->SetNumber(4);
+    EXPECT_EQ(FB->Number(), 3);
+    FA->SetChild(nullptr);
+    Second->SetNumber(5);
+    EXPECT_EQ(FB->Number(), 3);
+    TBindings::RemoveBinding(Binding);
+}
+
+TEST_F(Bindings, NotifyOutputCarriesOn) {
+    TOwned<TModel> C(TModel::Create(nullptr));
+    TBindingExpression* First =
+        Bind(FA.get(), u"src.Number", FB.get(), u"dst.Byte", {TBindings::coNotifyOutput});
+    TBindingExpression* Second = Bind(FB.get(), u"src.Byte", C.get(), u"dst.Number");
+    FA->SetNumber(200);
+    EXPECT_EQ(C->Number(), 200);
+    EXPECT_THROW(FA->SetNumber(256), ERangeError);
+    TBindings::RemoveBinding(First);
+    TBindings::RemoveBinding(Second);
+}
+
+TEST_F(Bindings, BadExpressionsAreNamed) {
+    const struct {
+        const char16_t* Input;
+        const char16_t* Output;
+        const char16_t* Part;
+    } Cases[] = {
+        {u"src.Missing", u"dst.Number", u"'Missing'"},
+        {u"other.Number", u"dst.Number", u"'other'"},
+        {u"src.Number.Deep", u"dst.Number", u"'Number'"},
+        {u"src.Number", u"dst.Writes", u"'Writes'"},
+        {u"src..Number", u"dst.Number", u"src..Number"},
+        {u"src.Number", u"dst", u"'dst'"},
+        {u"", u"dst.Number", u"''"},
+        {u"src.Number + 1", u"dst.Number", u"'Number + 1'"},
+    };
+    for (const auto& Case : Cases) {
+        try {
+            Bind(FA.get(), Case.Input, FB.get(), Case.Output);
+            ADD_FAILURE() << UnicodeString(Case.Input) << " to " << UnicodeString(Case.Output);
+        } catch (const EEvaluatorError& E) {
+            EXPECT_NE(E.Message().View().find(Case.Part), std::u16string_view::npos) << E.Message();
+        }
+    }
+    FA->SetNumber(1); // nothing was left behind
+    EXPECT_EQ(FB->FWrites, 0);
+}
+
+TEST_F(Bindings, EndOfABoundComponentEndsTheBinding) {
+    TBindingExpression* There = Bind(FA.get(), u"src.Number", FB.get(), u"dst.Number");
+    TBindingExpression* Back = Bind(FB.get(), u"src.Number", FA.get(), u"dst.Number");
+    FB.reset();
+    FA->SetNumber(3);
+    EXPECT_FALSE(There->IsActive());
+    EXPECT_FALSE(Back->IsActive());
+    Back->Evaluate();
+    TBindings::RemoveBinding(There);
+    TBindings::RemoveBinding(Back);
+}
+
+TEST_F(Bindings, ValuesConvertOrAreRefused) {
+    FB->FBig = 0xFFFFFFFFFFFFFFFF;
+    FA->FSingle = 1.5F;
+    FA->SetText(u"clgreen");
+    const auto Move = [](TModel* From, const char16_t* Input, TModel* To, const char16_t* Output) {
+        TBindings::RemoveBinding(Bind(From, UnicodeString(u"src.") + Input, To,
+                                      UnicodeString(u"dst.") + Output, {TBindings::coEvaluate}));
+    };
+    Move(FA.get(), u"Text", FB.get(), u"Color");
+    EXPECT_EQ(FB->FColor, TColor::clGreen);
+    Move(FB.get(), u"Color", FB.get(), u"Utf8");
+    EXPECT_EQ(FB->FUtf8.View(), "clGreen");
+    Move(FB.get(), u"Utf8", FB.get(), u"Wide");
+    EXPECT_EQ(FB->FWide, u"clGreen");
+    Move(FB.get(), u"Color", FB.get(), u"Number");
+    EXPECT_EQ(FB->Number(), 1);
+    Move(FB.get(), u"Color", FB.get(), u"Flag");
+    EXPECT_TRUE(FB->FFlag);
+    Move(FB.get(), u"Flag", FA.get(), u"Text");
+    EXPECT_EQ(FA->Text(), "True");
+    Move(FB.get(), u"Big", FA.get(), u"Text");
+    EXPECT_EQ(FA->Text(), "18446744073709551615");
+    Move(FB.get(), u"Big", FA.get(), u"Float");
+    EXPECT_EQ(FA->Float(), 18446744073709551616.0);
+    FA->FBig = (1ull << 63) + 1025; // rounded once
+    Move(FA.get(), u"Big", FA.get(), u"Float");
+    EXPECT_EQ(FA->Float(), static_cast<double>(FA->FBig));
+    Move(FA.get(), u"Text", FA.get(), u"Big");
+    EXPECT_EQ(FA->FBig, FB->FBig);
+    Move(FA.get(), u"Single", FB.get(), u"Float");
+    EXPECT_EQ(FB->Float(), 1.5);
+    Move(FB.get(), u"Float", FB.get(), u"Text");
+    EXPECT_EQ(FB->Text(), "1.5");
+    FB->SetFloat(0.4);
+    Move(FB.get(), u"Float", FA.get(), u"Flag");
+    EXPECT_TRUE(FA->FFlag);
+    FB->FMoney = Currency::FromUnits(9000000000000000001);
+    FA->FMoney = Currency::FromUnits(9000000000000000002);
+    Move(FB.get(), u"Money", FA.get(), u"Money"); // the same as a double
+    EXPECT_EQ(FA->FMoney, FB->FMoney);
+    Move(FA.get(), u"Money", FB.get(), u"Text");
+    EXPECT_EQ(FB->Text(), "900000000000000.0001");
+    FA->FMoney = Currency();
+    Move(FB.get(), u"Text", FA.get(), u"Money");
+    EXPECT_EQ(FA->FMoney, FB->FMoney);
+    FA->FLarge.Items[5] = 9;
+    FA->FLarge.Text = u"large";
+    Move(FA.get(), u"Large", FB.get(), u"Large");
+    EXPECT_EQ(FB->FLarge.Items[5], 9);
+    EXPECT_EQ(FB->FLarge.Text, "large");
+    Move(FA.get(), u"Large", FB.get(), u"Large");
+    const struct {
+        const char16_t* Input;
+        const char16_t* Output;
+        TClass Error;
+    } Refused[] = {
+        {u"Text", u"Color", EConvertError::ClassRec.Info.Class}, // 18446744073709551615
+        {u"Text", u"Char", ClassOf<EConvertError>()},
+        {u"Float", u"Number", ClassOf<ERangeError>()}, // too large
+        {u"Big", u"Color", ClassOf<ERangeError>()},
+        {u"Large", u"Text", ClassOf<EConvertError>()},
+        {u"Number", u"Child", ClassOf<EConvertError>()},
+    };
+    for (const auto& Case : Refused) {
+        try {
+            Move(FA.get(), Case.Input, FB.get(), Case.Output);
+            ADD_FAILURE() << UnicodeString(Case.Input) << " to " << UnicodeString(Case.Output);
+        } catch (const Exception& E) {
+            EXPECT_EQ(E.ClassType(), Case.Error) << E.Message();
+        }
+    }
+}
+
+TEST_F(Bindings, LinkCarriesTheControlToTheProperty) {
+    TModel* Control = FB.get();
+    TLinkControlToProperty* Link = TLinkControlToProperty::Create(FA.get());
+    FA->SetNumber(5);
+    Link->SetActive(true);
+    Link->SetControl(Control);
+    Link->SetComponent(FA.get());
+    Link->SetComponentProperty(u"Number");
+    EXPECT_EQ(Link->ControlValueMember(), "Text");
+    EXPECT_EQ(Control->Text(), "5");
+    TBindingExpression* Back = Bind(FA.get(), u"src.Number", Control, u"dst.Text");
+    Control->SetText(u"6");
+    EXPECT_EQ(FA->Number(), 6);
+    FA->SetNumber(7);
+    EXPECT_EQ(Control->Text(), "7");
+    Control->Type(u"8");
+    EXPECT_EQ(FA->Number(), 7); // not accepted yet
+    Link->SetTrack(true);
+    Control->Type(u"$9");
+    EXPECT_EQ(FA->Number(), 9);
+    Link->SetActive(false);
+    EXPECT_FALSE(Control->Observers().IsObserving(TObservers::cControlValueId));
+    Control->SetText(u"10");
+    EXPECT_EQ(FA->Number(), 9);
+    TBindings::RemoveBinding(Back);
+}
+
+TEST_F(Bindings, LinkOutlivesItsEndsAndChecksThem) {
+    const TOwned<TLinkControlToProperty> Link(TLinkControlToProperty::Create(nullptr));
+    const TOwned<TComponent> Plain(TLinkControlToProperty::Create(nullptr));
+    EXPECT_THROW(Link->SetControl(Plain.get()), EComponentError);
+    Link->SetControl(FB.get());
+    Link->SetComponent(FA.get());
+    Link->SetComponentProperty(u"Missing");
+    EXPECT_THROW(Link->SetActive(true), EEvaluatorError);
+    EXPECT_FALSE(Link->Active());
+    Link->SetComponentProperty(u"Number");
+    Link->SetActive(true);
+    FA.reset();
+    EXPECT_EQ(Link->Component(), nullptr);
+    FB->SetText(u"1");
+    FB.reset();
+    EXPECT_EQ(Link->Control(), nullptr);
+}
+
+} // namespace
+
+constinit const TTypeInfo TTypeDescription<TColor>::Info = DescribeEnum<TColor>(u"TColor", u"Test", cColors);
+constinit const TTypeInfo TTypeDescription<TLarge>::Info = DescribeRecord<TLarge>(u"TLarge", u"Test");
+
+} // namespace qz

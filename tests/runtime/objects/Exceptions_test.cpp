@@ -1,0 +1,86 @@
+#include <qz/runtime/objects/Exceptions.h>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+#include <qz/runtime/objects/DescribeException.h>
+
+namespace qz {
+namespace {
+
+class EPair : public EConvertError {
+    QZ_EXCEPTION(EPair, EConvertError)
+
+public:
+    EPair(int ALeft, int ARight) : EConvertError(u"%d and %d", {ALeft, ARight}), Left(ALeft) {}
+    int Left;
+};
+constinit const TClassRec EPair::ClassRec = DescribeException<EPair>(u"EPair", u"Test");
+
+// The class and the message of what AProc throws.
+template <class TProc> UnicodeString Thrown(TProc AProc) {
+    try {
+        AProc();
+    } catch (...) {
+        UnicodeString Result;
+        HandleException([&](Exception& E) { Result = UnicodeString(E.ClassName()) + u": " + E.Message(); });
+        return Result;
+    }
+    return u"nothing";
+}
+
+TEST(Exceptions, AreHandledAsExceptionsWhateverWasThrown) {
+    EXPECT_EQ(Thrown([] { throw EOSError(u"a", 5); }), "EOSError: a");
+    EXPECT_EQ(Thrown([] { throw std::runtime_error("\xC3\xA4"); }), "Exception: ä");
+    EXPECT_EQ(Thrown([] { throw 17; }), "Exception: Unknown exception");
+    EXPECT_EQ(Thrown([] { Assert(false); }), "EAssertionFailed: Assertion failure");
+    EXPECT_EQ(Thrown([] { Assert(true); }), "nothing");
+    EXPECT_EQ(Thrown([] { Abort(); }), "EAbort: Operation aborted");
+}
+
+TEST(Exceptions, AKeptOneIsRaisedByItsOwnClassWithAllItHolds) {
+    const EPair Kept(1, 2);
+    const Exception& AsBase = Kept;
+    try {
+        AsBase.Raise();
+    } catch (const EPair& E) {
+        EXPECT_EQ(E.Left, 1);
+        EXPECT_STREQ(E.what(), "1 and 2");
+        EXPECT_TRUE(E.InheritsFrom(ClassOf<EConvertError>()));
+        EXPECT_FALSE(E.InheritsFrom(ClassOf<EAbort>()));
+    }
+}
+
+TEST(Exceptions, AreMadeThroughTheirClassWhereTheyTakeAMessage) {
+    EXPECT_EQ(Thrown([] { CreateException(ExceptionClass::Of<EReadError>(), u"m")->Raise(); }),
+              "EReadError: m");
+    EXPECT_EQ(Thrown([] { CreateException(ExceptionClass::Of<EPair>(), u"m")->Raise(); }), "Exception: m");
+    EXPECT_EQ(Thrown([] { CreateException({}, u"m")->Raise(); }), "Exception: m");
+    EXPECT_EQ(Exception::TVirtualCreateCode::Find(ClassOf<EConvertError>()), nullptr);
+    EXPECT_FALSE(ClassRef<EStreamError>(ClassOf<EConvertError>()))
+        << "a class reference refuses a foreign class";
+}
+
+TEST(Exceptions, MessageAndWhatChangeTogether) {
+    EConvertError Error(u"\u20AC");
+    EXPECT_STREQ(Error.what(), "€");
+    Error.SetMessage(u"b");
+    EXPECT_STREQ(Error.what(), "b");
+    EXPECT_EQ(Error.ToString(), u"b");
+}
+
+TEST(Exceptions, SystemErrorsNameTheirNumberAndText) {
+    try {
+        RaiseOSError(2, u"while reading");
+    } catch (const EOSError& E) {
+        EXPECT_EQ(E.ErrorCode(), 2);
+        EXPECT_EQ(E.Message(),
+                  UnicodeString("System Error.  Code: 2.\r\n") + SysErrorMessage(2) + "\r\nwhile reading");
+        EXPECT_FALSE(SysErrorMessage(2).empty());
+    }
+    EXPECT_EQ(Thrown([] { RaiseOSError(0); }), "EOSError: A call to an OS function failed");
+}
+
+} // namespace
+} // namespace qz
