@@ -1,7 +1,7 @@
 // Who runs this process, and on which computer. Any thread; what is told is that of the moment, except as said below.
 //
-//     std::u16string Domain;
-//     const std::u16string User = AccountName(Domain);
+//     const TAccountName Account = AccountName();
+//     Show(Account.Domain, Account.Name);
 #pragma once
 
 #include <string>
@@ -17,10 +17,15 @@ QZ_API std::u16string ComputerName();
 // There a name that was found is kept for the life of the process; Windows may fail, which gives an empty text.
 QZ_API std::u16string UserName();
 
-// The account of the process, and in ADomain the domain that it belongs to: for a local account the computer's name.
+struct TAccountName {
+    std::u16string Name;
+    std::u16string Domain; // of a local account the computer's name
+};
+
+// The account of the process and its domain.
 // Both are empty if the system does not tell. Linux takes apart the names of accounts that other systems keep, which
 // read DOMAIN\user or user@domain.
-QZ_API std::u16string AccountName(std::u16string& ADomain);
+QZ_API TAccountName AccountName();
 
 enum class TElevation { Unknown, Full, Limited };
 

@@ -1,7 +1,7 @@
 // The log of the system: the Application event log of Windows; on Linux the journal, and where none listens the syslog.
 //
 //     IEventLog& Log = SystemEventLog();
-//     const uintptr_t Source = Log.OpenSource(u"backup");
+//     const std::uintptr_t Source = Log.OpenSource(u"backup");
 //     Log.Write(Source, TEventType::Warning, 3, u"The tape is worn", 3600);
 //     Log.CloseSource(Source);
 //
@@ -24,7 +24,7 @@
 
 namespace qz::platform {
 
-enum class TEventType : uint16_t { Success = 0, Error = 1, Warning = 2, Information = 4 };
+enum class TEventType : std::uint16_t { Success = 0, Error = 1, Warning = 2, Information = 4 };
 
 // Any thread, but for one source one call at a time.
 class QZ_API IEventLog {
@@ -33,13 +33,13 @@ public:
     // carries the texts of the events. Needs an administrator's rights, and says nothing without them.
     virtual void EnterSource(std::u16string_view AName, std::u16string_view AProgram) noexcept = 0;
     // 0 when the system refuses.
-    virtual uintptr_t OpenSource(std::u16string_view AName) noexcept = 0;
+    virtual std::uintptr_t OpenSource(std::u16string_view AName) noexcept = 0;
     // 0 is nothing to close.
-    virtual void CloseSource(uintptr_t ASource) noexcept = 0;
+    virtual void CloseSource(std::uintptr_t ASource) noexcept = 0;
     // ALocalOffset is what is added to UTC now, in seconds, for the syslog, which tells the local time. False when the
     // event is lost, or part of it.
-    virtual bool Write(uintptr_t ASource, TEventType AType, uint32_t AId, std::u16string_view AText,
-                       int32_t ALocalOffset) noexcept = 0;
+    virtual bool Write(std::uintptr_t ASource, TEventType AType, std::uint32_t AId, std::u16string_view AText,
+                       std::int32_t ALocalOffset) noexcept = 0;
 
 protected:
     ~IEventLog() = default;

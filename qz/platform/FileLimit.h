@@ -16,7 +16,7 @@
 namespace qz::platform {
 
 // In bytes; the largest number when there is no limit. The limit may change at any time.
-QZ_API uint64_t FileSizeLimit() noexcept;
+QZ_API std::uint64_t FileSizeLimit() noexcept;
 
 // Keeps the signal of the limit from the calling thread as long as it lives; a signal that arose meanwhile is dropped.
 class QZ_API TNoLimitSignal {

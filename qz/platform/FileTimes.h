@@ -1,8 +1,7 @@
 // When a file was made, written and read.
 //
-//     TFileTimes Times;
-//     TError Error;
-//     if (ReadFileTimes(u"app.log", Times, Error) && Times.LastWrite > Times.Created) ...
+//     const TResult<TFileTimes> Times = ReadFileTimes(u"app.log");
+//     const bool HasChanged = Times && Times->LastWrite > Times->Created;
 //
 // Times are steps of 100 nanoseconds since 1601-01-01 00:00:00 UTC, those that no such number can tell the nearest one.
 // Paths are as in Files.h. Any thread.
@@ -25,28 +24,28 @@
 namespace qz::platform {
 
 struct TFileTimes {
-    int64_t Created;
-    int64_t LastWrite;
-    int64_t LastAccess;
+    std::int64_t Created;
+    std::int64_t LastWrite;
+    std::int64_t LastAccess;
     bool IsDirectory;
 };
 
 // Needs no right on the file itself, but for a time that was set: Linux tells that to who may read the file, and to others
 // when the system made it. A link is followed on Linux and tells its own times on Windows. Windows refuses a pattern, such
 // as "*.txt", by ERROR_INVALID_NAME.
-QZ_API bool ReadFileTimes(std::u16string_view APath, TFileTimes& ATimes, TError& AError);
+QZ_API TResult<TFileTimes> ReadFileTimes(std::u16string_view APath);
 
 // Sets the time at which a file, no directory, was made. Links are followed. Linux needs the rights to read and to write
 // the file, and a file system that keeps extended attributes: else EACCES, EROFS, ENOTSUP and the like. A time that does
 // not come back gives EIO.
-QZ_API bool SetFileCreated(std::u16string_view APath, int64_t ATime, TError& AError);
+QZ_API TResult<> SetFileCreated(std::u16string_view APath, std::int64_t ATime);
 
 // Fails for a time before 1601, by the number that the system has for a bad argument.
-QZ_API bool CheckFileTime(int64_t ATime, TError& AError) noexcept;
+QZ_API TResult<> CheckFileTime(std::int64_t ATime) noexcept;
 
 // The time on the wall clock by a rule that the system has for times of files alone: Windows adds the offset of now, so
 // that a moment on the other side of a change of daylight saving time is an hour off. Nothing on Linux, where the
 // zone's own rules hold, and for a time before 1601.
-QZ_API std::optional<int64_t> LocalFileTime(int64_t ATime) noexcept;
+QZ_API std::optional<std::int64_t> LocalFileTime(std::int64_t ATime) noexcept;
 
 } // namespace qz::platform

@@ -21,11 +21,11 @@ namespace qz::platform {
 struct TLocale {
     std::u16string CurrencyString;
     // Where the currency stands: 0 "$1", 1 "1$", 2 "$ 1", 3 "1 $".
-    uint8_t CurrencyFormat = 0;
+    std::uint8_t CurrencyFormat = 0;
     // And in a negative amount: 0 "($1)", 1 "-$1", 2 "$-1", 3 "$1-", 4 "(1$)", 5 "-1$", 6 "1-$", 7 "1$-", 8
     // "-1 $", 9 "-$ 1", 10 "1 $-", 11 "$ 1-", 12 "$ -1", 13 "1- $", 14 "($ 1)", 15 "(1 $)".
-    uint8_t NegativeCurrencyFormat = 1;
-    uint8_t CurrencyDecimals = 2;
+    std::uint8_t NegativeCurrencyFormat = 1;
+    std::uint8_t CurrencyDecimals = 2;
     char16_t DecimalSeparator = u'.';
     char16_t ThousandSeparator = u',';
     char16_t ListSeparator = u',';
@@ -48,7 +48,7 @@ struct TLocale {
                                                u"Thursday", u"Friday", u"Saturday"};
     // A year of two digits falls into the hundred years that begin this many years before the current one.
     // Neither system has a setting for it that means the same, so that it is always 50.
-    uint16_t TwoDigitYearWindow = 50;
+    std::uint16_t TwoDigitYearWindow = 50;
 };
 
 // The set that belongs to no country: that of the C locale, plus what that one lacks. Asks no system. Any

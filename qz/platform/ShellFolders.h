@@ -1,7 +1,7 @@
 // The folders in which a system keeps things of a kind, by the numbers that the Windows shell has for them (CSIDL).
 //
-//     std::u16string Path;
-//     if (ShellFolder(5, Path)) ... // the user's documents
+//     if (const std::optional<std::u16string> Documents = ShellFolder(5))
+//         Open(*Documents);
 //
 // Linux has the folders of the XDG conventions: those that the user chose for documents, pictures and so on (the file
 // user-dirs.dirs below $XDG_CONFIG_HOME, else the customary names in the home), and the base directories. HOME is the
@@ -23,6 +23,7 @@
 //     20 36 37 41 38 42 43 44 56   /usr/share/fonts, /, /usr/lib twice, /opt twice, /opt twice, /usr/share
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include <qz/platform/Export.h>
@@ -31,9 +32,9 @@ namespace qz::platform {
 
 // The whole path, without a separator at its end. The folder is made where it is missing, on Linux with access for its
 // owner only unless it lies in a place that is shared; the home is not made, and those that the system brings along
-// (/usr/share/fonts and so on) are told as they are. False for a number that stands for no folder of files, and when the
+// (/usr/share/fonts and so on) are told as they are. Nothing for a number that stands for no folder of files, and when the
 // folder is neither there nor can be made. A child of fork() may call it on Linux as long as HOME is set. On Windows
 // an empty path may come out where the shell gives no allocator. Any thread.
-QZ_API bool ShellFolder(int ANumber, std::u16string& APath);
+QZ_API std::optional<std::u16string> ShellFolder(int ANumber);
 
 } // namespace qz::platform

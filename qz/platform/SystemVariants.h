@@ -1,9 +1,8 @@
 // The values of OLE Automation: variants, their texts and their arrays, as the system's functions handle them.
 //
-//     TSystemVariant Content;
-//     TError Error;
-//     if (ReadSystemVariant(Address, Content, Error) && Content.Code == 8)
-//         Use(SystemTextBytes(Content.Pointer()));
+//     const TResult<TSystemVariant> Content = ReadSystemVariant(Address);
+//     if (Content && Content->Code == 8)
+//         Use(SystemTextBytes(Content->Pointer()));
 //
 // A system without OLE Automation has no such values: there each function that can fail does so with the code for what is
 // not supported. Numbers of a variant and of the elements of an array have the layout that the system documents for them.
@@ -35,11 +34,11 @@ inline constexpr std::size_t cSystemVariantSize = 24;
 
 // What is in a variant, or in the one that it refers to (VT_BYREF): nothing is counted or copied. Fails for a reference to
 // nowhere and for one to a reference to a reference and so on.
-QZ_API bool ReadSystemVariant(const void* AVariant, TSystemVariant& AContent, TError& AError);
+QZ_API TResult<TSystemVariant> ReadSystemVariant(const void* AVariant);
 // Writes over raw memory or an empty variant, which from then on owns what AContent refers to.
-QZ_API bool WriteSystemVariant(void* AVariant, const TSystemVariant& AContent, TError& AError);
+QZ_API TResult<> WriteSystemVariant(void* AVariant, const TSystemVariant& AContent);
 // Ends the content, which leaves an empty variant.
-QZ_API bool ClearSystemVariant(void* AVariant, TError& AError);
+QZ_API TResult<> ClearSystemVariant(void* AVariant);
 
 // A text, which may be any bytes; null without memory.
 QZ_API void* NewSystemText(std::span<const std::byte> ABytes) noexcept;
@@ -61,10 +60,10 @@ struct TSystemArray {
 };
 
 // AElements is what the holder of the array says of it, for arrays that do not tell themselves.
-QZ_API bool LockSystemArray(void* AArray, std::uint16_t AElements, TSystemArray& AContent, TError& AError);
+QZ_API TResult<TSystemArray> LockSystemArray(void* AArray, std::uint16_t AElements);
 QZ_API void UnlockSystemArray(void* AArray) noexcept;
-// An array of empty elements; null on failure.
-QZ_API void* NewSystemArray(std::uint16_t AElements, std::span<const TSystemBound> ABounds, TError& AError);
+// An array of empty elements.
+QZ_API TResult<void*> NewSystemArray(std::uint16_t AElements, std::span<const TSystemBound> ABounds);
 // Ends an array that is not locked, with its elements.
 QZ_API void FreeSystemArray(void* AArray) noexcept;
 

@@ -14,9 +14,9 @@ namespace qz::platform {
 
 // The numbers as the system's core tells them: those of the kernel on Linux, where 6.1.25-rt3 gives 6, 1, 25 and "rt3".
 struct TSystemVersion {
-    uint32_t Major = 0;
-    uint32_t Minor = 0;
-    uint32_t Build = 0;
+    std::uint32_t Major = 0;
+    std::uint32_t Minor = 0;
+    std::uint32_t Build = 0;
     std::u16string Pack; // what was put on it later, such as the name of a service pack
 };
 
@@ -27,9 +27,9 @@ QZ_API TSystemVersion SystemVersion();
 struct TWindowsFacts {
     bool HasKernel = false;  // the module of the kernel's functions was found
     bool HasVersion = false; // the fields below are known, up to Metric89
-    uint32_t Major = 0;
-    uint32_t Minor = 0;
-    uint32_t ServicePack = 0;
+    std::uint32_t Major = 0;
+    std::uint32_t Minor = 0;
+    std::uint32_t ServicePack = 0;
     bool IsWorkstation = false;
     std::u16string CurrentBuild = {}; // as the registry has them
     std::u16string CurrentVersion = {};

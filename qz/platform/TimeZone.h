@@ -17,7 +17,7 @@
 namespace qz::platform {
 
 struct TZoneKind {
-    int32_t Offset;  // seconds to add to UTC
+    std::int32_t Offset; // seconds to add to UTC
     bool IsDaylight; // what the system calls daylight saving time, which may also lie behind standard time
     std::u16string Name; // "CEST", or a longer name on Windows
 
@@ -26,13 +26,13 @@ struct TZoneKind {
 
 // From a moment on, seconds since 1970-01-01 UTC, the kind with that number holds.
 struct TZoneChange {
-    int64_t From;
-    uint16_t Kind;
+    std::int64_t From;
+    std::uint16_t Kind;
 
     friend bool operator==(const TZoneChange&, const TZoneChange&) = default;
 };
 
-enum class TZoneDayForm : uint8_t {
+enum class TZoneDayForm : std::uint8_t {
     zdNone,      // there is no such day
     zdWeekday,   // a weekday of a month: the first to fourth, 5 for the last
     zdDate,      // a day of a month
@@ -43,11 +43,11 @@ enum class TZoneDayForm : uint8_t {
 // A day of each year and a time in it, which may lie outside that day.
 struct TZoneDay {
     TZoneDayForm Form = TZoneDayForm::zdNone;
-    uint8_t Month = 0;   // 1 to 12
-    uint8_t Week = 0;    // 1 to 5
-    uint8_t Weekday = 0; // 0 Sunday to 6 Saturday
-    uint16_t Day = 0;
-    int32_t MSecs = 0;
+    std::uint8_t Month = 0;   // 1 to 12
+    std::uint8_t Week = 0;    // 1 to 5
+    std::uint8_t Weekday = 0; // 0 Sunday to 6 Saturday
+    std::uint16_t Day = 0;
+    std::int32_t MSecs = 0;
 
     friend bool operator==(const TZoneDay&, const TZoneDay&) = default;
 };
@@ -55,9 +55,9 @@ struct TZoneDay {
 // The rule of the years from FirstYear until the next rule. The days are told in the local time that they end. Without
 // either day, standard time holds all the year.
 struct TZoneRule {
-    int32_t FirstYear;
-    uint16_t Standard; // numbers of kinds
-    uint16_t Daylight;
+    std::int32_t FirstYear;
+    std::uint16_t Standard; // numbers of kinds
+    std::uint16_t Daylight;
     TZoneDay ToStandard;
     TZoneDay ToDaylight;
 
@@ -68,14 +68,14 @@ struct TZoneRule {
 };
 
 // The first rule holds for earlier years too.
-constexpr int32_t cAnyYear = std::numeric_limits<int32_t>::min();
+constexpr std::int32_t cAnyYear = std::numeric_limits<std::int32_t>::min();
 
 // The changes hold up to the last of them, and from there on the rules; without changes the rules hold always. Without
 // rules the last kind stays. Offsets are below 26 hours, changes and first years rise, numbers of kinds are valid.
 struct TSystemZone {
     std::u16string Id; // "Europe/Paris", or the key of the zone on Windows
     std::vector<TZoneKind> Kinds;
-    uint16_t FirstKind = 0; // before the first change
+    std::uint16_t FirstKind = 0; // before the first change
     std::vector<TZoneChange> Changes;
     std::vector<TZoneRule> Rules;
 
