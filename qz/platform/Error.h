@@ -62,8 +62,8 @@ private:
     TError FError;
 };
 
-// The system's message for ACode on one line, without line end, final dot or surrounding blanks, in the language
-// of the system. A number that the system does not know gives "Unknown error <number>". Any thread.
+// The system's message for ACode on one line, without line end, final dot or surrounding blanks, in the
+// language of the system. A number that the system does not know gives "Unknown error <number>". Any thread.
 QZ_API std::u16string ErrorText(int ACode);
 
 // The calling thread's last error: errno or GetLastError.
