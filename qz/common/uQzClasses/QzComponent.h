@@ -1,4 +1,5 @@
-// TQzComponent: a component whose life may be that of the references to it, and whose properties can follow others.
+// TQzComponent: a component whose life may be that of the references to it, and whose properties can follow
+// others.
 //
 //     Ref<IQzComponent> Server = TQzServer::Create(nullptr);   // without owner: gone with the last reference
 //     TQzServer::Create(Application);                          // with an owner: the owner alone ends it
@@ -54,21 +55,21 @@ public:
     TComponent* _GetOwner() const override { return Owner(); }
 
     // Makes two published properties follow each other: a change of either, told by NotifyBindings or
-    // TBindings::Notify, is written to the other. Property paths may have points. Errors of the binding engine go
-    // to the caller, and no binding is left behind then.
+    // TBindings::Notify, is written to the other. Property paths may have points. Errors of the binding
+    // engine go to the caller, and no binding is left after then.
     void Bind(const UnicodeString& ASrcProperty, TObject* ADest, const UnicodeString& ADestProperty,
               TBindings::TCreateOptions AOptions = {});
-    // The same with the value of a control, whose changes reach the property without a notification: a link that
-    // this component owns brings them. EAssertionFailed, "Assertion failure", when ADest cannot be observed for its
-    // value.
+    // The same with the value of a control, whose changes reach the property without a notification: a link
+    // that this component owns brings them. EAssertionFailed, "Assertion failure", when ADest cannot be
+    // observed for its value.
     void Bind(const UnicodeString& ASrcProperty, TComponent* ADest, TBindings::TCreateOptions AOptions = {});
     // Tells the bindings that a property of this component has changed. A setter calls it.
     void NotifyBindings(const UnicodeString& APropertyName);
     // Ends all bindings that Bind made, the links to controls included.
     void ClearBindings();
 
-    // Raises Exception with SCompRefCountNotZero while references remain; the component then lives on. One whose
-    // owner ends meanwhile has no owner any more, and ends with its last reference.
+    // Raises Exception with SCompRefCountNotZero while references remain; the component then lives on. One
+    // whose owner ends meanwhile has no owner any more, and ends with its last reference.
     void BeforeDestruction() override;
 
 protected:
@@ -79,7 +80,8 @@ protected:
     ~TQzComponent() override;
 
     void Notification(TComponent* AComponent, TOperation AOperation) override;
-    // Takes a reference back; true when the component has to end now. For a _Release that does more than that.
+    // Takes a reference back; true when the component has to end now. For a _Release that does more than
+    // that.
     bool DropReference(std::int32_t& ACount);
     // Counts a reference unless there is none left, as of a component that ends; false then.
     bool TryAddReference() noexcept { return FRefCount.IncrementUnlessZero(); }

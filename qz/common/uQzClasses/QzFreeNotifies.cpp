@@ -13,8 +13,9 @@ constinit const TClassRec TQzFreeNotifies::ClassRec =
 
 namespace {
 
-// One lock for the lists of all nodes: two partners that end at the same moment on two threads would otherwise each
-// hold their own list and wait for the other's. Never destroyed, as nodes may end with the program.
+// One lock for the lists of all nodes: two partners that end at the same moment on two threads would
+// otherwise each hold their own list and wait for the other's. Never destroyed, as nodes may end with the
+// program.
 TCriticalSection& Links() {
     static auto* const Lock = new TCriticalSection;
     return *Lock;
@@ -32,7 +33,7 @@ TQzFreeNotifies::~TQzFreeNotifies() {
     while (!FList.empty()) {
         try {
             BeforeDestruction();
-        } catch (...) { // NOLINT(bugprone-empty-catch): a destructor has nobody to tell
+        } catch (...) { // NOLINT(bugprone-empty-catch): a destructor must not raise
         }
     }
 }
@@ -56,7 +57,7 @@ void TQzFreeNotifies::Remove(TQzFreeNotifies* AOther) {
     std::erase(FList, AOther);
 }
 
-// The procedure may end its own node, so it is copied and the partner not touched behind it.
+// The procedure may end its own node, so it is copied and the partner not touched after it.
 void TQzFreeNotifies::BeforeDestruction() {
     const TScopedLock Hold(Links());
     while (!FList.empty()) {

@@ -1,4 +1,5 @@
-// TQzObject: an object that may be used as a plain object or through interfaces, and decides at run time who ends it.
+// TQzObject: an object that may be used as a plain object or through interfaces, and decides at run time who
+// ends it.
 //
 //     TQzShape* Shape = TQzShape::Create();     // TQzShape derives from TQzObject
 //     Shape->Free();                            // never seen through an interface: its maker ends it
@@ -32,7 +33,7 @@ class IQzObject : public IInterface {
 public:
     static constexpr TGUID IID = Guid("{0417F540-9CCC-4DE6-B2C4-1063D0508346}");
 
-    // The object behind the interface.
+    // The object after the interface.
     virtual TObject* Implementor() = 0;
 
 protected:
@@ -50,7 +51,7 @@ public:
 
     // True when the last reference ends the object.
     virtual bool GetAutoDestroy() const;
-    // Decides for good: radTrue or radFalse. A later call may decide anew.
+    // Decides for good: radTrue or radFalse. A later call may decide again.
     void SetAutoDestroy(bool AValue) noexcept;
     TQzAutoDestroy AutoDestroyPolicy() const noexcept { return FAutoDestroy.load(std::memory_order_relaxed); }
     int RefCount() const noexcept { return FRefCount.Value(); }
@@ -60,7 +61,8 @@ public:
     std::uint32_t _AddRef() override;
     std::uint32_t _Release() override;
 
-    // Raises Exception with SObjRefCountNotZero while references remain; the object then lives on by its policy.
+    // Raises Exception with SObjRefCountNotZero while references remain; the object then lives on by its
+    // policy.
     void BeforeDestruction() override;
 
 protected:

@@ -21,8 +21,8 @@ class IQzObjectFreeNotificationEvent : public IQzObject {
 public:
     static constexpr TGUID IID = Guid("{BBECB66F-1397-4FFA-AFE5-C7BD63A1EAC6}");
 
-    // AObject is about to end and nobody may keep it. It is still whole, unless it ends because its construction
-    // failed: then only the part that is a TQzObjectEx is left.
+    // AObject is about to end and nobody may keep it. It is still whole, unless it ends because its
+    // construction failed: then only the part that is a TQzObjectEx is left.
     virtual void OnObjectDestroyed(TObject* AObject) = 0;
 
 protected:
@@ -35,7 +35,7 @@ public:
 
     // Forgets AObject on this side.
     virtual void RemoveNotification(TObject* AObject) = 0;
-    // Links this object and the one behind AObject.
+    // Links this object and the one after AObject.
     virtual void FreeNotificationEx(IQzObjectFreeNotificationEvent* AObject) = 0;
     // Removes the link on both sides.
     virtual void RemoveFreeNotificationEx(IQzObject* AObject) = 0;
@@ -51,8 +51,8 @@ class QZ_API TQzObjectEx : public TQzObject, public IQzObjectFreeNotificationEve
 public:
     TObject* Implementor() override { return this; }
 
-    // Does nothing here. The object called is held by a reference meanwhile, so it cannot free itself; one that
-    // loses the last of its other references in here ends when the call is over.
+    // Does nothing here. The object called is held by a reference meanwhile, so it cannot free itself; one
+    // that loses the last of its other references in here ends when the call is over.
     void OnObjectDestroyed(TObject* AObject) override;
 
     // Links the two: each hears of the end of the other. Linking twice changes nothing.
@@ -62,18 +62,18 @@ public:
     void RemoveFreeNotificationEx(IQzObject* AObject) override;
     void RemoveNotification(TObject* AObject) override;
 
-    // Copies from ASource by its AssignTo. A null source, and a class that overrides neither, raise EConvertError
-    // that names both classes.
+    // Copies from ASource by its AssignTo. A null source, and a class that overrides neither, raise
+    // EConvertError that names both classes.
     virtual void Assign(TQzObjectEx* ASource);
     virtual void AssignTo(TQzObjectEx* ADest);
     virtual void DefineProperties(TFiler& AFiler);
     // The object that this one belongs to; null here.
     virtual TObject* GetOwner() const { return nullptr; }
-    // The class name, behind the name path of the owner and a point when the owner has one.
+    // The class name; after the owner's name path and a dot if the owner has one.
     virtual UnicodeString GetNamePath() const;
 
-    // Tells all linked objects, from the last to the first, and removes the links. An exception of one of them
-    // keeps this object, and the links not yet dealt with.
+    // Tells all linked objects, from the last to the first, and removes the links. An exception of one of
+    // them keeps this object, and the links not yet dealt with.
     void BeforeDestruction() override;
 
 protected:

@@ -20,7 +20,7 @@ TQzObjectList::~TQzObjectList() {
     while (!IsEmpty()) {
         try {
             Clear();
-        } catch (...) { // NOLINT(bugprone-empty-catch): a destructor has nobody to tell
+        } catch (...) { // NOLINT(bugprone-empty-catch): a destructor must not raise
         }
     }
 }
@@ -39,8 +39,8 @@ void TQzObjectList::Notify(TObject* AItem, TCollectionNotification AAction) {
     TObjectList::Notify(AItem, AAction);
 }
 
-// True when the reference was all that there was to end. An object that has since been given to its owner is ended by
-// the list, if that is the owner.
+// True when the reference was all that there was to end. An object that has since been given to its owner is
+// ended by the list, if that is the owner.
 bool TQzObjectList::Release(TObject* AItem) {
     const auto Found = FHeld.find(AItem);
     if (Found == FHeld.end())

@@ -5,11 +5,11 @@
 //     Stream.Add(u"one more line\r\n");
 //     Stream.SaveToFile(u"new.txt");                 // with a byte order mark
 //
-// What is written is converted to the stream's code page, what is read comes out in the form that is asked for.
-// Conversions are those of TQzEncoding: lenient, and EOSError naming the code page where the system cannot make them;
-// the content is then as it was before, or empty when it was to be replaced. A stream over a wrapped block can be read
-// and overwritten but does not grow: "It is not possible to resize the buffer!". A stream belongs to one thread at a
-// time.
+// What is written is converted to the stream's code page, what is read comes out in the form that is asked
+// for. Conversions are those of TQzEncoding: lenient, and EOSError naming the code page where the system
+// cannot make them; the content is then as it was before, or empty when it was to be replaced. A stream over
+// a wrapped block can be read and overwritten but does not grow: "It is not possible to resize the buffer!".
+// A stream belongs to one thread at a time.
 #pragma once
 
 #include <qz/common/uQzClasses/QzMemoryStream.h>
@@ -68,7 +68,8 @@ public:
     // Takes the content, the code page and the position of another.
     virtual void Assign(const TQzStringStream& ASource);
 
-    // Write at the position, over what stands there and beyond the end. An 8-bit character or text is in code page 0.
+    // Write at the position, over what stands there and beyond the end. An 8-bit character or text is in code
+    // page 0.
     virtual void WriteChar(char AChar);
     virtual void WriteChar(char16_t AChar);
     virtual void Write(const UnicodeString& AText);
@@ -84,16 +85,17 @@ public:
     // A terminator at the end: the character 0 in the stream's code page.
     void WriteEOF() { AddChar(u'\0'); }
 
-    // Changes the code page. With AUpdateContent the content is converted and the position at the end; without it the
-    // bytes stay and are another text from now on. Raises Exception, "The current codepage cannot be changed without
-    // updating the content!", when there is content and one of the two code pages is 1200; "Updating the content is
-    // not allowed (the stream is probably using a wrapped buffer)!" for a wrapped block.
+    // Changes the code page. With AUpdateContent the content is converted and the position at the end;
+    // without it the bytes stay and are another text from now on. Raises Exception, "The current codepage
+    // cannot be changed without updating the content!", when there is content and one of the two code pages
+    // is 1200; "Updating the content is not allowed (the stream is probably using a wrapped buffer)!" for a
+    // wrapped block.
     void ChangeCodePage(std::uint16_t ACodePage, bool AUpdateContent);
 
-    // Read at the position and move behind it. At the end a character is 0 and a text is empty. A character beyond the
-    // Basic Multilingual Plane comes as its two units in UTF-8 and UTF-16, in other code pages as its first one. Bytes
-    // that are ill-formed give U+FFFD or the code page's default, and the position moves on by what that character
-    // takes in the code page.
+    // Read at the position and move past it. At the end a character is 0 and a text is empty. A character
+    // beyond the Basic Multilingual Plane comes as its two units in UTF-8 and UTF-16, in other code pages as
+    // its first one. Bytes that are ill-formed give U+FFFD or the code page's default, and the position moves
+    // on by what that character takes in the code page.
     char16_t ReadChar() { return ReadWChar(); }
     char16_t ReadWChar();
     char ReadAChar();
@@ -105,18 +107,19 @@ public:
     // Up to ACount units too, in code page 0 then.
     AnsiString ReadAString(std::uint32_t ACount);
 
-    // Reads a file in ACodePage, or, with -1, in that of its mark, code page 0 without one, and adds it as LoadFromStream
-    // does. Raises EFOpenError, "File %s not found." where it is missing.
+    // Reads a file in ACodePage, or, with -1, in that of its mark, code page 0 without one, and adds it as
+    // LoadFromStream does. Raises EFOpenError, "File %s not found." where it is missing.
     void LoadFromFile(const TStringArg& AFileName, std::int32_t ACodePage);
-    // Adds the rest of AStream, or all of it with AFromStart, at the position. ACodePage -1: that of the mark where
-    // ADetectBOM looks for one, else 0. Raises Exception, "The specified encoding does not match the BOM of the
-    // stream!". With AFreeStream AStream is ended in any case.
+    // Adds the rest of AStream, or all of it with AFromStart, at the position. ACodePage -1: that of the mark
+    // where ADetectBOM looks for one, else 0. Raises Exception, "The specified encoding does not match the
+    // BOM of the stream!". With AFreeStream AStream is ended in any case.
     void LoadFromStream(TStream* AStream, bool AFreeStream, bool AFromStart, bool ADetectBOM,
                         std::int32_t ACodePage);
-    // Writes all of the content in ACodePage, with AWriteBOM behind its mark if it has one. Content and position stay.
+    // Writes all of the content in ACodePage, with AWriteBOM after its mark if it has one. Content and
+    // position stay.
     void SaveToStream(TStream& AStream, std::uint16_t ACodePage, bool AWriteBOM) const;
-    // The same into a file, as a whole or not at all, as far as platform/Files.h says of WriteWholeFile. Raises
-    // EFCreateError.
+    // The same into a file, as a whole or not at all, as far as platform/Files.h says of WriteWholeFile.
+    // Raises EFCreateError.
     void SaveToFile(const TStringArg& AFileName, std::uint16_t ACodePage, bool AWriteBOM) const;
     void SaveToFile(const TStringArg& AFileName) const { SaveToFile(AFileName, FCodePage, true); }
 
@@ -130,8 +133,8 @@ private:
     RawByteString BytesToSave(std::uint16_t ACodePage) const;
 };
 
-// The most bytes that one character takes in a code page: what the system says, else 2 for 1200 and 1201, 4 for 12000 and
-// 12001, 6 for 65001, 1 for all others.
+// The most bytes that one character takes in a code page: what the system says, else 2 for 1200 and 1201, 4
+// for 12000 and 12001, 6 for 65001, 1 for all others.
 QZ_API std::uint16_t QzCodePageMaxCharSize(std::uint16_t ACodePage);
 
 } // namespace qz

@@ -15,8 +15,8 @@ constexpr bool IsContinuation(std::uint8_t AByte) {
 
 } // namespace
 
-// Whether the position is where a unit pair of UTF-8 is torn: the first of the two units moves on by three bytes, as any
-// lone surrogate takes, so that the fourth byte of the form stands for the second unit.
+// Whether the position is where a unit pair of UTF-8 is torn: the first of the two units moves on by three
+// bytes, as any lone surrogate takes, so that the fourth byte of the form stands for the second unit.
 bool TQzStringStream::IsAtLowSurrogate() const noexcept {
     if (RealCodePage(FCodePage) != cUtf8CodePage || FCurPos - FBufferStart < 3 || Rest() == 0)
         return false;
@@ -25,7 +25,7 @@ bool TQzStringStream::IsAtLowSurrogate() const noexcept {
     return IsContinuation(*FCurPos) && NextCodePoint(Form, Length) >= 0x10000 && Length == 4;
 }
 
-// Up to ACount units from the position, which moves behind them. For code pages that have to be converted.
+// Up to ACount units from the position, which moves past them. For code pages that have to be converted.
 UnicodeString TQzStringStream::ReadRun(std::uint32_t ACount) {
     if (ACount == 0 || Rest() == 0)
         return {};
@@ -40,7 +40,8 @@ UnicodeString TQzStringStream::ReadRun(std::uint32_t ACount) {
         Text.SetLength(ACount);
     std::size_t Step = Text.size();
     if (FCodePageMaxCharSize != 1) {
-        // The second unit of a torn pair took one byte. Where a second unit cannot be read, it is passed with the first.
+        // The second unit of a torn pair took one byte. Where a second unit cannot be read, it is passed with
+        // the first.
         const bool Tears = Text.size() < Ahead.size() && IsHighSurrogate(Ahead.View()[ACount - 1]) &&
             IsLowSurrogate(Ahead.View()[ACount]) && RealCodePage(FCodePage) != cUtf8CodePage;
         const std::u16string_view Whole =

@@ -3,11 +3,12 @@
 //     UnicodeString Text = QzStreamToWideString(&Stream, false, true, true, -1);   // by its byte order mark
 //     QzUTF8DecodeStream(Source, Target);                                          // UTF-8 to UTF-16
 //
-// The functions take the bytes from the position to the end, from the start of the stream with AFromStart. With
-// ADetectBOM a byte order mark gives the code page and is passed over. ASrcCodePage is the code page of the bytes; -1 for
-// none, which means that of the mark, and 0 without one. A code page that differs from that of a mark raises Exception,
-// "The specified encoding does not match the BOM of the stream!". With AFreeStream the stream is ended, on the way out
-// of an exception too. A stream that ends before its size says so gives what it has.
+// The functions take the bytes from the position to the end, from the start of the stream with AFromStart.
+// With ADetectBOM a byte order mark gives the code page and is passed over. ASrcCodePage is the code page of
+// the bytes; -1 for none, which means that of the mark, and 0 without one. A code page that differs from that
+// of a mark raises Exception, "The specified encoding does not match the BOM of the stream!". With
+// AFreeStream the stream is ended, on the way out of an exception too. A stream that ends before its size
+// says so gives what it has.
 #pragma once
 
 #include <cstdint>
@@ -17,8 +18,9 @@
 
 namespace qz {
 
-// The text in an 8-bit code page; from a code page to itself the bytes as they are, a mark included when it is not
-// looked for. Raises Exception, "The specified encoding is not supported!", for 1200, 1201, 12000 and 12001.
+// The text in an 8-bit code page; from a code page to itself the bytes as they are, a mark included when it
+// is not looked for. Raises Exception, "The specified encoding is not supported!", for 1200, 1201, 12000 and
+// 12001.
 QZ_API RawByteString QzStreamToAnsiString(TStream* AStream, bool AFreeStream, bool AFromStart,
                                           bool ADetectBOM, std::int32_t ASrcCodePage,
                                           std::uint16_t ADstCodePage);
@@ -28,14 +30,14 @@ QZ_API UnicodeString QzStreamToWideString(TStream* AStream, bool AFreeStream, bo
 QZ_API UnicodeString QzStreamToString(TStream* AStream, bool AFreeStream, bool AFromStart, bool ADetectBOM,
                                       std::uint16_t ASrcCodePage);
 
-// Writes what ASource holds from its position on, as UTF-16, to ATarget in UTF-8, with AWriteBOM behind a mark. A byte
-// that is left over is passed over.
+// Writes what ASource holds from its position on, as UTF-16, to ATarget in UTF-8, with AWriteBOM after a
+// mark. A byte that is left over is passed over.
 QZ_API void QzUTF8EncodeStream(TStream& ASource, TStream& ATarget, bool AWriteBOM);
-// Writes what ASource holds from its position on, as UTF-8 with or without a mark, to ATarget in UTF-16. Raises as
-// TQzUTF8StreamAdapter::Read does.
+// Writes what ASource holds from its position on, as UTF-8 with or without a mark, to ATarget in UTF-16.
+// Raises as TQzUTF8StreamAdapter::Read does.
 QZ_API void QzUTF8DecodeStream(TStream& ASource, TStream& ATarget);
-// The text of a UTF-8 stream. Raises EConvertError, "The sourcestream does not contain unicode data!", when the stream
-// has the mark of another code page or looks like UTF-16.
+// The text of a UTF-8 stream. Raises EConvertError, "The sourcestream does not contain unicode data!", when
+// the stream has the mark of another code page or looks like UTF-16.
 QZ_API UnicodeString QzUTF8Decode(TStream& AStream);
 
 // Ends a stream at the end of a block, if that is asked for.
@@ -54,7 +56,7 @@ private:
 };
 
 namespace detail {
-// The code page of what follows, with the stream behind a mark that was looked for.
+// The code page of what follows, with the stream after a mark that was looked for.
 std::uint16_t SettleCodePage(TStream& AStream, bool AFromStart, bool ADetectBOM, std::int32_t ASrcCodePage);
 } // namespace detail
 

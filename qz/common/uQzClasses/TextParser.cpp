@@ -136,8 +136,8 @@ void TQzTextParser::LoadFirst(std::size_t ATotal) {
     FLastChunk = !FChunked || Done < Length;
 }
 
-// A block with the last ACarry bytes of what is in memory and a new chunk behind them. When reading fails, the stream
-// goes back, so that nothing is lost to a later try.
+// A block with the last ACarry bytes of what is in memory and a new chunk after them. When reading fails, the
+// stream goes back, so that nothing is lost to a later try.
 std::unique_ptr<std::uint8_t[]> TQzTextParser::Grown(std::size_t ACarry, std::size_t& ARead) {
     auto Block = std::make_unique_for_overwrite<std::uint8_t[]>(FChunkSize + ACarry);
     std::memcpy(Block.get(), FBufEnd - ACarry, ACarry);

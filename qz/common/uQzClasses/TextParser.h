@@ -1,5 +1,5 @@
-// TQzTextParser: walks text of any 8-bit code page, UTF-16 or UTF-8 character by character, without converting it first;
-// the scanner for parsers written by hand.
+// TQzTextParser: walks text of any 8-bit code page, UTF-16 or UTF-8 character by character, without
+// converting it first; the scanner for parsers written by hand.
 //
 //     TQzTextParser Parser(&Stream, false, 65001);
 //     while (!Parser.Eof()) {
@@ -9,9 +9,10 @@
 //         Use(Parser.Selected(tpMarkPos1, tpCurPos, true), Parser.LineNr());
 //     }
 //
-// The kind of text is chosen once, by the code page: UTF-16 (1200), UTF-8 (65001), else one byte a character. Memory is
-// walked where it lies; any other stream is read in chunks of 32 MiB, and what marks and look-ahead can still ask for
-// stays in memory. A byte order mark is not looked for. A parser belongs to one thread and needs its stream for itself.
+// The kind of text is chosen once, by the code page: UTF-16 (1200), UTF-8 (65001), else one byte a character.
+// Memory is walked where it lies; any other stream is read in chunks of 32 MiB, and what marks and look-ahead
+// can still ask for stays in memory. A byte order mark is not looked for. A parser belongs to one thread and
+// needs its stream for itself.
 #pragma once
 
 #include <array>
@@ -93,9 +94,9 @@ class QZ_API TQzTextParser : public TObject {
     QZ_CLASS(TQzTextParser, TObject)
 
 public:
-    // Parses a stream from its position on; an owned one is ended with the parser. Asserts "It is not possible to parse
-    // empty streams!"; raises Exception, "The specified encoding is not supported!", for 1201, 12000 and 12001. An owned
-    // stream is left to the caller when this raises.
+    // Parses a stream from its position on; an owned one is ended with the parser. Asserts "It is not
+    // possible to parse empty streams!"; raises Exception, "The specified encoding is not supported!", for
+    // 1201, 12000 and 12001. An owned stream is left to the caller when this raises.
     TQzTextParser(TStream* AStream, bool AStreamOwner, std::uint16_t AContentCodePage);
     // Parses a block of the caller's, which must outlive the parser. Asserts and raises the same.
     TQzTextParser(const void* ABuffer, std::ptrdiff_t ASize, std::uint16_t AContentCodePage);
@@ -106,12 +107,13 @@ public:
     // Takes the bytes from the current place on for text of another kind; the code page stays as it is.
     virtual void SetCharacterSetType(TQzCharacterSetType AValue);
     TQzCharacterSetType CharacterSetType() const noexcept { return FCharacterSetType; }
-    // Takes the text to be in another code page of the same kind. Raises "The specified encoding is not supported!".
+    // Takes the text to be in another code page of the same kind. Raises "The specified encoding is not
+    // supported!".
     void SetContentCodePage(std::uint16_t AValue);
     std::uint16_t ContentCodePage() const noexcept { return FContentCodePage; }
 
-    // Where the parser stands. Pointers are valid until the next operation
-    // that steps, looks ahead or gives a character, as each of these may fetch more. Eof is named so as EOF is a macro of C.
+    // Where the parser stands. Pointers are valid until the next operation that steps, looks ahead or gives a
+    // character, as each of these may fetch more. Eof is named so as EOF is a macro of C.
     bool Eof() const noexcept { return FState.Eof; }
     std::int32_t LineNr() const noexcept { return FState.LineNr; }
     std::int32_t ColNr() const noexcept { return FState.ColNr; }
@@ -127,16 +129,17 @@ public:
     void First();
     void Last();
 
-    // One step. A line feed ends a line: in UTF-8 the character behind it is column 1 of the next line, in the other
-    // kinds it is so itself. Raises EQzTextParserEOF at the end, and within a UTF-8 form that the end cuts off.
+    // One step. A line feed ends a line: in UTF-8 the character after it is column 1 of the next line, in the
+    // other kinds it is so itself. Raises EQzTextParserEOF at the end, and within a UTF-8 form that the end
+    // cuts off.
     void Next() { FnNext(*this); }
     // A step, and more while the character is a control character (below 32).
     void NextChar();
     void SkipChars(std::int32_t ACount);
 
-    // The current character; the same with a step behind it; the one before; the next that is no control character,
-    // without moving. W in 16 bits, A in code page 0. 0 where there is no character. What one unit cannot hold is
-    // U+FFFD.
+    // The current character; the same with a step after it; the one before; the next that is no control
+    // character, without moving. W in 16 bits, A in code page 0. 0 where there is no character. What one unit
+    // cannot hold is U+FFFD.
     char16_t CurrChar() { return *FnCurrCharW(*this); }
     char16_t ReadChar() { return *FnReadCharW(*this); }
     char16_t PrevChar() { return *FnPrevCharW(*this); }
@@ -154,12 +157,12 @@ public:
     UnicodeString PeekStringW(std::int32_t ACount) { return FnPeekStringW(*this, ACount); }
     AnsiString PeekStringA(std::int32_t ACount) { return FnPeekStringA(*this, ACount); }
 
-    // Steps while the comparison holds; the end of the text stops it too. An 8-bit character is in code page 0. sopIn and
-    // sopNotIn do nothing here.
+    // Steps while the comparison holds; the end of the text stops it too. An 8-bit character is in code page
+    // 0. sopIn and sopNotIn do nothing here.
     void SkipWhile(TQzTextParserSkipOp AOp, char AChar) { FnSkipWhileA(*this, AOp, AChar); }
     void SkipWhile(TQzTextParserSkipOp AOp, char16_t AChar) { FnSkipWhileW(*this, AOp, AChar); }
-    // Steps while the character is in the set, or, with any other operator than sopIn, while it is not. In UTF-8 the
-    // first byte counts; in UTF-16 units above 255 are passed by both.
+    // Steps while the character is in the set, or, with any other operator than sopIn, while it is not. In
+    // UTF-8 the first byte counts; in UTF-16 units above 255 are passed by both.
     void SkipWhileInSet(TQzTextParserSkipSetOp AOp, const TQzTextParserCharSet& ASet) {
         FnSkipWhileInSet(*this, AOp, ASet);
     }
@@ -179,8 +182,8 @@ public:
     // Set a mark to the current place, and take it away. Raise Exception, "Invalid MarkType specified!".
     void SetMark(TQzTextParserMarkPosType AMarkType) { Mark(AMarkType) = FState.CurPos; }
     void ClearMark(TQzTextParserMarkPosType AMarkType) { Mark(AMarkType) = nullptr; }
-    // Bytes between two places; tpPeekPos as the end means: the current character included. Asserts that both are set
-    // and in order.
+    // Bytes between two places; tpPeekPos as the end means: the current character included. Asserts that both
+    // are set and in order.
     std::int32_t SelectedCnt(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos) {
         return static_cast<std::int32_t>(SelectedBytes(AFromPos, ATillPos).size());
     }
@@ -194,8 +197,8 @@ public:
             RaiseBadSelection();
         return std::as_bytes(std::span(Start, Till));
     }
-    // The text between them, A in code page 0 (one byte a character: the bytes as they stand). AClearMarks takes those
-    // of the two that are marks away.
+    // The text between them, A in code page 0 (one byte a character: the bytes as they stand). AClearMarks
+    // takes those of the two that are marks away.
     AnsiString SelectedA(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos, bool AClearMarks);
     UnicodeString SelectedW(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos, bool AClearMarks);
     UnicodeString Selected(TQzTextParserPosType AFromPos, TQzTextParserPosType ATillPos, bool AClearMarks) {
@@ -207,7 +210,8 @@ protected:
     TQzTextParser(TStream* AStream, bool AStreamOwner, std::uint16_t AContentCodePage,
                   std::size_t AChunkSize);
 
-    // A place ACount characters ahead or, beyond control characters, behind it, without moving. Raises EQzTextParserEOF.
+    // A place ACount characters ahead or, beyond control characters, after it, without moving. Raises
+    // EQzTextParserEOF.
     TQzTextPos SrcPeekNext(std::int32_t ACount);
 
     TStream* FStream = nullptr; // null when a block is parsed

@@ -79,7 +79,7 @@ template <TQzCharacterSetType Kind> void TTextParserKind<Kind>::Next(TQzTextPars
             AParser.SlowStep(Length);
         Advance(State.CharsRead, 1);
         Advance(State.Position, Length);
-        IsNewLine = First == '\n'; // the one that is left behind
+        IsNewLine = First == '\n'; // the one that is left after
     } else {
         constexpr std::size_t cUnit = Kind == DBCS ? 2 : 1;
         State.CurPos += cUnit;
@@ -98,7 +98,8 @@ template <TQzCharacterSetType Kind> void TTextParserKind<Kind>::Next(TQzTextPars
     }
 }
 
-// Passes the run of characters that hold the test, as far as the last one in memory. True when that one holds it too.
+// Passes the run of characters that hold the test, as far as the last one in memory. True when that one holds
+// it too.
 template <TQzCharacterSetType Kind>
 template <class TTest>
 bool TTextParserKind<Kind>::Run(TQzTextParser& AParser, const TTest& ATest) {
@@ -115,7 +116,8 @@ bool TTextParserKind<Kind>::Run(TQzTextParser& AParser, const TTest& ATest) {
     }
     if (Here == Start)
         return ATest(Here);
-    // A line begins with the line feed on which a step lands; of a run without them that is the last step alone.
+    // A line begins with the line feed on which a step lands; of a run without them that is the last step
+    // alone.
     TQzTextPos Line = nullptr;
     for (TQzTextPos Pos = ATest(cLineFeed) ? Start + cUnit : Here; Pos <= Here; Pos += cUnit) {
         if constexpr (Kind == SBCS) {

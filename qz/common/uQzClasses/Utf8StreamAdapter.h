@@ -4,8 +4,9 @@
 //     TQzUTF8StreamAdapter Text(&File, false);       // writes a byte order mark first
 //     Text.WriteBuffer(u"Zoë", 6);
 //
-// Reading covers the Basic Multilingual Plane: forms of four bytes are not known. Sizes and positions are twice those of
-// the wrapped stream, which is right for ASCII text only. An adapter belongs to one thread at a time.
+// Reading covers the Basic Multilingual Plane: forms of four bytes are not known. Sizes and positions are
+// twice those of the wrapped stream, which is right for ASCII text only. An adapter belongs to one thread at
+// a time.
 #pragma once
 
 #include <qz/runtime/streams/Stream.h>
@@ -25,13 +26,14 @@ public:
     TQzUTF8StreamAdapter(TStream* AStream, bool AStreamOwner, bool AWriteUTF8Prefix = true);
     ~TQzUTF8StreamAdapter() override;
 
-    // Reads up to ACount div 2 units; the bytes delivered. Takes from the wrapped stream no byte more than these units
-    // have. Raises Exception, "The stream does not contain valid UTF-8 code!", for a byte that no form begins with,
-    // alone or with what is missing on a second line when the stream ends within a form. Bytes within a form are not
-    // checked. The wrapped stream stands behind the bytes that were looked at then.
+    // Reads up to ACount div 2 units; the bytes delivered. Takes from the wrapped stream no byte more than
+    // these units have. Raises Exception, "The stream does not contain valid UTF-8 code!", for a byte that no
+    // form begins with, alone or with what is missing on a second line when the stream ends within a form.
+    // Bytes within a form are not checked. The wrapped stream stands after the bytes that were looked at
+    // then.
     std::int32_t Read(void* ABuffer, std::int32_t ACount) override;
-    // Writes ACount div 2 units; ACount when the wrapped stream took all of it, else 0. A pair of surrogates that two
-    // calls tear apart gives U+FFFD twice.
+    // Writes ACount div 2 units; ACount when the wrapped stream took all of it, else 0. A pair of surrogates
+    // that two calls tear apart gives U+FFFD twice.
     std::int32_t Write(const void* ABuffer, std::int32_t ACount) override;
     // AOffset div 2 bytes of the wrapped stream; twice its new position.
     std::int64_t Seek(std::int64_t AOffset, TSeekOrigin AOrigin) override;

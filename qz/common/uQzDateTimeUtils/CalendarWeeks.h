@@ -5,8 +5,8 @@
 //     QzWeekOfYear(Now(), true);                   // "202435"
 //     QzClosestWeekDay(Invoice + 30, wdNext);      // the Monday after, if it falls on a weekend
 //
-// Mind the two kinds of weeks. What goes by numbers counts weeks that start on Monday, week 1 being the one that holds
-// the first Thursday of the year; what starts from a date takes weeks as the function says.
+// Mind the two kinds of weeks. What goes by numbers counts weeks that start on Monday, week 1 being the one
+// that holds the first Thursday of the year; what starts from a date takes weeks as the function says.
 //
 // A value outside the years 1 to 9999, one that is no number, and a result that TDateTime cannot hold raise
 // EConvertError. The functions have no state and may run on any number of threads.
@@ -21,8 +21,8 @@ namespace detail {
 QZ_API TDateTime FirstThursday(int AYear);
 } // namespace detail
 
-// The latest date up to ADate that falls on AFirstDay, 1 Sunday to 7 Saturday, at the same time of day. Another
-// AFirstDay raises EConvertError.
+// The latest date up to ADate that falls on AFirstDay, 1 Sunday to 7 Saturday, at the same time of day.
+// Another AFirstDay raises EConvertError.
 QZ_API TDateTime QzBOWeek(TDateTime ADate, int AFirstDay);
 // The first Saturday from ADate on, at the same time of day.
 QZ_API TDateTime QzEOWeek(TDateTime ADate);
@@ -37,17 +37,17 @@ TDateTime QzFirstThursdayOfYear(std::integral auto AYear) {
     return detail::FirstThursday(detail::CalendarYear(AYear));
 }
 
-// 1 to 53, always of the calendar year of the date, unlike ISO 8601: the days of January before week 1 belong to it,
-// and the days of December that ISO 8601 counts to the next year are of week 53.
+// 1 to 53, always of the calendar year of the date, unlike ISO 8601: the days of January before week 1 belong
+// to it, and the days of December that ISO 8601 counts to the next year are of week 53.
 QZ_API std::uint16_t QzWeekOfYear(TDateTime ADate);
-// The same in two digits, behind four digits of the year where asked for: "01", "202101".
+// The same in two digits, after four digits of the year where asked for: "01", "202101".
 QZ_API UnicodeString QzWeekOfYear(TDateTime ADate, bool AWithYear);
 
 // How many days of the month are of the same weekday as ADate: 4 or 5.
 QZ_API std::int32_t QzNthWeekDayOfMonth(TDateTime ADate);
 
-// ADate, or for a Saturday or Sunday the Friday before or the Monday after it at the same time of day. What is not
-// greater than 0 comes back unchanged.
+// ADate, or for a Saturday or Sunday the Friday before or the Monday after it at the same time of day. What
+// is not greater than 0 comes back unchanged.
 QZ_API TDateTime QzClosestWeekDay(TDateTime ADate, TQzWorkDayAdjustment AAdjustment);
 
 } // namespace qz

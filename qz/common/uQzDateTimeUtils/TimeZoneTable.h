@@ -1,4 +1,4 @@
-// The rows behind TQzTimeZones, by rising bias.
+// The rows after TQzTimeZones, by rising bias.
 //
 //     for (const TZoneRow& Row : cZoneRows) ...
 #pragma once

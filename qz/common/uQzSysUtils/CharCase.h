@@ -16,15 +16,16 @@ enum class TQzCharCase : std::uint8_t {
     rcUpperCase,      // all in upper case
     rcLowerCase,      // all in lower case
     rcTitleCase,      // the first character in upper case, the others in lower case
-    rcUpperCamelCase, // each character behind a delimiter, and the first, in upper case, the others in lower case
+    rcUpperCamelCase, // each character after a delimiter, and the first, in upper case, the others in lower case
     rcLowerCamelCase,       // the same with the first in lower case
     rcUpperCaseFirstLetter, // the first in upper case, the others as they are
     rcLowerCaseFirstLetter  // the first in lower case, the others as they are
 };
 using enum TQzCharCase;
 
-// The delimiters, which matter to the camel cases alone, stay in the text. The length may change where the system maps
-// one letter to several. The 8-bit text is converted to 16 bits and back unless it stays as it is.
+// The delimiters, which matter to the camel cases alone, stay in the text. The length may change where the
+// system maps one letter to several. The 8-bit text is converted to 16 bits and back unless it stays as it
+// is.
 QZ_API WideString QzCharCase(const WideString& AText, TQzCharCase ACase, const WideString& ADelimiters);
 QZ_API AnsiString QzCharCase(const AnsiString& AText, TQzCharCase ACase, const AnsiString& ADelimiters);
 

@@ -42,7 +42,7 @@ bool _TMultiReadExclusiveWriteSynchronizer::TryAcquireExclusive() {
     return true;
 }
 
-// The mark goes first: behind EndWrite it might wipe out that of the next writer.
+// The mark goes first: after EndWrite it might wipe out that of the next writer.
 void _TMultiReadExclusiveWriteSynchronizer::ReleaseExclusive() {
     FWriteLock = 0;
     EndWrite();

@@ -4,8 +4,8 @@
 //     const UnicodeString User = QzGetUserName(Domain);
 //     if (QzGetElevationLevel() == elFull) ...
 //
-// All functions tell what holds at that moment and may run on any number of threads. Linux keeps the name of a user once it
-// was found.
+// All functions tell what holds at that moment and may run on any number of threads. Linux keeps the name of
+// a user once it was found.
 #pragma once
 
 #include <qz/runtime/base/UnicodeString.h>
@@ -16,18 +16,18 @@ namespace qz {
 enum class TQzElevationLevel : std::uint8_t { elDefault, elFull, elLimited };
 using enum TQzElevationLevel;
 
-// elFull with an administrator's rights, elLimited without, elDefault where the system does not tell. On Linux root has
-// them.
+// elFull with an administrator's rights, elLimited without, elDefault where the system does not tell. On
+// Linux root has them.
 QZ_API TQzElevationLevel QzGetElevationLevel() noexcept;
 
-// The host name, on Windows the NetBIOS name; empty if the system does not tell.
+// The host name, on Windows the NetBIOS name; empty if the system reports none.
 QZ_API UnicodeString QzGetComputerName();
 
-// The user as whom the calling thread acts. Linux gives the number of one whose name no database of users tells. Empty if
-// the system does not tell.
+// The user as whom the calling thread acts. Linux gives the number of one whose name no database of users
+// tells. Empty if the system does not tell.
 QZ_API UnicodeString QzGetUserName();
-// The account of the process, and where it belongs: the computer's name for a local one. Both are empty if the system
-// does not tell.
+// The account of the process, and where it belongs: the computer's name for a local one. Both are empty if
+// the system does not tell.
 QZ_API UnicodeString QzGetUserName(UnicodeString& ADomain);
 
 // The system's number of the calling thread, never 0.

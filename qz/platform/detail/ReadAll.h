@@ -21,7 +21,8 @@ inline TResult<> MakeRoom(std::vector<std::byte>& AOut, std::size_t ASize) noexc
     return {};
 }
 
-// Calls AReadSome(std::span<std::byte>), a TResult<std::size_t>, until it gives 0. AExpected is the likely size.
+// Calls AReadSome(std::span<std::byte>), a TResult<std::size_t>, until it gives 0. AExpected is the likely
+// size.
 template <class TReadSome>
 TResult<std::vector<std::byte>> ReadAll(std::size_t AExpected, const TReadSome& AReadSome) {
     constexpr std::size_t cLeastGrowth = 4096;

@@ -14,8 +14,8 @@ namespace qz::platform {
 
 namespace {
 
-// The users who were found, since databases of users may be far away. None is ever taken out. Who was not found may
-// be at the next time.
+// The users who were found, since databases of users may be far away. None is ever taken out. Who was not
+// found may be at the next time.
 struct TKnownUser {
     uid_t Id;
     std::string Name;

@@ -32,7 +32,7 @@ std::string CapitalsAndDigits(std::string_view AName) {
     return Result;
 }
 
-// The number behind APrefix, 0 when AText is anything else.
+// The number after APrefix, 0 when AText is anything else.
 std::uint32_t NumberBehind(std::string_view AText, std::string_view APrefix) {
     std::uint32_t Result = 0;
     if (!AText.starts_with(APrefix))

@@ -1,4 +1,4 @@
-// What the tables of code pages are made from beside ICU's converters: where Windows answers differently, and its
+// The data for code page tables beside ICU's converters: where Windows differs, and its
 // best fits. tools/code-page-tables makes the data.
 #pragma once
 
@@ -11,8 +11,8 @@ namespace qz::platform::detail {
 // In the data: the code or character has no counterpart.
 constexpr char16_t cNoChar = 0xFFFF;
 
-// The Count codes from First on mean the characters from Char on, or nothing when Char is cNoChar. A code is a
-// byte, or lead byte * 256 + trail byte.
+// The Count codes from First on mean the characters from Char on, or nothing when Char is cNoChar. A code is
+// a byte, or lead byte * 256 + trail byte.
 struct TCodeRow {
     std::uint16_t First;
     std::uint16_t Count;
@@ -35,7 +35,7 @@ struct TPageData {
     std::uint16_t Base;                      // the page that this one is made from, 0: Converter
     const char* Converter;                   // ICU's name
     std::string_view Leads;                  // first and last lead byte of each range
-    std::uint8_t Default;                    // encodes what the page lacks
+    std::uint8_t Default;                    // replaces characters that the page lacks
     char16_t UnicodeDefault;                 // decoded from what means nothing
     std::uint16_t FitsLike;                  // a page whose best fits are valid here, too; 0: none
     std::span<const TCodeRow> Rows;          // what differs from the base ...

@@ -82,8 +82,8 @@ std::size_t ConvertInPlace(const TIn* ASource, std::size_t ALength, TOut* ATarge
     return Done;
 }
 
-// Unit by unit by ATable, but blocks that are in place at once. Where there are few of them they are looked for
-// less often.
+// Unit by unit by ATable, but blocks that are in place at once. Where there are few of them they are looked
+// for less often.
 template <bool cLatin, class TBlock, class TIn, class TOut>
 void ConvertBlocks(const TIn* ASource, std::size_t ALength, TOut* ATarget, const TOut* ATable) noexcept {
     std::size_t Done = 0;
@@ -99,7 +99,7 @@ void ConvertBlocks(const TIn* ASource, std::size_t ALength, TOut* ATarget, const
         ATarget[Done] = ATable[ASource[Done]];
 }
 
-// The same for any page; one that doesn't have ASCII in place goes by the table alone.
+// The same for any page; one that does not have ASCII in place goes by the table alone.
 template <class TBlock, class TIn, class TOut>
 void ConvertSingle(const TCodePage& APage, const TIn* ASource, std::size_t ALength, TOut* ATarget,
                    const TOut* ATable) noexcept {
@@ -178,7 +178,7 @@ TResult<std::size_t> DecodeDouble(const TCodePage& APage, std::span<const std::u
     return Length;
 }
 
-// A letter and a mark behind it as one character, 0 when there is none. Korean syllables are not made.
+// A letter and a mark after it as one character, 0 when there is none. Korean syllables are not made.
 char16_t Compose(char16_t AFirst, char16_t ASecond) noexcept {
     if (AFirst >= 0x1100 && ASecond >= 0x1161 && ASecond <= 0x11C2)
         return 0;
@@ -187,7 +187,7 @@ char16_t Compose(char16_t AFirst, char16_t ASecond) noexcept {
     return U_SUCCESS(Status) && Result > 0 && Result <= 0xFFFF ? static_cast<char16_t>(Result) : char16_t{0};
 }
 
-// Whether some character may be composed with this one behind it: a rough answer that is quick.
+// Whether some character may be composed with this one after it: a rough answer that is quick.
 bool MayCompose(char16_t AUnit) noexcept {
     return (AUnit >= 0x300 && AUnit <= 0x345) || (AUnit >= 0x653 && AUnit <= 0x1B35) || AUnit == 0x3099 ||
         AUnit == 0x309A;
@@ -244,7 +244,7 @@ std::size_t EncodeDouble(const TCodePage& APage, std::u16string_view ASource, ch
     if (ATarget == nullptr || ASource.empty())
         return EncodeEach<false>(Codes, ASource, ATarget);
     std::size_t Length = 0;
-    // Behind each character but the last there is room for one more byte at least.
+    // After each character but the last there is room for one more byte at least.
     const std::size_t Last = ASource.size() - 1;
     for (std::size_t At = 0; At < Last;) {
         if (APage.HasAscii && ASource[At] < 0x80) {

@@ -89,9 +89,9 @@ TError ErrorOf(UErrorCode AStatus) {
     }
 }
 
-// Calls AStep, which moves the target and its own source on as ICU's streaming converters do. What doesn't go
-// into ATarget goes to a place of no interest: to be counted, or to see whether there is anything at all, as a
-// converter also asks for room when only an escape sequence is left.
+// Calls AStep, which moves the target and its own source on as ICU's streaming converters do. What does not
+// go into ATarget goes to a place of no interest: to be counted, or to see whether there is anything at all,
+// as a converter also asks for room when only an escape sequence is left.
 template <class TUnit, class TStep>
 TResult<std::size_t> Stream(std::span<TUnit> ATarget, const TStep& AStep) {
     std::array<TUnit, 1024> Scratch;

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t cCodes = 0x10000;
 
-// What a code means: an index is a byte, or lead byte * 256 + trail byte.
+// The meaning of a code. An index is a byte, or lead byte * 256 + trail byte.
 using TCodeChars = std::vector<char16_t>;
 // Character to the character that stands for it.
 using TFits = std::map<char16_t, char16_t>;
@@ -87,7 +87,7 @@ void Change(const TPageData& AData, TCodeChars& AChars) {
         std::ranges::copy(Text.Chars, AChars.begin() + Text.First);
 }
 
-// What the codes of the page mean. False when ICU lacks the converter.
+// The meanings of the page's codes. False if ICU lacks the converter.
 bool Decode(const TPageData& AData, TCodeChars& AChars) {
     AChars.assign(cCodes, cNoChar);
     if (AData.Base != 0) {

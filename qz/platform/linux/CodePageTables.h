@@ -20,7 +20,8 @@ struct TCodePage {
     TCodeRowChars Single{};
     // 1 for a byte that strict decoding refuses.
     std::array<std::uint8_t, 256> Refused{};
-    // For each byte 0, or for a lead byte one more than the place in Pairs of the characters of its trail bytes.
+    // For each byte 0, or for a lead byte one more than the place in Pairs of the characters of its trail
+    // bytes.
     std::array<std::uint8_t, 256> Leads{};
     std::vector<TCodeRowChars> Pairs;
     // Encoding: a byte, or lead byte * 256 + trail byte, for each character; one of them has all characters.
@@ -57,8 +58,8 @@ inline const TCodePage* FindCodePageTables(std::uint32_t APage) noexcept {
 // Whether APage is converted by tables, be they made or not.
 bool HasCodePageTables(std::uint32_t APage) noexcept;
 
-// Makes the tables of such a page, or finds those that another thread has made. Fails with ENOMEM, or with EINVAL
-// where ICU lacks the converter that they are made from. Any thread, one at a time.
+// Makes the tables of such a page, or finds those that another thread has made. Fails with ENOMEM, or with
+// EINVAL where ICU lacks the converter that they are made from. Any thread, one at a time.
 TResult<const TCodePage*> MakeCodePageTables(std::uint32_t APage) noexcept;
 
 } // namespace qz::platform::detail

@@ -26,7 +26,7 @@ std::uint32_t AskSystemCodePage() {
         freelocale(Locale);
         return Page;
     }
-    // Not installed, but its name may tell: "ja_JP.eucJP@modifier".
+    // The locale is not installed, but its name may state the character set: "ja_JP.eucJP@modifier".
     const std::size_t Dot = Name.find('.');
     return Dot == std::string::npos
         ? cUtf8Page

@@ -10,7 +10,7 @@
 
 namespace qz::platform {
 
-// Each argument, the name of the program first, is ended by a NUL there.
+// /proc/self/cmdline holds each argument, the program name first, followed by a NUL.
 std::vector<std::u16string> CommandLineArguments() {
     // Empty where /proc is not mounted.
     const TResult<std::vector<std::byte>> Bytes = ReadWholeFile(u"/proc/self/cmdline");

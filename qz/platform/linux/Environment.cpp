@@ -14,8 +14,8 @@ namespace {
 // Has no destructor that does anything: threads may ask while the program ends.
 constinit std::mutex GEnvironmentLock;
 
-// Locks that are taken around a fork() are taken in the opposite order of this. Since the environment is asked under
-// others, it has to come before all of them.
+// Locks that are taken around a fork() are taken in the opposite order of this. Since the environment is
+// asked under others, it has to come before all of them.
 struct TForkWatch {
     TForkWatch() {
         AroundFork([] { GEnvironmentLock.lock(); }, [] { GEnvironmentLock.unlock(); },

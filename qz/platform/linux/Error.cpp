@@ -10,7 +10,7 @@ namespace qz::platform {
 std::u16string ErrorText(int ACode) {
     char Buffer[256];
     const int Kept = errno;
-    // The GNU form, which may give a text of its own instead of the buffer.
+    // The GNU form, which may return a static text instead of the buffer.
     const char* Text = strerror_r(ACode, Buffer, sizeof Buffer);
     errno = Kept;
     return detail::FromNative(Text);

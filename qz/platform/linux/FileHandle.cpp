@@ -18,7 +18,7 @@ namespace qz::platform {
 
 namespace {
 
-// A file that is there is emptied only once it is known that nobody is in the way.
+// An existing file is truncated only after the sharing check.
 int FlagsOf(TFileAccess AAccess, TFileCreation ACreation) {
     constexpr int cAccess[] = {O_RDONLY, O_WRONLY, O_RDWR};
     constexpr int cCreation[] = {0, O_CREAT, O_CREAT, O_CREAT | O_EXCL};
@@ -101,8 +101,8 @@ TResult<> TFileHandle::WriteAtEnd() {
     return ResultOf(Flags >= 0 && fcntl(static_cast<int>(FHandle), F_SETFL, Flags | O_APPEND) == 0);
 }
 
-// Past the C library's write, which costs more in a program of several threads, as it can be cancelled, and without the lock of
-// the position.
+// Past the C library's write, which costs more in a program of several threads, as it can be cancelled, and
+// without the lock of the position.
 TWritten TFileHandle::Append(std::span<const std::byte> ASource) {
     const auto File = static_cast<int>(FHandle);
     const long Written = syscall(SYS_pwrite64, File, ASource.data(), ASource.size(), 0L);

@@ -12,9 +12,9 @@ namespace qz::platform::detail {
 
 namespace {
 
-// Four ranges of bytes, far behind what any file holds. A handle stands in a range by a lock on one of its bytes.
-// Handles that can read lock the first byte, which any number of them may share; handles that can only write are
-// allowed only exclusive locks, so that each takes another byte of the rest.
+// Four ranges of bytes, far after what any file holds. A handle stands in a range by a lock on one of its
+// bytes. Handles that can read lock the first byte, which any number of them may share; handles that can only
+// write are allowed only exclusive locks, so that each takes another byte of the rest.
 constexpr off_t cRangeSize = off_t{1} << 32;
 constexpr off_t cFirstRange = off_t{1} << 62;
 
@@ -39,7 +39,7 @@ bool IsForeign(const struct flock& ALock) {
         ALock.l_start + ALock.l_len > cFirstRange + 4 * cRangeSize;
 }
 
-// Whether another open file of this library holds a lock in the range. Behind a foreign lock none can be seen.
+// Whether another open file of this library holds a lock in the range. After a foreign lock none can be seen.
 bool IsTaken(int AFile, TRange ARange) {
     struct flock Where {};
     Where.l_type = F_WRLCK;
@@ -111,8 +111,8 @@ bool ShareFile(int AFile, TFileAccess AAccess, TFileSharing ASharing) {
     if (fstat(AFile, &Status) != 0 || !S_ISREG(Status.st_mode))
         return true;
     const TWishes Wishes{AAccess != TFileAccess::Write, AAccess != TFileAccess::Read, ASharing};
-    // Every handle announces first and looks then, so that of two that exclude each other never both succeed. Both
-    // may see the other and give up; hence some more tries, at moments that differ.
+    // Every handle announces first and looks then, so that of two that exclude each other never both succeed.
+    // Both may see the other and give up; hence some more tries, at moments that differ.
     constexpr int cTries = 4;
     for (int Try = 1;; ++Try) {
         if (!Announce(AFile, Wishes)) {

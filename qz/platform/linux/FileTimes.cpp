@@ -26,7 +26,7 @@ constexpr std::int64_t cUnixEpochSeconds = 11'644'473'600; // 1970-01-01
 constexpr std::size_t cLongestAttribute = 3 * 20 + 2;
 
 std::int64_t StepsOf(const struct statx_timestamp& ATime) {
-    // File systems may hold what no date can tell.
+    // File systems may hold times outside the range of dates.
     constexpr std::int64_t cFarthest = std::numeric_limits<std::int64_t>::max() / cStepsPerSecond - 1;
     const std::int64_t Seconds =
         std::clamp<std::int64_t>(ATime.tv_sec, -cFarthest, cFarthest - cUnixEpochSeconds) + cUnixEpochSeconds;
@@ -49,7 +49,7 @@ std::int64_t BirthOf(const struct statx& AStatus) {
     return IsKept ? StepsOf(AStatus.stx_btime) : 0;
 }
 
-// The numbers of the attribute: the time set, and those that tell the file.
+// The numbers of the attribute: the time set, and two that identify the file.
 using TNote = std::array<std::int64_t, 3>;
 
 std::optional<TNote> ParseNote(std::string_view AText) {

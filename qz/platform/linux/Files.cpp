@@ -82,8 +82,8 @@ std::string NameBeside(const std::string& APath) {
     return Directory + ".qz" + std::to_string(getpid()) + "-" + std::to_string(++Counter) + ".tmp";
 }
 
-// An attribute of the old file: the list of those who may use it, or one that a user set. False when the new file
-// cannot have it.
+// An attribute of the old file: the list of those who may use it, or one that a user set. False when the new
+// file cannot have it.
 bool TakeAttribute(int AFile, const std::string& APath, const char* AName) {
     const ssize_t Size = getxattr(APath.c_str(), AName, nullptr, 0);
     if (Size < 0)

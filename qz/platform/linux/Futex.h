@@ -15,10 +15,10 @@ constexpr int cFutexEveryone = INT_MAX;
 void FutexWait(const void* AWord, std::uint32_t AExpected, std::uint32_t AGroups = cFutexAll) noexcept;
 
 // Wakes up to ACount of those who sleep on AWord in one of AGroups, and gives their number. Reads nothing at
-// AWord, which may be gone already. errno keeps its value.
+// AWord, whose memory may be freed already. Preserves errno.
 int FutexWake(const void* AWord, int ACount, std::uint32_t AGroups = cFutexAll) noexcept;
 
-// Tells the processor that this is a short wait for another one.
+// A spin-wait hint for the processor.
 inline void SpinPause() noexcept {
 #if defined(__x86_64__) || defined(__i386__)
     __builtin_ia32_pause();

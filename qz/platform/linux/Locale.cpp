@@ -158,7 +158,7 @@ TLocale ReadLocale(const TLocaleNames& ANames) {
     return Result;
 }
 
-// What the environment says now, for the length of AUse.
+// The current environment setting, valid during AUse.
 template <class TUse> auto WithUserLocale(const TUse& AUse) {
     // To open a locale in ICU takes a tenth of a millisecond, and what it says does not change with time.
     static auto* const Lock = new std::mutex;

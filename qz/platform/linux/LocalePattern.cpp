@@ -54,7 +54,7 @@ std::u16string PlainField(char16_t ALetter, std::size_t ACount) {
     }
 }
 
-// The end of the quoted text that begins at AStart, behind its closing quote.
+// The end of the quoted text that begins at AStart, after its closing quote.
 std::size_t QuotedEnd(std::u16string_view APattern, std::size_t AStart) {
     const std::size_t Quote = APattern.find(u'\'', AStart + 1);
     return Quote == std::u16string_view::npos ? APattern.size() : Quote + 1;

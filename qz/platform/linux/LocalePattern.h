@@ -7,7 +7,7 @@
 
 namespace qz::platform::detail {
 
-// A Unicode date or time pattern, in the letters of TLocale. Fields that those can't tell (era, zone,
+// A Unicode date or time pattern, in the letters of TLocale. Fields that those cannot tell (era, zone,
 // quarter) go, together with the blanks around them; quoted text stays quoted; special blanks become plain
 // ones.
 std::u16string PlainPattern(std::u16string_view APattern);
@@ -15,7 +15,7 @@ std::u16string PlainPattern(std::u16string_view APattern);
 // A plain pattern whose year has four digits: "dd.MM.yy" gives "dd.MM.yyyy".
 std::u16string WithLongYear(std::u16string_view APattern);
 
-// The first unit between two fields of a plain pattern that isn't a blank; empty if there is none.
+// The first unit between two fields of a plain pattern that is not a blank; empty if there is none.
 std::u16string_view FirstSeparator(std::u16string_view APattern);
 
 // The positions of an amount of 1, or of -1, as ICU wrote it with the symbol ACurrency. A negative form that

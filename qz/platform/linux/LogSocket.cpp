@@ -43,7 +43,7 @@ TSent OutcomeOf(int ACode) noexcept {
     }
 }
 
-// A file in memory that nobody can change any more; -1 on failure.
+// A sealed file in memory; -1 on failure.
 int SealedFile(std::string_view AContent) noexcept {
     const int File = memfd_create("qzcommon-log", MFD_CLOEXEC | MFD_ALLOW_SEALING);
     if (File < 0)
@@ -152,7 +152,7 @@ TSent TLogStream::SendRaw(const std::string& AMessage) const noexcept {
     const std::size_t Size = AMessage.size() + 1;
     for (;;) {
         const ssize_t Sent = send(FSocket.Handle(), AMessage.c_str(), Size, MSG_DONTWAIT | MSG_NOSIGNAL);
-        if (Sent >= 0) // one taken in part is begun anew on another connection
+        if (Sent >= 0) // one taken in part is begun again on another connection
             return static_cast<std::size_t>(Sent) == Size ? TSent::Yes : TSent::NoDaemon;
         if (errno != EINTR)
             return OutcomeOf(errno);

@@ -13,11 +13,11 @@ enum class TSent : unsigned char {
     Yes,
     Lost,    // the daemon, or this system, takes no more now
     TooLong, // for one datagram
-    NoDaemon // nobody listens at the path
+    NoDaemon // no daemon listens at the path
 };
 
-// A socket that does not wait. It is told from whatever else may have got its number since: programs that become daemons
-// close all descriptors that they find.
+// A socket that does not wait. It is told from whatever else may have got its number since: programs that
+// become daemons close all descriptors that they find.
 class TLogSocket {
 public:
     TLogSocket() noexcept = default;
@@ -25,7 +25,7 @@ public:
     TLogSocket& operator=(const TLogSocket&) = delete;
     ~TLogSocket() { Close(); }
 
-    // Lets go of the former one. False, and errno tells why, on failure.
+    // Closes the previous one. False, with errno set, on failure.
     bool Open(int AType) noexcept;
     bool IsOpen() const noexcept;
     void Close() noexcept;
@@ -37,7 +37,8 @@ private:
     ino_t FNode = 0;
 };
 
-// Sends datagrams, each to where the path leads at that moment, so that a daemon may come and go. One thread at a time.
+// Sends datagrams, each to where the path leads at that moment, so that a daemon may come and go. One thread
+// at a time.
 class TLogDatagrams {
 public:
     TSent Send(const std::string& APath, std::string_view AMessage) noexcept;
@@ -50,9 +51,9 @@ private:
     TLogSocket FSocket;
 };
 
-// Sends messages one behind the other, with a NUL behind each. Connects when there is something to send, and once anew when
-// the daemon has gone. One thread at a time; the child of a fork() may go on with the connection, since the system takes
-// a message of less than 16 KiB whole or not at all.
+// Sends messages one after the other, with a NUL after each. Connects when there is something to send, and
+// once again when the daemon has gone. One thread at a time; the child of a fork() may go on with the
+// connection, since the system takes a message of less than 16 KiB whole or not at all.
 class TLogStream {
 public:
     TSent Send(const std::string& APath, const std::string& AMessage) noexcept;

@@ -44,7 +44,7 @@ void Wait(TLock& ALock) noexcept {
         if (State == lsFree && TryTake(ALock))
             return;
     }
-    // Whoever waited takes the lock as awaited, as others may wait still.
+    // A thread that waited marks the lock as contended, since others may still wait.
     while (ALock.State.exchange(lsHeldAndAwaited, std::memory_order_acquire) != lsFree)
         detail::FutexWait(&ALock.State, lsHeldAndAwaited);
 }

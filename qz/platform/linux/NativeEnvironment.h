@@ -6,7 +6,7 @@
 
 namespace qz::platform::detail {
 
-// The bytes of a variable, nothing when it isn't set. Under the same lock as SetEnvironment.
+// The bytes of a variable, nothing when it is not set. Under the same lock as SetEnvironment.
 std::optional<std::string> NativeEnvironment(const char* AName);
 
 } // namespace qz::platform::detail

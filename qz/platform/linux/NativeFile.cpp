@@ -35,7 +35,7 @@ ssize_t ReadSome(int AFile, std::span<std::byte> ATarget) noexcept {
 
 bool WriteAll(int AFile, std::span<const std::byte> ASource, std::size_t& ADone) noexcept {
     ADone = 0;
-    std::optional<TNoLimitSignal> Quiet; // behind a write that came to the limit of the file
+    std::optional<TNoLimitSignal> Quiet; // after a write that came to the limit of the file
     while (ADone < ASource.size()) {
         if (ADone > 0 && !Quiet)
             Quiet.emplace();
@@ -44,7 +44,7 @@ bool WriteAll(int AFile, std::span<const std::byte> ASource, std::size_t& ADone)
         if (Written > 0) {
             ADone += static_cast<std::size_t>(Written);
         } else if (Written == 0) {
-            errno = EIO; // a device that takes nothing would hold us here for ever
+            errno = EIO; // a device that takes nothing would hold us here forever
             return false;
         } else if (errno != EINTR) {
             return false;

@@ -7,7 +7,7 @@
 
 namespace qz::platform::detail {
 
-// UTF-8 to UTF-16. Each byte that isn't part of valid UTF-8 gives the lone surrogate U+DC00 plus the byte.
+// UTF-8 to UTF-16. Each byte that is not part of valid UTF-8 gives the lone surrogate U+DC00 plus the byte.
 std::u16string FromNative(std::string_view ABytes);
 
 // The way back: U+DC80 to U+DCFF gives its byte. Any other lone surrogate gives the three bytes that UTF-8

@@ -98,7 +98,7 @@ std::string OfService() {
 }
 
 struct TFound {
-    std::string Path; // empty when it lies in a home that nobody knows
+    std::string Path; // empty if the home is unknown
     bool IsOwn;       // the user's
 };
 
@@ -132,7 +132,7 @@ TFound PathOf(const TFolder& AFolder, const detail::TSharedPlaces& APlaces) {
     }
 }
 
-// Makes what is missing of the path.
+// Creates the missing directories of the path.
 bool MakePath(const std::string& APath, mode_t AMode) {
     for (std::size_t End = APath.find('/', 1);; End = APath.find('/', End + 1)) {
         const std::string Part = APath.substr(0, End);

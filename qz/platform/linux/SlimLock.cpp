@@ -20,12 +20,12 @@
 //  - A reader sleeps only while the low half is unchanged with its bit 2 in it. That bit goes out only
 //    together with a wake of all readers, and whoever frees the lock takes it out, or leaves it to a waiting
 //    writer who frees the lock later.
-//  - A writer sleeps only while the lock is taken, and whoever frees it wakes a writer if the number isn't 0.
+//  - A writer sleeps only while the lock is taken, and whoever frees it wakes a writer if the number is not 0.
 //    If none slept, those who wait are awake and will look.
 //
 // "Writers first" is set by a writer who finds the lock taken. A writer who frees the lock to sleeping
 // readers takes it out, which gives them a turn before the next writer finds them inside. A thread that has
-// freed the lock doesn't look at the word any more: the next owner may have destroyed it.
+// freed the lock does not look at the word any more: the next owner may have destroyed it.
 
 namespace qz::platform {
 
@@ -54,7 +54,7 @@ public:
         return reinterpret_cast<std::uintptr_t>(FWord.load(std::memory_order_relaxed));
     }
 
-    // On failure AExpected becomes what the word holds.
+    // On failure AExpected receives the value of the word.
     bool Change(std::uintptr_t& AExpected, std::uintptr_t ANew,
                 std::memory_order AOrder = std::memory_order_relaxed) noexcept {
         void* Expected = reinterpret_cast<void*>(AExpected);

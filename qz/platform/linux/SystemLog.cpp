@@ -18,7 +18,7 @@ namespace detail {
 
 namespace {
 
-constexpr std::size_t cLongestSyslogText = 8000; // of one message: what the daemons take at least
+constexpr std::size_t cLongestSyslogText = 8000; // of one message: the least that the daemons accept
 constexpr std::size_t cKeptRoom = 64 * 1024;
 
 struct TSource {
@@ -97,8 +97,9 @@ TSent SendToJournal(TSource& ASource, const std::string& APath, TEventType AType
     return Result == TSent::TooLong ? ASource.Datagrams.SendFile(APath, Message) : Result;
 }
 
-// "<12>Jan 31 08:15:02 source[17]: ", the local time as the daemons expect it. 8 is the facility of users' programs. The C
-// library's conversions of time are not used: a child of fork() may find their lock held for ever.
+// "<12>Jan 31 08:15:02 source[17]: ", the local time as the daemons expect it. 8 is the facility of users'
+// programs. The C library's conversions of time are not used: a child of fork() may find their lock held
+// forever.
 std::string SyslogHeader(const TSource& ASource, TEventType AType) {
     constexpr const char* cMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                        "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};

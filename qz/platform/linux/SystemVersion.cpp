@@ -11,7 +11,7 @@ namespace qz::platform {
 
 namespace {
 
-// The number at the start of the text, 0 without one, and the dot behind it.
+// The number at the start of the text, 0 without one, and the dot after it.
 std::uint32_t TakeNumber(std::string_view& AText) {
     std::uint32_t Number = 0;
     const auto [Next, Failure] = std::from_chars(AText.data(), AText.data() + AText.size(), Number);

@@ -21,7 +21,7 @@ using TCaseMapper = std::int32_t (*)(UChar*, std::int32_t, const UChar*, std::in
 
 struct TCaseRules {
     std::string Locale;
-    bool PlainAscii; // whether A to Z and a to z are each other's counterparts, which they aren't in Turkish
+    bool PlainAscii; // whether A to Z and a to z are each other's counterparts, which they are not in Turkish
 };
 
 TCaseRules AskCaseRules() {

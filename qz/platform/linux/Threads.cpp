@@ -66,7 +66,7 @@ void SetCurrentThreadName(std::string_view AName) {
     AName = AName.substr(0, AName.find('\0'));
     std::size_t Length = std::min(AName.size(), cNameLimit);
     if (Length < AName.size()) {
-        // A continuation byte behind the cut means that the cut tears a character.
+        // A continuation byte after the cut means that the cut tears a character.
         while (Length > 0 && (static_cast<unsigned char>(AName[Length]) & 0xC0) == 0x80)
             --Length;
     }

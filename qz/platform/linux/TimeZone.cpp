@@ -15,8 +15,8 @@
 #include <qz/platform/linux/ZoneFile.h>
 #include <qz/platform/linux/ZoneText.h>
 
-// What TZ may hold: the name of a file, absolute or below the folder of zones, else a rule
-// text; a colon in front means nothing. Without TZ it is /etc/localtime. Whatever cannot be read, in full, is UTC.
+// What TZ may hold: the name of a file, absolute or below the folder of zones, else a rule text; a colon in
+// front means nothing. Without TZ it is /etc/localtime. Whatever cannot be read, in full, is UTC.
 
 namespace qz::platform {
 
@@ -56,7 +56,7 @@ TSetting Setting() {
 }
 
 bool ReadWhole(const std::string& APath, std::vector<std::byte>& AData) {
-    // Not to wait for a pipe that nobody writes to.
+    // Does not wait for a writer of a pipe.
     const int File = detail::OpenNative(APath.c_str(), O_RDONLY | O_NONBLOCK);
     if (File < 0)
         return false;

@@ -1,4 +1,4 @@
-// What the system's databases of users know of one.
+// A user's record in the system's user databases.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ struct TUserRecord {
     std::string Home;
 };
 
-// Empty texts for a user that nobody knows, and where the databases cannot be asked at this moment.
+// Empty for an unknown user, and if the databases are not available.
 TUserRecord UserRecord(uid_t AId);
 
 // Takes the domain out of a name that reads DOMAIN\user or user@domain; empty for any other.

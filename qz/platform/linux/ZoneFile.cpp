@@ -14,7 +14,7 @@ constexpr std::int32_t cLowestOffset =
     -89'999; // the bounds of the format's description, about 25 and 26 hours
 constexpr std::int32_t cHighestOffset = 93'599;
 
-// Takes from the front of the data. Behind its end everything is 0, and the reader remembers.
+// Takes from the front of the data. After its end everything is 0, and the reader remembers.
 class TReader {
 public:
     explicit TReader(std::span<const std::byte> AData) noexcept : FData(AData) {}

@@ -49,7 +49,7 @@ bool TFileHandle::Close() noexcept {
 TResult<std::size_t> TFileHandle::Read(std::span<std::byte> ATarget) {
     DWORD Got = 0;
     const auto Step = static_cast<DWORD>(std::min(ATarget.size(), cLargestStep));
-    // A pipe whose other end is gone has come to its end.
+    // A pipe ends with this error when its other end is closed.
     const bool Ok = ReadFile(Handle(FHandle), ATarget.data(), Step, &Got, nullptr) != 0 ||
         GetLastError() == ERROR_BROKEN_PIPE;
     if (!Ok)

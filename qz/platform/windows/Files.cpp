@@ -51,7 +51,7 @@ std::uint64_t Joined(DWORD AHigh, DWORD ALow) {
     return (std::uint64_t{AHigh} << 32) | ALow;
 }
 
-// What a path leads to, links followed.
+// The target of a path; follows links.
 std::optional<TStatus> TargetStatus(const std::u16string& APath) {
     const TFile File(APath, 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
     BY_HANDLE_FILE_INFORMATION Information;
@@ -63,7 +63,7 @@ std::optional<TStatus> TargetStatus(const std::u16string& APath) {
     return TStatus{IsDirectory, Joined(Information.nFileSizeHigh, Information.nFileSizeLow)};
 }
 
-// As TargetStatus. Opens nothing that isn't a link, since others may have locked it.
+// As TargetStatus. Opens nothing that is not a link, since others may have locked it.
 std::optional<TStatus> StatusOf(std::u16string_view APath) {
     const std::optional<std::u16string> Path = detail::SystemPath(APath);
     WIN32_FILE_ATTRIBUTE_DATA Data;
@@ -100,7 +100,7 @@ TResult<> WriteInPlace(TFile& AFile, TPieces APieces) {
     return ResultOf(Ok && AFile.Close());
 }
 
-// What a file that can be written but not replaced answers to a replacement: the directory or the file is
+// The errors of ReplaceFile for a file that can be written but not replaced: the directory or the file is
 // protected, or others have the file open.
 constexpr DWORD cWriteInPlace[] = {ERROR_ACCESS_DENIED, ERROR_SHARING_VIOLATION,
                                    ERROR_UNABLE_TO_REMOVE_REPLACED};
@@ -166,7 +166,7 @@ bool DirectoryExists(std::u16string_view APath) {
 
 TResult<std::vector<TDirEntry>> ListDirectory(std::u16string_view APath) {
     const std::u16string Directory(APath);
-    // Behind a drive alone a separator would mean its root.
+    // After a drive alone a separator would mean its root.
     const std::optional<std::u16string> Pattern =
         detail::SystemPath(Directory + (Directory.ends_with(u':') ? u"*" : u"\\*"));
     if (!Pattern || APath.empty())

@@ -8,7 +8,7 @@ namespace qz::platform {
 
 namespace {
 
-// Leaves the target as it is when the system has no such text.
+// Leaves the target unchanged if the system has no such text.
 void ReadText(std::u16string& ATarget, LCTYPE AKind) {
     const int Size = GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, AKind, nullptr, 0);
     if (Size <= 0)

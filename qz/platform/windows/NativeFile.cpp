@@ -15,7 +15,7 @@ bool WriteAll(void* AFile, std::span<const std::byte> ASource, std::size_t& ADon
         if (WriteFile(AFile, ASource.data() + ADone, Step, &Written, nullptr) == 0)
             return false;
         if (Written == 0) {
-            SetLastError(ERROR_WRITE_FAULT); // a device that takes nothing would hold us here for ever
+            SetLastError(ERROR_WRITE_FAULT); // a device that takes nothing would hold us here forever
             return false;
         }
         ADone += Written;

@@ -6,7 +6,7 @@
 
 namespace qz::platform::detail {
 
-// Writes all of ASource; ADone tells how much arrived. Leaves the last error on failure.
+// Writes all of ASource; ADone receives the number of bytes written. Leaves the last error on failure.
 bool WriteAll(void* AFile, std::span<const std::byte> ASource, std::size_t& ADone) noexcept;
 
 } // namespace qz::platform::detail

@@ -39,7 +39,7 @@ void FillVersion(TWindowsFacts& AFacts) {
 TSystemVersion SystemVersion() {
     OSVERSIONINFOW Version{};
     Version.dwOSVersionInfoSize = sizeof Version;
-    // Unlike GetVersionExW it tells the same to all programs. No header of the toolchain has it.
+    // Unlike GetVersionExW it gives all programs the same answer. The toolchain's headers lack it.
     using TGetVersion = LONG(WINAPI*)(OSVERSIONINFOW*);
     const auto Get = reinterpret_cast<TGetVersion>(FindModuleFunction(u"ntdll.dll", "RtlGetVersion"));
     if (Get == nullptr || Get(&Version) != 0)

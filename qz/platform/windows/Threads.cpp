@@ -90,7 +90,7 @@ void YieldThread() noexcept {
 }
 
 void SleepMs(std::uint32_t AMilliseconds) noexcept {
-    // The greatest number would mean for ever.
+    // The greatest number would mean forever.
     Sleep(std::min<DWORD>(AMilliseconds, INFINITE - 1));
 }
 
@@ -99,7 +99,7 @@ bool StartServiceThread(void (*ABody)() noexcept) noexcept {
         reinterpret_cast<void (*)() noexcept>(AParameter)();
         return 0;
     };
-    HMODULE Module; // the thread outlives whoever unloads this library
+    HMODULE Module; // the thread may outlive an unload of this library
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
                        reinterpret_cast<LPCWSTR>(ABody), &Module);
     HANDLE Thread = CreateThread(nullptr, 0, Body, reinterpret_cast<void*>(ABody), 0, nullptr);

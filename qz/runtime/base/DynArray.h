@@ -5,7 +5,8 @@
 //     Data[0] = 9;                 // seen through both: an element write does not make a copy
 //     Data.SetLength(10);          // now Data has an array of its own
 //
-// Threads: different handles may be used by different threads; the elements of a shared array are shared state.
+// Threads: different handles may be used by different threads; the elements of a shared array are shared
+// state.
 #pragma once
 
 #include <algorithm>
@@ -62,9 +63,9 @@ public:
             std::equal(ALeft.begin(), ALeft.end(), ARight.begin(), ARight.end());
     }
 
-    // Cuts the array or lengthens it by value-initialised elements; a shared array becomes private, also when the
-    // length stays. Growing step by step takes time in proportion to the final length. An exception leaves the
-    // array as it was.
+    // Cuts the array or lengthens it by value-initialised elements; a shared array becomes private, also when
+    // the length stays. Growing step by step takes time in proportion to the final length. An exception
+    // leaves the array as it was.
     void SetLength(std::size_t ALength) {
         if (ALength == 0)
             return Clear();
@@ -108,8 +109,8 @@ private:
         FBlock->Length = ALength;
     }
 
-    // Builds a block of ALength elements of which the first are those of AItems, moved where that cannot fail and
-    // AMayMove says that nobody else has them. This handle is empty.
+    // Builds a block of ALength elements of which the first are those of AItems, moved where that cannot fail
+    // and AMayMove says that no other handle shares them. This handle is empty.
     void Fill(std::size_t ALength, std::size_t ACapacity, std::span<const T> AItems, bool AMayMove) {
         if (ALength == 0)
             return;

@@ -1,4 +1,5 @@
-// TSet<E>, a set of values of a small enumeration, and TCharSet, a set of 8-bit characters; both constexpr bit sets.
+// TSet<E>, a set of values of a small enumeration, and TCharSet, a set of 8-bit characters; both constexpr
+// bit sets.
 //
 //     TReplaceFlags Flags = {rfReplaceAll};
 //     Flags += rfIgnoreCase;

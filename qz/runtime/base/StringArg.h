@@ -3,7 +3,7 @@
 //     int WordCount(const TStringArg& AText);
 //     WordCount(u"no copy"); WordCount(Name); WordCount("UTF-8 is converted");
 //
-// It holds a view of 16-bit text as it stands, without a copy or a count; narrow text is taken as UTF-8 and
+// It holds a view of 16-bit text without copying or counting. Narrow text is taken as UTF-8 and
 // converted. It lives as long as the call: never keep one.
 #pragma once
 

@@ -1,8 +1,8 @@
-// The heap block behind every string type: a header of 16 bytes, the characters, and a terminator.
+// The heap block of every string type: a header of 16 bytes, the characters, and a terminator.
 //
-// A string handle is one pointer to the first character, or null for the empty text. Copies share the block; the
-// count says how many handles do. A block with the count cImmortal is a constant of the program: it is never
-// counted and never freed. The header is part of the binary interface and pinned below.
+// A string handle is one pointer to the first character, or null for the empty text. Copies share the block;
+// the count says how many handles do. A block with the count cImmortal is a constant of the program: it is
+// never counted and never freed. The header is part of the binary interface and pinned below.
 #pragma once
 
 #include <atomic>
@@ -46,8 +46,8 @@ struct TStringBlock {
             FreeBlock(this);
     }
 
-    // A block with the count 1, ALength characters not yet set, and the terminator set. Raises std::bad_alloc when
-    // there is no memory, std::length_error above cMaxLength.
+    // A block with the count 1, ALength characters not yet set, and the terminator set. Raises std::bad_alloc
+    // when there is no memory, std::length_error above cMaxLength.
     QZ_API static TStringBlock* Allocate(std::uint16_t AElementSize, std::uint16_t ACodePage,
                                          std::size_t ALength, std::size_t ACapacity);
 
@@ -56,8 +56,8 @@ struct TStringBlock {
 
     QZ_API static void FreeBlock(TStringBlock* ABlock) noexcept;
 
-    // The capacity for appending to a text that has ACapacity and now needs ANeeded: as much again, at least. With
-    // the header and the terminator the blocks of a text that grows are multiples of 8 bytes.
+    // The capacity for appending to a text that has ACapacity and now needs ANeeded: as much again, at least.
+    // With the header and the terminator the blocks of a text that grows are multiples of 8 bytes.
     static std::size_t Grown(std::size_t ACapacity, std::size_t ANeeded) noexcept {
         const std::size_t Larger = 2 * ACapacity + 19;
         const std::size_t Possible = Larger < cMaxLength ? Larger : cMaxLength;

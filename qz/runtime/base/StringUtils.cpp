@@ -23,7 +23,7 @@ template <class TChar> int Sign(TChar ALeft, TChar ARight) noexcept {
     return ALeft < ARight ? -1 : ALeft > ARight ? 1 : 0;
 }
 
-// Up to this length the plain search costs little also where it has to begin anew all the time.
+// Up to this length the plain search is cheap even in its worst case.
 constexpr std::size_t cShortPiece = 64;
 
 // The search of Knuth, Morris and Pratt: each character of the text is looked at once or twice.
@@ -51,8 +51,8 @@ constexpr char16_t Same(char16_t AChar) noexcept {
 
 constexpr std::size_t cBlock = 32;
 
-// Whether the first two characters of the piece stand side by side within a block. Without a branch, so that the
-// compiler compares many characters at a time.
+// Whether the first two characters of the piece stand side by side within a block. Without a branch, so that
+// the compiler compares many characters at a time.
 bool MayStartIn(const char16_t* ABlock, char16_t AFirst, char16_t ASecond) noexcept {
     unsigned Found = 0;
     for (std::size_t I = 0; I < cBlock; ++I)

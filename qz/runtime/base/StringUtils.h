@@ -3,7 +3,7 @@
 //     SameText(u"Unit", Name);                  // ASCII letters in either case
 //     Pos(u"=", u"a=b");                        // 2: positions count from 1, 0 means absent
 //     StringReplace(Text, u"\n", u"\r\n", {rfReplaceAll});
-//     QuotedStr(u"it's");                       // 'it''s'
+//     QuotedStr(u"it is");                       // 'it''s'
 //
 // Positions and lengths count 16-bit units, positions from 1. Arguments outside the text are cut to it. All
 // functions are pure and may run on any number of threads.
@@ -55,8 +55,8 @@ QZ_API UnicodeString TrimRight(const TStringArg& AText);
 // As Trim, without a copy: the result is part of AText.
 QZ_API std::u16string_view TrimView(std::u16string_view AText) noexcept;
 
-// The position of the first occurrence at or behind AOffset, or 0; an empty piece occurs nowhere. Searching takes
-// time in proportion to the text, whatever the piece.
+// The position of the first occurrence at or after AOffset, or 0; an empty piece occurs nowhere. Searching
+// takes time in proportion to the text, whatever the piece.
 QZ_API int Pos(const TStringArg& APiece, const TStringArg& AText, int AOffset = 1);
 // ACount units from AIndex on, as many as there are.
 QZ_API UnicodeString Copy(const TStringArg& AText, int AIndex, int ACount = 0x7FFFFFFF);
@@ -74,24 +74,25 @@ enum class TReplaceFlag : std::uint8_t { rfReplaceAll, rfIgnoreCase };
 using enum TReplaceFlag;
 using TReplaceFlags = TSet<TReplaceFlag>;
 
-// Every occurrence of AOld from left to right, or the first without rfReplaceAll, replaced by ANew; what was put in
-// is not searched again. rfIgnoreCase ignores case in all of Unicode, character by character.
+// Every occurrence of AOld from left to right, or the first without rfReplaceAll, replaced by ANew; what was
+// put in is not searched again. rfIgnoreCase ignores case in all of Unicode, character by character.
 QZ_API UnicodeString StringReplace(const TStringArg& AText, const TStringArg& AOld, const TStringArg& ANew,
                                    TReplaceFlags AFlags = {});
 
 // The text within quotes, each quote in it doubled.
 QZ_API UnicodeString QuotedStr(const TStringArg& AText);
 QZ_API UnicodeString AnsiQuotedStr(const TStringArg& AText, char16_t AQuote);
-// Reads a quoted text at the start of AText and moves AText behind its closing quote (or to the end when that is
-// missing). A text that does not begin with the quote gives an empty result and stays where it is.
+// Reads a quoted text at the start of AText and moves AText past its closing quote (or to the end when that
+// is missing). A text that does not begin with the quote gives an empty result and stays where it is.
 QZ_API UnicodeString AnsiExtractQuotedStr(std::u16string_view& AText, char16_t AQuote);
-// The content of a text that is quoted as a whole; any other text as it stands.
+// The content of a text that is quoted as a whole; any other text unchanged.
 QZ_API UnicodeString AnsiDequotedStr(const TStringArg& AText, char16_t AQuote);
 
 QZ_API UnicodeString StringOfChar(char16_t AChar, int ACount);
 QZ_API UnicodeString ReverseString(const TStringArg& AText);
 
-// A letter or underscore, then letters, digits and underscores of ASCII; with ADots also parts joined by points.
+// A letter or underscore, then letters, digits and underscores of ASCII; with ADots also parts joined by
+// points.
 QZ_API bool IsValidIdent(const TStringArg& AText, bool ADots = false) noexcept;
 
 } // namespace qz

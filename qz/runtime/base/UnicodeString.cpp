@@ -57,7 +57,7 @@ UnicodeString UnicodeString::Concat(std::u16string_view ALeft, std::u16string_vi
     return Result;
 }
 
-// Gives this handle a block of its own with the same text and at least the given room.
+// Makes the text private, with at least the given capacity.
 void UnicodeString::MakeUnique(std::size_t ACapacity) {
     if (FData != nullptr && Block()->IsUnique()) {
         if (ACapacity > capacity())

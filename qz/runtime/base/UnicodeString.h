@@ -5,12 +5,12 @@
 //     std::string Narrow(Greeting);               // and back, as UTF-8
 //     if (Greeting == "Hello Zoë!") ...
 //
-// Copies share one block and cost one atomic increment; the first change of a shared text makes it private. The
-// characters are always followed by a terminator. Length, size and operator[] count 16-bit units from 0; the free
-// functions of StringUtils.h count from 1, as their names have always done.
+// Copies share one block and cost one atomic increment; the first change of a shared text makes it private.
+// The characters are always followed by a terminator. Length, size and operator[] count 16-bit units from 0;
+// the free functions of StringUtils.h count from 1, as their names have always done.
 //
-// Threads: different handles may be used by different threads, also when they share their text. One handle belongs
-// to one thread at a time.
+// Threads: different handles may be used by different threads, also when they share their text. One handle
+// belongs to one thread at a time.
 #pragma once
 
 #include <compare>
@@ -29,7 +29,7 @@ namespace qz {
 
 class UnicodeString;
 
-// Text that UnicodeString takes without being asked: 16-bit text as it is, narrow text as UTF-8.
+// Text that converts implicitly to UnicodeString: 16-bit text, and narrow text as UTF-8.
 template <class T>
 concept CWideText =
     std::convertible_to<const T&, std::u16string_view> && !std::derived_from<T, UnicodeString> &&
@@ -43,7 +43,7 @@ concept CUtf8Text = std::convertible_to<const T&, std::u8string_view> && !CWideT
 
 namespace detail {
 
-// The characters of a text; none behind a null pointer.
+// The characters of a text; empty for a null pointer.
 template <class TChar, class T> std::basic_string_view<TChar> ViewOf(const T& AText) noexcept {
     if constexpr (std::is_pointer_v<T>)
         return AText == nullptr ? std::basic_string_view<TChar>() : std::basic_string_view<TChar>(AText);
@@ -57,8 +57,8 @@ inline std::string_view NarrowView(std::u8string_view AText) noexcept {
 
 } // namespace detail
 
-// A text constant whose block lies in the program: a UnicodeString made from it neither allocates nor counts, and
-// may live for ever. So must the constant: it stands at namespace scope or is static, never on the stack.
+// A text constant whose block lies in the program: a UnicodeString made from it neither allocates nor counts,
+// and may live forever. So must the constant: it stands at namespace scope or is static, never on the stack.
 //
 //     inline constexpr TTextConstant SGreeting = u"Hello";
 //     UnicodeString Text = SGreeting;
@@ -116,7 +116,8 @@ public:
         return *this;
     }
 
-    // From text of any kind. A null pointer to characters gives the empty text. Ill-formed UTF-8 becomes U+FFFD.
+    // From text of any kind. A null pointer to characters gives the empty text. Ill-formed UTF-8 becomes
+    // U+FFFD.
     template <CWideText T>
     UnicodeString(const T& AText) : UnicodeString(detail::ViewOf<char16_t>(AText), TMake{}) {}
     template <CNarrowText T>
@@ -315,8 +316,8 @@ static_assert(sizeof(UnicodeString) == sizeof(void*));
 // The text of a constant follows its block as that of a block on the heap does.
 static_assert(offsetof(TTextConstant<2>, Text) == sizeof(detail::TStringBlock));
 
-// String types of their own with the same content, so that reflection and overloads tell them apart. WideString is
-// the one at the borders of the platform.
+// String types of their own with the same content, so that reflection and overloads tell them apart.
+// WideString is the one at the borders of the platform.
 template <class TTag> class TStringKind : public UnicodeString {
 public:
     using UnicodeString::UnicodeString;

@@ -3,9 +3,10 @@
 //     std::u16string Wide = Utf8ToUtf16("\xC3\xA4");      // u"\u00E4"
 //     std::string Narrow = Utf16ToUtf8(u"\u20AC");        // "\xE2\x82\xAC"
 //
-// Ill-formed UTF-8 (overlong forms, surrogates, values above 10FFFF, stray or missing continuation bytes) gives
-// one U+FFFD for each maximal ill-formed subpart, as the Unicode Standard recommends (chapter 3.9, table 3-8); a
-// lone surrogate of UTF-16 gives one U+FFFD. All functions are pure and may run on any number of threads.
+// Ill-formed UTF-8 (overlong forms, surrogates, values above 10FFFF, stray or missing continuation bytes)
+// gives one U+FFFD for each maximal ill-formed subpart, as the Unicode Standard recommends (chapter 3.9,
+// table 3-8); a lone surrogate of UTF-16 gives one U+FFFD. All functions are pure and may run on any number
+// of threads.
 #pragma once
 
 #include <compare>
@@ -30,14 +31,14 @@ QZ_API std::size_t Utf16ToUtf8Length(std::u16string_view AText) noexcept;
 // suffices), and returns the end of what was written. Nothing is terminated.
 QZ_API char16_t* Utf8ToUtf16(std::string_view AText, char16_t* ADest) noexcept;
 
-// Writes the UTF-8 form of AText to ADest, which has room for Utf16ToUtf8Length bytes (three for each unit always
-// suffice), and returns the end of what was written. Nothing is terminated.
+// Writes the UTF-8 form of AText to ADest, which has room for Utf16ToUtf8Length bytes (three for each unit
+// always suffice), and returns the end of what was written. Nothing is terminated.
 QZ_API char* Utf16ToUtf8(std::u16string_view AText, char* ADest) noexcept;
 
 QZ_API std::u16string Utf8ToUtf16(std::string_view AText);
 QZ_API std::string Utf16ToUtf8(std::u16string_view AText);
 
-// Reads one code point at AText[APos] and moves APos behind it. APos is inside AText.
+// Reads one code point at AText[APos] and moves APos past it. APos is inside AText.
 QZ_API char32_t NextCodePoint(std::string_view AText, std::size_t& APos) noexcept;
 QZ_API char32_t NextCodePoint(std::u16string_view AText, std::size_t& APos) noexcept;
 

@@ -2,8 +2,8 @@
 //
 //     Format("%s took %d ms", {Name, 17});
 //
-// It refers to texts and objects without copying or counting them, so it lives no longer than the call that it is
-// made for.
+// It refers to texts and objects without copying or counting them, so it lives no longer than the call that
+// it is made for.
 #pragma once
 
 #include <concepts>

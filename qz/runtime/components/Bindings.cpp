@@ -22,7 +22,7 @@ using TBindingPtr = std::shared_ptr<TBindingExpression>;
 // All bindings, and those that read each object. The lock guards the tables alone; bindings run without it.
 class TBindingTable {
 public:
-    // Never destroyed, so that objects may end with the program.
+    // Never destroyed, since objects may be destroyed at program exit.
     static TBindingTable& Instance() {
         static auto* const Table = new TBindingTable;
         return *Table;
@@ -33,7 +33,7 @@ public:
         TBindingExpression* Key = ABinding.get();
         FAll.emplace(Key, TItem{std::move(ABinding), ++FLastNumber});
     }
-    // Gives the binding, so that it ends outside the lock; null for what is none.
+    // Gives the binding, so that the caller destroys it outside the lock; null if it is unknown.
     TBindingPtr Take(TBindingExpression* ABinding) {
         const std::lock_guard Hold(FMutex);
         const auto Found = FAll.find(ABinding);

@@ -38,7 +38,8 @@ TObject* TBoundPath::Next(const TObject& AObject, std::size_t APart) const {
     return Value.AsObject();
 }
 
-// Hands each object with the number of its part to AVisit, until that gives false. False when the way is broken.
+// Hands each object with the number of its part to AVisit, until that gives false. False when the way is
+// broken.
 template <class TVisit> bool TBoundPath::Walk(TVisit AVisit) const {
     TObject* Object = FRoot;
     for (std::size_t Part = 0; Object != nullptr; ++Part) {

@@ -11,8 +11,8 @@ namespace qz::detail {
 
 class TBoundPath {
 public:
-    // ARoot is not owned. AParts names the properties, of which all but the last hold objects; AText is the whole
-    // expression, for messages.
+    // ARoot is not owned. AParts names the properties, of which all but the last hold objects; AText is the
+    // whole expression, for messages.
     TBoundPath(TObject* ARoot, std::vector<UnicodeString> AParts, UnicodeString AText)
         : FRoot(ARoot),
           FParts(std::move(AParts)),
@@ -22,8 +22,8 @@ public:
 
     const UnicodeString& Text() const noexcept { return FText; }
     TObject* Root() const noexcept { return FRoot; }
-    // Raises EEvaluatorError when a part is unknown, leads to no object or is not readable; for AToWrite the last
-    // one has to be writable instead. Stops at an empty object property.
+    // Raises EEvaluatorError when a part is unknown, leads to no object or is not readable; for AToWrite the
+    // last one has to be writable instead. Stops at an empty object property.
     void Check(bool AToWrite) const;
     // The objects on the way, without empty ones.
     std::vector<TObject*> Objects() const;
@@ -36,8 +36,8 @@ public:
         TObject* Object;
         const TPropInfo* Prop;
     };
-    // Converts AValue and writes it, unless the property has that value already or the way is broken. Gives what
-    // was written to, or nulls.
+    // Converts AValue and writes it, unless the property has that value already or the way is broken. Gives
+    // what was written to, or nulls.
     TTarget Write(const TBoundValue& AValue) const;
 
 private:

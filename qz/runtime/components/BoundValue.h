@@ -24,8 +24,8 @@ public:
     const void* Data() const noexcept { return FValue.GetReferenceToRawData(); }
     // The object of a value whose type is a class; null for any other.
     TObject* AsObject() const noexcept;
-    // True when both have one type and one value. Values that are neither numbers, texts nor objects are the same
-    // when their bytes are, if they consist of bytes, and else never.
+    // True when both have one type and one value. Values that are neither numbers, texts nor objects are the
+    // same when their bytes are, if they consist of bytes, and else never.
     bool SameAs(const TBoundValue& AOther) const;
 
     // Each replaces the value; when one raises, the old one remains.
@@ -34,11 +34,12 @@ public:
     void Read(const TObject& AObject, const TPropInfo& AProp);
     // An object, which may be null, as a value of a class.
     void SetObject(TObject* AObject, PTypeInfo AClass);
-    // ASource, which may be this value, in the type AType: integers, characters, enumerations, floats and texts each into
-    // each other, an object into a class that it belongs to, anything else into its own type only. A float is rounded to
-    // the nearest integer, halves to the even one. An enumeration is the name of its item as a text, its ordinal as
-    // a number; any number but 0 is True, also a fraction. Raises EConvertError for what does not convert, is no text of
-    // the type or of a code page that the system does not know, ERangeError for a number that the type does not hold.
+    // ASource, which may be this value, in the type AType: integers, characters, enumerations, floats and
+    // texts each into each other, an object into a class that it belongs to, anything else into its own type
+    // only. A float is rounded to the nearest integer, halves to the even one. An enumeration is the name of
+    // its item as a text, its ordinal as a number; any number but 0 is True, also a fraction. Raises
+    // EConvertError for what does not convert, is no text of the type or of a code page that the system does
+    // not know, ERangeError for a number that the type does not hold.
     void Assign(const TBoundValue& ASource, PTypeInfo AType);
 
 private:

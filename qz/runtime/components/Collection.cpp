@@ -25,7 +25,7 @@ TCollectionItem::~TCollectionItem() {
         return;
     try {
         SetCollection(nullptr);
-    } catch (...) { // NOLINT(bugprone-empty-catch): a destructor has nobody to tell
+    } catch (...) { // NOLINT(bugprone-empty-catch): a destructor must not raise
     }
 }
 
@@ -92,7 +92,7 @@ TCollection::~TCollection() {
         Leave(Last);
         try {
             Last->Free();
-        } catch (...) { // NOLINT(bugprone-empty-catch): a destructor has nobody to tell
+        } catch (...) { // NOLINT(bugprone-empty-catch): a destructor must not raise
         }
     }
 }

@@ -9,7 +9,7 @@
 //         DescribeClass<TColumn>(u"TColumn", {.Unit = u"Grids", .Makers = CollectionItemMaker<TColumn>()});
 //
 //     TCollection Columns(ClassOf<TColumn>());
-//     auto* Column = static_cast<TColumn*>(Columns.Add());      // ended by the collection
+//     auto* Column = static_cast<TColumn*>(Columns.Add());      // freed by the collection
 //
 // A collection and its items belong to one thread.
 #pragma once
@@ -38,8 +38,8 @@ public:
     // Leaves the collection.
     ~TCollectionItem() override;
 
-    // Leaves the old collection and joins the other, which then ends it. Raises EInvalidOperation when the class of
-    // the item is not that of the collection.
+    // Leaves the old collection and joins the other, which then owns it. Raises EInvalidOperation when the
+    // class of the item is not that of the collection.
     TCollection* Collection() const noexcept { return FCollection; }
     void SetCollection(TCollection* ACollection);
     // Unique within the collection and never used again in it; -1 outside.
@@ -47,14 +47,14 @@ public:
     // The place in the collection, -1 outside. Setting it moves the item there, or to the nearer end.
     int Index() const noexcept;
     virtual void SetIndex(int AIndex);
-    // What a list of the items would show: the class name, unless a class knows better.
+    // The text for a list of the items: the class name unless overridden.
     virtual UnicodeString DisplayName() const { return ClassName(); }
     // The path of the collection with the index in brackets; the class name outside a collection.
     UnicodeString GetNamePath() const override;
 
 protected:
     TPersistent* GetOwner() const override;
-    // Tells the collection that this item has changed, or with AAllItems that all of them may have.
+    // Notifies the collection that this item has changed, or with AAllItems that all items may have.
     void Changed(bool AAllItems);
 
 private:
@@ -73,7 +73,7 @@ public:
     explicit TCollection(TClass AItemClass);
     TCollection(const TCollection&) = delete;
     TCollection& operator=(const TCollection&) = delete;
-    // Ends the items without a word to Update and Notify, and drops their exceptions.
+    // Frees the items without calling Update or Notify, and drops their exceptions.
     ~TCollection() override;
 
     TCollectionItemClass ItemClass() const noexcept { return FItemClass; }
@@ -92,11 +92,12 @@ public:
     TCollectionItem* Insert(int AIndex);
     // Assigns AItem to the item at that place.
     void SetItem(int AIndex, TCollectionItem* AItem);
-    // Ends the item; when its Free raises it lives on outside the collection. Clear goes from the last to the first.
+    // Frees the item; if Free raises, it lives on outside the collection. Clear goes from the last to the
+    // first.
     void Delete(int AIndex);
     void Clear();
-    // From another collection: ends the items and assigns each of the other's to a new one. The source must not belong to
-    // one of those items, since it would end with it.
+    // From another collection: frees the items and assigns each source item to a new one. The source must not
+    // belong to one of those items, since it would be freed with it.
     void Assign(TPersistent* ASource) override;
     // Update is called once for all changes between the two. Calls nest.
     virtual void BeginUpdate() { ++FUpdateCount; }
@@ -105,7 +106,7 @@ public:
 protected:
     // An item has changed; null when several may have.
     virtual void Update(TCollectionItem*) {}
-    // An item has come (cnAdded), will be ended (cnDeleting) or leaves otherwise (cnExtracting).
+    // An item was added (cnAdded), will be freed (cnDeleting) or leaves otherwise (cnExtracting).
     virtual void Notify(TCollectionItem*, TCollectionNotification) {}
     // Calls Update for the whole collection, or at the end of the changes.
     void Changed();

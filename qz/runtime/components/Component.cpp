@@ -19,7 +19,7 @@ constexpr TPropInfo cComponentProps[] = {
 template <class TWork> void Quietly(TWork AWork) noexcept {
     try {
         AWork();
-    } catch (...) { // NOLINT(bugprone-empty-catch): a destructor has nobody to tell
+    } catch (...) { // NOLINT(bugprone-empty-catch): a destructor must not raise
     }
 }
 
@@ -53,7 +53,7 @@ TComponent::TComponent(TComponent* AOwner) {
         AOwner->InsertComponent(this);
 }
 
-// What the word of the end sets off may make new components here, which end as well.
+// Notifications of the destruction may create components here; those are destroyed as well.
 TComponent::~TComponent() {
     FEnding = true;
     Destroying();
@@ -162,7 +162,7 @@ void TComponent::RemoveComponent(TComponent* AComponent) {
     Unlink(AComponent);
 }
 
-// AComponent may have been ended by what it set off; it is then no longer in the list.
+// Notifications may have destroyed AComponent; it is then no longer in the list.
 void TComponent::Unlink(TComponent* AComponent) noexcept {
     if (!Holds(FComponents, AComponent))
         return;
@@ -170,8 +170,8 @@ void TComponent::Unlink(TComponent* AComponent) noexcept {
     AComponent->FOwner = nullptr;
 }
 
-// A component whose whole tree is going is spared the word to its brothers, which go as well, and must not stay here
-// when it refuses; nor must one that is on its way already.
+// A component whose whole tree is going is spared the word to its brothers, which go as well, and must not
+// stay here when it refuses; nor must one that is on its way already.
 void TComponent::DestroyComponents() {
     while (!FComponents.empty()) {
         TComponent* Last = FComponents.back();
@@ -207,8 +207,8 @@ void TComponent::RemoveFreeNotification(TComponent* AComponent) noexcept {
         AComponent->FState -= csFreeNotification;
 }
 
-// At first not those who hear of it from the owner, once and later; then all that did not hear, since one before them
-// raised.
+// At first not those who hear of it from the owner, once and later; then all that did not hear, since one
+// before them raised.
 void TComponent::TellPartners(bool AAll) noexcept {
     const auto HearsOtherwise = [&](const TComponent* APartner) {
         return !AAll && FOwner != nullptr && (APartner == FOwner || APartner->FOwner == FOwner);

@@ -1,4 +1,5 @@
-// TComponent: an object with a name and an owner that ends it, and that hears when others come and go.
+// TComponent: an object with a name and an owner that frees it. It is notified when other components come and
+// go.
 //
 //     class TServer : public TComponent {
 //         QZ_CLASS(TServer, TComponent)
@@ -8,7 +9,7 @@
 //     const TClassRec TServer::ClassRec =                      // in the .cpp, with DescribeComponent.h
 //         DescribeComponent<TServer>(u"TServer", {.Unit = u"Demo"});
 //
-//     TServer* Server = TServer::Create(Application);          // ended with Application
+//     TServer* Server = TServer::Create(Application);          // freed with Application
 //     Server->SetName(u"Main");
 //
 // A component, its owner and its partners belong to one thread.
@@ -34,8 +35,8 @@ enum class TOperation : std::uint8_t { opInsert, opRemove };
 using enum TOperation;
 
 enum class TComponentStateItem : std::uint8_t {
-    csDestroying,      // the component or its owner is being ended
-    csFreeNotification // some component asked to hear of the end
+    csDestroying,      // the component or its owner is being destroyed
+    csFreeNotification // another component called FreeNotification
 };
 using enum TComponentStateItem;
 using TComponentState = TSet<TComponentStateItem, 8>;
@@ -50,8 +51,8 @@ public:
     TComponent(const TComponent&) = delete;
     TComponent& operator=(const TComponent&) = delete;
 
-    // The interfaces that the class lists. A component is not counted: both operations below give 0xFFFFFFFF and
-    // do nothing, until a descendant overrides them.
+    // The interfaces that the class lists. A component is not counted: both operations below give 0xFFFFFFFF
+    // and do nothing, until a descendant overrides them.
     HRESULT QueryInterface(const TGUID& AIid, void** AObject) override;
     std::uint32_t _AddRef() override;
     std::uint32_t _Release() override;
@@ -79,16 +80,16 @@ public:
     // Moves there, or to the nearer end.
     void SetComponentIndex(int AIndex);
 
-    // Becomes the owner of AComponent, which leaves its old owner. Raises EComponentError, and changes nothing, when
-    // the name is taken here or when AComponent is this one or owns it.
+    // Becomes the owner of AComponent, which leaves its old owner. Raises EComponentError, and changes
+    // nothing, when the name is taken here or when AComponent is this one or owns it.
     void InsertComponent(TComponent* AComponent);
     // Lets go of an owned component; ignores one that is not owned by this.
     void RemoveComponent(TComponent* AComponent);
-    // Ends the owned components, from the last to the first. When one refuses, its exception goes to the caller; it
-    // stays owned, except by an owner that is being ended, without which it lives on.
+    // Frees the owned components, from the last to the first. If one refuses, its exception reaches the
+    // caller; it stays owned, except by an owner that is being destroyed, without which it lives on.
     void DestroyComponents();
 
-    // Has both hear, by Notification with opRemove, when the other ends. Asking twice changes nothing.
+    // Requests that each is notified (Notification, opRemove) when the other is destroyed. Idempotent.
     void FreeNotification(TComponent* AComponent);
     void RemoveFreeNotification(TComponent* AComponent) noexcept;
 
@@ -104,8 +105,8 @@ public:
 protected:
     // AOwner may be null. The owner's Notification meets this component before it is complete.
     explicit TComponent(TComponent* AOwner);
-    // Tells those who asked, ends the owned components, leaves the owner. Exceptions of others are dropped. What a
-    // descendant adds is gone by then, so others may compare the address and read the name, not more.
+    // Notifies the partners, frees the owned components and leaves the owner. Their exceptions are dropped.
+    // The descendant's part is destroyed by then: others may compare the address and read the name, no more.
     ~TComponent() override;
 
     bool BeginDestruction() noexcept override;
@@ -113,11 +114,11 @@ protected:
     TPersistent* GetOwner() const override { return FOwner; }
     // True from the beginning of Free on.
     bool IsEnding() const noexcept { return FEnding; }
-    // A component has come to or goes from this one or an owner above it (of which this one hears too), or one that
-    // FreeNotification was asked of ends. May end other components. Overrides call the inherited one, which passes
-    // the word on to all owned components and then raises the first exception of theirs.
+    // A component has come to or goes from this one or an owner above it (of which this one hears too), or
+    // one that FreeNotification was asked of ends. May end other components. Overrides call the inherited
+    // one, which passes the word on to all owned components and then raises the first exception of theirs.
     virtual void Notification(TComponent* AComponent, TOperation AOperation);
-    // What the component can be observed for; see TObservers.
+    // Whether the component supports this observer id; see TObservers.
     virtual bool CanObserve(int) const { return false; }
 
 private:
@@ -135,7 +136,7 @@ private:
     std::vector<TComponent*> FPartners; // each of them holds this one too
     std::unique_ptr<TObservers> FObservers;
     TComponentState FState;
-    std::atomic<bool> FEnding{false}; // asked on the thread of a last reference too
+    std::atomic<bool> FEnding{false}; // also read by the thread that releases the last reference
 };
 
 using TComponentClass = ClassRef<TComponent>;

@@ -21,7 +21,7 @@ detail::TBoundPath PathOf(TComponent* ARoot, const UnicodeString& AProperty) {
     return {ARoot, detail::TBoundPath::Split(AProperty), AProperty};
 }
 
-// Keeps what a change sets off from coming back to the link that made it. The flag may outlive the link, which a
+// Stops a change from returning to the link that made it. The flag may outlive the link, which a
 // setter may end.
 class TUpdating {
 public:

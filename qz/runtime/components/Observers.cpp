@@ -13,7 +13,7 @@ TObservers::~TObservers() {
         FEntries->pop_back();
         try {
             Observer->Removed();
-        } catch (...) { // NOLINT(bugprone-empty-catch): a destructor has nobody to tell
+        } catch (...) { // NOLINT(bugprone-empty-catch): a destructor must not raise
         }
     }
 }

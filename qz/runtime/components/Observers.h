@@ -1,4 +1,4 @@
-// TObservers: those who want to hear of a component's changes, first of all of the value that a control shows.
+// TObservers: the observers of a component's changes, above all of the value that a control shows.
 //
 //     class TEdit : public TComponent {
 //         ...
@@ -51,21 +51,21 @@ public:
     explicit TObservers(const TComponent& AOwner) noexcept : FOwner(AOwner) {}
     TObservers(const TObservers&) = delete;
     TObservers& operator=(const TObservers&) = delete;
-    // Tells each observer Removed.
+    // Calls Removed of each observer.
     ~TObservers();
 
     // True when the component offers to be observed for that id.
     bool CanObserve(int AId) const;
     bool IsObserving(int AId) const noexcept;
 
-    // Keeps AObserver without counting it, so an observer removes itself before it ends. Under cControlValueId it
-    // is an IControlValueObserver. Adding twice changes nothing. Raises EInvalidOperation when the component does
-    // not offer the id.
+    // Keeps AObserver without counting it, so an observer removes itself before it ends. Under
+    // cControlValueId it is an IControlValueObserver. Adding twice changes nothing. Raises EInvalidOperation
+    // when the component does not offer the id.
     void AddObserver(int AId, IObserver* AObserver);
     void RemoveObserver(int AId, IObserver* AObserver) noexcept;
 
-    // Called by a control when its value changes; each tells the observers of cControlValueId. An observer may
-    // remove itself or others meanwhile, or end the control: the others are then not told.
+    // Called by a control when its value changes; notifies the observers of cControlValueId. An observer may
+    // remove itself or others meanwhile, or free the control: the others are then not notified.
     void ControlValueModified() { Tell(&IControlValueObserver::ControlValueModified); }
     void ControlValueUpdate() { Tell(&IControlValueObserver::ControlValueUpdate); }
 

@@ -1,11 +1,11 @@
-// The parts of a file name, as texts; nothing is asked of the system.
+// The parts of a file name. Text functions only; they do not access the file system.
 //
 //     ExtractFileName("/var/log/app.log");               // app.log
 //     ExtractFileExt("/var/log/app.log");                // .log
 //     ChangeFileExt("/var/log/app.log", ".xml");         // /var/log/app.xml
 //
-// Directories end at the system's separators: "/" on Linux; "\", "/" and the ":" of a drive on Windows. An extension begins
-// with the last point of the name, which may be its first character. Any thread.
+// Directories end at the system's separators: "/" on Linux; "\", "/" and the ":" of a drive on Windows. An
+// extension begins with the last point of the name, which may be its first character. Any thread.
 #pragma once
 
 #include <qz/runtime/base/StringArg.h>
@@ -17,14 +17,14 @@ QZ_API UnicodeString ExtractFilePath(const TStringArg& AFileName);
 QZ_API UnicodeString ExtractFileName(const TStringArg& AFileName);
 // With its point; empty for a name without one.
 QZ_API UnicodeString ExtractFileExt(const TStringArg& AFileName);
-// The name with AExtension, given with its point or empty, in the place of its extension, or behind it if it has none.
+// Replaces the extension by AExtension, or appends it. AExtension is empty or includes its dot.
 QZ_API UnicodeString ChangeFileExt(const TStringArg& AFileName, const TStringArg& AExtension);
 // The name with a separator at its end; an empty one gets one too.
 QZ_API UnicodeString IncludeTrailingPathDelimiter(const TStringArg& AFileName);
 
 // Whether the name leads from a root and not from the current directory.
 QZ_API bool IsWholePath(const TStringArg& AFileName);
-// Whether both are names of one file, as far as letters go: Windows does not tell their cases apart.
+// Whether both names are equal; ignores case on Windows.
 QZ_API bool SameFileName(const TStringArg& ALeft, const TStringArg& ARight);
 
 } // namespace qz

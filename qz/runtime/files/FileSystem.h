@@ -1,4 +1,4 @@
-// Questions to the file system, and simple changes of it, which tell by their result whether they succeeded.
+// Queries and simple changes of the file system. Each change returns whether it succeeded.
 //
 //     if (FileExists(Old) && !RenameFile(Old, New))
 //         ...                                             // it stays where it was
@@ -18,7 +18,7 @@ QZ_API bool DirectoryExists(const TStringArg& ADirectory);
 QZ_API bool DeleteFile(const TStringArg& AFileName);
 // Fails where the new name is taken.
 QZ_API bool RenameFile(const TStringArg& AFileName, const TStringArg& ANewName);
-// Makes the directory and those above it that are missing; true when it is there then, whoever made it.
+// Creates the directory and its missing parents. True if it exists afterwards.
 QZ_API bool ForceDirectories(const TStringArg& ADirectory);
 // The whole path of the running program.
 QZ_API UnicodeString ProgramFileName();

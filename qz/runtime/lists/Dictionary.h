@@ -6,8 +6,8 @@
 //     if (Ages.TryGetValue(u"Zoe", Age)) ...
 //     for (const auto& [Name, Each] : Ages) ...
 //
-// A value as std::unordered_map is, not a TObject; keys need std::hash and ==, or functions of their own. The order
-// is none in particular. It belongs to one thread at a time.
+// A value as std::unordered_map is, not a TObject; keys need std::hash and ==, or functions of their own. The
+// order is none in particular. It belongs to one thread at a time.
 #pragma once
 
 #include <unordered_map>

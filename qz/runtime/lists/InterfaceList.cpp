@@ -9,7 +9,7 @@ namespace {
 
 using THold = TScopedLock<TCriticalSection>;
 
-// The one interface that every way to an object leads to. What does not tell it stands for itself.
+// The IInterface identity of an object; the interface itself if it does not provide one.
 Ref<IInterface> IdentityOf(IInterface* AItem) {
     Ref<IInterface> Result = As<IInterface>(AItem);
     return Result ? Result : Ref<IInterface>(AItem);

@@ -4,8 +4,9 @@
 //     Sinks.Add(Sink);
 //     Ref<ISink> First = As<ISink>(Sinks.First());
 //
-// Two items are the same when the same object stands behind them, whatever interface of it they are. An index out of
-// range raises EListError. All operations may be called from any thread; a reference is dropped outside the lock.
+// Two items are the same when the same object implements them, whatever interface of it they are. An index
+// out of range raises EListError. All operations may be called from any thread; a reference is dropped
+// outside the lock.
 #pragma once
 
 #include <vector>
@@ -40,7 +41,7 @@ public:
     void Exchange(int AIndex1, int AIndex2);
     void Clear();
 
-    // Keeps other threads out until Unlock; as often as it is called.
+    // Locks the list for this thread until the matching Unlock. Recursive.
     void Lock() const { FLock.Enter(); }
     void Unlock() const { FLock.Leave(); }
 

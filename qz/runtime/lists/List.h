@@ -7,9 +7,10 @@
 //     if (Numbers.BinarySearch(3, Place)) ...
 //     for (int Each : Numbers) ...
 //
-// A list is a value as std::vector is, not a TObject: it lies on the stack or in an object and is copied with its
-// items. Indexes count from 0; one out of range raises EArgumentOutOfRangeException, "Argument out of range". Any
-// change of the items makes iterators invalid. A list belongs to one thread at a time; see TThreadList.
+// A list is a value as std::vector is, not a TObject: it lies on the stack or in an object and is copied with
+// its items. Indexes count from 0; one out of range raises EArgumentOutOfRangeException, "Argument out of
+// range". Any change of the items makes iterators invalid. A list belongs to one thread at a time; see
+// TThreadList.
 #pragma once
 
 #include <algorithm>
@@ -57,8 +58,8 @@ public:
         return static_cast<int>(FItems.rend() - Found) - 1;
     }
     bool Contains(const T& AItem) const { return IndexOf(AItem) >= 0; }
-    // Looks in a list that is sorted by ALess. AIndex becomes the first place of an equal item, or the place where
-    // the item would have to be inserted.
+    // Looks in a list that is sorted by ALess. AIndex becomes the first place of an equal item, or the place
+    // where the item would have to be inserted.
     template <class TLess = std::less<>>
     bool BinarySearch(const T& AItem, int& AIndex, TLess ALess = {}) const {
         const auto Found = std::lower_bound(begin(), end(), AItem, ALess);

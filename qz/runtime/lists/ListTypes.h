@@ -1,4 +1,4 @@
-// What all lists share: how they treat duplicates, what they tell of their items, and their errors.
+// Common to all lists: handling of duplicates, notifications and errors.
 #pragma once
 
 #include <algorithm>
@@ -16,7 +16,8 @@ inline constexpr TTextConstant SListIndexError = u"List index out of bounds (%d)
 inline constexpr TTextConstant SDuplicatesNotAllowed = u"Duplicates not allowed";
 inline constexpr TTextConstant SItemNotFound = u"Item not found";
 
-// What becomes of an item that is there already: the new one is left out, taken in, or refused with an exception.
+// What becomes of an item that is there already: the new one is left out, taken in, or refused with an
+// exception.
 enum class TDuplicates : std::uint8_t { dupIgnore, dupAccept, dupError };
 using enum TDuplicates;
 
@@ -47,8 +48,8 @@ template <class T> void MoveItem(std::vector<T>& AItems, std::ptrdiff_t AFrom, s
         std::rotate(From, From + 1, To + 1);
 }
 
-// Sorts a range so that equal items keep their order. A comparison that contradicts itself gives any order, one that
-// raises leaves all items there, in any order; neither makes it read or write outside the range.
+// Sorts a range so that equal items keep their order. A comparison that contradicts itself gives any order,
+// one that raises leaves all items there, in any order; neither makes it read or write outside the range.
 template <class TPlace, class TItem, class TLess>
 void MergeSort(TPlace AFirst, TPlace ALast, std::vector<TItem>& ASpare, TLess& ALess) {
     if (ALast - AFirst < 2)
@@ -62,7 +63,7 @@ void MergeSort(TPlace AFirst, TPlace ALast, std::vector<TItem>& ASpare, TLess& A
     struct TMerge {
         typename std::vector<TItem>::iterator Left, LeftEnd;
         TPlace Out;
-        ~TMerge() { std::move(Left, LeftEnd, Out); } // what is left over just fills the gap
+        ~TMerge() { std::move(Left, LeftEnd, Out); } // the rest exactly fills the gap
     } Merge{ASpare.begin(), ASpare.end(), AFirst};
     for (TPlace Right = Middle; Merge.Left != Merge.LeftEnd && Right != ALast; ++Merge.Out) {
         if (ALess(*Right, *Merge.Left))

@@ -2,12 +2,12 @@
 //
 //     TObjectList<TShape> Shapes;                 // owns them
 //     Shapes.Add(TShape::Create());
-//     Shapes.Delete(0);                           // ends the object
+//     Shapes.Delete(0);                           // frees the object
 //     TObjectList<TShape> Seen(false);            // refers to them only
 //
-// An owned object was made by Create and is ended by Free. When that raises, the object lives on outside the list,
-// the rest of the list is as it was, and the exception goes to the caller; the destructor drops it. Indexes and
-// threads as of TList.
+// An owned object was made by Create and is destroyed by Free. If Free raises, the object lives on outside
+// the list, the rest of the list is as it was, and the exception goes to the caller; the destructor drops it.
+// Indexes and threads as of TList.
 #pragma once
 
 #include <concepts>
@@ -28,12 +28,12 @@ public:
     explicit TObjectList(std::same_as<bool> auto AOwnsObjects) noexcept : FOwnsObjects(AOwnsObjects) {}
     TObjectList(const TObjectList&) = delete;
     TObjectList& operator=(const TObjectList&) = delete;
-    // A descendant that overrides Notify and wants to hear of the last items clears the list itself.
+    // A descendant whose Notify must receive the last items clears the list in its own destructor.
     virtual ~TObjectList() {
         while (!FItems.IsEmpty()) {
             try {
                 Clear();
-            } catch (...) { // NOLINT(bugprone-empty-catch): a destructor has nobody to tell
+            } catch (...) { // NOLINT(bugprone-empty-catch): a destructor must not raise
             }
         }
     }
@@ -50,8 +50,8 @@ public:
     T* Last() const { return FItems.Last(); }
     int IndexOf(const T* AItem) const noexcept { return FItems.IndexOf(const_cast<T*>(AItem)); }
     bool Contains(const T* AItem) const noexcept { return IndexOf(AItem) >= 0; }
-    // The first object of that class, or with AExact false also of a descendant, from AStart on; -1 when there is
-    // none.
+    // The first object of that class, or with AExact false also of a descendant, from AStart on; -1 when
+    // there is none.
     int FindInstanceOf(TClass AClass, bool AExact = true, int AStart = 0) const noexcept {
         for (int I = std::max(AStart, 0); I < Count(); ++I)
             if (const T* Each = FItems[I]; Each != nullptr)
@@ -85,7 +85,7 @@ public:
             throw;
         }
     }
-    // Puts another object in the place of one that is removed; the same object changes nothing. When Notify refuses
+    // Replaces an object, which is removed; the same object changes nothing. If Notify refuses
     // the new one, the old one stays.
     void SetItem(int AIndex, T* AItem) {
         T* Old = FItems.Items(AIndex);
@@ -130,8 +130,8 @@ public:
     template <class TLess> void Sort(TLess ALess) { FItems.Sort(ALess); }
 
 protected:
-    // An item has come (cnAdded), gone (cnRemoved) or was taken out (cnExtracted). This one ends an owned object
-    // that has gone.
+    // An item was added (cnAdded), removed (cnRemoved) or extracted (cnExtracted). This one frees an owned
+    // object that was removed.
     virtual void Notify(T* AItem, TCollectionNotification AAction) {
         if (AAction == cnRemoved && FOwnsObjects && AItem != nullptr)
             AItem->Free();

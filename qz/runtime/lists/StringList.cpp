@@ -28,7 +28,7 @@ constinit const TClassRec TStringList::ClassRec =
 TStringList::~TStringList() {
     try {
         EndObjects(std::exchange(FItems, {}));
-    } catch (...) { // NOLINT(bugprone-empty-catch): a destructor has nobody to tell
+    } catch (...) { // NOLINT(bugprone-empty-catch): a destructor must not raise
     }
 }
 
@@ -155,7 +155,7 @@ void TStringList::Clear() {
     ChangedWithout(std::exchange(FItems, {}));
 }
 
-// The items have left the list, so that their objects end here, even when the change cannot be told.
+// The items have left the list, so their objects are freed here even if the notification fails.
 void TStringList::ChangedWithout(std::vector<TItem> AItems) {
     try {
         Changed();

@@ -53,14 +53,15 @@ public:
     void Move(int ACurIndex, int ANewIndex) override;
     void CustomSort(const TSortCompare& ACompare);
 
-    // Ends the object that was there, if it is owned.
+    // Frees the previous object if it is owned.
     void SetObject(int AIndex, TObject* AObject) override;
-    // In a sorted list the place is given by the order. A text that is there already is then treated as Duplicates
-    // says: dupIgnore gives its place and takes nothing, dupError raises EStringListError, "String list does not
-    // allow duplicates".
+    // In a sorted list the place is given by the order. A text that is there already is then treated as
+    // Duplicates says: dupIgnore gives its place and takes nothing, dupError raises EStringListError, "String
+    // list does not allow duplicates".
     int AddObject(const UnicodeString& AText, TObject* AObject) override;
-    // Owned objects are ended by Free, from the last to the first, when their lines are gone. The first exception of
-    // one goes to the caller, behind the others' end, unless OnChange raised one before; the destructor drops them all.
+    // Frees owned objects, from the last to the first, after their lines are removed. The first exception of
+    // one goes to the caller, after the others' end, unless OnChange raised one before; the destructor drops
+    // them all.
     void Delete(int AIndex) override;
     void Clear() override;
     // Sorts once; equal lines keep their order.
@@ -71,13 +72,13 @@ public:
     void SetSorted(bool AValue);
     TDuplicates Duplicates() const noexcept { return FDuplicates; } // dupIgnore at first
     void SetDuplicates(TDuplicates AValue) noexcept { FDuplicates = AValue; }
-    // Each change of the order's rules puts a sorted list in order anew.
+    // Each change of the order's rules puts a sorted list in order again.
     bool CaseSensitive() const noexcept { return FCaseSensitive; }
     void SetCaseSensitive(bool AValue);
     void SetUseLocale(bool AValue) override;
     bool OwnsObjects() const noexcept { return FOwnsObjects; }
     void SetOwnsObjects(bool AValue) noexcept { FOwnsObjects = AValue; }
-    // Told before and after each change, or before and after all changes between BeginUpdate and EndUpdate. A
+    // Called before and after each change, or once around all changes between BeginUpdate and EndUpdate. A
     // procedure does not change the list.
     void SetOnChanging(TNotifyEvent AEvent) { FOnChanging = std::move(AEvent); }
     void SetOnChange(TNotifyEvent AEvent) { FOnChange = std::move(AEvent); }

@@ -267,8 +267,8 @@ void TStrings::SetDelimitedText(const TStringArg& AText) {
     Split(AText, FDelimiter, FQuoteChar, FStrictDelimiter);
 }
 
-// An empty line is quoted where nothing else would show it: when it is the only one, or when the delimiter is a
-// blank, of which several separate as one does.
+// An empty line is quoted where nothing else would show it: when it is the only one, or when the delimiter is
+// a blank, of which several separate as one does.
 UnicodeString TStrings::Join(char16_t ADelimiter, char16_t AQuote, bool AStrict) const {
     const int Last = Count();
     const bool ShowsEmpty = Last > 1 && (AStrict || !IsBlank(ADelimiter));

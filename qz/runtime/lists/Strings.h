@@ -1,4 +1,5 @@
-// TStrings: lines of text, each with an object beside it; what all lists of text can do. TStringList is the usual one.
+// TStrings: lines of text, each with an object beside it; what all lists of text can do. TStringList is the
+// usual one.
 //
 //     void Show(TStrings& ALines) {
 //         ALines.SetText(u"one\r\ntwo");
@@ -7,8 +8,8 @@
 //         ALines.CommaText();                  // one,two,colour=red
 //     }
 //
-// Indexes count from 0; one out of range raises EStringListError, "List index out of bounds (%d)". A list belongs to
-// one thread at a time.
+// Indexes count from 0; one out of range raises EStringListError, "List index out of bounds (%d)". A list
+// belongs to one thread at a time.
 #pragma once
 
 #include <functional>
@@ -53,7 +54,7 @@ public:
         int FIndex;
     };
 
-    // What a list of its own kind supplies.
+    // What each list class implements.
     virtual int Count() const = 0;
     virtual UnicodeString Strings(int AIndex) const = 0;
     virtual TObject* Objects(int AIndex) const = 0;
@@ -77,7 +78,7 @@ public:
     bool Equals(const TStrings& AOther) const;
     TDynArray<UnicodeString> ToStringArray() const;
 
-    // A line "name=value": the part before the first separator, empty without one; the part behind it, empty
+    // A line "name=value": the part before the first separator, empty without one; the part after it, empty
     // without one; the value of the first line of that name, empty without one.
     UnicodeString Names(int AIndex) const;
     UnicodeString ValueFromIndex(int AIndex) const;
@@ -98,20 +99,19 @@ public:
     virtual void Exchange(int AIndex1, int AIndex2);
     // Takes the line and its object to the place ANewIndex.
     virtual void Move(int ACurIndex, int ANewIndex);
-    // Takes the lines, objects and settings of another TStrings, but not the ownership of the objects: of two lists
-    // that share objects one at the most may own them.
+    // Takes the lines, objects and settings of another TStrings, but not the ownership of the objects: of two
+    // lists that share objects one at the most may own them.
     void Assign(TPersistent* ASource) override;
-    // Changes between the two are told as one. Calls nest.
+    // Changes between the two are notified as one. Calls nest.
     void BeginUpdate();
     void EndUpdate();
 
-    // All lines, each with LineBreak behind it. Read back, CR LF, LF and CR each end a line, or LineBreak alone when
-    // it is none of these; the last line needs no
-    // end.
+    // All lines, each with LineBreak after it. Read back, CR LF, LF and CR each end a line, or LineBreak
+    // alone when it is none of these; the last line needs no end.
     UnicodeString Text() const;
     void SetText(const TStringArg& AText);
-    // All lines in one, with commas between, for spreadsheets and settings. A line with a blank, comma or quote (")
-    // in it is quoted. Read back, commas and blanks outside quotes both separate.
+    // All lines in one, with commas between, for spreadsheets and settings. A line with a blank, comma or
+    // quote (") in it is quoted. Read back, commas and blanks outside quotes both separate.
     UnicodeString CommaText() const;
     void SetCommaText(const TStringArg& AText);
     // The same with Delimiter and QuoteChar; with StrictDelimiter blanks neither separate nor need quotes.
@@ -122,7 +122,7 @@ public:
     virtual void LoadFromFile(const TStringArg& AFileName, const TEncoding& AEncoding = TEncoding::UTF8());
     // Writes UTF-8 without a byte order mark, as a whole or not at all; raises EFCreateError.
     virtual void SaveToFile(const TStringArg& AFileName) const;
-    // The same in another encoding, behind its mark if it has one.
+    // The same in another encoding, after its mark if it has one.
     void SaveToFile(const TStringArg& AFileName, const TEncoding& AEncoding) const;
 
     // Settings.
@@ -137,11 +137,11 @@ public:
     // CR LF at first, on every system, so that texts and files are the same everywhere.
     const UnicodeString& LineBreak() const noexcept { return FLineBreak; }
     void SetLineBreak(const UnicodeString& AValue) { FLineBreak = AValue; }
-    // Whether LineBreak stands behind the last line too; at first it does.
+    // Whether LineBreak stands after the last line too; at first it does.
     bool TrailingLineBreak() const noexcept { return FTrailingLineBreak; }
     void SetTrailingLineBreak(bool AValue) noexcept { FTrailingLineBreak = AValue; }
-    // Whether lines compare by the rules of the user's language, as at first, or by their units. Those rules pass over
-    // control characters and characters without width, so that "a" and "a\1" are equal.
+    // Whether lines compare by the rules of the user's language, as at first, or by their units. Those rules
+    // pass over control characters and characters without width, so that "a" and "a\1" are equal.
     bool UseLocale() const noexcept { return FUseLocale; }
     virtual void SetUseLocale(bool AValue) { FUseLocale = AValue; }
 
@@ -150,7 +150,7 @@ protected:
 
     // Negative, zero or positive; ignores case here.
     virtual int CompareStrings(std::u16string_view ALeft, std::u16string_view ARight) const;
-    // Told at the first BeginUpdate and the last EndUpdate.
+    // Called at the first BeginUpdate and the last EndUpdate.
     virtual void SetUpdateState(bool) {}
     int UpdateCount() const noexcept { return FUpdateCount; }
     [[noreturn]] static void IndexError(int AIndex);

@@ -3,7 +3,7 @@
 //     TThreadList<int> Shared;
 //     Shared.Add(5);
 //     {
-//         auto List = Shared.Lock();              // nobody else has it until the end of the block
+//         auto List = Shared.Lock();              // locked until the end of the block
 //         for (int Each : *List) ...
 //     }
 //

@@ -29,9 +29,9 @@ struct TInterfaceEntry {
     void* (*Cast)(TObject* AObject) noexcept;
 };
 
-// What stands for the signature of a virtual constructor: the class that declares it, and the number of its arguments, by
-// which the constructors of one class differ. The record of a class is the same one for a program and for the shared library
-// that it uses, which a variable of a template is not.
+// What stands for the signature of a virtual constructor: the class that declares it, and the number of its
+// arguments, by which the constructors of one class differ. The record of a class is the same one for a
+// program and for the shared library that it uses, which a variable of a template is not.
 struct TMakerFamily {
     TClass Base;
     std::size_t ArgCount;
@@ -56,7 +56,8 @@ struct TClassRec {
     PTypeInfo ClassInfo() const noexcept { return &Info; }
     // True for the class itself and for every class it derives from.
     QZ_API bool InheritsFrom(TClass AAncestor) const noexcept;
-    // The maker of that family of this very class, not a parent's; null when the class cannot be made that way.
+    // The maker of that family of this very class, not a parent's; null when the class cannot be made that
+    // way.
     QZ_API const void* FindMaker(TMakerFamily AFamily) const noexcept;
 };
 

@@ -41,7 +41,7 @@ private:
     std::unordered_map<UnicodeString, TItem> FItems;
 };
 
-// Made at first use and never destroyed, so that registrations may run before main and look-ups behind it.
+// Created at first use and never destroyed: registrations may run before main, look-ups after it.
 TNameTable<TClass>& Classes() {
     static auto* const Table = new TNameTable<TClass>;
     return *Table;

@@ -14,8 +14,8 @@ namespace qz {
 inline constexpr TTextConstant SClassNotFound = u"Class %s not found";
 inline constexpr TTextConstant SDuplicateClass = u"A class named %s already exists";
 
-// Makes a class known by its name. Registering it again changes nothing; another class of the same name raises
-// EInvalidOperation.
+// Makes a class known by its name. Registering it again changes nothing; another class of the same name
+// raises EInvalidOperation.
 QZ_API void RegisterClass(TClass AClass);
 // Ignores a class that is not registered.
 QZ_API void UnRegisterClass(TClass AClass);
@@ -24,8 +24,8 @@ QZ_API TClass GetClass(std::u16string_view AName);
 // Raises EClassNotFound instead.
 QZ_API TClass FindClass(std::u16string_view AName);
 
-// Makes a type known by its qualified name; of two types of one name the last counts. A type that is not public is
-// ignored, for it has no such name.
+// Makes a type known by its qualified name; of two types of one name the last counts. A type that is not
+// public is ignored, for it has no such name.
 QZ_API void RegisterType(PTypeInfo AType);
 // The type of that qualified name, as "System.Integer"; null when none is registered.
 QZ_API PTypeInfo FindType(std::u16string_view AQualifiedName);

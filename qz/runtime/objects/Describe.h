@@ -147,7 +147,7 @@ template <auto Member> constexpr TFieldInfo Field(std::u16string_view AName) noe
 // A method that gives a described type, or nothing.
 template <auto Function> constexpr TMethodInfo Method(std::u16string_view AName) noexcept;
 
-// What a class adds to its parent; all of it static data.
+// What a class adds to the description of its parent; all of it static data.
 struct TClassDescription {
     std::u16string_view Unit{};
     std::span<const TPropInfo> Properties{};
@@ -185,7 +185,7 @@ template <class TFamily, auto Make> constexpr TMakerEntry Maker() noexcept {
 }
 
 namespace detail {
-// Calls of these end the compilation, with their names in the message.
+// A call of one of these stops the compilation with its name in the message.
 void ItemsHaveToAscend();
 void FloatsHave4Or8Bytes();
 
@@ -202,7 +202,8 @@ constexpr TTypeInfo InfoOf(TTypeKind AKind, std::u16string_view AName, std::u16s
 }
 } // namespace detail
 
-// A type that is described by its kind and C++ type alone. A float of other than 4 or 8 bytes does not compile.
+// A type that is described by its kind and C++ type alone. A float of other than 4 or 8 bytes does not
+// compile.
 template <class T>
 consteval TTypeInfo DescribeType(TTypeKind AKind, std::u16string_view AName,
                                  std::u16string_view AUnit) noexcept {
@@ -212,8 +213,8 @@ consteval TTypeInfo DescribeType(TTypeKind AKind, std::u16string_view AName,
     return detail::InfoOf<T>(AKind, AName, AUnit);
 }
 
-// An enumeration with its values in ascending order; otherwise it does not compile. Of several names for one value the
-// first is the one that is told.
+// An enumeration with its values in ascending order; otherwise it does not compile. Of several names for one
+// value the first one is reported.
 template <class T>
     requires std::is_enum_v<T>
 consteval TTypeInfo DescribeEnum(std::u16string_view AName, std::u16string_view AUnit,

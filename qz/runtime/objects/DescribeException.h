@@ -2,8 +2,8 @@
 //
 //     const TClassRec EBadShape::ClassRec = DescribeException<EBadShape>(u"EBadShape", u"Drawing");
 //
-// A class that can be built from a message, or from a message and a code, can then also be made through a class
-// reference.
+// A class that can be built from a message, or from a message and a code, can then also be made through a
+// class reference.
 #pragma once
 
 #include <qz/runtime/objects/Describe.h>

@@ -23,7 +23,8 @@
 #include <qz/runtime/base/VarRec.h>
 #include <qz/runtime/objects/Object.h>
 
-// Opens the body of an exception class, as QZ_CLASS does, and lets an object of it be raised by its own class.
+// Opens the body of an exception class, as QZ_CLASS does, and lets an object of it be raised by its own
+// class.
 #define QZ_EXCEPTION(AClass, AParent)          \
     QZ_CLASS(AClass, AParent)                  \
 public:                                        \
@@ -39,7 +40,8 @@ class QZ_API Exception : public TObject, public std::exception {
     QZ_CLASS(Exception, TObject)
 
 public:
-    // Ways to make an exception of a class that is known at run time only; each gives null where a class has none.
+    // Ways to make an exception of a class that is known at run time only; each gives null where a class has
+    // none.
     using TVirtualCreate =
         TVirtualConstructor<Exception, std::unique_ptr<Exception>(const UnicodeString& AMessage)>;
     using TVirtualCreateCode =
@@ -54,7 +56,7 @@ public:
     void SetMessage(const UnicodeString& AMessage);
     const char* what() const noexcept override { return FWhat.what(); }
     UnicodeString ToString() const override { return FMessage; }
-    // Throws a copy of this exception, of its own class.
+    // Throws a copy of this exception with its dynamic class.
     [[noreturn]] virtual void Raise() const { throw Exception(*this); }
 
 private:
@@ -131,8 +133,8 @@ private:
     std::int32_t FErrorCode = 0;
 };
 
-// Raises EOSError for a system error number: "System Error.  Code: 2.", the system's own text, and AAdditional
-// where given, on lines of their own.
+// Raises EOSError for a system error number: "System Error.  Code: 2.", the system's own text, and
+// AAdditional where given, on lines of their own.
 [[noreturn]] QZ_API void RaiseOSError(std::int32_t ACode, const TStringArg& AAdditional = u"");
 // The same for the calling thread's last error. Without one: "A call to an OS function failed".
 [[noreturn]] QZ_API void RaiseLastOSError();
@@ -144,7 +146,7 @@ QZ_API UnicodeString SysErrorMessage(std::int32_t ACode);
 // Exception comes as one with the same message, or "Unknown exception".
 QZ_API void HandleException(const std::function<void(Exception&)>& AHandler);
 
-// Ends the operation silently: raises EAbort, "Operation aborted".
+// Aborts the operation silently: raises EAbort, "Operation aborted".
 [[noreturn]] QZ_API void Abort();
 
 namespace detail {

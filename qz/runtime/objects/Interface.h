@@ -8,12 +8,12 @@
 //     Ref<IGreeter> Greeter = TGreeter::Create();
 //     if (Ref<IOther> Other = As<IOther>(Greeter)) ...
 //
-// An interface is laid out as COM lays it out: three operations, then its own in order, no destructor. On Windows
-// an interface of this library is a COM interface. Counting is safe on any number of threads; one Ref variable
-// belongs to one thread at a time.
+// An interface is laid out as COM lays it out: three operations, then its own in order, no destructor. On
+// Windows an interface of this library is a COM interface. Counting is safe on any number of threads; one Ref
+// variable belongs to one thread at a time.
 //
-// What runs when the last reference goes (BeforeDestruction, the destructor) must not raise: there is nobody to tell,
-// and an exception out of a Ref that ends its life ends the program.
+// BeforeDestruction and the destructor must not raise when they run for the last reference: no caller could
+// handle it, and an exception that leaves the destructor of a Ref terminates the program.
 #pragma once
 
 #include <compare>
@@ -82,14 +82,14 @@ public:
     I& operator*() const noexcept { return *FObject; }
     explicit operator bool() const noexcept { return FObject != nullptr; }
     operator I*() const& noexcept { return FObject; }
-    // Whoever takes the pointer out of a passing reference would be left with a dead object.
+    // A pointer taken from a temporary reference would dangle.
     operator I*() const&& = delete;
     friend bool operator==(const Ref& ALeft, const Ref& ARight) noexcept {
         return ALeft.FObject == ARight.FObject;
     }
     friend bool operator==(const Ref& ALeft, std::nullptr_t) noexcept { return ALeft.FObject == nullptr; }
 
-    // Drops the reference. The variable is null before the object hears of it.
+    // Releases the reference. The variable is null before the release.
     void Clear() {
         if (I* Old = std::exchange(FObject, nullptr))
             Old->_Release();
@@ -107,7 +107,7 @@ private:
     I* FObject = nullptr;
 };
 
-// The interface J of what stands behind an interface; null when it has none.
+// The interface J of the object that implements AInterface; null if it has none.
 template <class J> Ref<J> As(IInterface* AObject) {
     void* Found = nullptr;
     if (AObject != nullptr && AObject->QueryInterface(J::IID, &Found) == S_OK_RESULT)
@@ -148,7 +148,8 @@ inline constexpr TInterfaceEntry cInterfaceEntries[] = {{&I::IID, &CastToInterfa
 
 } // namespace detail
 
-// The interfaces that T implements, for its class description; the first is the one that stands for IInterface.
+// The interfaces that T implements, for its class description; the first is the one that stands for
+// IInterface.
 template <class T, class... I> constexpr std::span<const TInterfaceEntry> Interfaces() noexcept {
     return detail::cInterfaceEntries<T, I...>;
 }

@@ -9,7 +9,7 @@
 //     const TClassRec TGreeter::ClassRec = DescribeClass<TGreeter>(
 //         u"TGreeter", {.Unit = u"Demo", .Interfaces = Interfaces<TGreeter, IGreeter>()});
 //
-//     Ref<IGreeter> Greeter = TGreeter::Create();     // gone with its last reference
+//     Ref<IGreeter> Greeter = TGreeter::Create();     // destroyed with its last reference
 #pragma once
 
 #include <atomic>
@@ -33,8 +33,8 @@ private:
 
 namespace qz {
 
-// A 32-bit reference count that any thread may change. Both changes give the new count. A count below zero, one
-// release too many, is an assertion failure, which ends the program where the release may not raise.
+// A 32-bit reference count that any thread may change. Both changes give the new count. A count below zero,
+// one release too many, is an assertion failure. It terminates the program where a release must not raise.
 class TRefCount {
 public:
     explicit TRefCount(std::int32_t ACount = 0) noexcept : FCount(ACount) {}
@@ -59,7 +59,7 @@ public:
         }
         return false;
     }
-    // Whoever takes the count to 0 sees all that the other holders did.
+    // The thread that decrements to 0 sees all writes of the other holders.
     std::int32_t Decrement() {
         const std::int32_t Old = FCount.fetch_sub(1, std::memory_order_acq_rel);
         if (Old <= 0) [[unlikely]]
@@ -79,13 +79,13 @@ class QZ_API TInterfacedObject : public TCreateOnly<TObject>, public IInterface 
 public:
     HRESULT QueryInterface(const TGUID& AIid, void** AObject) override;
     std::uint32_t _AddRef() override;
-    // Ends the object when the count reaches 0. References that are taken and dropped while it is being ended end
-    // nothing.
+    // Destroys the object when the count reaches 0. References that come and go during the destruction
+    // destroy nothing.
     std::uint32_t _Release() override;
 
     int RefCount() const noexcept { return FRefCount.Value(); }
 
-    // Raises EInvalidPointer when references remain; the object is then not ended.
+    // Raises EInvalidPointer if references remain; the object then lives on.
     void BeforeDestruction() override;
 
 protected:

@@ -8,9 +8,9 @@
 //     auto Shape = TShape::Create();        // std::unique_ptr<TShape>; a counted class gives a TShape* instead
 //     Shape->ClassName();                   // "TShape"
 //
-// An object of an ordinary class is an ordinary C++ object: on the stack, a member, or held by std::unique_ptr.
-// Objects of the counted families (see Interface.h) are made by Create only and ended by Free or by their last
-// reference.
+// An object of an ordinary class is an ordinary C++ object: on the stack, a member, or held by
+// std::unique_ptr. Objects of the counted families (see Interface.h) are made by Create only and ended by
+// Free or by their last reference.
 #pragma once
 
 #include <memory>
@@ -52,25 +52,26 @@ public:
     // The name of the class, unless a class knows better.
     virtual UnicodeString ToString() const;
 
-    // The interface of that identifier as the object's class lists it, not counted; null when it has none. Asked
-    // for IInterface it gives the same address at every call.
+    // The interface of that identifier as the object's class lists it, not counted; null when it has none.
+    // Asked for IInterface it gives the same address at every call.
     void* FindInterface(const TGUID& AIid) noexcept;
     // The same, counted for the caller: AObject receives the interface or null.
     bool GetInterface(const TGUID& AIid, void** AObject);
 
     // Destroys an object that was made with Create or new: runs BeforeDestruction, then the destructor. When
-    // BeforeDestruction raises, the object stays and the exception goes on. Raises EInvalidOperation for an object of
-    // the counted families that is being destroyed already.
+    // BeforeDestruction raises, the object stays and the exception goes on. Raises EInvalidOperation for an
+    // object of the counted families that is being destroyed already.
     void Free();
 
-    // Runs once when the object is complete; run by Create. References to an object of a counted family that come
-    // and go in here end nothing.
+    // Runs once when the object is complete; run by Create. References to an object of a counted family that
+    // come and go in here end nothing.
     virtual void AfterConstruction() {}
-    // Runs before the destructor when the object is ended by Free or its last reference.
+    // Runs before the destructor when Free or the last reference destroys the object.
     virtual void BeforeDestruction() {}
 
 protected:
-    // For the object families. Create calls FinishCreate after AfterConstruction; an override calls Inherited first.
+    // For the object families. Create calls FinishCreate after AfterConstruction; an override calls Inherited
+    // first.
     virtual void FinishCreate() {}
     // Free calls it first. False if the object is being destroyed already.
     virtual bool BeginDestruction() noexcept { return true; }
@@ -84,20 +85,20 @@ private:
     template <class T> friend struct detail::TMaker;
 };
 
-// Ends the object of a pointer, if any, and clears the pointer first, so that nobody meets a dead object through it.
+// Frees the object of a pointer, if any. Clears the pointer first, so that it never dangles.
 template <class T> void FreeAndNil(T*& AObject) {
     if (T* Old = std::exchange(AObject, nullptr))
         Old->Free();
 }
 
-// Ends an object through Free; for std::unique_ptr. BeforeDestruction of such an object must not raise.
+// Deleter for std::unique_ptr that calls Free. BeforeDestruction of such an object must not raise.
 struct TFreeObject {
     void operator()(TObject* AObject) const { AObject->Free(); }
 };
 // Sole ownership of an object of any family, also of a counted one that is never given to an interface.
 template <class T> using TOwned = std::unique_ptr<T, TFreeObject>;
 
-// What the counted families build on: objects that Create alone can make, and that nobody can delete. A class of
+// The base of the counted families. Only Create makes their objects, and delete does not compile. A class of
 // such a family is abstract until Create completes it, and its memory operators are closed to others.
 template <class TBase> class TCreateOnly : public TBase {
 public:
@@ -122,8 +123,8 @@ template <class T> struct TMaker {
         void ObjectsOfThisClassAreMadeByCreateOnly() const noexcept override {}
     };
 
-    // A counted class gives a plain pointer, any other a std::unique_ptr. An exception of AfterConstruction ends
-    // the object and goes on.
+    // A counted class gives a plain pointer, any other a std::unique_ptr. An exception of AfterConstruction
+    // ends the object and goes on.
     template <class... TArgs> static auto Make(TArgs&&... AArgs) {
         if constexpr (requires { T::cCreateOnly; }) {
             static_assert(std::is_abstract_v<T>, "a counted class must leave the making to Create");

@@ -18,10 +18,10 @@ class QZ_API TPersistent : public TObject {
     QZ_CLASS(TPersistent, TObject)
 
 public:
-    // Copies from ASource by its AssignTo. A null source, and a pair of classes of which neither knows how, raise
-    // EConvertError that names both.
+    // Copies from ASource by its AssignTo. A null source, and a pair of classes of which neither knows how,
+    // raise EConvertError that names both.
     virtual void Assign(TPersistent* ASource);
-    // The class name, behind the name path of the owner and a point when the owner has one.
+    // The class name; after the owner's name path and a dot if the owner has one.
     virtual UnicodeString GetNamePath() const;
 
 protected:

@@ -1,5 +1,6 @@
-// The form in which values of a type are handled where only their description is known: an object as TObject*, an
-// interface as Ref<IInterface>, an integer as the one of its width and sign in <cstdint>, anything else as itself.
+// The form in which values of a type are handled where only their description is known: an object as
+// TObject*, an interface as Ref<IInterface>, an integer as the one of its width and sign in <cstdint>,
+// anything else as itself.
 //
 //     TTransport<TShape*> Raw = ToTransport<TShape*>(Shape);      // a TObject*
 //     TShape* Same = FromTransport<TShape*>(Raw);

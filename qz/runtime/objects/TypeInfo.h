@@ -1,11 +1,12 @@
-// The description of a type at run time: its kind and name, what it is built from, how its values are handled.
+// The description of a type at run time: its kind and name, what it is built from, how its values are
+// handled.
 //
 //     PTypeInfo Info = TypeInfo<TColor>();            // a described type; others do not compile
 //     Info->Kind == TTypeKind::tkEnumeration;
 //     Info->QualifiedName();                          // "MyUnit.TColor"
 //
-// There is one TTypeInfo for a type; its address is the type's identity. Descriptions are constants of the program,
-// filled by the functions of Describe.h, and may be read by any number of threads.
+// There is one TTypeInfo for a type; its address is the type's identity. Descriptions are constants of the
+// program, filled by the functions of Describe.h, and may be read by any number of threads.
 #pragma once
 
 #include <concepts>
@@ -55,8 +56,8 @@ enum class TTypeKind : std::uint8_t {
 };
 using enum TTypeKind;
 
-// How values of a type are handled in raw storage of its size and alignment. The source and the target of a copy
-// are distinct. An object is handled as a TObject*, an interface as a Ref<IInterface>.
+// How values of a type are handled in raw storage of its size and alignment. The source and the target of a
+// copy are distinct. An object is handled as a TObject*, an interface as a Ref<IInterface>.
 struct TTypeOps {
     std::size_t Size;
     std::size_t Align;
@@ -64,12 +65,13 @@ struct TTypeOps {
     void (*Copy)(void* ATarget, const void* ASource);   // into raw storage; null when values cannot be copied
     void (*Assign)(void* ATarget, const void* ASource); // into a living value; null as for Copy
     void (*Destroy)(void* ATarget) noexcept;
-    // Moves a value into raw storage and ends the source; null unless IsSmall.
+    // Moves a value into raw storage and destroys the source; null unless IsSmall.
     void (*Relocate)(void* ATarget, void* ASource) noexcept;
-    // Whether the value refers to nothing, of a type that can tell; counts for the kinds of IsReferenceKind.
+    // Whether the value refers to nothing; for the kinds of IsReferenceKind.
     bool (*IsNull)(const void* ASource) noexcept;
     bool IsTrivial; // a copy is a copy of the bytes, and allowed
-    // At most 16 bytes, aligned to at most 8, that can be moved without fail, so that a TValue keeps it in place.
+    // At most 16 bytes, aligned to at most 8, that can be moved without fail, so that a TValue keeps it in
+    // place.
     bool IsSmall;
     bool MovesAsBytes; // it does so, or is not small and lies elsewhere
 };
@@ -87,8 +89,8 @@ struct TEnumItem {
     std::int64_t Value;
 };
 
-// One published property of a class. A value travels in the form that its type's description tells; a property
-// that holds an object travels as a TObject*.
+// One published property of a class. A value is passed in the form that its type description defines; a
+// property that holds an object is passed as a TObject*.
 struct TPropInfo {
     std::u16string_view Name;
     PTypeInfo (*PropType)();
@@ -104,7 +106,7 @@ struct TFieldInfo {
     std::size_t (*Offset)();
 };
 
-// One method that can be asked for by name.
+// One method that can be looked up by name.
 struct TMethodInfo {
     std::u16string_view Name;
     PTypeInfo (*ReturnType)(); // null: gives nothing
@@ -169,8 +171,8 @@ using TIntegerOfSize = std::conditional_t<
     Size == 1, std::int8_t,
     std::conditional_t<Size == 2, std::int16_t, std::conditional_t<Size == 4, std::int32_t, std::int64_t>>>;
 
-// The type whose description is that of T. Of the integers of one width and sign the one with a name of its own in
-// <cstdint> stands for the others, such as long long for long.
+// The type whose description is that of T. Of the integers of one width and sign the one with a name of its
+// own in <cstdint> stands for the others, such as long long for long.
 template <class T> struct TDescribedAs { using Type = T; };
 template <CInteger T> struct TDescribedAs<T> {
     using TSigned = TIntegerOfSize<sizeof(T)>;
@@ -190,8 +192,8 @@ template <class T> constexpr PTypeInfo TypeInfoOf() noexcept;
 template <class T>
 concept CDescribedType = detail::CDescribed<std::remove_cv_t<T>>;
 
-// The description of T. An object type is described by its class, whether it is named as a class or a pointer, an
-// interface I also as I* and Ref<I>.
+// The description of T. An object type is described by its class, whether it is named as a class or a
+// pointer, an interface I also as I* and Ref<I>.
 template <class T> constexpr PTypeInfo TypeInfo() noexcept {
     return detail::TypeInfoOf<std::remove_cv_t<T>>();
 }
@@ -199,8 +201,8 @@ template <class T> constexpr PTypeInfo TypeInfo() noexcept {
 // The published property of that name, of AType or a parent class, ignoring case; null when there is none.
 QZ_API const TPropInfo* GetPropInfo(PTypeInfo AType, std::u16string_view AName) noexcept;
 
-// The ordinal at ASource, an integer, character, enumeration or set of 1 to 8 bytes, widened by its sign. AType is of
-// an ordinal kind or a set.
+// The ordinal at ASource, an integer, character, enumeration or set of 1 to 8 bytes, widened by its sign.
+// AType is of an ordinal kind or a set.
 QZ_API std::int64_t ReadOrdinal(PTypeInfo AType, const void* ASource) noexcept;
 QZ_API void WriteOrdinal(PTypeInfo AType, void* ATarget, std::int64_t AValue) noexcept;
 

@@ -79,7 +79,7 @@ std::int64_t OrdinalFromNumber(PTypeInfo AType, const Variant& AValue) {
     return IsUnsigned ? static_cast<std::int64_t>(VarToUInt64(AValue)) : VarToInt64(AValue);
 }
 
-// What a variant says about an ordinal type.
+// The ordinal in a variant.
 std::int64_t OrdinalFrom(PTypeInfo AType, const Variant& AValue) {
     if (!VarIsStr(AValue))
         return OrdinalFromNumber(AType, AValue);
@@ -97,7 +97,7 @@ std::int64_t OrdinalFrom(PTypeInfo AType, const Variant& AValue) {
     return AType->IsSigned ? VarToInt64(AValue) : static_cast<std::int64_t>(VarToUInt64(AValue));
 }
 
-// What a variant says about any type that has variants.
+// The value in a variant, for a type that variants can hold.
 TValue ValueFrom(const TPropInfo& AProp, const Variant& AValue) try {
     PTypeInfo Type = AProp.PropType();
     if (IsOrdinal(Type))

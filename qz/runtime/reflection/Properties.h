@@ -6,11 +6,11 @@
 //     SetPropValue(*Server, u"Port", 8080);
 //     Variant Port = GetPropValue(*Server, u"port");
 //
-// A property is named in either case of letters, or by its TPropInfo, which must be of the object's class or a parent.
-// What a getter or a setter raises goes to the caller. Beyond that each function raises EPropertyError, "Property %s does
-// not exist", "Property %s cannot be read", "Property %s is read-only", and EPropertyConvertError, "Invalid property type:
-// %s", for a property of a type that it does not name. The functions keep nothing; objects are as safe for threads as their
-// accessors.
+// A property is named in either case of letters, or by its TPropInfo, which must be of the object's class or
+// a parent. Exceptions of getters and setters reach the caller. In addition each function raises
+// EPropertyError, "Property %s does not exist", "Property %s cannot be read", "Property %s is read-only", and
+// EPropertyConvertError, "Invalid property type: %s", for a property of a type that it does not name. The
+// functions keep nothing; objects are as safe for threads as their accessors.
 #pragma once
 
 #include <cstddef>
@@ -21,8 +21,8 @@
 
 namespace qz {
 
-// The published properties of a class in order: the parent's come first, and one that a descendant declares anew stands
-// in the place of the first. It needs no memory.
+// The published properties of a class in order: the parent's come first, and one that a descendant declares
+// again stands replaces the first. Does not allocate.
 class QZ_API TPropInfos {
 public:
     class QZ_API TIterator {
@@ -49,7 +49,7 @@ public:
 
     private:
         void FindNext() noexcept;
-        PTypeInfo FClass = nullptr; // whose properties are asked for
+        PTypeInfo FClass = nullptr; // the class with the properties
         PTypeInfo FLevel = nullptr; // the class or parent whose own properties have their turn
         std::size_t FIndex = 0;     // of the next of these
         const TPropInfo* FProp = nullptr;
@@ -71,7 +71,7 @@ inline TPropInfos GetPropInfos(TClass AClass) noexcept {
     return TPropInfos(AClass == nullptr ? nullptr : AClass->ClassInfo());
 }
 
-// How a function is told the property: by its name or its description. It lives as long as the call.
+// A property argument: its name or its description. Valid during the call.
 class TPropArg {
 public:
     template <class T>
@@ -109,31 +109,32 @@ QZ_API TValue GetProp(const TObject& AObject, const TPropArg& AProp);
 // AValue is cast to the type of the property, and raises EInvalidCast when that is not possible.
 QZ_API void SetProp(TObject& AObject, const TPropArg& AProp, const TValue& AValue);
 
-// A property as a variant. With APreferStrings a character is a text, an enumeration its name, a set the names of its
-// items as SetToString writes them; without, each is its ordinal, and a Boolean a Boolean. Any float and date is a
-// double, a Currency a Currency. A set of more than 64 bits is had as names alone. Objects, interfaces, records, arrays,
-// events and pointers raise EPropertyConvertError.
+// A property as a variant. With APreferStrings a character is a text, an enumeration its name, a set the
+// names of its items as SetToString writes them; without, each is its ordinal, and a Boolean a Boolean. Any
+// float and date is a double, a Currency a Currency. A set of more than 64 bits is had as names alone.
+// Objects, interfaces, records, arrays, events and pointers raise EPropertyConvertError.
 QZ_API Variant GetPropValue(const TObject& AObject, const TPropArg& AProp, bool APreferStrings = true);
-// The other way round: a text names a value of an enumeration or the items of a set, any number but 0 is True for a
-// Boolean, anything else is converted as VariantConvert.h tells. Raises EPropertyConvertError, "Invalid property element:
-// %s", for a name that is none, and for a set of more than 64 bits as for objects; ERangeError for a number that does not
-// fit; EVariantTypeCastError for a text that is no number, date or Boolean where one is due, EInvalidCast where it is no
-// character or no text of the property's code page.
+// The other way round: a text names a value of an enumeration or the items of a set, any number but 0 is True
+// for a Boolean, anything else is converted as VariantConvert.h tells. Raises EPropertyConvertError, "Invalid
+// property element: %s", for a name that is none, and for a set of more than 64 bits as for objects;
+// ERangeError for a number that does not fit; EVariantTypeCastError for a text that is no number, date or
+// Boolean where one is due, EInvalidCast where it is no character or no text of the property's code page.
 QZ_API void SetPropValue(TObject& AObject, const TPropArg& AProp, const Variant& AValue);
 
-// Integers, characters, enumerations, sets of up to 64 bits. A number that does not fit raises ERangeError; a Boolean
-// takes 0 and 1.
+// Integers, characters, enumerations, sets of up to 64 bits. A number that does not fit raises ERangeError; a
+// Boolean takes 0 and 1.
 QZ_API std::int64_t GetOrdProp(const TObject& AObject, const TPropArg& AProp);
 QZ_API void SetOrdProp(TObject& AObject, const TPropArg& AProp, std::int64_t AValue);
-// Texts and characters. A text that is not one character, of Latin-1 for a char, raises EInvalidCast when it is set as a
-// character.
+// Texts and characters. A text that is not one character, of Latin-1 for a char, raises EInvalidCast when it
+// is set as a character.
 QZ_API UnicodeString GetStrProp(const TObject& AObject, const TPropArg& AProp);
 QZ_API void SetStrProp(TObject& AObject, const TPropArg& AProp, const UnicodeString& AValue);
-// Floats and dates. A number is rounded to a narrower type; a finite one outside its range raises ERangeError.
+// Floats and dates. A number is rounded to a narrower type; a finite one outside its range raises
+// ERangeError.
 QZ_API double GetFloatProp(const TObject& AObject, const TPropArg& AProp);
 QZ_API void SetFloatProp(TObject& AObject, const TPropArg& AProp, double AValue);
-// Objects. One that does not derive from AClass, where given, is read as null. One that does not fit the type of the
-// property raises EInvalidCast when it is set.
+// Objects. One that does not derive from AClass, where given, is read as null. One that does not fit the type
+// of the property raises EInvalidCast when it is set.
 QZ_API TObject* GetObjectProp(const TObject& AObject, const TPropArg& AProp, TClass AClass = nullptr);
 QZ_API void SetObjectProp(TObject& AObject, const TPropArg& AProp, TObject* AValue);
 

@@ -85,7 +85,7 @@ void TFileStream::AppendWhole(std::span<const std::byte> ABytes) {
     Raise<EWriteError>(cCannotWrite, FFileName, Written.Error);
 }
 
-// Unless somebody else has written behind it.
+// Unless another writer has appended to it.
 void TFileStream::TakeBack(std::span<const std::byte> ABytes) {
     std::vector<std::byte> Found(ABytes.size());
     const auto Count = static_cast<std::int64_t>(ABytes.size());

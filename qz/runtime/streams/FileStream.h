@@ -3,10 +3,10 @@
 //     TFileStream File(u"data.bin", fmOpenRead | fmShareDenyWrite);
 //     TFileStream Log(u"trace.log", fmCreate | fmShareDenyWrite);
 //
-// A mode is one of fmOpenRead, fmOpenWrite, fmOpenReadWrite, fmCreate and one of the fmShare constants; without one of
-// these nobody else may open the file. Sharing holds among all programs on Windows, and among the streams of this
-// library, in all processes, on Linux. Nothing is buffered: what is written has reached the system when the call
-// returns.
+// A mode is one of fmOpenRead, fmOpenWrite, fmOpenReadWrite, fmCreate and one of the fmShare constants;
+// without one of these no other handle may open the file. Sharing holds among all programs on Windows, and
+// among the streams of this library, in all processes, on Linux. Nothing is buffered: what is written has
+// reached the system when the call returns.
 #pragma once
 
 #include <span>
@@ -46,15 +46,16 @@ public:
 
     // Raises EReadError with the file and the reason.
     std::int32_t Read(void* ABuffer, std::int32_t ACount) override;
-    // The number of bytes that arrived, less than ACount when the disk became full. Raises EWriteError with the file and
-    // the reason when none did.
+    // The number of bytes that arrived, less than ACount when the disk became full. Raises EWriteError with
+    // the file and the reason when none did.
     std::int32_t Write(const void* ABuffer, std::int32_t ACount) override;
     // Has AppendWhole write at the end of the file. Raises EStreamError.
     void SetAppending();
-    // Writes all of ABytes at the end or nothing: where only a part has room, it is taken back, if it is what the file ends
-    // with. Where the position is then is not said. Raises EWriteError with the file and the reason.
+    // Appends all of ABytes or nothing: a part that was written is truncated again, if it is still what the
+    // file ends with. Where the position is then is not said. Raises EWriteError with the file and the
+    // reason.
     void AppendWhole(std::span<const std::byte> ABytes);
-    // Places behind the end are allowed; a write there leaves zeros before it. Raises EStreamError.
+    // Places after the end are allowed; a write there leaves zeros before it. Raises EStreamError.
     std::int64_t Seek(std::int64_t AOffset, TSeekOrigin AOrigin) override;
     // New bytes are 0; the position stays. Raises EStreamError.
     void SetSize(std::int64_t ANewSize) override;

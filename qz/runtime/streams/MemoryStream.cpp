@@ -50,8 +50,8 @@ TMemoryStream::~TMemoryStream() {
     std::free(Memory());
 }
 
-// To at least ACapacity bytes, by half of what there is, so that many small writes take time in proportion to their
-// sum.
+// To at least ACapacity bytes, by half of what there is, so that many small writes take time in proportion to
+// their sum.
 void TMemoryStream::Reserve(std::int64_t ACapacity) {
     if (ACapacity <= FCapacity)
         return;
@@ -92,7 +92,7 @@ void TMemoryStream::SetSize(std::int64_t ANewSize) {
         std::memset(static_cast<std::byte*>(Memory()) + Old, 0, static_cast<std::size_t>(ANewSize - Old));
     }
     SetPointer(Memory(), ANewSize);
-    // A stream that grows keeps a position behind its old end.
+    // A stream that grows keeps a position after its old end.
     if (ANewSize < Old)
         FPosition = std::min(FPosition, ANewSize);
 }

@@ -1,11 +1,11 @@
-// TMemoryStream: a stream in memory that grows as it is written.
+// TMemoryStream: a stream in memory that grows with each write.
 //
 //     TMemoryStream Stream;
 //     Stream.WriteBuffer("abc", 3);
 //     Stream.SaveToFile(u"abc.bin");
 //
-// TCustomMemoryStream is what streams over a block of memory share; on its own it reads a block that belongs to
-// somebody else.
+// TCustomMemoryStream is what streams over a block of memory share; on its own it reads a block that belongs
+// to somebody else.
 #pragma once
 
 #include <span>
@@ -29,8 +29,8 @@ public:
     }
 
     std::int32_t Read(void* ABuffer, std::int32_t ACount) override;
-    // Places behind the end are allowed; a write there fills the gap with zeros. A place before the beginning raises
-    // EStreamError.
+    // Places after the end are allowed; a write there fills the gap with zeros. A place before the beginning
+    // raises EStreamError.
     std::int64_t Seek(std::int64_t AOffset, TSeekOrigin AOrigin) override;
     std::int64_t GetSize() override { return FSize; }
 
@@ -63,14 +63,14 @@ public:
 
     // Always ACount; a negative count counts as 0. ABuffer may lie in the stream itself.
     std::int32_t Write(const void* ABuffer, std::int32_t ACount) override;
-    // New bytes are 0. A position behind the new end moves to it. Raises std::bad_alloc and leaves the stream as it
-    // was.
+    // New bytes are 0. A position after the new end moves to it. Raises std::bad_alloc and leaves the stream
+    // as it was.
     void SetSize(std::int64_t ANewSize) override;
     // No content and no memory, position 0.
     void Clear();
 
-    // Replace the content; the position is 0 then. From a stream: all of it, whatever its position. When that raises,
-    // the content is as it was.
+    // Replace the content; the position is 0 then. From a stream: all of it, whatever its position. When that
+    // raises, the content is as it was.
     void LoadFromStream(TStream& AStream);
     // Raises EFOpenError.
     void LoadFromFile(const TStringArg& AFileName);

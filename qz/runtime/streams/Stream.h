@@ -30,12 +30,12 @@ public:
     TStream(const TStream&) = delete;
     TStream& operator=(const TStream&) = delete;
 
-    // What a stream of its own kind supplies. A class that overrides Seek or SetSize says "using TStream::Seek;" to
-    // keep the 32-bit form in sight.
+    // What each stream class implements. A class that overrides Seek or SetSize declares "using
+    // TStream::Seek;" to keep the 32-bit form in sight.
 
-    // Reads up to ACount bytes at the position and moves behind them; the number read, 0 at the end.
+    // Reads up to ACount bytes at the position and moves past them; the number read, 0 at the end.
     virtual std::int32_t Read(void* ABuffer, std::int32_t ACount) = 0;
-    // Writes ACount bytes at the position and moves behind them; the number written.
+    // Writes ACount bytes at the position and moves past them; the number written.
     virtual std::int32_t Write(const void* ABuffer, std::int32_t ACount) = 0;
     // Moves the position; the new one, from the beginning.
     virtual std::int64_t Seek(std::int64_t AOffset, TSeekOrigin AOrigin) = 0;
@@ -50,16 +50,18 @@ public:
     std::int64_t Position() { return Seek(std::int64_t{0}, soCurrent); }
     void SetPosition(std::int64_t APosition) { Seek(APosition, soBeginning); }
 
-    // Reads ACount bytes, or what there is until a read gives nothing, in as many steps as it takes; the number read.
+    // Reads ACount bytes, or what there is until a read gives nothing, in as many steps as it takes; the
+    // number read.
     std::int64_t ReadUpTo(void* ABuffer, std::int64_t ACount);
-    // All of the bytes, in as many steps as it takes. Raise EReadError, "Stream read error", and EWriteError, "Stream
-    // write error", when the stream gives or takes no more; what was read or written before remains so.
+    // All of the bytes, in as many steps as it takes. Raise EReadError, "Stream read error", and EWriteError,
+    // "Stream write error", when the stream gives or takes no more; what was read or written before remains
+    // so.
     void ReadBuffer(void* ABuffer, std::int64_t ACount);
     void WriteBuffer(const void* ABuffer, std::int64_t ACount);
     void WriteBuffer(const TBytes& ABytes);
 
-    // Copies ACount bytes from the position of ASource to that of this stream; with 0 or less, all of ASource from its start.
-    // The number copied. Raises as ReadBuffer and WriteBuffer do.
+    // Copies ACount bytes from the position of ASource to that of this stream; with 0 or less, all of ASource
+    // from its start. The number copied. Raises as ReadBuffer and WriteBuffer do.
     std::int64_t CopyFrom(TStream& ASource, std::int64_t ACount = 0);
     // Copies what lies between the position of ASource and its end, which may be nothing.
     std::int64_t CopyRest(TStream& ASource);

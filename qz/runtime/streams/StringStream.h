@@ -15,7 +15,8 @@ class QZ_API TStringStream : public TMemoryStream {
     QZ_CLASS(TStringStream, TMemoryStream)
 
 public:
-    // The position is at the start. Conversions raise EOSError naming the code page when the system cannot make them.
+    // The position is at the start. Conversions raise EOSError naming the code page when the system cannot
+    // make them.
     explicit TStringStream(const TStringArg& AText = u"", const TEncoding& AEncoding = TEncoding());
     // The bytes as they stand, in AEncoding.
     TStringStream(const TBytes& ABytes, const TEncoding& AEncoding);
@@ -23,7 +24,7 @@ public:
     const TEncoding& Encoding() const noexcept { return FEncoding; }
     // All of the content, whatever the position.
     UnicodeString DataString() const;
-    // What the next ACount bytes say, or all that are left when there are fewer.
+    // The text of the next ACount bytes, or of all remaining ones if there are fewer.
     UnicodeString ReadString(std::int32_t ACount);
     // Writes at the position.
     void WriteString(const TStringArg& AText);

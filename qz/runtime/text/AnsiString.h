@@ -1,12 +1,13 @@
-// The 8-bit string types: AnsiString in the system's code page, UTF8String, RawByteString for bytes of any page.
+// The 8-bit string types: AnsiString in the system's code page, UTF8String, RawByteString for bytes of any
+// page.
 //
 //     UTF8String Narrow(UnicodeString(u"Zoë"));      // four bytes, code page 65001
 //     AnsiString Local(Narrow);                      // converted to the system's code page
 //     UnicodeString Wide = Local.ToUnicode();
 //
-// Like UnicodeString each is one pointer wide, counted and copied when written to. Every text carries the number of
-// its code page; code page 0 means the system's. None of them is made implicitly from a literal or a UnicodeString,
-// so that an overload on both kinds takes the 16-bit one.
+// Like UnicodeString each is one pointer wide, counted and copied when written to. Every text carries the
+// number of its code page; code page 0 means the system's. None of them is made implicitly from a literal or
+// a UnicodeString, so that an overload on both kinds takes the 16-bit one.
 //
 // Threads: as for UnicodeString.
 #pragma once
@@ -24,7 +25,7 @@
 
 namespace qz {
 
-// What the 8-bit string types share: counted bytes with a code page.
+// The base of the 8-bit string types: reference-counted bytes with a code page.
 class QZ_API TByteText {
 public:
     using value_type = char;
@@ -57,14 +58,14 @@ public:
     char operator[](std::size_t AIndex) const noexcept { return data()[AIndex]; }
     std::string_view View() const noexcept { return {data(), size()}; }
     std::span<const std::byte> Bytes() const noexcept { return std::as_bytes(std::span(data(), size())); }
-    // The code page the text carries; that of the type itself for an empty text is told by the type.
+    // The code page of the text; 0 for an empty text, whose code page is that of its type.
     std::uint16_t CodePage() const noexcept { return FData == nullptr ? cSystemCodePage : Block()->CodePage; }
     int RefCount() const noexcept {
         return FData == nullptr ? 0 : Block()->RefCount.load(std::memory_order_relaxed);
     }
-    // The text in 16-bit units. Bytes that the code page does not know become what its table says for them, or
-    // U+FFFD. Raises EOSError when the system cannot convert the page. A text without a known page is taken to be in
-    // the system's.
+    // The text in 16-bit units. Bytes that the code page does not know become what its table says for them,
+    // or U+FFFD. Raises EOSError when the system cannot convert the page. A text without a known page is
+    // taken to be in the system's.
     UnicodeString ToUnicode() const;
 
     // Cuts or lengthens; new bytes are 0. The text becomes private. An empty text takes ACodePage.
@@ -109,7 +110,7 @@ public:
     template <CNarrowText T>
     explicit TAnsiText(const T& AText) : TByteText(detail::ViewOf<char>(AText), Page) {}
     TAnsiText(std::string_view AText, std::uint16_t ACodePage) : TByteText(AText, ACodePage) {}
-    // Converted; what the code page cannot express becomes its best fit or "?".
+    // Converts; characters that the code page lacks become their best fit or "?".
     explicit TAnsiText(const UnicodeString& AText) requires(Page != cNoCodePage)
         : TByteText(Encode(AText, Page)) {}
     // From another 8-bit string: the text, in this type's code page. RawByteString takes any as it is.

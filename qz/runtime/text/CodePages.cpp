@@ -18,7 +18,7 @@ using platform::TDecoding;
 using TCount = platform::TResult<std::size_t>;
 using TSource = std::span<const std::byte>;
 
-std::atomic<std::uint16_t> SystemPage{0}; // 0 while nobody has asked
+std::atomic<std::uint16_t> SystemPage{0}; // 0 until first used
 
 struct TMark {
     std::uint16_t CodePage;

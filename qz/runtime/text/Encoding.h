@@ -20,7 +20,7 @@ class QZ_API TEncoding : public TObject {
     QZ_CLASS(TEncoding, TObject)
 
 public:
-    // The system's code page by default. Nothing is asked of the system before the first conversion.
+    // The system's code page by default; it is queried at the first conversion.
     explicit TEncoding(std::uint16_t ACodePage = cSystemCodePage) noexcept : FCodePage(ACodePage) {}
 
     std::uint16_t CodePage() const noexcept { return FCodePage; }
@@ -28,8 +28,8 @@ public:
     // The mark that opens a file in this encoding: of UTF-8, UTF-16 and UTF-32; empty for any other.
     TBytes GetPreamble() const;
 
-    // What a text takes in bytes, and bytes in 16-bit units. All of these convert leniently and raise EOSError naming the
-    // page when the system cannot convert it.
+    // What a text takes in bytes, and bytes in 16-bit units. All of these convert leniently and raise
+    // EOSError naming the page when the system cannot convert it.
     std::size_t GetByteCount(const TStringArg& AText) const;
     std::size_t GetCharCount(std::span<const std::byte> ABytes) const;
     TBytes GetBytes(const TStringArg& AText) const;
@@ -47,7 +47,8 @@ public:
     static const TEncoding& Unicode();          // 1200
     static const TEncoding& BigEndianUnicode(); // 1201
 
-    // The encoding whose mark ABytes begin with; ADefault without one. AMarkLength receives the length of the mark.
+    // The encoding whose mark ABytes begin with; ADefault without one. AMarkLength receives the length of the
+    // mark.
     static TEncoding Detect(std::span<const std::byte> ABytes, const TEncoding& ADefault,
                             std::size_t& AMarkLength);
 

@@ -74,7 +74,7 @@ TView Section(TView APattern, int ANumber) {
     }
 }
 
-// How many digits a section has place for, and how many it asks for in any case.
+// The maximum and the minimum number of digits of a section.
 struct TPlaces {
     int Whole = 0;
     int LeastWhole = 0;
@@ -205,7 +205,7 @@ private:
     const TFormatSettings& FSettings;
     int FScale = 0;    // the exponent of the scientific form
     int FPosition = 0; // whole places still to come
-    int FFraction = 0; // places behind the point so far
+    int FFraction = 0; // places after the point so far
     bool FHasBegun = false;
     bool FIsBehindPoint = false;
 };

@@ -41,7 +41,7 @@ void AppendExponent(UnicodeString& AText, int AExponent, bool APlus, int ADigits
     AText.Append({Start, static_cast<std::size_t>(End - Start)});
 }
 
-// "d.ddd" with exactly AFraction digits behind the point, then the exponent.
+// "d.ddd" with exactly AFraction digits after the point, then the exponent.
 void AppendScientific(UnicodeString& AText, const TDecimal& AValue, int AFraction, bool APlus,
                       int AExponentDigits, const TFormatSettings& ASettings) {
     AText += AValue.Digit(0);
@@ -53,7 +53,7 @@ void AppendScientific(UnicodeString& AText, const TDecimal& AValue, int AFractio
     AppendExponent(AText, AValue.Count == 0 ? 0 : AValue.Exponent - 1, APlus, AExponentDigits);
 }
 
-// The digits before the point, in groups of three where asked for, and AFraction digits behind it.
+// The digits before the point, in groups of three where asked for, and AFraction digits after it.
 void AppendFixed(UnicodeString& AText, const TDecimal& AValue, int AFraction, bool AGroups,
                  const TFormatSettings& ASettings) {
     const int Whole = std::max(AValue.Exponent, 1);
@@ -109,8 +109,8 @@ bool AppendSpecial(UnicodeString& AText, const TDecimal& AValue) {
     return true;
 }
 
-// Whether a number that from_chars finds out of range is too large, and not too small: by the place of its first
-// digit that is not zero, and its exponent.
+// Whether a number that from_chars finds out of range is too large, and not too small: by the place of its
+// first digit that is not zero, and its exponent.
 bool IsTooLarge(std::string_view AText) noexcept {
     const std::size_t Mark = std::min(AText.find_first_of("eE"), AText.size());
     const std::string_view Digits = AText.substr(0, Mark);
@@ -130,7 +130,7 @@ bool IsTooLarge(std::string_view AText) noexcept {
     return Exponent > static_cast<std::int64_t>(Found) - Point;
 }
 
-// A text in the form that std::from_chars reads, without memory of its own unless it is long.
+// A text in the form that std::from_chars reads; allocates only if it is long.
 class TPlainNumber {
 public:
     // Empty when a character fits no number.

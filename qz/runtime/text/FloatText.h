@@ -4,10 +4,10 @@
 //     FloatToStrF(1234567.891, ffNumber, 15, 2);    // "1,234,567.89"
 //     StrToFloat(u" 1.5E3 ");                       // 1500
 //
-// Digits come from the shortest decimal number that reads back as the same double, and are rounded half away from
-// zero from there: 2.675 with two digits is "2.68". A number that rounds to zero has no sign. Infinity is "INF" or
-// "-INF", not a number "NAN". Functions without settings use DefaultFormatSettings(). All may run on any number of
-// threads.
+// Digits come from the shortest decimal number that reads back as the same double, and are rounded half away
+// from zero from there: 2.675 with two digits is "2.68". A number that rounds to zero has no sign. Infinity
+// is "INF" or "-INF", not a number "NAN". Functions without settings use DefaultFormatSettings(). All may run
+// on any number of threads.
 #pragma once
 
 #include <qz/runtime/base/StringArg.h>
@@ -28,15 +28,15 @@ using enum TFloatFormat;
 QZ_API UnicodeString FloatToStr(double AValue);
 QZ_API UnicodeString FloatToStr(double AValue, const TFormatSettings& ASettings);
 
-// APrecision: significant digits, 1 to 18. ADigits, 0 to 18: digits behind the point, or for ffExponent and
-// ffGeneral the least digits of the exponent. A number with more than APrecision digits before the point is written
-// in general form whatever AFormat says.
+// APrecision: significant digits, 1 to 18. ADigits, 0 to 18: digits after the point, or for ffExponent and
+// ffGeneral the least digits of the exponent. A number with more than APrecision digits before the point is
+// written in general form whatever AFormat says.
 QZ_API UnicodeString FloatToStrF(double AValue, TFloatFormat AFormat, int APrecision, int ADigits);
 QZ_API UnicodeString FloatToStrF(double AValue, TFloatFormat AFormat, int APrecision, int ADigits,
                                  const TFormatSettings& ASettings);
 
-// Reads blanks, a sign, digits with the decimal separator of the settings, an exponent, blanks; also "INF" and
-// "NAN". No thousand separators. A number too large for a double is refused, one too small is 0. Raises
+// Reads blanks, a sign, digits with the decimal separator of the settings, an exponent, blanks; also "INF"
+// and "NAN". No thousand separators. A number too large for a double is refused, one too small is 0. Raises
 // EConvertError, "'%s' is not a valid floating point value".
 QZ_API double StrToFloat(const TStringArg& AText);
 QZ_API double StrToFloat(const TStringArg& AText, const TFormatSettings& ASettings);
@@ -48,7 +48,7 @@ QZ_API double StrToFloatDef(const TStringArg& AText, double ADefault, const TFor
 
 namespace detail {
 
-// FloatToStrF behind the end of a text.
+// FloatToStrF after the end of a text.
 QZ_API void AppendFloat(UnicodeString& AText, double AValue, TFloatFormat AFormat, int APrecision,
                         int ADigits, const TFormatSettings& ASettings);
 

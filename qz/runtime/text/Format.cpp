@@ -146,7 +146,7 @@ private:
         Pad(APlace, Start);
     }
 
-    // Blanks in front of what was written from AStart on, or behind it, up to the width.
+    // Blanks in front of what was written from AStart on, or after it, up to the width.
     void Pad(const TPlace& APlace, std::size_t AStart) {
         const std::size_t Length = FResult.size() - AStart;
         if (APlace.Width == cUnset || Length >= static_cast<std::size_t>(APlace.Width))

@@ -12,8 +12,8 @@
 //     p       a pointer in 16 hexadecimal digits
 //     e f g n m   a float: scientific, fixed, general, fixed with thousand separators, money
 //
-// A pattern or an argument that does not fit raises EConvertError whose text quotes the pattern. Both functions
-// are pure and may run on any number of threads.
+// A pattern or an argument that does not fit raises EConvertError whose text quotes the pattern. Both
+// functions are pure and may run on any number of threads.
 #pragma once
 
 #include <qz/runtime/base/StringArg.h>

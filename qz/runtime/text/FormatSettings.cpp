@@ -16,8 +16,8 @@ void CopyNames(std::array<UnicodeString, N>& ATarget, const std::array<std::u16s
         ATarget[I] = ASource[I];
 }
 
-// A pattern of the system in the letters of FormatDateTime, where "tt" is another pattern and "ampm" the half of the
-// day. Literals stay as they are.
+// A pattern of the system in the letters of FormatDateTime, where "tt" is another pattern and "ampm" the half
+// of the day. Literals stay as they are.
 UnicodeString TimePattern(std::u16string_view APattern) {
     UnicodeString Result;
     bool IsLiteral = false;
@@ -58,7 +58,7 @@ TFormatSettings FromLocale(const platform::TLocale& ALocale) {
     return Result;
 }
 
-// The settings in use. What was in use before stays readable for ever: somebody may still hold a reference. Replacing
+// The current settings. Earlier ones stay readable, since references to them may exist. Replacing
 // them is rare, so that little is kept.
 std::atomic<const TFormatSettings*> GDefault{nullptr};
 std::mutex GChange;

@@ -40,16 +40,18 @@ struct TFormatSettings {
     // A year of two digits lies in the 100 years that begin this many years before the present one.
     std::uint16_t TwoDigitYearCenturyWindow = 50;
 
-    // What the system's user locale says now; the neutral set in the C locale.
+    // The current settings of the user's locale; neutral ones in the C locale.
     QZ_API static TFormatSettings Create();
     // The same on every machine: ".", ",", "/", ":", "MM/dd/yyyy", "hh:mm:ss", English names.
     QZ_API static const TFormatSettings& Neutral();
 };
 
-// The settings that functions without a settings argument use: those of the system's locale, read at first use.
+// The settings that functions without a settings argument use: those of the system's locale, read at first
+// use.
 QZ_API const TFormatSettings& DefaultFormatSettings();
 
-// Replaces them, and keeps the old ones for those who still refer to them. Safe at any time; what is being formatted goes on with the settings that it began with.
+// Replaces them, and keeps the old ones for those who still refer to them. Safe at any time; what is being
+// formatted goes on with the settings that it began with.
 QZ_API void SetDefaultFormatSettings(const TFormatSettings& ASettings);
 
 } // namespace qz

@@ -25,7 +25,7 @@ constexpr auto cPairs = [] {
     return Pairs;
 }();
 
-// What stands in a text before anybody asks whether it fits: sign, digits, their base.
+// A parsed number before the range check: sign, digits and base.
 struct TNumber {
     std::uint64_t Magnitude;
     bool IsNegative;

@@ -5,9 +5,9 @@
 //     StrToInt(u" $1F");                   // 31
 //     if (int Port; TryStrToInt(Text, Port)) ...
 //
-// What is read as an integer: blanks and tabs, a sign, then decimal digits, or hexadecimal ones behind "$", "x" or
-// "0x"; nothing behind them. A hexadecimal number may use the full width, so "$FFFFFFFF" is -1 as a 32-bit integer.
-// All functions are pure and may run on any number of threads.
+// What is read as an integer: blanks and tabs, a sign, then decimal digits, or hexadecimal ones after "$",
+// "x" or "0x"; nothing after them. A hexadecimal number may use the full width, so "$FFFFFFFF" is -1 as a
+// 32-bit integer. All functions are pure and may run on any number of threads.
 #pragma once
 
 #include <qz/runtime/base/StringArg.h>
@@ -29,7 +29,8 @@ template <std::integral T> UnicodeString IntToHex(T AValue, int ADigits = 2 * st
     return detail::HexText(static_cast<std::make_unsigned_t<T>>(AValue), ADigits);
 }
 
-// Each raises EConvertError, "'%s' is not a valid integer value", for any other text and for a number out of range.
+// Each raises EConvertError, "'%s' is not a valid integer value", for any other text and for a number out of
+// range.
 QZ_API std::int32_t StrToInt(const TStringArg& AText);
 QZ_API std::int64_t StrToInt64(const TStringArg& AText);
 QZ_API std::uint64_t StrToUInt64(const TStringArg& AText);
@@ -42,8 +43,8 @@ QZ_API std::int64_t StrToInt64Def(const TStringArg& AText, std::int64_t ADefault
 
 // "-1" and "0", or "True" and "False".
 QZ_API UnicodeString BoolToStr(bool AValue, bool AUseBoolStrs = false);
-// "True" and "False" in any case of letters, or a number as StrToFloat reads it, where anything but 0 is true. Raises
-// EConvertError, "'%s' is not a valid boolean value".
+// "True" and "False" in any case of letters, or a number as StrToFloat reads it, where anything but 0 is
+// true. Raises EConvertError, "'%s' is not a valid boolean value".
 QZ_API bool StrToBool(const TStringArg& AText);
 QZ_API bool TryStrToBool(const TStringArg& AText, bool& AValue);
 QZ_API bool StrToBoolDef(const TStringArg& AText, bool ADefault);
@@ -53,8 +54,8 @@ namespace detail {
 // Room for the longest number: 20 digits and a sign.
 inline constexpr std::size_t cMaxIntLength = 24;
 
-// A number of up to 18 decimal digits, with a minus or none, and nothing else. False for any other text, which may yet be a
-// number.
+// A number of up to 18 decimal digits, with a minus or none, and nothing else. False for any other text,
+// which may yet be a number.
 QZ_API bool TryPlainInteger(std::u16string_view AText, std::int64_t& AValue) noexcept;
 
 // Writes the digits of AValue so that they end at AEnd, and gives their start.

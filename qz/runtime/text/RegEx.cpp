@@ -14,12 +14,12 @@ namespace {
 constexpr std::uint32_t cMatchLimit = 2'000'000; // steps at one place of the text
 constexpr std::uint32_t cHeapLimit = 64 * 1024;  // KiB for choices that are open
 
-// What a search may take as a whole before it is watched, shared among the places of the text.
+// The steps that a whole search may take before it is limited, shared by all start positions.
 constexpr std::size_t cSteps = 400'000'000;
 constexpr std::size_t cLeastSteps = 500;
 
-// A search that is watched looks at its pace now and then. One that takes long, and gets on more slowly than any sound
-// pattern, ends.
+// A search that is watched looks at its pace now and then. One that takes long, and gets on more slowly than
+// any sound pattern, ends.
 constexpr std::size_t cWindow = 2048; // units between two looks, less in a long text
 constexpr std::size_t cWindowTimesText = 2'000'000'000;
 constexpr std::chrono::seconds cPatience{3};
@@ -69,7 +69,7 @@ struct TRegEx::TCode {
     THandle<pcre2_match_context, pcre2_match_context_free> Context;
     std::uint32_t MatchFlags = 0;
     bool IsAnchored = false;   // matches where a search starts, if at all
-    bool IsOfOnePiece = false; // may ask where the search started, or end it
+    bool IsOfOnePiece = false; // the pattern may depend on where the search started, or stop it
 
     TMatchData NewMatchData() const {
         TMatchData Data(pcre2_match_data_create_from_pattern(Code.get(), nullptr));
@@ -104,7 +104,7 @@ TRegEx::TRegEx(const TStringArg& APattern, TRegExOptions AOptions) {
     FCode = std::move(Code);
 }
 
-// The matches of one text, one behind the other.
+// The matches of one text, one after the other.
 class TRegEx::TSearch {
 public:
     TSearch(const TCode& ACode, std::u16string_view AText, std::size_t AStart)
@@ -117,7 +117,7 @@ public:
             throw std::bad_alloc();
     }
 
-    // Behind an empty match the next one must not be empty at the same place.
+    // After an empty match the next one must not be empty at the same place.
     bool Find() {
         if (FNext > FText.size())
             return false;
@@ -154,7 +154,7 @@ private:
         return AAt > 0 && AAt < FText.size() && IsHighSurrogate(FText[AAt - 1]) && IsLowSurrogate(FText[AAt]);
     }
 
-    // Looks for a match that begins at AStart or behind it.
+    // Looks for a match that begins at AStart or after it.
     bool Try(std::size_t AStart, std::uint32_t AFlags) {
         const std::size_t Rest = FText.size() - AStart;
         if (FCode.IsAnchored || (AFlags & PCRE2_ANCHORED) != 0)
@@ -256,8 +256,8 @@ std::vector<TMatch> TRegEx::Matches(const TStringArg& AText) const {
     return Result;
 }
 
-// The group that a place of the replacement names, from behind its dollar sign; AAt moves behind it. -1 when nothing
-// is named there.
+// The group that a place of the replacement names, from after its dollar sign; AAt moves past it. -1 when
+// nothing is named there.
 int TRegEx::GroupAt(std::u16string_view AReplacement, std::size_t& AAt) const {
     const auto IsDigit = [](char16_t AChar) { return AChar >= u'0' && AChar <= u'9'; };
     if (AAt < AReplacement.size() && IsDigit(AReplacement[AAt]))

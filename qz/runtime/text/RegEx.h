@@ -5,11 +5,11 @@
 //         Use(Match.Value(), Match.Group(1));
 //     TRegEx(u"\\s+").Replace(Text, u" ");
 //
-// Places count 16-bit units from 1. Classes such as \w and \d and the cases of letters are those of Unicode; a lone
-// surrogate matches nothing. Copies share the compiled pattern, and any number of threads may use one. A pattern that
-// needs too many steps or too much memory at a place of the text, or that after three seconds has not got on at a pace
-// of 200,000 units a second, raises an exception, so that a hostile one ends in seconds, in a text of many millions of
-// units in minutes, and crashes nothing.
+// Places count 16-bit units from 1. Classes such as \w and \d and the cases of letters are those of Unicode;
+// a lone surrogate matches nothing. Copies share the compiled pattern, and any number of threads may use one.
+// A pattern that needs too many steps or too much memory at a place of the text, or that after three seconds
+// has not got on at a pace of 200,000 units a second, raises an exception, so that a hostile one ends in
+// seconds, in a text of many millions of units in minutes, and crashes nothing.
 #pragma once
 
 #include <memory>
@@ -35,8 +35,8 @@ enum class TRegExOption : std::uint8_t {
 using enum TRegExOption;
 using TRegExOptions = TSet<TRegExOption, 8>;
 
-// A pattern that does not compile: "Error in regular expression at offset 3: missing closing parenthesis". A match
-// that went beyond the limits: "Error in matching the regular expression: match limit exceeded".
+// A pattern that does not compile: "Error in regular expression at offset 3: missing closing parenthesis". A
+// match that went beyond the limits: "Error in matching the regular expression: match limit exceeded".
 QZ_PLAIN_EXCEPTION(ERegularExpressionError, Exception);
 
 // A place in the text; of a group that took no part, Success is false and the rest empty.
@@ -71,15 +71,15 @@ public:
     explicit TRegEx(const TStringArg& APattern, TRegExOptions AOptions = {});
 
     bool IsMatch(const TStringArg& AText) const;
-    // The first match from AStart (from 1) on; without one Success is false. These raise ERegularExpressionError beyond
-    // the limits.
+    // The first match from AStart (from 1) on; without one Success is false. These raise
+    // ERegularExpressionError beyond the limits.
     TMatch Match(const TStringArg& AText, int AStart = 1) const;
     std::vector<TMatch> Matches(const TStringArg& AText) const;
-    // The text with every match replaced; $0 to $9, ${10} and ${name} stand for groups, $$ for a dollar sign, as does any
-    // other one. A group that took no part is empty. Raises ERegularExpressionError for a group that the pattern does not
-    // have, too.
+    // The text with every match replaced; $0 to $9, ${10} and ${name} stand for groups, $$ for a dollar sign,
+    // as does any other one. A group that took no part is empty. Raises ERegularExpressionError for a group
+    // that the pattern does not have, too.
     UnicodeString Replace(const TStringArg& AText, const TStringArg& AReplacement) const;
-    // What lies before, between and behind the matches, empty pieces included.
+    // The pieces before, between and after the matches, including empty ones.
     TDynArray<UnicodeString> Split(const TStringArg& AText) const;
 
     // A pattern that matches the text itself.

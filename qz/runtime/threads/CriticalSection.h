@@ -1,4 +1,5 @@
-// TCriticalSection: a lock that its owner may take again, and TScopedLock, which cannot forget to give it back.
+// TCriticalSection: a lock that its owner may take again, and TScopedLock, which cannot forget to give it
+// back.
 //
 //     TCriticalSection Lock;
 //     {

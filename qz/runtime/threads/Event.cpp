@@ -18,7 +18,7 @@ constinit const TClassRec TEvent::ClassRec = DescribeClass<TEvent>(u"TEvent", {.
 constinit const TClassRec TSimpleEvent::ClassRec =
     DescribeClass<TSimpleEvent>(u"TSimpleEvent", {.Unit = cUnit});
 
-// A waiter may free the event as soon as it has seen the signal, so whoever signals must be done with it by then:
+// A waiter may free the event as soon as it sees the signal, so SetEvent must not touch it afterwards:
 // it notifies under the mutex, and the destructor passes through the mutex once more.
 TEvent::~TEvent() {
     const std::lock_guard Hold(FMutex);

@@ -30,7 +30,7 @@ public:
           FSignalled(AInitialState) {}
     ~TEvent() override;
 
-    // Waits at most ATimeOut milliseconds, cInfinite for ever: wrSignaled or wrTimeout. 0 asks only.
+    // Waits at most ATimeOut milliseconds, cInfinite without limit: wrSignaled or wrTimeout. 0 only tests.
     TWaitResult WaitFor(std::uint32_t ATimeOut = cInfinite);
     void SetEvent();
     void ResetEvent();

@@ -73,8 +73,8 @@ bool TMultiReadExclusiveWriteSynchronizer::BeginWrite() {
         return true;
     }
     const std::uint32_t Revision = FRevision;
-    // Two readers that both turn to writing would wait for each other for ever. One that waits to write has stopped
-    // reading, so the other may go first; that it did shows in the revision.
+    // Two readers that both turn to writing would wait for each other forever. One that waits to write has
+    // stopped reading, so the other may go first; that it did shows in the revision.
     TReader* Reader = FindReader(Self);
     const TReader Paused = Reader == nullptr ? TReader{Self, 0} : *Reader;
     if (Reader != nullptr) {

@@ -5,8 +5,9 @@
 //     ...
 //     Lock.EndRead();
 //
-// A thread that writes may write and read again; a thread that reads may read again, and may turn its reading into
-// writing. Waiting writers hold back threads that begin to read. Every Begin needs its End on the same thread.
+// A thread that writes may write and read again; a thread that reads may read again, and may turn its reading
+// into writing. Waiting writers hold back threads that begin to read. Every Begin needs its End on the same
+// thread.
 #pragma once
 
 #include <condition_variable>
@@ -28,8 +29,8 @@ public:
     // As BeginRead, but gives false where that would wait.
     bool TryBeginRead();
     void EndRead();
-    // Waits until no other thread reads or writes. False when the calling thread was reading and another thread
-    // wrote before its turn came, so that what it has read may be out of date; true otherwise.
+    // Waits until no other thread reads or writes. False when the calling thread was reading and another
+    // thread wrote before its turn came, so that what it has read may be out of date; true otherwise.
     bool BeginWrite();
     // Gives true when the calling thread writes now, false where it would have to wait for another thread.
     bool TryBeginWrite();

@@ -10,7 +10,7 @@
 namespace qz {
 namespace {
 
-// How long a main thread that waits for another sleeps when nobody wakes it.
+// How long the main thread sleeps between checks while it waits for another thread.
 constexpr std::uint32_t cMainPause = 10;
 
 class TAnonymousThread : public TThread {
@@ -52,8 +52,8 @@ void TThread::FinishCreate() {
 void TThread::Start() {
     if (!FSuspended)
         throw EThread(u"Cannot call Start on a running or suspended thread");
-    // The new thread waits at the gate until this function needs the object no more: a thread that frees itself may
-    // be gone at once.
+    // The new thread waits at the gate until this function needs the object no more: a thread that frees
+    // itself may be destroyed at once.
     const auto Gate = std::make_shared<TSimpleEvent>();
     try {
         FThread = std::thread([this, Gate] {
@@ -135,8 +135,8 @@ void TThread::Synchronize(TThread* AThread, const TThreadProc& AProc) {
         TSimpleEvent Done;
         std::exception_ptr Error;
     };
-    // Signals when the queue has no copy of the work any more, whether it was run or dropped. The state stays with
-    // the caller, so that the exception is let go by the thread that it is raised in.
+    // Signals when the queue has no copy of the work any more, whether it was run or dropped. The state stays
+    // with the caller, so that the exception is let go by the thread that it is raised in.
     struct TSignal {
         explicit TSignal(TState& AState) : State(AState) {}
         TSignal(const TSignal&) = delete;

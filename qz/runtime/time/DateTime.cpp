@@ -36,10 +36,11 @@ struct TYearMonthDay {
     int Day;
 };
 
-// The inverse of DayNumber for the days from cFirstDay to cLastDay. A division by the length of a cycle leaves the day
-// within the cycle; centuries and years are counted in quarters of a day, so that leap days need no case of their own.
-// The divisions by the length of a year and of a month are products whose high half is the quotient and whose low half
-// still holds the remainder; that is exact as far as a century and a year reach.
+// The inverse of DayNumber for the days from cFirstDay to cLastDay. A division by the length of a cycle
+// leaves the day within the cycle; centuries and years are counted in quarters of a day, so that leap days
+// need no case of their own. The divisions by the length of a year and of a month are products whose high
+// half is the quotient and whose low half still holds the remainder; that is exact as far as a century and a
+// year reach.
 constexpr TYearMonthDay CivilDate(std::int32_t ADayNumber) noexcept {
     constexpr std::uint64_t cYearFactor = 2939745; // 2^32 / cDaysPer4Years, rounded up
     constexpr std::uint32_t cMonthFactor = 2141;   // 2^16 * 5 / 153 months a day, rounded down
@@ -71,7 +72,7 @@ constexpr auto cDaysBefore = [] {
     return Result;
 }();
 
-// DayNumber of what is a date.
+// DayNumber of a valid date.
 constexpr std::int32_t DayOfDate(int AYear, int AMonth, int ADay) noexcept {
     const std::uint32_t YearsBefore = static_cast<std::uint32_t>(AYear) - 1;
     const std::uint32_t Centuries = YearsBefore / 100;
@@ -97,8 +98,8 @@ constexpr std::int32_t MSecsOf(int AHour, int AMinute, int ASecond, int AMilliSe
     throw EConvertError(u"Invalid argument to time encode");
 }
 
-// The exported functions stand on these, since calls among themselves would go through the table of the shared library.
-// The whole part has the sign, the time of day is what the fraction says without it.
+// The exported functions stand on these, since calls among themselves would go through the table of the
+// shared library. The whole part has the sign; the time of day is the absolute fraction.
 bool TrySplit(TDateTime AValue, TDayAndTime& AParts) noexcept {
     if (!(AValue.Value > cFirstDay - 1 && AValue.Value < cLastDay + 1))
         return false;

@@ -5,10 +5,10 @@
 //     DecodeDate(When, Year, Month, Day);
 //     When += 1.5;                                   // a day and a half later
 //
-// The whole part counts days from 1899-12-30 of the proleptic Gregorian calendar, the fraction is the time of day.
-// The time of day counts forward also before day 0: -1.25 is 1899-12-29 06:00. Years go from 1 to 9999; the time
-// zone is whatever the user of the value means. What takes a value apart rounds it to the millisecond first, so
-// that date and time always fit each other.
+// The whole part counts days from 1899-12-30 of the proleptic Gregorian calendar, the fraction is the time of
+// day. The time of day counts forward also before day 0: -1.25 is 1899-12-29 06:00. Years go from 1 to 9999;
+// the time zone is whatever the user of the value means. What takes a value apart rounds it to the
+// millisecond first, so that date and time always fit each other.
 //
 // All functions may run on any number of threads.
 #pragma once
@@ -19,7 +19,7 @@
 
 namespace qz {
 
-// A double that is a type of its own, so that reflection and overloads tell dates from numbers.
+// A double with its own type, so that reflection and overloads distinguish dates from numbers.
 template <class TTag> struct TDateTimeKind {
     double Value = 0;
 
@@ -76,8 +76,8 @@ struct TDayAndTime {
     std::int32_t Day;
     std::int32_t MSecs;
 };
-// Raises EConvertError, "Invalid date and time", for a value outside the years 1 to 9999 and for one that is no
-// number.
+// Raises EConvertError, "Invalid date and time", for a value outside the years 1 to 9999 and for one that is
+// no number.
 QZ_API TDayAndTime SplitDateTime(TDateTime AValue);
 // Raises that EConvertError.
 [[noreturn]] QZ_API void RaiseInvalidDateTime();

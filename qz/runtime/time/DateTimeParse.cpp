@@ -58,7 +58,7 @@ class TDateTimeReader {
 public:
     TDateTimeReader(TView AText, const TFormatSettings& ASettings) : FText(AText), FSettings(ASettings) {}
 
-    // Moves behind what is read and the blanks that follow it; false when something else stands here.
+    // Moves after what is read and the blanks that follow it; false when something else stands here.
     bool ReadDate(TDateTime& AValue) {
         TField First;
         TField Second;

@@ -26,7 +26,7 @@ std::size_t HalfDayMark(TView AText) noexcept {
     return 0;
 }
 
-// The end of the literal whose quote stands at AStart, behind the closing quote if there is one.
+// The end of the literal whose quote stands at AStart, after the closing quote if there is one.
 std::size_t LiteralEnd(TView APattern, std::size_t AStart) noexcept {
     const std::size_t End = APattern.find(APattern[AStart], AStart + 1);
     return End == TView::npos ? APattern.size() : End + 1;
@@ -104,7 +104,7 @@ private:
             FResult += AChar;
     }
 
-    // A quote right behind the closing one opens the literal again and stands for itself.
+    // A quote right after the closing one opens the literal again and stands for itself.
     void WriteLiteral(TPlace& APlace, char16_t AQuote) {
         while (true) {
             const std::size_t End = LiteralEnd(APlace.Pattern, APlace.Here);

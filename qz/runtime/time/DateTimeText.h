@@ -7,15 +7,15 @@
 // A pattern is made of these, in either case of letter:
 //
 //     d dd ddd dddd   day, with two digits, short and long name of the day       ddddd dddddd   short, long date
-//     m mm mmm mmmm   month alike; m and mm behind h or hh are minutes            yy yyyy        year
+//     m mm mmm mmmm   month alike; m and mm after h or hh are minutes            yy yyyy        year
 //     h hh n nn s ss  hour, minute, second, without or with two digits            t tt           short, long time
 //     z zzz           millisecond, without or with three digits    c   short date, and long time unless midnight
 //     am/pm a/p       the half of the day as these letters stand in the pattern; ampm as the settings name it
 //     / :             the separators of the settings               '...' "..."   a literal; a doubled quote is one
 //
-// Hours count to 12 where a mark of the half of the day follows before the next hour, or stands before the first.
-// All other characters stand for themselves. Functions without settings use DefaultFormatSettings(). All may run on
-// any number of threads.
+// Hours count to 12 where a mark of the half of the day follows before the next hour, or stands before the
+// first. All other characters stand for themselves. Functions without settings use DefaultFormatSettings().
+// All may run on any number of threads.
 #pragma once
 
 #include <qz/runtime/base/StringArg.h>
@@ -24,8 +24,8 @@
 
 namespace qz {
 
-// An empty pattern counts as "c". The patterns that c, t, tt, ddddd and dddddd stand for may not refer to others:
-// such references are left out. Raises EConvertError as SplitDateTime does.
+// An empty pattern counts as "c". The patterns that c, t, tt, ddddd and dddddd stand for may not refer to
+// others: such references are left out. Raises EConvertError as SplitDateTime does.
 QZ_API UnicodeString FormatDateTime(const TStringArg& APattern, TDateTime AValue);
 QZ_API UnicodeString FormatDateTime(const TStringArg& APattern, TDateTime AValue,
                                     const TFormatSettings& ASettings);
@@ -38,14 +38,15 @@ QZ_API UnicodeString TimeToStr(TDateTime AValue, const TFormatSettings& ASetting
 QZ_API UnicodeString DateTimeToStr(TDateTime AValue);
 QZ_API UnicodeString DateTimeToStr(TDateTime AValue, const TFormatSettings& ASettings);
 
-// Day, month and year as numbers, in the order of ShortDateFormat and with DateSeparator between them; the month
-// may be a name of the settings. Words that a pattern holds are not read. Without a year it is the present one; a
-// year of one or two digits lies in the window of the settings. Raises EConvertError, "'%s' is not a valid date".
+// Day, month and year as numbers, in the order of ShortDateFormat and with DateSeparator between them; the
+// month may be a name of the settings. Words that a pattern holds are not read. Without a year it is the
+// present one; a year of one or two digits lies in the window of the settings. Raises EConvertError, "'%s' is
+// not a valid date".
 QZ_API TDateTime StrToDate(const TStringArg& AText);
 QZ_API TDateTime StrToDate(const TStringArg& AText, const TFormatSettings& ASettings);
-// Hour, then minute and second if wanted, with TimeSeparator between them, then the decimal separator or a point and
-// a number of milliseconds: ".5" is 5 of them. In front or behind, the name of the half of the day in the settings,
-// or AM or PM. Raises EConvertError, "'%s' is not a valid time".
+// Hour, then minute and second if wanted, with TimeSeparator between them, then the decimal separator or a
+// point and a number of milliseconds: ".5" is 5 of them. In front or after, the name of the half of the day
+// in the settings, or AM or PM. Raises EConvertError, "'%s' is not a valid time".
 QZ_API TDateTime StrToTime(const TStringArg& AText);
 QZ_API TDateTime StrToTime(const TStringArg& AText, const TFormatSettings& ASettings);
 // A date, a date and a time, or a time alone. Raises EConvertError, "'%s' is not a valid date and time".

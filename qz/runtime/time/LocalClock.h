@@ -3,8 +3,8 @@
 //     const TLocalInstant Now = LocalClock();
 //     Show(Now.Day, Now.MSecs);
 //
-// The clock is right across a change of the zone's offset, and notices another zone within a minute, as TTimeZone does,
-// from which it has the offset. Any thread, without a lock.
+// The clock is right across a change of the zone's offset, and notices another zone within a minute, as
+// TTimeZone does, from which it has the offset. Any thread, without a lock.
 #pragma once
 
 #include <cstdint>

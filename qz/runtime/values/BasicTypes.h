@@ -1,5 +1,6 @@
-// The descriptions of the types that the runtime knows by itself: integers, characters, floats, strings, arrays of
-// bytes, sets of characters, pointers, interfaces and GUIDs. Dates, Currency, Variant and TValue stand in their own headers.
+// The descriptions of the types that the runtime knows by itself: integers, characters, floats, strings,
+// arrays of bytes, sets of characters, pointers, interfaces and GUIDs. Dates, Currency, Variant and TValue
+// stand in their own headers.
 //
 //     TypeInfo<int>()->Name;              // "Integer"
 //     TypeInfo<UnicodeString>()->Kind;    // tkUString

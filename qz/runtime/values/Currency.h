@@ -4,8 +4,8 @@
 //     Price = Price + Currency(5);            // 24.99
 //     CurrToStr(Price);                       // "24.99"
 //
-// It holds -922337203685477.5808 to 922337203685477.5807. What does not fit raises ERangeError. All functions are pure
-// and may run on any number of threads.
+// It holds -922337203685477.5808 to 922337203685477.5807. What does not fit raises ERangeError. All functions
+// are pure and may run on any number of threads.
 #pragma once
 
 #include <compare>
@@ -25,7 +25,8 @@ public:
     static constexpr std::int64_t cUnitsPerOne = 10000;
 
     constexpr Currency() noexcept = default;
-    // The shortest decimal number that reads back as AValue, rounded to four decimals, halves to the even one. Raises ERangeError, also for what is no number.
+    // The shortest decimal number that reads back as AValue, rounded to four decimals, halves to the even
+    // one. Raises ERangeError if out of range, and for NaN.
     QZ_API explicit Currency(double AValue);
     template <std::integral T>
         requires(!std::same_as<T, bool>)
@@ -69,8 +70,8 @@ static_assert(sizeof(Currency) == 8);
 // Decimal digits with no more decimals than needed, and the decimal separator of the settings.
 QZ_API UnicodeString CurrToStr(Currency AValue);
 QZ_API UnicodeString CurrToStr(Currency AValue, const TFormatSettings& ASettings);
-// Reads blanks, a sign, digits with the decimal separator, blanks; rounds to four decimals, halves to the even one. Gives
-// false, and 0 as the value, for any other text and for what does not fit.
+// Reads blanks, a sign, digits with the decimal separator, blanks; rounds to four decimals, halves to the
+// even one. Gives false, and 0 as the value, for any other text and for what does not fit.
 QZ_API bool TryStrToCurr(const TStringArg& AText, Currency& AValue);
 QZ_API bool TryStrToCurr(const TStringArg& AText, Currency& AValue, const TFormatSettings& ASettings);
 // Raises EConvertError, "'%s' is not a valid currency value", instead.

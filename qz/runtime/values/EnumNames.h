@@ -20,15 +20,16 @@ QZ_API int GetEnumValue(PTypeInfo AType, const TStringArg& AName) noexcept;
 // The same for an enumeration that also has negative values.
 QZ_API bool TryGetEnumValue(PTypeInfo AType, std::u16string_view AName, std::int64_t& AValue) noexcept;
 
-// The names of the items of a set whose bits AValue holds, in ascending order with commas between; an item without a
-// name is its number. Of a set of less than 64 items the bits above do not count; of a larger set the bits tell of the
-// first 64 items, and the others are not in it.
+// The names of the items of a set whose bits AValue holds, in ascending order with commas between; an item
+// without a name is its number. Of a set of less than 64 items the bits above do not count; of a larger set
+// the bits tell of the first 64 items, and the others are not in it.
 QZ_API UnicodeString SetToString(PTypeInfo AType, std::int64_t AValue, bool ABrackets = false);
 // The same for a set of any size in raw storage.
 QZ_API UnicodeString SetToString(PTypeInfo AType, const void* ASource, bool ABrackets);
-// The bits of the items that a text names, in any order and with any commas and blanks between, brackets around it or
-// not. An item may be written as its number. Raises EPropertyConvertError, "Invalid property element: %s", for what is
-// no item of the set, for an item above the 64th, and for a bracket without the other.
+// The bits of the items that a text names, in any order and with any commas and blanks between, brackets
+// around it or not. An item may be written as its number. Raises EPropertyConvertError, "Invalid property
+// element: %s", for what is no item of the set, for an item above the 64th, and for a bracket without the
+// other.
 QZ_API std::int64_t StringToSet(PTypeInfo AType, const TStringArg& AText);
 
 } // namespace qz

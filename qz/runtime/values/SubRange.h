@@ -5,7 +5,7 @@
 //     if (TWeekday::Contains(Other)) ...
 //     for (int I = 0; I < TWeekday::cCount; ++I) ...
 //
-// A plain value that turns into one of its enumeration by itself. It can be asked at compile time.
+// A plain value that converts implicitly to its enumeration. Usable in constant expressions.
 #pragma once
 
 #include <type_traits>

@@ -4,8 +4,8 @@
 //     TryStrToDecimal(u"79228162514264337593543950335", Number);
 //     DecimalToStr(Number);                   // the same digits: a text of 28 decimals or less is kept as it is
 //
-// 1.5 and 1.50 are equal, yet each keeps its own number of decimals. All functions are pure and may run on any number of
-// threads.
+// 1.5 and 1.50 are equal, yet each keeps its own number of decimals. All functions are pure and may run on
+// any number of threads.
 #pragma once
 
 #include <compare>
@@ -34,8 +34,8 @@ struct TSysDecimal {
     // By value and exact.
     static QZ_API TSysDecimal FromInt64(std::int64_t AValue) noexcept;
     static QZ_API TSysDecimal FromCurrency(Currency AValue) noexcept;
-    // A whole number exactly, of any other the shortest decimal number that reads back as AValue, rounded to what fits,
-    // halves away from zero. False, and ADecimal unchanged, for what is too large and for what is no number.
+    // A whole number exactly, of any other the shortest decimal number that reads back as AValue, rounded to
+    // what fits, halves away from zero. False, and ADecimal unchanged, for a number out of range and for NaN.
     static QZ_API bool TryFromDouble(double AValue, TSysDecimal& ADecimal) noexcept;
 
     bool IsNegative() const noexcept { return Sign != 0; }
@@ -62,8 +62,9 @@ static_assert(offsetof(TSysDecimal, High) == 4 && offsetof(TSysDecimal, Low) == 
 // All decimals of the number, also zeros, with the decimal separator of the settings.
 QZ_API UnicodeString DecimalToStr(const TSysDecimal& AValue);
 QZ_API UnicodeString DecimalToStr(const TSysDecimal& AValue, const TFormatSettings& ASettings);
-// Reads blanks, a sign, digits with the decimal separator, blanks; decimals that do not fit are rounded, halves to the
-// even digit. Gives false, and 0 as the value, for any other text and for a number that is too large.
+// Reads blanks, a sign, digits with the decimal separator, blanks; decimals that do not fit are rounded,
+// halves to the even digit. Gives false, and 0 as the value, for any other text and for a number that is too
+// large.
 QZ_API bool TryStrToDecimal(const TStringArg& AText, TSysDecimal& AValue);
 QZ_API bool TryStrToDecimal(const TStringArg& AText, TSysDecimal& AValue, const TFormatSettings& ASettings);
 

@@ -7,10 +7,11 @@
 //     if (TPoint Point; Other.TryAsType(Point)) ...
 //     Log(Value.ToString());
 //
-// A TValue is 24 bytes. Values of up to 16 bytes that are aligned to at most 8 and can be moved without fail lie in it,
-// so that numbers, texts, interfaces, arrays and variants need no memory of their own; others lie in a block that copies
-// share. A value belongs to one thread at a time; copies may be used by different threads, but for the elements of a
-// dynamic array, which are the same in all copies: threads that set them have to agree.
+// A TValue is 24 bytes. Values of up to 16 bytes that are aligned to at most 8 and can be moved without fail
+// lie in it, so that numbers, texts, interfaces, arrays and variants need no memory of their own; others lie
+// in a block that copies share. A value belongs to one thread at a time; copies may be used by different
+// threads, but for the elements of a dynamic array, which are the same in all copies: threads that set them
+// have to agree.
 #pragma once
 
 #include <atomic>
@@ -27,7 +28,7 @@ class TValue;
 
 namespace detail {
 
-// A value that lies outside, behind this header.
+// A value that lies outside, after this header.
 struct QZ_API TValueBlock {
     std::atomic<std::int32_t> RefCount{1};
     std::uint32_t Offset;
@@ -43,7 +44,7 @@ struct QZ_API TValueBlock {
     using TOwner = std::unique_ptr<TValueBlock, TFree>;
 };
 
-// As what a TValue holds a T: text of C++ as UnicodeString, a described type as itself.
+// The type as which a TValue holds a T: C++ text as UnicodeString, a described type as itself.
 template <class T> constexpr auto BoxedAs() noexcept {
     if constexpr (CDescribedType<T> && !CHasClassRec<T>)
         return std::type_identity<T>();
@@ -61,7 +62,7 @@ template <class T>
 concept CHasBoxed = requires {
     typename TBoxed<T>;
 };
-// What a TValue takes by itself, whether it is passed as a value or a reference.
+// A type that converts implicitly to TValue, passed by value or reference.
 template <class T, class TPlain = std::remove_cvref_t<T>>
 concept CBoxable = !std::same_as<TPlain, TValue> && CHasBoxed<TPlain> &&
     std::constructible_from<TTransport<TBoxed<TPlain>>, const TPlain&>;
@@ -111,29 +112,29 @@ public:
             Result.Box<T>(AValue);
         return Result;
     }
-    // A copy of the value at AData, in the form in which values of AType are handled (TTypeOps). Null gives the zero
-    // or empty value of the type; a null AType gives no value. Raises EInvalidCast for a type whose values cannot be
-    // copied, or have no empty value.
+    // A copy of the value at AData, in the form in which values of AType are handled (TTypeOps). Null gives
+    // the zero or empty value of the type; a null AType gives no value. Raises EInvalidCast for a type whose
+    // values cannot be copied, or have no empty value.
     static TValue Make(const void* AData, PTypeInfo AType);
-    // What the variant holds, as a value of that very type; no value for an empty variant. Null, errors, decimals
+    // The content of the variant, with its type; an empty value for an empty variant. Null, errors, decimals
     // and arrays are values of the type Variant.
     static TValue FromVariant(const Variant& AValue);
-    // An integer, character, enumeration or set with that ordinal. Raises EInvalidCast for any other type, ERangeError
-    // for a number that does not fit the type's width, or a Boolean, which holds 0 and 1 alone.
+    // An integer, character, enumeration or set with that ordinal. Raises EInvalidCast for any other type,
+    // ERangeError for a number that does not fit the type's width, or a Boolean, which holds 0 and 1 alone.
     static TValue FromOrdinal(PTypeInfo AType, std::int64_t AOrdinal);
 
     // tkUnknown and null when there is no value.
     TTypeKind Kind() const noexcept { return FType == nullptr ? tkUnknown : FType->Kind; }
     PTypeInfo TypeInfo() const noexcept { return FType; }
-    // True when there is no value, for a null object, interface, class, pointer or procedure, and for a dynamic array
-    // without elements. A text, a number or a variant is never empty.
+    // True when there is no value, for a null object, interface, class, pointer or procedure, and for a
+    // dynamic array without elements. A text, a number or a variant is never empty.
     bool IsEmpty() const noexcept;
-    // True for a value of that very type, for an object whose class derives from AType, and for an interface that
-    // extends AType.
+    // True for a value of that very type, for an object whose class derives from AType, and for an interface
+    // that extends AType.
     bool IsType(PTypeInfo AType) const noexcept;
     template <class T> bool IsType() const noexcept { return IsType(qz::TypeInfo<T>()); }
-    // The value itself, null when there is none. It is there until the TValue changes or ends. A set of less than 32
-    // bits may be read as 32.
+    // The value itself, null when there is none. It is there until the TValue changes or ends. A set of less
+    // than 32 bits may be read as 32.
     const void* GetReferenceToRawData() const noexcept {
         return FType == nullptr ? nullptr : FType->Ops->IsSmall ? FRoom : Block()->Value();
     }
@@ -196,12 +197,12 @@ public:
     IInterface* AsInterface() const;
     TClass AsClass() const;
 
-    // Of an array. The elements of a dynamic array are shared by all that hold it. Each raises EInvalidCast for a value
-    // that is no array, and EArgumentOutOfRangeException for an index outside.
+    // Of an array. The elements of a dynamic array are shared by all that hold it. Each raises EInvalidCast
+    // for a value that is no array, and EArgumentOutOfRangeException for an index outside.
     std::size_t GetArrayLength() const;
     TValue GetArrayElement(std::size_t AIndex) const;
-    // AElement is cast to the type of the elements. An array of TValue therefore takes a value of the type TValue alone,
-    // as From makes it. Copies of a dynamic array see the change.
+    // AElement is cast to the type of the elements. An array of TValue therefore takes a value of the type
+    // TValue alone, as From makes it. Copies of a dynamic array see the change.
     void SetArrayElement(std::size_t AIndex, const TValue& AElement);
 
     // The value as text, for messages:
@@ -235,7 +236,7 @@ private:
         std::memcpy(FRoom, AOther.FRoom, sizeof FRoom);
         FType = AOther.FType;
     }
-    // What was here has ended.
+    // The old value is destroyed already.
     void MoveFrom(TValue& AOther) noexcept {
         if (AOther.MovesAsBytes()) [[likely]]
             TakeBytes(AOther);

@@ -6,9 +6,10 @@
 //     Variant Price = Currency(19.99), Day = Date(), Object = Greeter;
 //     std::int32_t Number = VarToInteger(Variant(u"12"));        // VariantConvert.h
 //
-// A Variant is 16 bytes, and numbers are copied as such. Copies of texts share their characters, copies of arrays
-// (VariantArray.h) their elements until one is written to, copies of interfaces count. Floats of all kinds are kept bit by
-// bit. Different variants may be used by different threads; one that was moved from is empty.
+// A Variant is 16 bytes, and numbers are copied as such. Copies of texts share their characters, copies of
+// arrays (VariantArray.h) their elements until one is written to, copies of interfaces count. Floats of all
+// kinds are kept bit by bit. Different variants may be used by different threads; one that was moved from is
+// empty.
 #pragma once
 
 #include <algorithm>
@@ -34,9 +35,9 @@ namespace qz {
 QZ_PLAIN_EXCEPTION(EVariantError, Exception);
 // Values that do not go together in this operation.
 QZ_PLAIN_EXCEPTION(EVariantInvalidOpError, EVariantError);
-// A value that cannot be had in the form that is asked for.
+// A value that cannot be converted to the requested type.
 QZ_PLAIN_EXCEPTION(EVariantTypeCastError, EVariantError);
-// A number that the form asked for does not hold.
+// A number outside the range of the requested type.
 QZ_PLAIN_EXCEPTION(EVariantOverflowError, EVariantError);
 
 namespace detail {
@@ -77,7 +78,7 @@ public:
     template <class I>
     requires std::constructible_from<Ref<IInterface>, I*> Variant(const Ref<I>& AInterface) noexcept
         : Variant(Ref<IInterface>(AInterface.Get()), varUnknown) {}
-    // An object, which somebody else owns and keeps alive.
+    // An object, not owned.
     template <std::derived_from<TObject> T>
         requires(!std::is_const_v<T>)
     Variant(T* AObject)
@@ -109,19 +110,20 @@ public:
     static Variant Null() noexcept { return Variant(0, varNull); }
     // A result code, such as that of a parameter left out.
     static Variant Error(std::int32_t ACode) noexcept { return Variant(ACode, varError); }
-    // An interface that is IDispatch of the system's automation, or has its operations in the same places: nothing
-    // checks that. The variant counts it.
+    // An interface that is IDispatch of the system's automation, or has its operations in the same places:
+    // nothing checks that. The variant counts it.
     static Variant Dispatch(IInterface* AInterface) noexcept {
         return Variant(Ref<IInterface>(AInterface), varDispatch);
     }
 
     friend TVarType VarType(const Variant& AValue) noexcept { return AValue.FType; }
-    // Numbers by their value whatever their types, where one of them is a float both as floats, texts unit by unit, a number and a text by the number that is
-    // written there; True is -1 among numbers. Null is equal to null alone, an empty one also to 0 and the empty
-    // text, an interface or object to the same address. Raises EVariantTypeCastError for a text that should be a
-    // number, date or boolean and is none, and EVariantInvalidOpError for an array.
+    // Numbers by their value whatever their types, where one of them is a float both as floats, texts unit by
+    // unit, a number and a text by the number that is written there; True is -1 among numbers. Null is equal
+    // to null alone, an empty one also to 0 and the empty text, an interface or object to the same address.
+    // Raises EVariantTypeCastError for a text that should be a number, date or boolean and is none, and
+    // EVariantInvalidOpError for an array.
     friend QZ_API bool operator==(const Variant& ALeft, const Variant& ARight);
-    // By the same rules; what is neither equal nor in order, such as null and anything else, is unordered.
+    // By the same rules. Values without an order, such as null and any other value, are unordered.
     friend QZ_API std::partial_ordering operator<=>(const Variant& ALeft, const Variant& ARight);
 
 private:
@@ -178,14 +180,14 @@ private:
 
 static_assert(sizeof(Variant) == 16);
 
-// The code of what the value is.
+// The type code of the value.
 TVarType VarType(const Variant& AValue) noexcept;
 inline bool VarIsArray(const Variant& AValue) noexcept {
     return (VarType(AValue) & varArray) != 0;
 }
-// The value as text; empty for an empty or null one. A text of 8 bits is converted from its code page. Numbers and dates
-// are written by FloatToStr, DateTimeToStr, CurrToStr and DecimalToStr, an error by its code. Raises
-// EVariantTypeCastError for an array, an interface, an object, and a date out of range.
+// The value as text; empty for an empty or null one. A text of 8 bits is converted from its code page.
+// Numbers and dates are written by FloatToStr, DateTimeToStr, CurrToStr and DecimalToStr, an error by its
+// code. Raises EVariantTypeCastError for an array, an interface, an object, and a date out of range.
 QZ_API UnicodeString VarToStr(const Variant& AValue);
 
 } // namespace qz

@@ -54,7 +54,7 @@ constexpr double cTwoTo64 = 18446744073709551616.0;
                                 {VarType(AValue), AType});
 }
 
-// A whole number before anybody asks whether it fits.
+// A whole number before the range check.
 struct TWhole {
     std::uint64_t Magnitude;
     bool IsNegative;

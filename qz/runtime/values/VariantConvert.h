@@ -1,15 +1,15 @@
-// What a variant is as a plain value, whatever type it has.
+// Conversion of a variant of any type to a plain value.
 //
 //     VarToInteger(Variant(u" 12 "));             // 12
 //     VarToInteger(Variant(4294967295u));         // raises EVariantOverflowError
 //     VarAsType(Variant(1.5), varCurrency);       // a variant of that type
-//     if (V > 32767) ...                          // Variant.h tells how variants compare
+//     if (V > 32767) ...                          // Variant.h defines how variants compare
 //
 // The rules for all conversions:
 // - An empty variant is 0, False or the empty text. Null is the empty text, and raises EVariantTypeCastError as anything
 //   else.
 // - A number that the result cannot hold raises EVariantOverflowError; it never wraps. Floats, dates, currencies and
-//   decimals become integers by rounding, halves to the even one; infinity and what is no number are out of range.
+//   decimals become integers by rounding, halves to the even one; infinity and NaN are out of range.
 // - True is -1 as a number, as in OLE Automation, which an unsigned integer cannot hold.
 // - A text is read as StrToInt, StrToFloat, StrToDateTime, StrToCurr or StrToBool reads it, where an integer may also be
 //   written as a float. Any other text raises EVariantTypeCastError.
@@ -40,14 +40,16 @@ QZ_API AnsiString VarToLStr(const Variant& AValue);
 // ADefault for null, else VarToStr.
 QZ_API UnicodeString VarToStrDef(const Variant& AValue, const UnicodeString& ADefault);
 
-// The interface that the variant holds, null for an empty variant; raises EVariantTypeCastError for any other.
+// The interface that the variant holds, null for an empty variant; raises EVariantTypeCastError for any
+// other.
 QZ_API Ref<IInterface> VarToInterface(const Variant& AValue);
 // The object, in the same way.
 QZ_API TObject* VarToObject(const Variant& AValue);
 
-// The value as another type; one that has the type already is copied. AType may also be the type of an array, of which
-// each element is converted. An interface becomes varDispatch if it answers to that. varEmpty and varNull drop the value,
-// varVariant keeps it as it is. Raises EVariantTypeCastError for a type that no variant holds.
+// The value as another type; one that has the type already is copied. AType may also be the type of an array,
+// of which each element is converted. An interface becomes varDispatch if it answers to that. varEmpty and
+// varNull drop the value, varVariant leaves it unchanged. Raises EVariantTypeCastError for a type that no
+// variant holds.
 QZ_API Variant VarAsType(const Variant& AValue, TVarType AType);
 
 inline bool VarIsEmpty(const Variant& AValue) noexcept {
@@ -69,7 +71,8 @@ inline bool VarIsNumeric(const Variant& AValue) noexcept {
 
 enum class TVariantRelationship : std::uint8_t { vrEqual, vrLessThan, vrGreaterThan, vrNotEqual };
 using enum TVariantRelationship;
-// How the first value stands to the second, by the rules of the operators; what is unordered is vrNotEqual.
+// How the first value compares with the second, by the rules of the operators; unordered values give
+// vrNotEqual.
 QZ_API TVariantRelationship VarCompareValue(const Variant& ALeft, const Variant& ARight);
 
 } // namespace qz

@@ -26,8 +26,8 @@ std::size_t CountPaths() noexcept {
     return Count;
 }
 
-// Every path gives the same answers, so that no other data has to be ordered with the choice; until the initialiser
-// below has run, conversions are merely slower.
+// Every path gives the same answers, so that no other data has to be ordered with the choice; until the
+// initialiser below has run, conversions are merely slower.
 constinit std::atomic<const TUtfPath*> Best{&cUtfPortablePath};
 
 [[maybe_unused]] const bool cIsChosen = [] {

@@ -3,7 +3,8 @@
 //     for (const detail::TUtfPath& Path : detail::UtfPaths())     // a test goes through all of them
 //         EXPECT_TRUE(Path.IsValidUtf8("text"));
 //
-// Each function keeps the contract of its public namesake; what is short of vectors does it with plain code.
+// Each function has the contract of its public namesake. Text shorter than a vector is converted by plain
+// code.
 #pragma once
 
 #include <bit>
@@ -46,7 +47,7 @@ extern const TUtfPath cUtfAvx2Path;
 // The paths that this machine can go, the best one last.
 QZ_API std::span<const TUtfPath* const> UtfPaths() noexcept;
 
-// The best path. It may be asked for at any time, also while statics are being initialised.
+// The best path for this machine. May be called at any time, also during static initialisation.
 const TUtfPath& BestUtfPath() noexcept;
 
 } // namespace qz::detail

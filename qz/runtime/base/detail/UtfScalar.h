@@ -1,4 +1,4 @@
-// One code point at a time: what the conversions of Utf.h fall back to, and what says what ill-formed text gives.
+// One code point at a time: the fallback of the conversions of Utf.h, and the rule for ill-formed text.
 #pragma once
 
 #include <bit>
@@ -11,7 +11,7 @@
 
 namespace qz::detail {
 
-// What a lead byte promises: the number of continuation bytes and the range of the first of them.
+// The number of continuation bytes after a lead byte, and the range of the first one.
 struct TLead {
     int Count;
     unsigned char Low;
@@ -56,9 +56,9 @@ inline char32_t DecodeAnyUtf8(const char*& AHere, const char* AEnd, bool& AIsGoo
     return Value;
 }
 
-// Reads the code point at AHere, which is before AEnd, and moves AHere behind it or behind the ill-formed subpart.
-// AIsGood becomes false for such a subpart, of which the value is U+FFFD. Well-formed characters of two and three
-// bytes are common enough for a short way of their own.
+// Reads the code point at AHere, which is before AEnd, and moves AHere past it or past the ill-formed
+// subpart. AIsGood becomes false for such a subpart, of which the value is U+FFFD. Well-formed characters of
+// two and three bytes are common enough for a short way of their own.
 inline char32_t DecodeUtf8(const char*& AHere, const char* AEnd, bool& AIsGood) noexcept {
     const auto* Bytes = reinterpret_cast<const unsigned char*>(AHere);
     const std::ptrdiff_t Left = AEnd - AHere;
@@ -136,7 +136,7 @@ inline std::uint32_t LoadUtf32(const std::byte* AHere, std::endian AOrder) noexc
     return Ordered(Value, AOrder);
 }
 
-// The conversions of what the vectors leave over, and of everything where there are no vectors.
+// Converts what the vectors leave over, and everything on a machine without vectors.
 
 inline char16_t* ScalarUtf8ToUtf16(const char*& AHere, const char* AStop, const char* AEnd,
                                    char16_t* ADest) noexcept {

@@ -20,7 +20,7 @@ struct TDecimal {
 
     // Keeps ACount digits, which may be none or fewer than none, rounding half away from zero.
     void Round(int ACount) noexcept;
-    // The digit at a place counted from 0, also in front of the digits and behind them.
+    // The digit at a place counted from 0, also in front of the digits and after them.
     char16_t Digit(int AIndex) const noexcept {
         return AIndex >= 0 && AIndex < Count ? static_cast<char16_t>(Digits[static_cast<std::size_t>(AIndex)])
                                              : u'0';

@@ -8,7 +8,7 @@
 namespace qz {
 namespace {
 
-// A thread is known by the address of its own variable, which also the child of a fork keeps.
+// The address of a thread-local variable identifies a thread, also in the child of a fork.
 thread_local char GSelf = 0;
 
 struct TMainThread {
@@ -41,7 +41,7 @@ TMainQueue& TMainQueue::Instance() {
     return *Queue;
 }
 
-// What the wake procedure raises is not for the caller, whose work is queued.
+// An exception of the wake procedure is dropped; the caller's work is queued.
 void TMainQueue::Add(TThread* AThread, TThreadProc AProc) {
     std::shared_ptr<const TThreadProc> Wake;
     {
@@ -65,7 +65,7 @@ void TMainQueue::Poke() {
     FChanged.notify_all();
 }
 
-// What a dropped procedure holds is released without the lock: its end may queue again.
+// A dropped procedure is destroyed outside the lock: its destruction may queue again.
 void TMainQueue::Remove(TThread* AThread) {
     if (AThread == nullptr)
         return;

@@ -16,8 +16,8 @@ public:
 
     void Add(TThread* AThread, TThreadProc AProc);
     void Remove(TThread* AThread);
-    // Runs what was queued when the call began, waiting at most ATimeOut milliseconds for something to come or for a
-    // Poke.
+    // Runs what was queued when the call began, waiting at most ATimeOut milliseconds for something to come
+    // or for a Poke.
     bool Run(std::uint32_t ATimeOut);
     // Wakes a Run that waits.
     void Poke();

@@ -74,10 +74,10 @@ const TZoneTable& UtcTable() {
     return *Result;
 }
 
-// Without memory the zone stays as it was.
+// If memory runs out, the zone stays unchanged.
 void TLoader::Look(std::int64_t ANowSeconds, bool AInFull) noexcept {
     try {
-        // The stamp comes first: a setting that changes meanwhile is found by the next look.
+        // The stamp is read first: a concurrent change is found by the next check.
         std::string Now = platform::SystemZoneStamp();
         if (AInFull || Now != Stamp || GZoneState.Table.load(std::memory_order_relaxed) == nullptr) {
             GZoneState.Table.store(Find(), std::memory_order_release);

@@ -2,8 +2,8 @@
 //
 //     const TZoneTable& Zone = CurrentZone();
 //
-// Looks at the system's setting at most twice a minute, and nobody waits for that look but who has none before him; all
-// else is without a lock. Tables stay for ever, one for each zone that the process has ever seen.
+// Checks the system's setting at most twice a minute. Only a thread that finds no table yet waits for that;
+// all else is without a lock. Tables stay forever, one for each zone that the process has ever seen.
 #pragma once
 
 #include <atomic>

@@ -74,7 +74,7 @@ private:
     std::int64_t FFoldTo = cNever;
 };
 
-// What lies outside the years that can be asked for would only cost.
+// Changes outside the supported years are skipped.
 void TChanges::AddList() {
     const std::int64_t Earliest = StartOfYear(0) / 1000;
     const std::int64_t Latest = StartOfYear(10001) / 1000;
@@ -101,7 +101,7 @@ std::vector<TChange> TChanges::Events(const TZoneRule& ARule, int AFirstYear, in
         Result.push_back({MomentInYear(ARule.ToStandard, Year) - ToStandard, ARule.Standard});
         Result.push_back({MomentInYear(ARule.ToDaylight, Year) - ToDaylight, ARule.Daylight});
     }
-    // Daylight saving time that ends as that of the next year begins goes on.
+    // Daylight saving time that ends when the next one begins continues.
     std::sort(Result.begin(), Result.end(), [&ARule](const TChange& ALeft, const TChange& ARight) {
         return ALeft.From != ARight.From ? ALeft.From < ARight.From
                                          : ALeft.Kind == ARule.Standard && ARight.Kind == ARule.Daylight;
@@ -109,7 +109,8 @@ std::vector<TChange> TChanges::Events(const TZoneRule& ARule, int AFirstYear, in
     return Result;
 }
 
-// The rule holds from AFrom on and before ATo. The years are those whose changes may lie between, and one before.
+// The rule holds from AFrom on and before ATo. The years are those whose changes may lie between, and one
+// before.
 void TChanges::AddRule(const TZoneRule& ARule, std::int64_t AFrom, std::int64_t ATo, int AFirstYear,
                        int ALastYear) {
     const std::vector<TChange> All =
@@ -128,8 +129,9 @@ void TChanges::AddRule(const TZoneRule& ARule, std::int64_t AFrom, std::int64_t 
         Add(Next->From, Next->Kind);
 }
 
-// Years of rules are those of standard time. Behind the last rule's start, and before the first one's end where nothing is
-// before it, there is a whole cycle, and on either side of it some more, for local times near its ends.
+// Years of rules are those of standard time. After the last rule's start, and before the first one's end
+// where nothing is before it, there is a whole cycle, and on either side of it some more, for local times
+// near its ends.
 void TChanges::AddRules() {
     const auto& Rules = FZone.Rules;
     const auto Start = [&](std::size_t AIndex) {

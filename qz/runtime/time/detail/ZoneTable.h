@@ -1,10 +1,10 @@
-// A time zone made ready to be asked: which offset holds at a moment of UTC or of the local clock.
+// A time zone prepared for look-ups: the offset at a moment of UTC or of local time.
 //
 //     const TZoneTable Table(platform::ReadSystemZone());
 //     std::int64_t Local = Utc + Table.AtUtc(Utc).Offset;
 //
-// Times are milliseconds since 1899-12-30 00:00, as in TDateTime, of the years 1 to 9999. Never changes once made, so that
-// any thread may ask.
+// Times are milliseconds since 1899-12-30 00:00, as in TDateTime, of the years 1 to 9999. Never changes once
+// made, so that any thread may ask.
 #pragma once
 
 #include <cstdint>
@@ -28,15 +28,15 @@ struct TZonePeriod {
     bool IsDaylight;
 };
 
-// The periods that have a local time: one, two, or none (null). Of two, Standard is the one of standard time; where both
-// or neither are, it is the one with the lower offset.
+// The periods that have a local time: one, two, or none (null). Of two, Standard is the one of standard time;
+// where both or neither are, it is the one with the lower offset.
 struct TZoneMatch {
     const TZonePeriod* Standard = nullptr;
     const TZonePeriod* Daylight = nullptr;
 };
 
-// The days on which a year changes to either time, as the local clock showed it until then: an occurrence of a weekday,
-// 5 for the last. All 0 in a year without the two changes.
+// The days on which a year changes to either time, as the local clock showed it until then: an occurrence of
+// a weekday, 5 for the last. All 0 in a year without the two changes.
 struct TZoneChangeDay {
     int Month = 0;
     int Occurrence = 0;
@@ -99,7 +99,7 @@ private:
     platform::TSystemZone FZone;
 };
 
-// The moment of such a day in a year, on the clock that it is told for. There has to be such a day.
+// The moment of such a day in a year, in the local time of the rule. The day must exist.
 QZ_API std::int64_t MomentInYear(const platform::TZoneDay& ADay, int AYear) noexcept;
 
 } // namespace qz::detail

@@ -6,8 +6,8 @@
 namespace qz::detail {
 
 struct TValueAccess {
-    // A value of that type, which AFill makes in raw storage; bytes that it does not write are 0 in a small one. When
-    // AFill raises, nothing is left.
+    // A value of that type, which AFill makes in raw storage; bytes that it does not write are 0 in a small
+    // one. When AFill raises, nothing is left.
     template <class TFill> static TValue Make(PTypeInfo AType, const TFill& AFill) {
         TValue Result;
         if (AType->Ops->IsSmall) {

@@ -19,7 +19,7 @@ bool IsSigned(TVarType AElements) noexcept {
         AElements == varError || AElements == varBoolean;
 }
 
-// Whether an element has to be ended.
+// Whether an element needs destruction.
 bool IsManagedItem(TVarType AElements) noexcept {
     return AElements == varVariant || TVariantAccess::IsManaged(AElements);
 }

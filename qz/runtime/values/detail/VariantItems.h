@@ -16,8 +16,9 @@ struct TVariantBound {
     std::int32_t Count;
 };
 
-// One block of memory: this header, the bounds, the elements. Each element takes the bytes of its type alone, in the form
-// of OLE Automation where that knows it; texts and interfaces are counted pointers. The first index counts fastest.
+// One block of memory: this header, the bounds, the elements. Each element takes the bytes of its type alone,
+// in the form of OLE Automation where that knows it; texts and interfaces are counted pointers. The first
+// index counts fastest.
 struct alignas(16) TVariantItems {
     std::atomic<std::int32_t> RefCount{1};
     TVarType Elements = varVariant;
@@ -43,7 +44,7 @@ inline TVariantItems* AddRef(TVariantItems* AItems) noexcept {
     return AItems;
 }
 
-// Ends the elements with the last reference, however deep arrays lie in arrays.
+// Destroys the elements with the last reference, however deeply arrays are nested.
 void Release(TVariantItems* AItems) noexcept;
 
 struct TReleaseItems {
@@ -57,8 +58,8 @@ std::size_t ElementSize(TVarType AElements) noexcept;
 inline constexpr std::size_t cMaxArrayBytes = 0x7FFFFFFF;
 inline constexpr std::size_t cMaxArrayDimensions = 64;
 
-// Empty elements. Raises EVariantArrayCreateError for a type that no array has, for more elements or dimensions than the
-// constants say, and for no dimension.
+// Empty elements. Raises EVariantArrayCreateError for a type that no array has, for more elements or
+// dimensions than the constants say, and for no dimension.
 TItemsPtr NewItems(TVarType AElements, std::span<const TVariantBound> ABounds);
 // A copy with other bounds; elements are kept by their place in memory.
 TItemsPtr CopyItems(const TVariantItems& AItems, std::span<const TVariantBound> ABounds);
@@ -70,7 +71,7 @@ Variant LoadItem(const TVariantItems& AItems, std::size_t AIndex) noexcept;
 // AValue has the type of the elements.
 void StoreItem(TVariantItems& AItems, std::size_t AIndex, Variant AValue) noexcept;
 
-// The caller has seen that the variant is of the type that is asked for.
+// The caller has checked the type of the variant.
 struct TVariantAccess {
     static Variant Make(TItemsPtr AItems) noexcept {
         Variant Result;
