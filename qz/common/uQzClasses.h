@@ -1,11 +1,11 @@
-// Unit uQzClasses: objects that know who ends them, and what the other units are built from.
+// Unit uQzClasses: objects with a destruction policy, and the building blocks of the other units.
 #pragma once
 
-// TQzObject, an object for use as it is or through interfaces,
-// and the policy of who ends it.
+// TQzObject, an object for direct use or through interfaces,
+// and its destruction policy.
 #include <qz/common/uQzClasses/QzObject.h>
-// TQzObjectEx, an object that tells others of its end
-// and is told of theirs.
+// TQzObjectEx, an object that notifies others of its destruction
+// and is notified of theirs.
 #include <qz/common/uQzClasses/QzObjectEx.h>
 // TQzFreeNotifies, the same for any object,
 // on any number of threads.
@@ -17,7 +17,7 @@
 // and whose properties can follow others.
 #include <qz/common/uQzClasses/QzComponent.h>
 // TQzMemoryStream, a stream over one block of memory
-// that is its own or somebody else's.
+// that it owns or borrows.
 #include <qz/common/uQzClasses/QzMemoryStream.h>
 // QzStreamToReadBuf and QzStreamToWriteBuf,
 // streams as blocks of memory.

@@ -1,7 +1,7 @@
 // Unit uQzThreads: locks, events and running work on other threads.
 #pragma once
 
-// TQzCriticalSection, a re-entrant lock that tells who holds it
+// TQzCriticalSection, a recursive lock that knows its owner
 // and can be tried for a time.
 #include <qz/common/uQzThreads/CriticalSection.h>
 // IQzSimpleEvent and TQzSimpleEvent, an event

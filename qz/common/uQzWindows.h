@@ -2,7 +2,7 @@
 #pragma once
 
 // QzGetComputerName, QzGetUserName, QzGetElevationLevel,
-// QzGetCurrentThreadId: who runs here.
+// QzGetCurrentThreadId: the user, the computer and the thread.
 #include <qz/common/uQzWindows/Accounts.h>
 // QzCleanupFileName: names that
 // any system takes.

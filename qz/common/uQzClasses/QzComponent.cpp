@@ -30,11 +30,11 @@ std::uint32_t TQzComponent::_AddRef() {
     return static_cast<std::uint32_t>(Count);
 }
 
-// A component that is on its way out, itself or with its owner, is not ended by what its notifications take and drop.
+// References that notifications take and release do not destroy a component that is being destroyed already.
 bool TQzComponent::DropReference(std::int32_t& ACount) {
     ACount = FRefCount.Decrement();
     if (ACount != 0)
-        return false; // another thread may end it at any moment
+        return false; // another thread may destroy it at any moment
     const bool IsGoing = IsEnding() || (Owner() != nullptr && ComponentState().Contains(csDestroying));
     return AutoDestroyPolicy() == radTrue && !IsGoing;
 }
@@ -66,8 +66,8 @@ void TQzComponent::BeforeDestruction() {
     Inherited::BeforeDestruction();
 }
 
-// An owner that ends lets go of a component that is still referred to; its last reference ends it then.
-// The last of the references may have gone meanwhile, and ended nothing since the component was on its way out.
+// An owner that is destroyed releases a component with references; its last reference destroys it then.
+// The last reference may have been released meanwhile without effect, since the destruction had begun.
 void TQzComponent::DestructionRefused() noexcept {
     const bool IsByCount = std::exchange(FIsRefusedByCount, false);
     FRefCount.Increment();
@@ -79,7 +79,8 @@ void TQzComponent::DestructionRefused() noexcept {
     try {
         if (DropReference(Count) && IsByCount)
             Free();
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): who frees it hears of the first refusal
+    } catch (const std::
+                 exception&) { // NOLINT(bugprone-empty-catch): the caller of Free receives the first refusal
     }
 }
 
@@ -96,7 +97,7 @@ void TQzComponent::AddBinding(TObject* ASource, const UnicodeString& ASourceProp
     }
 }
 
-// Ends the bindings from the place ACount on.
+// Removes the bindings from index ACount on.
 void TQzComponent::DropBindings(int ACount) {
     while (FBindings.Count() > ACount) {
         TBindings::RemoveBinding(FBindings.Last());

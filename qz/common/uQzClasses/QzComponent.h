@@ -1,8 +1,8 @@
 // TQzComponent: a component whose life may be that of the references to it, and whose properties can follow
 // others.
 //
-//     Ref<IQzComponent> Server = TQzServer::Create(nullptr);   // without owner: gone with the last reference
-//     TQzServer::Create(Application);                          // with an owner: the owner alone ends it
+//     Ref<IQzComponent> Server = TQzServer::Create(nullptr);   // without owner: destroyed with the last reference
+//     TQzServer::Create(Application);                          // with an owner: only the owner frees it
 //
 //     View->Bind(u"Title", Model, u"Name", {});                // Title follows Name, and Name follows Title
 //     void TView::SetTitle(const UnicodeString& ATitle) {
@@ -42,11 +42,11 @@ class QZ_API TQzComponent : public TComponent, public IQzComponent, public IQzOb
 
 public:
     HRESULT QueryInterface(const TGUID& AIid, void** AObject) override;
-    // The first reference to a component without owner decides that the last one ends it.
+    // The first reference to a component without owner decides that the last one destroys it.
     std::uint32_t _AddRef() override;
     std::uint32_t _Release() override;
 
-    // True when the last reference ends the component.
+    // True if the last reference destroys the component.
     bool GetAutoDestroy() const override;
     void SetAutoDestroy(bool AValue) override;
     TQzAutoDestroy AutoDestroyPolicy() const noexcept { return FAutoDestroy.load(std::memory_order_relaxed); }
@@ -54,7 +54,7 @@ public:
     TObject* Implementor() override { return this; }
     TComponent* _GetOwner() const override { return Owner(); }
 
-    // Makes two published properties follow each other: a change of either, told by NotifyBindings or
+    // Binds two published properties to each other: a change of either, reported by NotifyBindings or
     // TBindings::Notify, is written to the other. Property paths may have points. Errors of the binding
     // engine go to the caller, and no binding is left after then.
     void Bind(const UnicodeString& ASrcProperty, TObject* ADest, const UnicodeString& ADestProperty,
@@ -63,13 +63,13 @@ public:
     // that this component owns brings them. EAssertionFailed, "Assertion failure", when ADest cannot be
     // observed for its value.
     void Bind(const UnicodeString& ASrcProperty, TComponent* ADest, TBindings::TCreateOptions AOptions = {});
-    // Tells the bindings that a property of this component has changed. A setter calls it.
+    // Notifies the bindings of a changed property of this component. A setter calls it.
     void NotifyBindings(const UnicodeString& APropertyName);
     // Ends all bindings that Bind made, the links to controls included.
     void ClearBindings();
 
     // Raises Exception with SCompRefCountNotZero while references remain; the component then lives on. One
-    // whose owner ends meanwhile has no owner any more, and ends with its last reference.
+    // whose owner is destroyed meanwhile has no owner, and is destroyed with its last reference.
     void BeforeDestruction() override;
 
 protected:
@@ -93,7 +93,7 @@ private:
 
     friend class TQzPolicyHold;
     TRefCount FRefCount{1};
-    bool FIsRefusedByCount = false; // touched by whoever ends the component
+    bool FIsRefusedByCount = false; // used by the thread that destroys the component
     std::atomic<TQzAutoDestroy> FAutoDestroy{radComputed};
     TObjectList<TBindingExpression> FBindings{false}; // the binding engine ends them
     std::vector<TComponent*> FLinks;                  // the links among the owned components

@@ -15,8 +15,8 @@ class QZ_API TQzFileStream : public TFileStream {
 public:
     using TFileStream::TFileStream;
 
-    // Write the bytes, or the 16-bit units with the lowest byte first, at the position: no terminator, no mark and no
-    // conversion. An empty text writes nothing. Raise EWriteError.
+    // Write the bytes, or the 16-bit units with the lowest byte first, at the position: no terminator, no
+    // mark and no conversion. An empty text writes nothing. Raise EWriteError.
     void WriteString(const AnsiString& AText);
     void WriteString(const TStringArg& AText);
 };

@@ -14,8 +14,8 @@ constinit const TClassRec TQzFreeNotifies::ClassRec =
 namespace {
 
 // One lock for the lists of all nodes: two partners that end at the same moment on two threads would
-// otherwise each hold their own list and wait for the other's. Never destroyed, as nodes may end with the
-// program.
+// otherwise each hold their own list and wait for the other's. Never destroyed, as nodes may be destroyed
+// with the program.
 TCriticalSection& Links() {
     static auto* const Lock = new TCriticalSection;
     return *Lock;

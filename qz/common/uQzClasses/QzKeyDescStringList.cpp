@@ -71,7 +71,8 @@ void TQzKeyDescStringList::Assign(TPersistent* ASource) {
         FKeyValues->Assign(Other->KeyValues());
         FDescriptions->Assign(Other->Descriptions());
     } else if (const auto* Lines = dynamic_cast<const TStrings*>(ASource)) {
-        // Only the lines: the order of a sorted source would part later pairs. It may be one of the lists here.
+        // Only the lines: the order of a sorted source would part later pairs. It may be one of the lists
+        // here.
         TStringList Copy;
         Copy.AddStrings(*Lines);
         Clear();

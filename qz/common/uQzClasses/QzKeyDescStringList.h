@@ -5,8 +5,8 @@
 //     List->GetDescription(u"de");                // German
 //     List->GetIntKeyValue(u"Germany");           // 49
 //
-// Keys and descriptions are found as TStrings::IndexOf finds lines, without regard to case; of equal ones the first.
-// A component belongs to one thread.
+// Keys and descriptions are found as TStrings::IndexOf finds lines, without regard to case; of equal ones the
+// first. A component belongs to one thread.
 #pragma once
 
 #include <qz/runtime/components/Component.h>
@@ -19,7 +19,8 @@ class QZ_API TQzKeyDescStringList : public TComponent {
     QZ_CLASS(TQzKeyDescStringList, TComponent)
 
 public:
-    // Two lists of the same length, both owned. Who changes one of them directly keeps the pairs together himself.
+    // Two lists of the same length, both owned. Who changes one of them directly keeps the pairs together
+    // himself.
     TStrings* KeyValues() const noexcept { return FKeyValues.get(); }
     TStrings* Descriptions() const noexcept { return FDescriptions.get(); }
     // Assign to that list.
@@ -33,8 +34,8 @@ public:
     void AddItem(const TStringArg& ADescription);
     void AddItems(const TStrings& AStrings);
     void Clear();
-    // Takes both lists of another TQzKeyDescStringList, or the lines of a TStrings as descriptions with the keys "0",
-    // "1" and so on. Raises EConvertError for anything else.
+    // Takes both lists of another TQzKeyDescStringList, or the lines of a TStrings as descriptions with the
+    // keys "0", "1" and so on. Raises EConvertError for anything else.
     void Assign(TPersistent* ASource) override;
 
     // The description of a key, which is looked for in its text form; empty when there is none.

@@ -1,4 +1,4 @@
-// TQzMemoList: a component with texts of many lines, each under a code of its own.
+// TQzMemoList: a component with multi-line texts, each under its own code.
 //
 //     List->Items()->Add(u"greeting", &Lines);
 //     List->MemoByCode(u"Greeting")->Text();
@@ -64,9 +64,10 @@ public:
     int IndexOf(const TQzMemoListItem* AItem) const noexcept;
     TQzMemoListItem* Find(const TStringArg& ACode) const noexcept;
 
-    // A new item, with the lines of AMemo if given. Raises EListError, "There already is a memo with code %s!".
+    // A new item, with the lines of AMemo if given. Raises EListError, "There already is a memo with code
+    // %s!".
     TQzMemoListItem* Add(const TStringArg& ACode, TStrings* AMemo = nullptr);
-    // End the item. A code or an item that is not here is ignored; an index out of range raises EListError.
+    // Frees the item. An unknown code or item is ignored; an index out of range raises EListError.
     void Remove(const TStringArg& ACode);
     void Remove(const TQzMemoListItem* AItem);
     void Remove(int AIndex) { Delete(AIndex); }

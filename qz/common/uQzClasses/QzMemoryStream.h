@@ -1,5 +1,5 @@
 // TQzMemoryStream: a stream over one block of memory that grows by steps of its user's choice, or over a
-// block that belongs to somebody else.
+// block that belongs to the caller.
 //
 //     TQzMemoryStream Stream(64 * 1024);             // grows by 64 KiB
 //     Stream.WriteLongWord(7);

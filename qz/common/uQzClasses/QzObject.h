@@ -2,14 +2,14 @@
 // ends it.
 //
 //     TQzShape* Shape = TQzShape::Create();     // TQzShape derives from TQzObject
-//     Shape->Free();                            // never seen through an interface: its maker ends it
+//     Shape->Free();                            // never used through an interface: its creator frees it
 //
-//     Ref<IQzObject> Kept = TQzShape::Create(); // the first reference decides: gone with the last one
+//     Ref<IQzObject> Kept = TQzShape::Create(); // the first reference decides: destroyed with the last one
 //
 //     TQzShape* Owned = TQzShape::Create();
-//     Owned->SetAutoDestroy(false);             // references come and go, Free ends it
+//     Owned->SetAutoDestroy(false);             // references do not destroy it, Free does
 //
-// The count is safe on any number of threads. What else an object allows is told by its class.
+// The count is safe on any number of threads. Each class states what else it allows.
 #pragma once
 
 #include <atomic>
@@ -18,7 +18,7 @@
 
 namespace qz {
 
-// Who ends an object.
+// What destroys an object.
 enum class TQzAutoDestroy : std::uint8_t {
     radComputed, // not decided: the first interface reference makes it radTrue
     radFalse,    // its owner, by Free
@@ -49,7 +49,7 @@ class QZ_API TQzObject : public TCreateOnly<TObject>, public IQzObject {
 public:
     using TVirtualCreate = TVirtualConstructor<TQzObject, TQzObject*()>;
 
-    // True when the last reference ends the object.
+    // True if the last reference destroys the object.
     virtual bool GetAutoDestroy() const;
     // Decides for good: radTrue or radFalse. A later call may decide again.
     void SetAutoDestroy(bool AValue) noexcept;
@@ -82,7 +82,7 @@ private:
 
 using TQzObjectClass = ClassRef<TQzObject>;
 
-// Keeps an object from being ended by its last reference for the length of a block.
+// Prevents the last reference from destroying an object, for the scope of a block.
 class QZ_API TQzPolicyHold {
 public:
     // Does nothing for an object that is no TQzObject and no TQzComponent.

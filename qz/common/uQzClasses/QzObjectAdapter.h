@@ -30,7 +30,7 @@ public:
     TObject* Implementor() override { return FObject; }
 
 protected:
-    // With ooOwned the adapter, from its making on, ends the object through Free, which must not raise then; with
+    // With ooOwned the adapter frees the object, from its construction on, and Free must not raise; with
     // ooReference it leaves the object alone, which must outlive it.
     TQzObjectAdapter(TObject* AObject, TQzObjectOwnership AOwnership) noexcept
         : FObject(AObject),

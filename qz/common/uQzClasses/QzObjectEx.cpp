@@ -94,9 +94,9 @@ void TQzObjectEx::RemoveFreeNotificationEx(IQzObject* AObject) {
         Linked->RemoveNotification(this);
 }
 
-// Tells the last of the linked objects and removes the link. The reference keeps it alive, and the policy keeps the
-// reference from ending one that nobody refers to. One that is referred to gets its policy back first, since its last
-// other reference may have gone meanwhile.
+// Notifies the last of the linked objects and removes the link. The reference keeps it alive, and the policy
+// keeps the reference from destroying an unreferenced object. A referenced object gets its policy back first,
+// since its last other reference may have been released meanwhile.
 void TQzObjectEx::NotifyLast() {
     TObject* Last = FFreeNotifies.back();
     std::optional<TQzPolicyHold> Hold(Last);
@@ -122,7 +122,7 @@ void TQzObjectEx::DropLast() noexcept {
         const TQzPolicyHold Hold(Last);
         if (const auto Listener = AsInterface<IQzObjectFreeNotificationEvent>(Last))
             Listener->OnObjectDestroyed(this);
-    } catch (...) { // NOLINT(bugprone-empty-catch): nobody is left to hear of it
+    } catch (...) { // NOLINT(bugprone-empty-catch): no caller is left
     }
 }
 

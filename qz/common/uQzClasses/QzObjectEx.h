@@ -1,4 +1,4 @@
-// TQzObjectEx: a TQzObject that tells others of its end, and is told of theirs.
+// TQzObjectEx: a TQzObject that notifies others of its destruction and is notified of theirs.
 //
 //     class TView : public TQzObjectEx {
 //         ...
@@ -21,7 +21,7 @@ class IQzObjectFreeNotificationEvent : public IQzObject {
 public:
     static constexpr TGUID IID = Guid("{BBECB66F-1397-4FFA-AFE5-C7BD63A1EAC6}");
 
-    // AObject is about to end and nobody may keep it. It is still whole, unless it ends because its
+    // AObject is about to be destroyed and must not be kept. It is still complete, unless it ends because its
     // construction failed: then only the part that is a TQzObjectEx is left.
     virtual void OnObjectDestroyed(TObject* AObject) = 0;
 
@@ -55,7 +55,7 @@ public:
     // that loses the last of its other references in here ends when the call is over.
     void OnObjectDestroyed(TObject* AObject) override;
 
-    // Links the two: each hears of the end of the other. Linking twice changes nothing.
+    // Links the two: each is notified of the destruction of the other. Idempotent.
     void FreeNotification(TQzObjectEx* AObject);
     void FreeNotificationEx(IQzObjectFreeNotificationEvent* AObject) override;
     void RemoveFreeNotification(TQzObjectEx* AObject);
@@ -72,7 +72,7 @@ public:
     // The class name; after the owner's name path and a dot if the owner has one.
     virtual UnicodeString GetNamePath() const;
 
-    // Tells all linked objects, from the last to the first, and removes the links. An exception of one of
+    // Notifies all linked objects, from the last to the first, and removes the links. An exception of one of
     // them keeps this object, and the links not yet dealt with.
     void BeforeDestruction() override;
 

@@ -40,7 +40,7 @@ void TQzObjectList::Notify(TObject* AItem, TCollectionNotification AAction) {
 }
 
 // True when the reference was all that there was to end. An object that has since been given to its owner is
-// ended by the list, if that is the owner.
+// freed by the list, if that is the owner.
 bool TQzObjectList::Release(TObject* AItem) {
     const auto Found = FHeld.find(AItem);
     if (Found == FHeld.end())

@@ -5,9 +5,10 @@
 //     Ref<IJob> Kept(Job);
 //     List.Clear();                               // Kept keeps the job alive
 //
-// A TInterfacedObject, and a TQzObject whose last reference ends it, are held by a reference, whether the list owns its
-// objects or not; the reference is dropped when the object leaves the list, be it by Extract, whose result may then be
-// gone. Any other object is treated as in TObjectList. A list belongs to one thread at a time.
+// A TInterfacedObject, and a TQzObject that its last reference destroys, are held by a reference, whether the
+// list owns its objects or not; the reference is dropped when the object leaves the list, be it by Extract,
+// whose result may then be gone. Any other object is treated as in TObjectList. A list belongs to one thread
+// at a time.
 #pragma once
 
 #include <unordered_map>
@@ -42,8 +43,8 @@ protected:
     void Notify(TObject* AItem, TCollectionNotification AAction) override;
 
 private:
-    // The references that the list holds to one object. An object may change its policy, or an uncounted one may be
-    // gone, while it is in the list: what was taken is what is dropped.
+    // The references that the list holds to one object. An object may change its policy, or an uncounted one
+    // may be gone, while it is in the list: what was taken is what is dropped.
     struct THeld {
         IInterface* Reference = nullptr;
         int Count = 0;

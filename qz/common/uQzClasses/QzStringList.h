@@ -14,8 +14,8 @@ class QZ_API TQzStringList : public TStringList {
 public:
     using TStringList::TStringList;
 
-    // Sets Delimiter, clears the list and adds what stands between delimiters; empty pieces are left out. Sorting and
-    // the rule for duplicates apply as to Add.
+    // Sets Delimiter, clears the list and adds what stands between delimiters; empty pieces are left out.
+    // Sorting and the rule for duplicates apply as to Add.
     void Tokenize(const TStringArg& AText, char16_t ADelimiter);
 
 private:

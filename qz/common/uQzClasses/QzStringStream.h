@@ -5,11 +5,11 @@
 //     Stream.Add(u"one more line\r\n");
 //     Stream.SaveToFile(u"new.txt");                 // with a byte order mark
 //
-// What is written is converted to the stream's code page, what is read comes out in the form that is asked
-// for. Conversions are those of TQzEncoding: lenient, and EOSError naming the code page where the system
-// cannot make them; the content is then as it was before, or empty when it was to be replaced. A stream over
-// a wrapped block can be read and overwritten but does not grow: "It is not possible to resize the buffer!".
-// A stream belongs to one thread at a time.
+// Written text is converted to the stream's code page; text that is read is converted to the form that is
+// asked for. Conversions are those of TQzEncoding: lenient, and EOSError naming the code page where the
+// system cannot make them; the content is then as it was before, or empty when it was to be replaced. A
+// stream over a wrapped block can be read and overwritten but does not grow: "It is not possible to resize
+// the buffer!". A stream belongs to one thread at a time.
 #pragma once
 
 #include <qz/common/uQzClasses/QzMemoryStream.h>
@@ -112,7 +112,7 @@ public:
     void LoadFromFile(const TStringArg& AFileName, std::int32_t ACodePage);
     // Adds the rest of AStream, or all of it with AFromStart, at the position. ACodePage -1: that of the mark
     // where ADetectBOM looks for one, else 0. Raises Exception, "The specified encoding does not match the
-    // BOM of the stream!". With AFreeStream AStream is ended in any case.
+    // BOM of the stream!". With AFreeStream AStream is freed in any case.
     void LoadFromStream(TStream* AStream, bool AFreeStream, bool AFromStart, bool ADetectBOM,
                         std::int32_t ACodePage);
     // Writes all of the content in ACodePage, with AWriteBOM after its mark if it has one. Content and
@@ -133,7 +133,7 @@ private:
     RawByteString BytesToSave(std::uint16_t ACodePage) const;
 };
 
-// The most bytes that one character takes in a code page: what the system says, else 2 for 1200 and 1201, 4
+// The maximum number of bytes of a character in a code page: the system's value, else 2 for 1200 and 1201, 4
 // for 12000 and 12001, 6 for 65001, 1 for all others.
 QZ_API std::uint16_t QzCodePageMaxCharSize(std::uint16_t ACodePage);
 

@@ -13,7 +13,7 @@
 namespace qz {
 namespace {
 
-// Code pages whose content is taken over as it stands.
+// Code pages whose content is copied unchanged.
 bool IsPlainCopy(std::uint16_t AFrom, std::uint16_t ATo) {
     return AFrom == ATo && (AFrom == cSystemCodePage || AFrom == cUtf16CodePage);
 }

@@ -7,7 +7,7 @@
 // With ADetectBOM a byte order mark gives the code page and is passed over. ASrcCodePage is the code page of
 // the bytes; -1 for none, which means that of the mark, and 0 without one. A code page that differs from that
 // of a mark raises Exception, "The specified encoding does not match the BOM of the stream!". With
-// AFreeStream the stream is ended, on the way out of an exception too. A stream that ends before its size
+// AFreeStream the stream is freed, also after an exception. A stream that ends before its size
 // says so gives what it has.
 #pragma once
 
@@ -40,7 +40,7 @@ QZ_API void QzUTF8DecodeStream(TStream& ASource, TStream& ATarget);
 // the stream has the mark of another code page or looks like UTF-16.
 QZ_API UnicodeString QzUTF8Decode(TStream& AStream);
 
-// Ends a stream at the end of a block, if that is asked for.
+// Frees a stream at the end of a block, if requested.
 class TQzStreamGuard {
 public:
     TQzStreamGuard(TStream* AStream, bool AFreeStream) noexcept : FStream(AFreeStream ? AStream : nullptr) {}

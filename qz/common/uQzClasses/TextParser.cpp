@@ -132,7 +132,7 @@ void TQzTextParser::LoadFirst(std::size_t ATotal) {
     FFreeBuffer = true;
     FChunk = 1;
     FChunked = Length < ATotal;
-    // A stream that has shrunk meanwhile ends here.
+    // A stream that was truncated meanwhile ends here.
     FLastChunk = !FChunked || Done < Length;
 }
 
@@ -155,7 +155,7 @@ std::unique_ptr<std::uint8_t[]> TQzTextParser::Grown(std::size_t ACarry, std::si
     return Block;
 }
 
-// Everything that somebody can still ask for stays in memory, in front of the new chunk.
+// All text that can still be requested stays in memory, before the new chunk.
 void TQzTextParser::GetNextChunk() {
     Assert(FStream != nullptr && FChunked && !FLastChunk, u"There is no further chunk");
     TQzTextPos* const InUse[] = {&FState.CurPos, &FState.PrevPos, &FPeekPos, &FPeekPrevPos,
@@ -195,7 +195,7 @@ void TQzTextParser::CheckEOF() const {
 }
 
 void TQzTextParser::Last() {
-    // The place before is not asked for on the way, or it would keep all of the text in memory.
+    // The previous place is dropped on the way; otherwise all of the text would stay in memory.
     FState.PrevPos = nullptr;
     for (FState.Eof = false; !FState.Eof;) {
         FState.CurPos = FBufEnd;

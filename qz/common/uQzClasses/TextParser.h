@@ -94,7 +94,7 @@ class QZ_API TQzTextParser : public TObject {
     QZ_CLASS(TQzTextParser, TObject)
 
 public:
-    // Parses a stream from its position on; an owned one is ended with the parser. Asserts "It is not
+    // Parses a stream from its position on; an owned one is freed with the parser. Asserts "It is not
     // possible to parse empty streams!"; raises Exception, "The specified encoding is not supported!", for
     // 1201, 12000 and 12001. An owned stream is left to the caller when this raises.
     TQzTextParser(TStream* AStream, bool AStreamOwner, std::uint16_t AContentCodePage);
@@ -104,7 +104,7 @@ public:
     TQzTextParser& operator=(const TQzTextParser&) = delete;
     ~TQzTextParser() override;
 
-    // Takes the bytes from the current place on for text of another kind; the code page stays as it is.
+    // Treats the bytes from the current place on as text of another kind; the code page does not change.
     virtual void SetCharacterSetType(TQzCharacterSetType AValue);
     TQzCharacterSetType CharacterSetType() const noexcept { return FCharacterSetType; }
     // Takes the text to be in another code page of the same kind. Raises "The specified encoding is not
@@ -219,7 +219,7 @@ protected:
     TQzCharacterSetType FCharacterSetType = SBCS;
     std::uint16_t FContentCodePage = 0;
     std::size_t FFirstPos = 0;      // of the stream: where the text starts
-    TQzTextPos FBufStart = nullptr; // what is in memory
+    TQzTextPos FBufStart = nullptr; // the text in memory
     TQzTextPos FBufEnd = nullptr;
     bool FFreeBuffer = false;   // the block in memory is FBuffer
     bool FChunked = false;      // the text is larger than one chunk
@@ -246,7 +246,7 @@ private:
     template <TQzCharacterSetType Kind> friend struct detail::TTextParserKind;
     class TLookAhead;
 
-    // Which bytes continue a run, made ready for the set that was asked for last.
+    // The bytes that continue a run, for the most recent set.
     struct TByteClass {
         TQzTextParserCharSet Set; // at first the empty one, which contains nothing
         std::array<bool, 256> Contains{};

@@ -9,8 +9,8 @@
 
 namespace qz {
 
-// Moves back where it began, on the way out of an exception too. What it may need again stays in memory: FPeekPos and
-// FPeekPrevPos count as places in use.
+// Moves back where it began, on the way out of an exception too. What it may need again stays in memory:
+// FPeekPos and FPeekPrevPos count as places in use.
 class TQzTextParser::TLookAhead {
 public:
     explicit TLookAhead(TQzTextParser& AParser) : FParser(AParser), FSaved(AParser.FState) {
@@ -30,7 +30,7 @@ private:
     TQzTextParserState FSaved;
 };
 
-// What follows a step that may have come to the end of what is in memory.
+// Completes a step that may have reached the end of the text in memory.
 void TQzTextParser::Arrive() {
     FState.Eof = true; // should reading fail
     FState.Eof = !IsAvailable(Unit());
@@ -38,7 +38,7 @@ void TQzTextParser::Arrive() {
         FBufEnd = FState.CurPos; // half a unit is no character
 }
 
-// A step over a form of UTF-8 that goes to the end of what is in memory, or beyond.
+// A step over a UTF-8 form that reaches the end of the text in memory, or beyond.
 void TQzTextParser::SlowStep(std::size_t ALength) {
     for (std::size_t I = 0; I < ALength; ++I) {
         if (I != 0) {
@@ -125,7 +125,7 @@ std::span<const std::byte> TQzTextParser::SelectedAndCurrent(TQzTextParserPosTyp
         Next();
         Count += FState.CurPos - FPeekPos;
     }
-    // The step may have moved what is in memory.
+    // The step may have moved the text in memory.
     return std::as_bytes(std::span(GetPos(AFromPos), static_cast<std::size_t>(Count)));
 }
 
@@ -177,7 +177,7 @@ template <TQzCharacterSetType Kind> const char* TTextParserKind<Kind>::PrevCharA
 template <TQzCharacterSetType Kind> const char16_t* TTextParserKind<Kind>::ReadCharW(TQzTextParser& AParser) {
     if (AParser.FState.Eof)
         return &cQzEOFW;
-    // The step may move what is in memory.
+    // The step may move the text in memory.
     AParser.FWideChar = *CurrCharW(AParser);
     Next(AParser);
     return &AParser.FWideChar;

@@ -36,7 +36,7 @@ public:
         return true;
     }
     bool IsWithinForm() const { return FMissing > 0; }
-    // Which of the two stated ends the stream has come to.
+    // Which of the two kinds of end the stream has reached.
     bool LacksThirdByteOnly() const { return FLength == 3 && FMissing == 1; }
 
 private:
@@ -75,7 +75,7 @@ std::int32_t TQzUTF8StreamAdapter::Read(void* ABuffer, std::int32_t ACount) {
     TDecoder Decoder;
     std::size_t Done = 0;
     while (Done < Wanted) {
-        // Each unit still wanted has a byte of its own at least, so that nothing is read which is not needed.
+        // Each missing unit takes at least one byte, so that no unneeded byte is read.
         const auto Step = static_cast<std::int32_t>(std::min(Wanted - Done, cStep));
         const std::int32_t Got = FWrappedStream->Read(Bytes.data(), Step);
         if (Got <= 0)

@@ -20,7 +20,7 @@ public:
     using TStream::Seek;
 
     TStream* FWrappedStream; // holds the UTF-8
-    bool FStreamOwner;       // the adapter ends the wrapped stream at its own end
+    bool FStreamOwner;       // the adapter frees the wrapped stream
     bool FWriteUTF8Prefix;   // the mark is to be written before the first text
 
     TQzUTF8StreamAdapter(TStream* AStream, bool AStreamOwner, bool AWriteUTF8Prefix = true);
@@ -28,7 +28,7 @@ public:
 
     // Reads up to ACount div 2 units; the bytes delivered. Takes from the wrapped stream no byte more than
     // these units have. Raises Exception, "The stream does not contain valid UTF-8 code!", for a byte that no
-    // form begins with, alone or with what is missing on a second line when the stream ends within a form.
+    // form begins with; if the stream ends within a form, a second line names what is missing.
     // Bytes within a form are not checked. The wrapped stream stands after the bytes that were looked at
     // then.
     std::int32_t Read(void* ABuffer, std::int32_t ACount) override;

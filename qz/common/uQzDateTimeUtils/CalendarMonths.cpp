@@ -86,7 +86,8 @@ std::uint16_t QzDayOfMonth(TDateTime ADate) {
     return TParts(ADate).Day;
 }
 
-// Less than half a millisecond before New Year a value counts to the new year already, but as a whole day before it.
+// Less than half a millisecond before New Year a value counts to the new year already, but as a whole day
+// before it.
 std::uint16_t QzDayOfYear(TDateTime ADate) {
     return static_cast<std::uint16_t>(std::max(QzDateCompare(ADate, QzBOYear(ADate)), 0) + 1);
 }

@@ -4,9 +4,9 @@
 //     QzBOYear(Now());                 // 1 January of this year, midnight
 //     QzDayOfYear(QzEOYear(2024));     // 366
 //
-// What takes a date gives the same whatever the time of day is. It raises EConvertError for a value outside the years
-// 1 to 9999 and for one that is no number. A result that TDateTime cannot hold raises EConvertError too. The functions
-// have no state and may run on any number of threads.
+// What takes a date gives the same whatever the time of day is. It raises EConvertError for a value outside
+// the years 1 to 9999 and for one that is no number. A result that TDateTime cannot hold raises EConvertError
+// too. The functions have no state and may run on any number of threads.
 //
 // A year is any integer; all other numbers are dates, so that QzBOYear(Day + 1) takes the day after.
 #pragma once
@@ -52,8 +52,8 @@ QZ_API std::uint16_t QzDayOfMonth(TDateTime ADate);
 QZ_API std::uint16_t QzDayOfYear(TDateTime ADate);
 QZ_API std::int32_t QzDecodeDate(TDateTime ADate, TQzDecodeType APart);
 
-// The days from ASecond to AFirst, below 0 when AFirst is the earlier one, 0 on the same day. Unlike elsewhere the time
-// of day is cut off, not rounded to the millisecond first.
+// The days from ASecond to AFirst, below 0 when AFirst is the earlier one, 0 on the same day. Unlike
+// elsewhere the time of day is cut off, not rounded to the millisecond first.
 QZ_API std::int32_t QzDateCompare(TDateTime AFirst, TDateTime ASecond);
 
 } // namespace qz

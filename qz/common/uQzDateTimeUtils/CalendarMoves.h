@@ -4,11 +4,11 @@
 //     QzAddHrs(Now(), -36);
 //     QzRoundTime(EncodeDateTime(2024, 2, 29, 10, 50, 30, 0), 15);    // 11:00:00
 //
-// Counts may be negative. Years, quarters and months keep the day, as far as the month has it, and the time of day to
-// the millisecond; they raise EConvertError for a value or a result outside the years 1 to 9999 and for a value that is
-// no number. Weeks and all that is shorter are added to the value as it is, unchecked; before day 0, 1899-12-30, where
-// the float runs against the time of day, a part of a day thus moves backwards. The functions have no state and may run
-// on any number of threads.
+// Counts may be negative. Years, quarters and months keep the day, as far as the month has it, and the time
+// of day to the millisecond; they raise EConvertError for a value or a result outside the years 1 to 9999 and
+// for a value that is no number. Weeks and all that is shorter are added to the value as it is, unchecked;
+// before day 0, 1899-12-30, where the float runs against the time of day, a part of a day thus moves
+// backwards. The functions have no state and may run on any number of threads.
 #pragma once
 
 #include <qz/common/uQzDateTimeUtils/CalendarTypes.h>
@@ -40,9 +40,10 @@ constexpr TDateTime QzAddMSecs(TDateTime ADate, std::int32_t ACount) noexcept {
     return ADate + ACount * 1.1574074074074074e-8;
 }
 
-// The minutes rounded up to a multiple of AInterval, and no seconds: 10:50:30 by 15 is 11:00:00, while 10:45:30 is a
-// multiple and becomes 10:45:00. Raises EConvertError for an interval below 1, for a value as above, and where what
-// comes out is no time of this day: hour 24, or a minute above 60, which intervals that do not divide 60 can give.
+// The minutes rounded up to a multiple of AInterval, and no seconds: 10:50:30 by 15 is 11:00:00, while
+// 10:45:30 is a multiple and becomes 10:45:00. Raises EConvertError for an interval below 1, for a value as
+// above, and where what comes out is no time of this day: hour 24, or a minute above 60, which intervals that
+// do not divide 60 can give.
 QZ_API TDateTime QzRoundTime(TDateTime ADate, std::int32_t AInterval);
 
 } // namespace qz

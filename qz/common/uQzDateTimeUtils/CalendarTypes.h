@@ -1,9 +1,9 @@
-// The types of calendar arithmetic: what its operations are told, dates known to be in UTC, and durations.
+// The types of calendar arithmetic: arguments of its operations, dates known to be in UTC, and durations.
 //
 //     TQzUTCDateTime Sent = NowUTC();                                      // the signature says in which zone
 //     TQzDuration Lease = QzEncodeDuration(1, 6, 0, 0, 0, 0, 0, false);    // 18 months, 0 seconds
 //
-// The enumerations keep their order. Each type is described, so that it can be told from others at run time.
+// The order of the enumerators is fixed. Each type is described for reflection.
 #pragma once
 
 #include <qz/runtime/time/DateTime.h>
@@ -31,15 +31,15 @@ using enum TQzDatePeriod;
 enum class TQzWorkDayAdjustment : std::uint8_t { wdLast, wdNext };
 using enum TQzWorkDayAdjustment;
 
-// Which part of a date is asked for.
+// A part of a date.
 enum class TQzDecodeType : std::uint8_t { dtYear, dtMonth, dtDayOfYear, dtDayOfMonth };
 using enum TQzDecodeType;
 
-// How the zone of a time is told: not at all, by its offset from UTC, or as UTC.
+// How a time states its zone: not at all, by its offset from UTC, or as UTC.
 enum class TQzTimeZoneFormat : std::uint8_t { tzfNA, tzfOffset, tzfUTC };
 using enum TQzTimeZoneFormat;
 
-// A TDateTime that is in UTC. The conversion from and to other dates takes the value as it is.
+// A TDateTime in UTC. Conversion from and to other dates keeps the value.
 using TQzUTCDate = TDateTimeKind<struct TQzUTCDateTag>;
 using TQzUTCTime = TDateTimeKind<struct TQzUTCTimeTag>;
 using TQzUTCDateTime = TDateTimeKind<struct TQzUTCDateTimeTag>;

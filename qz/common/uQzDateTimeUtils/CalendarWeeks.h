@@ -40,7 +40,7 @@ TDateTime QzFirstThursdayOfYear(std::integral auto AYear) {
 // 1 to 53, always of the calendar year of the date, unlike ISO 8601: the days of January before week 1 belong
 // to it, and the days of December that ISO 8601 counts to the next year are of week 53.
 QZ_API std::uint16_t QzWeekOfYear(TDateTime ADate);
-// The same in two digits, after four digits of the year where asked for: "01", "202101".
+// The same in two digits, after four digits of the year if requested: "01", "202101".
 QZ_API UnicodeString QzWeekOfYear(TDateTime ADate, bool AWithYear);
 
 // How many days of the month are of the same weekday as ADate: 4 or 5.

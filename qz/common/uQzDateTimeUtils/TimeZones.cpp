@@ -30,7 +30,7 @@ constexpr bool IsAscii(std::u16string_view AText) noexcept {
     return std::all_of(AText.begin(), AText.end(), [](char16_t AChar) { return AChar < 0x80; });
 }
 
-// A hash table known to the compiler, from texts to rows; AFold makes one of what is to count as equal.
+// A compile-time hash table from texts to rows. AFold maps texts that count as equal to one text.
 template <char16_t (*AFold)(char16_t)> class TRowIndex {
 public:
     static constexpr int cNone = -1;
@@ -65,7 +65,7 @@ private:
         std::uint32_t Result = 0;
         for (const char16_t Char : AText) {
             Result = (Result ^ AFold(Char)) * 0x9E3779B1;
-            Result ^= Result >> 15; // what is above comes down again
+            Result ^= Result >> 15; // mixes the high bits into the low ones
         }
         return Result % cSlots;
     }

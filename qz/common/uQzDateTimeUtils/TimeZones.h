@@ -4,8 +4,8 @@
 //     if (TQzTimeZones::FindTimeZone(u"CET", Zone)) ...          // Bias 60
 //     TQzTimeZones::GetTimeZone(u"eastern standard time").Bias;  // -300
 //
-// The table is of the library's making and knows no daylight saving time: that of a zone is an entry of its own. Any
-// thread, without a lock.
+// The library's own table has no daylight saving rules: the daylight saving time of a zone is a separate
+// entry. Any thread, without a lock.
 #pragma once
 
 #include <qz/runtime/base/StringArg.h>
@@ -36,9 +36,9 @@ class QZ_API TQzTimeZones : public TObject {
 public:
     TQzTimeZones() = delete;
 
-    // An abbreviation in the case of its letters, or else a name or Windows name in any. Of several entries with one name it
-    // is the one with the lowest bias, and of those the one that the table has first. An empty text finds the first entry
-    // that lacks a name. False, and an empty zone, when there is none.
+    // An abbreviation in the case of its letters, or else a name or Windows name in any. Of several entries
+    // with one name it is the one with the lowest bias, and of those the one that the table has first. An
+    // empty text finds the first entry that lacks a name. False, and an empty zone, when there is none.
     static bool FindTimeZone(const TStringArg& AName, TQzTimeZone& AZone);
     // The same; raises Exception, "Timezone %s not found!".
     static TQzTimeZone GetTimeZone(const TStringArg& AName);

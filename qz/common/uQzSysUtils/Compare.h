@@ -13,18 +13,19 @@
 
 namespace qz {
 
-// Equality without regard to the case of letters of any language, unit by unit; QzSameTrimmedText also without regard to
-// characters up to U+0020 at the ends.
+// Equality without regard to the case of letters of any language, unit by unit; QzSameTrimmedText also
+// without regard to characters up to U+0020 at the ends.
 QZ_API bool QzSameText(const TStringArg& ALeft, const TStringArg& ARight) noexcept;
 QZ_API bool QzSameText(const AnsiString& ALeft, const AnsiString& ARight);
 QZ_API bool QzSameTrimmedText(const TStringArg& ALeft, const TStringArg& ARight);
 
 QZ_API bool QzSameGuid(const TGUID& ALeft, const TGUID& ARight) noexcept;
 
-// Of one type and equal; raises what the equality of variants raises.
+// Same type and equal. Raises as the equality of variants does.
 QZ_API bool QzSameVar(const Variant& ALeft, const Variant& ARight);
-// Whether each element of the first array is equal to the element of that index in the second. What cannot be compared,
-// or is missing in the second, is not equal; what the second has beyond the bounds of the first does not count.
+// Whether each element of the first array is equal to the element of that index in the second. What cannot be
+// compared, or is missing in the second, is not equal; elements of the second beyond the bounds of the first
+// are ignored.
 QZ_API bool QzSameArray(const Variant& ALeft, const Variant& ARight) noexcept;
 
 // AThen if the condition holds, else AElse.

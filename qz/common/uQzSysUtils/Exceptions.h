@@ -5,8 +5,8 @@
 //     QzRegisterExceptionClass(u"net", 1722, EQzExceptionClass::Of<EHostUnreachable>());   // at program start
 //     if (ExceptionClass Class = QzGetExceptionClass(u"net", 1722)) ...
 //
-// The registry has no lock: classes are registered by one thread while the program starts, and looked up by any
-// number of threads afterwards.
+// The registry has no lock: classes are registered by one thread while the program starts, and looked up by
+// any number of threads afterwards.
 #pragma once
 
 #include <qz/runtime/objects/Exceptions.h>
@@ -32,7 +32,7 @@ private:
     std::int32_t FErrorCode;
 };
 
-// A quiet end with an error code: a handler of last resort shows nothing for it.
+// A silent abort with an error code: a last-resort handler shows nothing for it.
 class QZ_API EQzAbort : public EAbort {
     QZ_EXCEPTION(EQzAbort, EAbort)
 
@@ -55,34 +55,34 @@ using EQzAbortClass = ClassRef<EQzAbort>;
 
 inline constexpr TTextConstant SErrorCodeInUse = u"ErrorCode %d is already in use by %s!";
 
-// Enters a class for an error group and code. The pair is looked up first as QzGetExceptionClass does it, so an empty
-// group meets an entry of that code in any group. The same class again changes nothing. Another class raises
-// EAssertionFailed with SErrorCodeInUse and leaves the registry as it was; while the development environment runs
-// the collision is ignored and the old entry stays. A null class is an assertion failure.
+// Enters a class for an error group and code. The pair is looked up first as QzGetExceptionClass does it, so
+// an empty group meets an entry of that code in any group. The same class again changes nothing. Another
+// class raises EAssertionFailed with SErrorCodeInUse and leaves the registry as it was; while the development
+// environment runs the collision is ignored and the old entry stays. A null class is an assertion failure.
 QZ_API void QzRegisterExceptionClass(const UnicodeString& AErrorGroup, std::int32_t AErrorCode,
                                      EQzExceptionClass AClass);
 QZ_API void QzRegisterExceptionClass(const UnicodeString& AErrorGroup, std::int32_t AErrorCode,
                                      EQzAbortClass AClass);
 
-// The class of the earliest entry with that code and group, or null. Groups are compared exactly; an empty group
-// stands for any.
+// The class of the earliest entry with that code and group, or null. Groups are compared exactly; an empty
+// group stands for any.
 QZ_API ExceptionClass QzGetExceptionClass(const TStringArg& AErrorGroup, std::int32_t AErrorCode) noexcept;
 
-// The class of the earliest entry whose class bears that name, in any case of letters, or null. AErrorCode, unless
-// null, receives the code of the entry, or 0.
+// The class of the earliest entry whose class bears that name, in any case of letters, or null. AErrorCode,
+// unless null, receives the code of the entry, or 0.
 QZ_API ExceptionClass QzGetExceptionClassByName(const TStringArg& AClassName,
                                                 std::int32_t* AErrorCode = nullptr) noexcept;
 
 // True when the development environment has a window on this desktop: one of class "TAlignPalette",
-// "TPropertyInspector" or "TAppBuilder", or one of class "TApplication" with the title that QzSetIdeTitle told.
+// "TPropertyInspector" or "TAppBuilder", or one of class "TApplication" with the title set by QzSetIdeTitle.
 // Always false on a system that has no such desktop.
 QZ_API bool QzIsIdeRunning();
 
-// Tells the title of the environment's application window; empty, as it is at first, leaves that window out. Meant
+// Sets the title of the environment's application window; empty, the default, leaves that window out. Meant
 // for program start.
 QZ_API void QzSetIdeTitle(const UnicodeString& ATitle);
 
-// True when a debugger is attached to the process; false where the system cannot tell.
+// True if a debugger is attached to the process; false if the system cannot report it.
 QZ_API bool QzIsDebuggerPresent() noexcept;
 
 } // namespace qz

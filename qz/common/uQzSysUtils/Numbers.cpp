@@ -13,7 +13,7 @@ namespace {
 constexpr std::int64_t cHighest = INT64_MAX;
 constexpr std::int64_t cLowest = INT64_MIN;
 
-// Below this a fraction is no half in any number of digits that is shown, so that no text is needed to tell.
+// Below this a fraction is no half in any shown number of digits; the check by text can be skipped.
 constexpr double cSurelyLess = 0.499;
 
 bool IsHalf(double AFraction) {

@@ -64,14 +64,14 @@ inline UnicodeString QzTrimLeft(const TStringArg& AText) {
 inline UnicodeString QzTrimRight(const TStringArg& AText) {
     return TrimRight(AText);
 }
-// Without quotes, single or double, and characters up to U+0020 at both ends. Of a text of nothing else the last
-// character stays.
+// Without quotes, single or double, and characters up to U+0020 at both ends. Of a text of nothing else the
+// last character stays.
 QZ_API UnicodeString QzStripLiterals(const TStringArg& AText);
 // Without blanks (U+0020) at the ends, and with one where several follow each other; other white space stays.
 QZ_API UnicodeString QzNormalizeSpace(const TStringArg& AText);
 
-// At least ALength characters, by APad, a blank for 0, at the left or the right; longer texts are not cut. The sign of
-// a number is part of it: -5 becomes "0-5".
+// At least ALength characters, by APad, a blank for 0, at the left or the right; longer texts are not cut.
+// The sign of a number is part of it: -5 becomes "0-5".
 QZ_API UnicodeString QzPadLeft(const TStringArg& AText, int ALength, char16_t APad = u' ');
 QZ_API UnicodeString QzPadRight(const TStringArg& AText, int ALength, char16_t APad = u' ');
 template <std::integral T>

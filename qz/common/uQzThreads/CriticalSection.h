@@ -1,4 +1,4 @@
-// TQzCriticalSection: a re-entrant lock that tells who holds it and can be tried for a time.
+// TQzCriticalSection: a recursive lock that knows its owner and can be tried with a time limit.
 //
 //     TQzCriticalSection Lock;
 //     if (Lock.TryEnter(1000)) {
@@ -7,8 +7,8 @@
 //     }
 //     Lock.IsLocked();           // any thread may ask
 //
-// None of the operations raises. Leaving a lock that one does not hold, or freeing one that is held, is a fault of
-// the caller that nothing checks.
+// None of the operations raises. Leaving a lock that one does not hold, or freeing one that is held, is a
+// fault of the caller that nothing checks.
 #pragma once
 
 #include <atomic>
@@ -35,8 +35,8 @@ public:
             FLockedBy.store(0, std::memory_order_relaxed);
         FCS.Leave();
     }
-    // Tries for ATimeOut milliseconds, without sleeping between the attempts: waits are meant to be short. 0 tries
-    // once.
+    // Tries for ATimeOut milliseconds, without sleeping between the attempts: waits are meant to be short. 0
+    // tries once.
     bool TryEnter(std::uint32_t ATimeOut) noexcept;
 
     // The id of the thread that holds the lock, 0 when it is free.

@@ -5,8 +5,9 @@
 //     ...
 //     Lock.EndRead();
 //
-// Not re-entrant: a thread that holds the lock must not take it again in either form. A release must come from the
-// thread that acquired. The lock itself may be used by any number of threads; it must not move while it is in use.
+// Not re-entrant: a thread that holds the lock must not take it again in either form. A release must come
+// from the thread that acquired. The lock itself may be used by any number of threads; it must not move while
+// it is in use.
 #pragma once
 
 #include <atomic>
@@ -24,9 +25,9 @@ using TAcquireSRWLock = platform::TSlimLockAcquire;
 using TTryAcquireSRWLock = platform::TSlimLockTryAcquire;
 using TReleaseSRWLock = platform::TSlimLockRelease;
 
-// The fallback: a synchroniser that can be tried. It remembers a reader and the writer, and a try looks at them
-// first: a shared one fails while anybody writes, an exclusive one while anybody is known to read or write. No try
-// waits.
+// The fallback: a synchroniser that can be tried. It remembers a reader and the writer, and a try looks at
+// them first: a shared one fails while anybody writes, an exclusive one while anybody is known to read or
+// write. No try waits.
 // NOLINTNEXTLINE(bugprone-reserved-identifier)
 class QZ_API _TMultiReadExclusiveWriteSynchronizer : public TMultiReadExclusiveWriteSynchronizer {
     QZ_CLASS(_TMultiReadExclusiveWriteSynchronizer, TMultiReadExclusiveWriteSynchronizer)
@@ -51,8 +52,8 @@ class QZ_API TQzMultiReadSingleWrite : public TObject {
     QZ_CLASS(TQzMultiReadSingleWrite, TObject)
 
 public:
-    // A lock on the platform's functions, or on the fallback where the platform lacks one of them: the word of a
-    // lock belongs to one kind of functions.
+    // A lock on the platform's functions, or on the fallback where the platform lacks one of them: the word
+    // of a lock belongs to one kind of functions.
     TQzMultiReadSingleWrite();
     // A lock on the fallback, whatever the platform has.
     enum class TFallback { Use };

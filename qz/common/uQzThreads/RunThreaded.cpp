@@ -17,7 +17,7 @@ struct TThreadName {
 };
 thread_local TThreadName GThreadName;
 
-// Sets the event when the last holder of the work lets go of it, whether it was run, failed or was dropped.
+// Sets the event when the last holder releases the work, whether it ran, failed or was dropped.
 class TEventSetter {
 public:
     explicit TEventSetter(Ref<IQzSimpleEvent> AEvent) noexcept : FEvent(std::move(AEvent)) {}
@@ -45,7 +45,7 @@ protected:
         const TEventSetter Setter(FEvent);
         try {
             FProc();
-        } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): only the event tells of the end
+        } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): only the event reports the end
         }
     }
 

@@ -1,10 +1,11 @@
-// IQzSimpleEvent: an event that a thread and whoever waits for it share without an owner.
+// IQzSimpleEvent: a reference-counted event that a thread shares with its waiters.
 //
 //     Ref<IQzSimpleEvent> Done = TQzSimpleEvent::Create();
-//     ... another thread, with a reference of its own: Done->SetEvent();
+//     ... another thread, with its own reference: Done->SetEvent();
 //     if (Done->WaitFor(500) == wrSignaled) ...
 //
-// Manual reset: after SetEvent every WaitFor returns at once, until ResetEvent. Any number of threads may use one.
+// Manual reset: after SetEvent every WaitFor returns at once, until ResetEvent. Any number of threads may use
+// one.
 #pragma once
 
 #include <qz/runtime/objects/InterfacedObject.h>

@@ -11,8 +11,8 @@ struct TCodePageName {
     std::string_view Name;
 };
 
-// The name of each number, in the letter case in which it is given. Of two numbers with one name the first is the one
-// that the name gives.
+// The name of each number, in the letter case in which it is given. Of two numbers with one name the first is
+// the one that the name gives.
 inline constexpr TCodePageName cCodePageNames[] = {
     {37, "IBM037"},
     {437, "IBM437"},

@@ -1,4 +1,5 @@
-// Types that bear names of their own: texts of XML and JSON, arrays, and pointers to the value records of XML Schema.
+// Types that bear names of their own: texts of XML and JSON, arrays, and pointers to the value records of XML
+// Schema.
 //
 //     QzXMLString Document = u"<a/>";          // 16-bit text, but another type to reflection and overloads
 //     TVariantDynArray Row = {1, u"two"};

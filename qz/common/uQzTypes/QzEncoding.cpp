@@ -90,7 +90,7 @@ RawByteString TQzEncoding::ConvertA(const void* ASrc, std::int32_t ALen, std::ui
 std::int32_t TQzEncoding::ConvertA(const void* ASrc, std::int32_t ALen, std::uint16_t ACodePage,
                                    char16_t* ADst, std::int32_t ADstLen) {
     TSource Source = BytesOf(ASrc, ALen, ACodePage);
-    // The terminator belongs to what is converted here: as many zeros as a character of the page has.
+    // The terminator is converted too: as many zeros as a character of the page has bytes.
     if (ALen == -1 && ASrc != nullptr) {
         const bool IsUtf16 = ACodePage == cUtf16CodePage || ACodePage == cUtf16SwappedCodePage;
         const std::size_t Terminator = !QzIsWideCodePage(ACodePage) ? 1 : IsUtf16 ? 2 : 4;

@@ -33,7 +33,7 @@ public:
     static RawByteString ConvertA(const void* ASrc, std::int32_t ALen, std::uint16_t ASrcCodePage,
                                   std::uint16_t ADstCodePage);
     // Into a target of ADstLen units; the number written, a terminator that ALen -1 met counted. A null
-    // target of length 0 asks for the number. Strict, apart from the pages that know no strictness (42,
+    // target of length 0 gives the number needed. Strict, apart from the pages that know no strictness (42,
     // 50220, 50221, 50222, 50225, 50227, 50229, 57002 to 57011, 65000, 65001).
     static std::int32_t ConvertA(const void* ASrc, std::int32_t ALen, std::uint16_t ACodePage, char16_t* ADst,
                                  std::int32_t ADstLen);
@@ -41,7 +41,7 @@ public:
     // UTF-16 to bytes. The result carries ACodePage.
     static RawByteString ConvertW(const UnicodeString& AText, std::uint16_t ACodePage);
     static RawByteString ConvertW(const char16_t* ASrc, std::int32_t ALen, std::uint16_t ACodePage);
-    // Into a target of ADstLen bytes; a null target of length 0 asks for the number.
+    // Into a target of ADstLen bytes; a null target of length 0 gives the number needed.
     static std::int32_t ConvertW(const char16_t* ASrc, std::int32_t ALen, char* ADst, std::int32_t ADstLen,
                                  std::uint16_t ACodePage);
 

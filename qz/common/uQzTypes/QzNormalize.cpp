@@ -25,7 +25,7 @@ bool IsCompatibleWith(char16_t AUnit, std::u16string_view AText) {
     return Plain && *Plain == AText;
 }
 
-// What the system's code page gives for a character that no page has.
+// The replacement of the system's code page for a character that no page has.
 char DefaultByte() {
     constexpr char16_t cNothing = 0xFFFF;
     char Bytes[4] = {'?'};

@@ -19,8 +19,8 @@ class QZ_API TQzTypes {
 public:
     TQzTypes() = delete;
 
-    // TVarType here is any 16-bit number, also one that no variant bears; with the flag varArray it is an array
-    // whatever its elements.
+    // TVarType here is any 16-bit number, also one that no variant bears; with the flag varArray it is an
+    // array whatever its elements.
     static constexpr TQzMainTypeKind ToMainTypeKind(TQzTypeKind AKind) noexcept {
         return detail::RowOf(AKind).Main;
     }
@@ -32,8 +32,8 @@ public:
         return ToMainTypeKind(ToTypeKind(AKind));
     }
 
-    // Raises EAssertionFailed, "The type %s cannot be converted to a TQzTypeKind!" with the ordinal, for a value outside
-    // the enumeration.
+    // Raises EAssertionFailed, "The type %s cannot be converted to a TQzTypeKind!" with the ordinal, for a
+    // value outside the enumeration.
     static constexpr TQzTypeKind ToTypeKind(TTypeKind AKind) {
         const auto Index = static_cast<std::size_t>(AKind);
         if (Index >= std::size(detail::cTypeKinds))
@@ -44,8 +44,9 @@ public:
         return (AType & varArray) != 0 ? rtkDynArray : detail::RowOf(AType).Kind;
     }
 
-    // The code of the variants that hold values of the kind; varEmpty for arrays. Raises Exception, "The given datatype
-    // cannot be converted to a Variant Type!", for a record, pointer, method, procedure, exception or class reference.
+    // The code of the variants that hold values of the kind; varEmpty for arrays. Raises Exception, "The
+    // given datatype cannot be converted to a Variant Type!", for a record, pointer, method, procedure,
+    // exception or class reference.
     static constexpr TVarType ToVarType(TQzTypeKind AKind) {
         const std::int32_t Code = detail::RowOf(AKind).VarCode;
         if (Code == detail::cNoVarType)
@@ -54,14 +55,14 @@ public:
     }
     static constexpr TVarType ToVarType(TTypeKind AKind) { return ToVarType(ToTypeKind(AKind)); }
 
-    // The name in XML Schema; the schema type goes to ASchemaType unless that is null. A variant code without a schema
-    // type raises Exception, "The given TVarType \"%d\" could not be converted to a valid SchemaType!", an array of
-    // such elements with the code of the elements.
+    // The name in XML Schema; the schema type goes to ASchemaType unless that is null. A variant code without
+    // a schema type raises Exception, "The given TVarType \"%d\" could not be converted to a valid
+    // SchemaType!", an array of such elements with the code of the elements.
     static UnicodeString ToSchemaType(TVarType AType, PQzSchemaDataType ASchemaType = nullptr);
     static UnicodeString ToSchemaType(TQzTypeKind AKind, PQzSchemaDataType ASchemaType = nullptr);
 
-    // Whether values of the kind are numbers, characters, texts, dates, enumerations, sets or variants; the coarse kind
-    // of a variant is not simple.
+    // Whether values of the kind are numbers, characters, texts, dates, enumerations, sets or variants; the
+    // coarse kind of a variant is not simple.
     static constexpr bool IsSimpleTypeKind(TTypeKind AKind) noexcept {
         constexpr TSet<TTypeKind> cSimple = {tkInteger, tkChar,    tkEnumeration, tkFloat,
                                              tkString,  tkSet,     tkWChar,       tkLString,
@@ -89,8 +90,8 @@ private:
     [[noreturn]] static void RaiseNoVarType();
 };
 
-// The format of that name in QzDataSerializationFormatType, in any case of letters. Raises Exception, "The format %s is
-// not supported!!".
+// The format of that name in QzDataSerializationFormatType, in any case of letters. Raises Exception, "The
+// format %s is not supported!!".
 QZ_API TQzDataSerializationFormatType GetDataSerializationFormat(const TStringArg& AText);
 
 } // namespace qz

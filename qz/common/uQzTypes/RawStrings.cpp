@@ -8,7 +8,7 @@
 namespace qz {
 namespace {
 
-// AText ends with a terminator, which is copied too.
+// The terminator of AText is copied too.
 template <class TChar> TChar* Copy(const TChar* AText, std::size_t ALength) {
     auto Result = std::make_unique<TChar[]>(ALength + 1);
     std::memcpy(Result.get(), AText, (ALength + 1) * sizeof(TChar));

@@ -4,16 +4,16 @@
 //     ...
 //     QzStrDispose(Buffer);
 //
-// The caller owns a buffer and ends it by QzStrDispose, on any thread. A text of this language's own, such as "x", is taken as
-// 16 bits.
+// The caller owns a buffer and frees it by QzStrDispose, on any thread. A C++ literal, such as "x", is taken
+// as 16 bits.
 #pragma once
 
 #include <qz/runtime/text/AnsiString.h>
 
 namespace qz {
 
-// 8 bits: the bytes of the text up to the first terminator, also of an empty text; 16-bit text is converted to the system's
-// code page, and what that lacks is its best fit or "?".
+// 8 bits: the bytes of the text up to the first terminator, also of an empty text; 16-bit text is converted
+// to the system's code page, and what that lacks is its best fit or "?".
 QZ_API char* QzStrNewA(const AnsiString& AText);
 QZ_API char* QzStrNewA(const WideString& AText);
 // 16 bits: the whole text, null for an empty one.

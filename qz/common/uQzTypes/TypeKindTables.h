@@ -122,7 +122,7 @@ inline constexpr TQzTypeKind cTypeKinds[] = {
     rtkMethod,  rtkWChar,    rtkAString, rtkWString,     rtkVariant,  rtkArray,    rtkRecord, rtkInterface,
     rtkInt64,   rtkDynArray, rtkWString, rtkClassRef,    rtkPointer,  rtkProcedure}; // by TTypeKind
 
-// The rows by code; what is at the place of an unknown code says so.
+// The rows by code; the entry of an unknown code is marked.
 inline constexpr auto cVarTypes = [] {
     std::array<TVarTypeRow, cVarTypeRows[std::size(cVarTypeRows) - 1].Code + 1> Result{};
     for (const TVarTypeRow& Row : cVarTypeRows)

@@ -1,11 +1,11 @@
-// The vocabularies in which a value's type is spoken of, beside the runtime's TTypeKind and its variant codes: the fine
-// TQzTypeKind, the coarse TQzMainTypeKind, and those of XML Schema and JSON.
+// The vocabularies in which a value's type is spoken of, beside the runtime's TTypeKind and its variant
+// codes: the fine TQzTypeKind, the coarse TQzMainTypeKind, and those of XML Schema and JSON.
 //
 //     if (TQzSimpleTypeKind::Contains(Kind)) ...
 //     QzSchemaDataType[static_cast<int>(xsdDateTime)];    // u"datetime"
 //
-// The ordinals are stored and compared; they do not change. QzTypes.h converts from one vocabulary to another. Each
-// enumeration is described, so that its values can be shown by name.
+// The ordinals are stored and compared; they do not change. QzTypes.h converts from one vocabulary to
+// another. Each enumeration is described, so that its values can be shown by name.
 #pragma once
 
 #include <qz/runtime/objects/TypeInfo.h>

@@ -1,4 +1,4 @@
-// What a variant is: empty, how many elements it has, a boolean or none.
+// Queries of variants: emptiness, number of elements, boolean content.
 //
 //     QzVarIsEmpty(u"  ");                       // true
 //     QzVarArrayCount(VarArrayOf({1, 2, 3}));    // 3
@@ -12,12 +12,12 @@
 
 namespace qz {
 
-// A number or date that is 0, a text of blanks, an array that ends at index -1 in its first dimension, anything else
-// that is empty or null. No boolean is empty.
+// A number or date that is 0, a text of blanks, an array that ends at index -1 in its first dimension,
+// anything else that is empty or null. No boolean is empty.
 QZ_API bool QzVarIsEmpty(const Variant& AValue);
 
-// The number of elements of an array that begins at 0, in its first dimension: its highest index there and one more,
-// wherever it begins. 0 for what is no array.
+// The number of elements of an array that begins at 0, in its first dimension: its highest index there and
+// one more, wherever it begins. 0 for any other variant.
 QZ_API std::int32_t QzVarArrayCount(const Variant& AValue);
 
 // nbYes and nbNo for a boolean, nbNull for anything else.

@@ -3,11 +3,11 @@
 //     QzVarInt(Value, -1);        // -1 for an empty or null variant, EConvertError for a text
 //     QzVarBool(u"Yes", false);   // true
 //
-// An empty or null variant, and any other of the unknown kind (TQzTypes::VarTypeKind), gives the default. A type that
-// does not fit raises EConvertError with the message beside the function, in which "..." stands for "The given value is
-// not a valid". Numbers are cut to the width of the result without a test of their range, the default too; a number that
-// does not fit 32 bits where they are read so raises EVariantOverflowError. VarTolerant.h holds the functions that
-// convert. Any number of threads may call them.
+// An empty or null variant, and any other of the unknown kind (TQzTypes::VarTypeKind), gives the default. A
+// type that does not fit raises EConvertError with the message beside the function, in which "..." stands for
+// "The given value is not a valid". Numbers are cut to the width of the result without a test of their range,
+// the default too; a number that does not fit 32 bits where they are read so raises EVariantOverflowError.
+// VarTolerant.h holds the functions that convert. Any number of threads may call them.
 #pragma once
 
 #include <qz/runtime/base/Extended.h>

@@ -13,9 +13,9 @@ namespace qz {
 inline constexpr TCharSet cQzInvalidFileNameChars =
     TCharSet::Range('\0', '\x1F') + TCharSet{'"', '*', '/', ':', '<', '>', '?', '\\', '|'};
 
-// The name, which is no path, without those characters and without the ones in AExtra. A character above 255 is in no
-// set. Nothing else is looked at: an empty name, "..", "nul.txt" and a point at the end stay, which systems read in their
-// own way. Any thread.
+// The name, which is no path, without those characters and without the ones in AExtra. A character above 255
+// is in no set. Nothing else is looked at: an empty name, "..", "nul.txt" and a point at the end stay, which
+// systems read in their own way. Any thread.
 QZ_API UnicodeString QzCleanupFileName(const TStringArg& AName, const TCharSet& AExtra = {});
 
 } // namespace qz

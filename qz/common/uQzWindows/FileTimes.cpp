@@ -8,7 +8,7 @@ namespace qz {
 namespace {
 
 constexpr std::int64_t cStepsPerMSec = 10'000;
-constexpr std::int64_t cDay1980 = 29221; // what DOS dates can tell
+constexpr std::int64_t cDay1980 = 29221; // the range of DOS dates
 constexpr std::int64_t cDay2108 = 75972;
 
 std::int64_t FileTimeOf(TDateTime ADate) {

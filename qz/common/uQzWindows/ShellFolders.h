@@ -7,9 +7,9 @@
 
 namespace qz {
 
-// The folder with a number of the Windows shell (CSIDL); platform/ShellFolders.h tells what they are on Linux. A folder
-// that is missing is made. Raises Exception, "Invalid pidl", for a number without a folder and for one that can neither
-// be found nor made. Any thread.
+// The folder with a number of the Windows shell (CSIDL); platform/ShellFolders.h lists them for Linux. A
+// folder that is missing is made. Raises Exception, "Invalid pidl", for a number without a folder and for one
+// that can neither be found nor made. Any thread.
 QZ_API UnicodeString QzGetShellFolder(std::int32_t AFolder);
 
 // The user's own documents, as QzGetShellFolder(5).

@@ -40,7 +40,7 @@ std::uint16_t NumberOf6(const TWindowsFacts& AFacts) {
     return AFacts.CurrentVersion == u"6.3" ? 630 : 621;
 }
 
-// For a system that does not tell, or one that is too old to be in the table.
+// For a system that reports no version, or one too old for the table.
 std::uint16_t NumberByFunctions(const TWindowsFacts& AFacts) {
     if (AFacts.HasOpenThread)
         return 11;

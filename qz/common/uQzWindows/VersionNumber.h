@@ -1,4 +1,4 @@
-// The number of a version of Windows, from what the system tells of itself.
+// The version number of Windows, from the facts that the system reports.
 #pragma once
 
 #include <qz/platform/SystemVersion.h>
