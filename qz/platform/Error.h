@@ -1,10 +1,7 @@
 // System error numbers and their text, and TResult: the value of a system operation, or its error.
 //
-//     const TResult<std::vector<std::byte>> Data = ReadWholeFile(u"settings.xml");
-//     if (!Data)
-//         Show(ErrorText(Data.Code()));
-//     else
-//         Parse(*Data);
+//     if (const TResult<> Made = MakeDirectory(u"reports"); !Made)
+//         Show(ErrorText(Made.Code()));
 #pragma once
 
 #include <concepts>

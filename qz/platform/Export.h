@@ -1,7 +1,7 @@
 // QZ_API marks what the library exports.
 //
-//     class QZ_API TThing { ... };
-//     QZ_API int Count();
+//     class QZ_API TThing {};
+//     QZ_API int CountOf(const TThing& AThing);
 //
 // The library is compiled with hidden visibility: on ELF systems a class or function without the mark is not
 // visible outside the shared library. Templates and inline functions need no mark. A DLL exports all symbols

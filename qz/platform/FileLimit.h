@@ -2,7 +2,7 @@
 //
 //     if (Size + Count > FileSizeLimit()) {
 //         const TNoLimitSignal Quiet;
-//         File.Write(...);               // fails with EFBIG; without the object the process would end
+//         Written = File.Write(Bytes);   // fails with EFBIG; without the object the process would end
 //     }
 //
 // Linux has such a limit (RLIMIT_FSIZE): a write beyond it raises SIGXFSZ, which ends the process by default.

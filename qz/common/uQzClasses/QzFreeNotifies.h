@@ -1,9 +1,12 @@
 // TQzFreeNotifies: a node beside any object, by which objects on different threads are notified of each
 // other's destruction.
 //
-//     class TView {
+//     class TView : public TObject {
+//     public:
 //         TQzFreeNotifies FNotifies{this, [this](TObject* AObject) { Forget(AObject); }};
+//         void Forget(TObject* AObject);
 //     };
+//     TView View;
 //     View.FNotifies.Add(&Model.FNotifies);
 //
 // All operations may be called from any thread. The end of a node runs the procedures of its partners under

@@ -1,7 +1,7 @@
 // Streams as memory: the rest of any stream as one block, and a block that is written to a stream.
 //
-//     TQzReadBuf Rest(Stream);                       // frees what has to be freed
-//     Parse(Rest.Bytes());
+//     TQzReadBuf Rest(Memory);                       // frees the block if necessary
+//     Use(Rest.Bytes());
 //
 // A stream in memory lends its own block; any other stream is read into a new one.
 #pragma once

@@ -3,7 +3,9 @@
 //     throw EQzException(u"Cannot reach %s", {Host}, 1722);
 //
 //     QzRegisterExceptionClass(u"net", 1722, EQzExceptionClass::Of<EHostUnreachable>());   // at program start
-//     if (ExceptionClass Class = QzGetExceptionClass(u"net", 1722)) ...
+//     if (ExceptionClass Class = QzGetExceptionClass(u"net", 1722))
+//         Use(Class->Name());
+//     throw EQzException(u"Cannot reach %s", {Host}, 1722);
 //
 // The registry has no lock: classes are registered by one thread while the program starts, and looked up by
 // any number of threads afterwards.

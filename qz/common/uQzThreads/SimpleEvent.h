@@ -1,7 +1,7 @@
 // IQzSimpleEvent: a reference-counted event that a thread shares with its waiters.
 //
 //     Ref<IQzSimpleEvent> Done = TQzSimpleEvent::Create();
-//     ... another thread, with its own reference: Done->SetEvent();
+//     std::thread Worker([Done] { Done->SetEvent(); });
 //     if (Done->WaitFor(500) == wrSignaled) ...
 //
 // Manual reset: after SetEvent every WaitFor returns at once, until ResetEvent. Any number of threads may use

@@ -2,7 +2,7 @@
 //
 //     UnicodeString Wide = TQzEncoding::ConvertA(RawByteString("Z\xF6"), 1252);
 //     RawByteString Narrow = TQzEncoding::ConvertW(u"Zoë", 65001);
-//     RawByteString Other = TQzEncoding::ConvertB(Bytes, 1252, 866);
+//     RawByteString Other = TQzEncoding::ConvertB(Bytes.data(), Bytes.size(), 1252, 866);
 //
 // Code page 0 is the system's. Lengths count bytes in ConvertA and ConvertB and 16-bit units in ConvertW; a
 // length of -1 means that the text ends before its first terminator (a character 0). Null and empty sources

@@ -39,6 +39,24 @@ enum class TVarRecKind : std::uint8_t {
 };
 using enum TVarRecKind;
 
+namespace detail {
+template <class T>
+concept CPlainInteger =
+    std::integral<T> && !std::same_as<T, bool> && !std::same_as<T, char> && !std::same_as<T, char16_t> &&
+    !std::same_as<T, wchar_t> && !std::same_as<T, char32_t> && !std::same_as<T, char8_t>;
+// 32-bit signed and narrower integers are vtInteger, an unsigned 32-bit one needs 64 bits.
+template <CPlainInteger T>
+inline constexpr TVarRecKind cKindOf = sizeof(T) < 4 || (sizeof(T) == 4 && std::is_signed_v<T>) ? vtInteger
+    : sizeof(T) == 8 && std::is_unsigned_v<T>                                                   ? vtUInt64
+                                                                                                : vtInt64;
+template <class T>
+concept CUtf8Argument = CNarrowText<T> && !std::derived_from<T, TByteText>;
+template <class T>
+concept CObjectType = requires(const T* AObject) {
+    AObject->ClassType();
+};
+} // namespace detail
+
 class TVarRec {
 public:
     TVarRec(std::same_as<bool> auto AValue) noexcept : FKind(vtBoolean) { FValue.Int = AValue; }
@@ -46,14 +64,7 @@ public:
         FValue.Int = static_cast<unsigned char>(AValue);
     }
     TVarRec(std::same_as<char16_t> auto AValue) noexcept : FKind(vtWideChar) { FValue.Int = AValue; }
-    template <std::integral T>
-        requires(!std::same_as<T, bool> && !std::same_as<T, char> && !std::same_as<T, char16_t> &&
-                 !std::same_as<T, wchar_t> && !std::same_as<T, char32_t> && !std::same_as<T, char8_t>)
-    TVarRec(T AValue)
-    noexcept
-        : FKind(sizeof(T) < 4 || std::same_as<T, int> || (sizeof(T) == 4 && std::is_signed_v<T>) ? vtInteger
-                    : sizeof(T) == 8 && std::is_unsigned_v<T>                                    ? vtUInt64
-                                                                                                 : vtInt64) {
+    template <detail::CPlainInteger T> TVarRec(T AValue) noexcept : FKind(detail::cKindOf<T>) {
         FValue.Int = static_cast<std::int64_t>(AValue);
     }
     TVarRec(std::floating_point auto AValue) noexcept : FKind(vtExtended) {
@@ -65,20 +76,17 @@ public:
     template <CWideText T> TVarRec(const T& AText) noexcept : TVarRec(detail::ViewOf<char16_t>(AText), 0) {}
     template <std::size_t N>
     TVarRec(const TTextConstant<N>& AText) noexcept : TVarRec(std::u16string_view(AText), 0) {}
-    template <CNarrowText T>
-        requires(!std::derived_from<T, TByteText>)
-    TVarRec(const T& AText)
-    noexcept : FKind(vtUtf8) { SetText(detail::ViewOf<char>(AText)); }
+    template <detail::CUtf8Argument T> TVarRec(const T& AText) noexcept : FKind(vtUtf8) {
+        SetText(detail::ViewOf<char>(AText));
+    }
     template <CUtf8Text T> TVarRec(const T& AText) noexcept : FKind(vtUtf8) {
         SetText(detail::NarrowView(detail::ViewOf<char8_t>(AText)));
     }
     TVarRec(const TByteText& AText) noexcept : FKind(vtAnsiString) { FValue.Pointer = &AText; }
     TVarRec(const TObject* AObject) noexcept : FKind(vtObject) { FValue.Pointer = AObject; }
     // An object that has interfaces too is taken as the object.
-    template <class T>
-        requires(requires(const T* AObject) { AObject->ClassType(); })
-    TVarRec(const T* AObject)
-    noexcept : TVarRec(static_cast<const TObject*>(AObject)) {}
+    template <detail::CObjectType T>
+    TVarRec(const T* AObject) noexcept : TVarRec(static_cast<const TObject*>(AObject)) {}
     TVarRec(const TClassRec* AClass) noexcept : FKind(vtClass) { FValue.Pointer = AClass; }
     TVarRec(const IInterface* AInterface) noexcept : FKind(vtInterface) { FValue.Pointer = AInterface; }
     TVarRec(const void* APointer) noexcept : FKind(vtPointer) { FValue.Pointer = APointer; }

@@ -11,9 +11,9 @@
 namespace qz {
 
 constinit const TClassRec EEvaluatorError::ClassRec =
-    DescribeException<EEvaluatorError>(u"EEvaluatorError", u"System.Bindings.EvalProtocol");
+    DescribeException<EEvaluatorError>(u"EEvaluatorError", u"System");
 constinit const TClassRec TBindingExpression::ClassRec =
-    DescribeClass<TBindingExpression>(u"TBindingExpression", {.Unit = u"System.Bindings.Expression"});
+    DescribeClass<TBindingExpression>(u"TBindingExpression", {.Unit = u"System"});
 
 namespace {
 
@@ -127,7 +127,7 @@ private:
     TBindingExpression* FBinding;
 };
 constinit const TClassRec TBindingExpression::TWatch::ClassRec =
-    DescribeClass<TWatch>(u"TBindingWatch", {.Unit = u"System.Bindings.Expression"});
+    DescribeClass<TWatch>(u"TBindingWatch", {.Unit = u"System"});
 
 TObject* TBindingScope::Find(std::u16string_view AName) const noexcept {
     for (const TBindingAssociation& Item : FItems)

@@ -8,11 +8,11 @@
 namespace qz {
 
 constinit const TClassRec TCollectionItem::ClassRec = DescribeClass<TCollectionItem>(
-    u"TCollectionItem", {.Unit = u"System.Classes", .Makers = CollectionItemMaker<TCollectionItem>()});
+    u"TCollectionItem", {.Unit = u"System", .Makers = CollectionItemMaker<TCollectionItem>()});
 constinit const TClassRec TCollection::ClassRec =
-    DescribeClass<TCollection>(u"TCollection", {.Unit = u"System.Classes"});
+    DescribeClass<TCollection>(u"TCollection", {.Unit = u"System"});
 constinit const TClassRec TOwnedCollection::ClassRec =
-    DescribeClass<TOwnedCollection>(u"TOwnedCollection", {.Unit = u"System.Classes"});
+    DescribeClass<TOwnedCollection>(u"TOwnedCollection", {.Unit = u"System"});
 
 // While an item is built its class is not yet the one that it will have, so the class is not looked at.
 TCollectionItem::TCollectionItem(TCollection* ACollection) {

@@ -42,11 +42,9 @@ void Grow(std::vector<TComponent*>& AList) {
 
 } // namespace
 
-constinit const TClassRec TComponent::ClassRec =
-    DescribeComponent<TComponent>(u"TComponent",
-                                  {.Unit = u"System.Classes",
-                                   .Properties = cComponentProps,
-                                   .Interfaces = Interfaces<TComponent, IInterface>()});
+constinit const TClassRec TComponent::ClassRec = DescribeComponent<TComponent>(
+    u"TComponent",
+    {.Unit = u"System", .Properties = cComponentProps, .Interfaces = Interfaces<TComponent, IInterface>()});
 
 TComponent::TComponent(TComponent* AOwner) {
     if (AOwner != nullptr)

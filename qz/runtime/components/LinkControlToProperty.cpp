@@ -41,7 +41,7 @@ private:
 
 constinit const TClassRec TLinkControlToProperty::ClassRec = DescribeComponent<TLinkControlToProperty>(
     u"TLinkControlToProperty",
-    {.Unit = u"Data.Bind.Components",
+    {.Unit = u"System",
      .Properties = cLinkProps,
      .Interfaces = Interfaces<TLink, IControlValueObserver, IObserver>()});
 

@@ -23,7 +23,7 @@ int LocaleText(TView ALeft, TView ARight) {
 } // namespace
 
 constinit const TClassRec TStringList::ClassRec =
-    DescribeClass<TStringList>(u"TStringList", {.Unit = u"System.Classes"});
+    DescribeClass<TStringList>(u"TStringList", {.Unit = u"System"});
 
 TStringList::~TStringList() {
     try {

@@ -66,8 +66,7 @@ void SkipBlanks(TView& AText) noexcept {
 
 } // namespace
 
-constinit const TClassRec TStrings::ClassRec =
-    DescribeClass<TStrings>(u"TStrings", {.Unit = u"System.Classes"});
+constinit const TClassRec TStrings::ClassRec = DescribeClass<TStrings>(u"TStrings", {.Unit = u"System"});
 
 void TStrings::IndexError(int AIndex) {
     throw EStringListError(SListIndexError, {AIndex});

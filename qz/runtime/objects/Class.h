@@ -6,6 +6,7 @@
 //     };
 //     const TClassRec TShape::ClassRec = DescribeClass<TShape>(u"TShape", {.Unit = u"Drawing"});   // in the .cpp
 //
+//     TShape Shape;
 //     TClass Class = Shape.ClassType();
 //     Class->Name();                            // "TShape"
 //     Class->InheritsFrom(ClassOf<TObject>());

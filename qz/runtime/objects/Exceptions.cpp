@@ -6,57 +6,50 @@
 namespace qz {
 namespace {
 
-constexpr std::u16string_view cErrorUnit = u"System.SysUtils";
-constexpr std::u16string_view cClassesUnit = u"System.Classes";
+constexpr std::u16string_view cUnit = u"System";
 
 } // namespace
 
-constinit const TClassRec Exception::ClassRec = DescribeException<Exception>(u"Exception", cErrorUnit);
-constinit const TClassRec EAbort::ClassRec = DescribeException<EAbort>(u"EAbort", cErrorUnit);
+constinit const TClassRec Exception::ClassRec = DescribeException<Exception>(u"Exception", cUnit);
+constinit const TClassRec EAbort::ClassRec = DescribeException<EAbort>(u"EAbort", cUnit);
 constinit const TClassRec EAssertionFailed::ClassRec =
-    DescribeException<EAssertionFailed>(u"EAssertionFailed", cErrorUnit);
-constinit const TClassRec EConvertError::ClassRec =
-    DescribeException<EConvertError>(u"EConvertError", cErrorUnit);
-constinit const TClassRec EInvalidCast::ClassRec =
-    DescribeException<EInvalidCast>(u"EInvalidCast", cErrorUnit);
+    DescribeException<EAssertionFailed>(u"EAssertionFailed", cUnit);
+constinit const TClassRec EConvertError::ClassRec = DescribeException<EConvertError>(u"EConvertError", cUnit);
+constinit const TClassRec EInvalidCast::ClassRec = DescribeException<EInvalidCast>(u"EInvalidCast", cUnit);
 constinit const TClassRec EIntfCastError::ClassRec =
-    DescribeException<EIntfCastError>(u"EIntfCastError", cErrorUnit);
+    DescribeException<EIntfCastError>(u"EIntfCastError", cUnit);
 constinit const TClassRec EInvalidPointer::ClassRec =
-    DescribeException<EInvalidPointer>(u"EInvalidPointer", cErrorUnit);
+    DescribeException<EInvalidPointer>(u"EInvalidPointer", cUnit);
 constinit const TClassRec EInvalidOperation::ClassRec =
-    DescribeException<EInvalidOperation>(u"EInvalidOperation", cErrorUnit);
-constinit const TClassRec ERangeError::ClassRec = DescribeException<ERangeError>(u"ERangeError", cErrorUnit);
+    DescribeException<EInvalidOperation>(u"EInvalidOperation", cUnit);
+constinit const TClassRec ERangeError::ClassRec = DescribeException<ERangeError>(u"ERangeError", cUnit);
 constinit const TClassRec ENotSupportedException::ClassRec =
-    DescribeException<ENotSupportedException>(u"ENotSupportedException", cErrorUnit);
+    DescribeException<ENotSupportedException>(u"ENotSupportedException", cUnit);
 constinit const TClassRec EArgumentException::ClassRec =
-    DescribeException<EArgumentException>(u"EArgumentException", cErrorUnit);
+    DescribeException<EArgumentException>(u"EArgumentException", cUnit);
 constinit const TClassRec EArgumentNilException::ClassRec =
-    DescribeException<EArgumentNilException>(u"EArgumentNilException", cErrorUnit);
+    DescribeException<EArgumentNilException>(u"EArgumentNilException", cUnit);
 constinit const TClassRec EArgumentOutOfRangeException::ClassRec =
-    DescribeException<EArgumentOutOfRangeException>(u"EArgumentOutOfRangeException", cErrorUnit);
-constinit const TClassRec EListError::ClassRec = DescribeException<EListError>(u"EListError", cClassesUnit);
+    DescribeException<EArgumentOutOfRangeException>(u"EArgumentOutOfRangeException", cUnit);
+constinit const TClassRec EListError::ClassRec = DescribeException<EListError>(u"EListError", cUnit);
 constinit const TClassRec EStringListError::ClassRec =
-    DescribeException<EStringListError>(u"EStringListError", cClassesUnit);
+    DescribeException<EStringListError>(u"EStringListError", cUnit);
 constinit const TClassRec EComponentError::ClassRec =
-    DescribeException<EComponentError>(u"EComponentError", cClassesUnit);
+    DescribeException<EComponentError>(u"EComponentError", cUnit);
 constinit const TClassRec EClassNotFound::ClassRec =
-    DescribeException<EClassNotFound>(u"EClassNotFound", cClassesUnit);
+    DescribeException<EClassNotFound>(u"EClassNotFound", cUnit);
 constinit const TClassRec EPropertyError::ClassRec =
-    DescribeException<EPropertyError>(u"EPropertyError", cErrorUnit);
+    DescribeException<EPropertyError>(u"EPropertyError", cUnit);
 constinit const TClassRec EPropertyConvertError::ClassRec =
-    DescribeException<EPropertyConvertError>(u"EPropertyConvertError", u"System.TypInfo");
-constinit const TClassRec EThread::ClassRec = DescribeException<EThread>(u"EThread", cClassesUnit);
-constinit const TClassRec EStreamError::ClassRec =
-    DescribeException<EStreamError>(u"EStreamError", cClassesUnit);
-constinit const TClassRec EFCreateError::ClassRec =
-    DescribeException<EFCreateError>(u"EFCreateError", cClassesUnit);
-constinit const TClassRec EFOpenError::ClassRec =
-    DescribeException<EFOpenError>(u"EFOpenError", cClassesUnit);
-constinit const TClassRec EReadError::ClassRec = DescribeException<EReadError>(u"EReadError", cClassesUnit);
-constinit const TClassRec EWriteError::ClassRec =
-    DescribeException<EWriteError>(u"EWriteError", cClassesUnit);
-constinit const TClassRec EOSError::ClassRec = DescribeException<EOSError>(u"EOSError", cErrorUnit);
-constinit const TClassRec EInOutError::ClassRec = DescribeException<EInOutError>(u"EInOutError", cErrorUnit);
+    DescribeException<EPropertyConvertError>(u"EPropertyConvertError", cUnit);
+constinit const TClassRec EThread::ClassRec = DescribeException<EThread>(u"EThread", cUnit);
+constinit const TClassRec EStreamError::ClassRec = DescribeException<EStreamError>(u"EStreamError", cUnit);
+constinit const TClassRec EFCreateError::ClassRec = DescribeException<EFCreateError>(u"EFCreateError", cUnit);
+constinit const TClassRec EFOpenError::ClassRec = DescribeException<EFOpenError>(u"EFOpenError", cUnit);
+constinit const TClassRec EReadError::ClassRec = DescribeException<EReadError>(u"EReadError", cUnit);
+constinit const TClassRec EWriteError::ClassRec = DescribeException<EWriteError>(u"EWriteError", cUnit);
+constinit const TClassRec EOSError::ClassRec = DescribeException<EOSError>(u"EOSError", cUnit);
+constinit const TClassRec EInOutError::ClassRec = DescribeException<EInOutError>(u"EInOutError", cUnit);
 
 Exception::Exception(const UnicodeString& AMessage) : FMessage(AMessage), FWhat(std::string(AMessage)) {}
 

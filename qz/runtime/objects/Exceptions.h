@@ -8,8 +8,11 @@
 //     const TClassRec EBadShape::ClassRec =                     // in the .cpp, with DescribeException.h
 //         DescribeException<EBadShape>(u"EBadShape", u"Drawing");
 //
-//     throw EBadShape(u"The shape %s has no corner", {Name});
-//     catch (const Exception& E) { Log->Error(E.Message()); }
+//     try {
+//         throw EBadShape(u"The shape %s has no corner", {Name});
+//     } catch (const Exception& E) {
+//         Show(E.Message());
+//     }
 //
 // Exceptions are values: thrown, copied and caught as any of C++, and a std::exception whose what() is UTF-8.
 #pragma once

@@ -5,8 +5,9 @@
 //         static constexpr TGUID IID = Guid("{D2C4F2A6-3E6D-4B1E-9C39-5A6E8F1B7C20}");
 //         virtual void Greet(const UnicodeString& AName) = 0;
 //     };
-//     Ref<IGreeter> Greeter = TGreeter::Create();
-//     if (Ref<IOther> Other = As<IOther>(Greeter)) ...
+//     Ref<IGreeter> Greeter;
+//     if (Ref<IOther> Other = As<IOther>(Greeter))
+//         Other->Wave();
 //
 // An interface is laid out as COM lays it out: three operations, then its own in order, no destructor. On
 // Windows an interface of this library is a COM interface. Counting is safe on any number of threads; one Ref
@@ -45,6 +46,11 @@ protected:
     ~IInterface() = default;
 };
 
+namespace detail {
+template <class J, class I>
+concept CPointsTo = std::convertible_to<J*, I*>;
+}
+
 // A counted reference to an interface, or to an object of a counted class; null until assigned.
 template <class I> class Ref {
 public:
@@ -60,13 +66,8 @@ public:
     Ref(T* AObject) : Ref(AObject == nullptr ? nullptr : static_cast<I*>(AObject->FindInterface(I::IID))) {}
     Ref(const Ref& AOther) : Ref(AOther.FObject) {}
     Ref(Ref&& AOther) noexcept : FObject(std::exchange(AOther.FObject, nullptr)) {}
-    template <class J>
-        requires(std::convertible_to<J*, I*>)
-    Ref(const Ref<J>& AOther) : Ref(static_cast<I*>(AOther.Get())) {}
-    template <class J>
-        requires(std::convertible_to<J*, I*>)
-    Ref(Ref<J>&& AOther)
-    noexcept : FObject(AOther.Detach()) {}
+    template <detail::CPointsTo<I> J> Ref(const Ref<J>& AOther) : Ref(static_cast<I*>(AOther.Get())) {}
+    template <detail::CPointsTo<I> J> Ref(Ref<J>&& AOther) noexcept : FObject(AOther.Detach()) {}
     // Assignment takes the new reference before it drops the old one.
     Ref& operator=(Ref AOther) noexcept {
         std::swap(FObject, AOther.FObject);

@@ -6,7 +6,7 @@
 namespace qz {
 
 constinit const TClassRec TPersistent::ClassRec =
-    DescribeClass<TPersistent>(u"TPersistent", {.Unit = u"System.Classes"});
+    DescribeClass<TPersistent>(u"TPersistent", {.Unit = u"System"});
 
 void TPersistent::Assign(TPersistent* ASource) {
     if (ASource == nullptr)

@@ -5,6 +5,7 @@
 //     public:
 //         void Assign(TPersistent* ASource) override;    // copies what it knows, else calls Inherited::Assign
 //     };
+//     TFont Title, Body;
 //     Title.Assign(&Body);
 #pragma once
 

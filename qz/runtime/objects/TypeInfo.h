@@ -2,8 +2,8 @@
 // handled.
 //
 //     PTypeInfo Info = TypeInfo<TColor>();            // a described type; others do not compile
-//     Info->Kind == TTypeKind::tkEnumeration;
-//     Info->QualifiedName();                          // "MyUnit.TColor"
+//     TTypeKind Kind = Info->Kind;                    // tkEnumeration
+//     UnicodeString Name = Info->QualifiedName();     // "MyUnit.TColor"
 //
 // There is one TTypeInfo for a type; its address is the type's identity. Descriptions are constants of the
 // program, filled by the functions of Describe.h, and may be read by any number of threads.
@@ -157,10 +157,9 @@ concept CHasTypeDescription = requires {
     TTypeDescription<T>::Info;
 };
 template <class T>
-concept CInterfaceType = requires {
+concept CInterfaceType = !CHasClassRec<T> && requires {
     T::IID;
-}
-&&!CHasClassRec<T>;
+};
 
 template <class T>
 concept CInteger = std::integral<T> && sizeof(T) <= 8 && !std::same_as<T, bool> && !std::same_as<T, char> &&

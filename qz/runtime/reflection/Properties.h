@@ -71,26 +71,28 @@ inline TPropInfos GetPropInfos(TClass AClass) noexcept {
     return TPropInfos(AClass == nullptr ? nullptr : AClass->ClassInfo());
 }
 
+namespace detail {
+template <class T>
+concept CPropName = std::constructible_from<TStringArg, const T&>;
+}
+
 // A property argument: its name or its description. Valid during the call.
 class TPropArg {
 public:
-    template <class T>
-        requires std::constructible_from<TStringArg, const T&> TPropArg(const T& AName) : FName(AName) {}
-        TPropArg(const TPropInfo& AProp) noexcept : FName(AProp.Name), FProp(&AProp) {}
+    template <detail::CPropName T> TPropArg(const T& AName) : FName(AName) {}
+    TPropArg(const TPropInfo& AProp) noexcept : FName(AProp.Name), FProp(&AProp) {}
 
-        // The property of that class. Raises EPropertyError when there is none of that name.
-        QZ_API const TPropInfo& Of(PTypeInfo AClass) const;
-        const TPropInfo& Of(const TObject& AObject) const {
-            return Of(AObject.ClassType()->ClassInfo());
-        }
-        // The same; null instead of the exception.
-        const TPropInfo* Find(PTypeInfo AClass) const noexcept {
-            return FProp != nullptr ? FProp : GetPropInfo(AClass, FName);
-        }
+    // The property of that class. Raises EPropertyError when there is none of that name.
+    QZ_API const TPropInfo& Of(PTypeInfo AClass) const;
+    const TPropInfo& Of(const TObject& AObject) const { return Of(AObject.ClassType()->ClassInfo()); }
+    // The same; null instead of the exception.
+    const TPropInfo* Find(PTypeInfo AClass) const noexcept {
+        return FProp != nullptr ? FProp : GetPropInfo(AClass, FName);
+    }
 
-    private:
-        TStringArg FName;
-        const TPropInfo* FProp = nullptr;
+private:
+    TStringArg FName;
+    const TPropInfo* FProp = nullptr;
 };
 
 inline bool IsPublishedProp(const TObject& AObject, const TStringArg& AName) noexcept {

@@ -42,7 +42,7 @@ template <class E>
 } // namespace
 
 constinit const TClassRec TFileStream::ClassRec =
-    DescribeClass<TFileStream>(u"TFileStream", {.Unit = u"Streams"});
+    DescribeClass<TFileStream>(u"TFileStream", {.Unit = u"System"});
 
 TFileStream::TFileStream(const TStringArg& AFileName, std::uint16_t AMode) : FFileName(AFileName.View()) {
     const bool Creates = (AMode & fmCreate) == fmCreate;

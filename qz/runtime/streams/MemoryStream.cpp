@@ -15,9 +15,9 @@
 namespace qz {
 
 constinit const TClassRec TCustomMemoryStream::ClassRec =
-    DescribeClass<TCustomMemoryStream>(u"TCustomMemoryStream", {.Unit = u"Streams"});
+    DescribeClass<TCustomMemoryStream>(u"TCustomMemoryStream", {.Unit = u"System"});
 constinit const TClassRec TMemoryStream::ClassRec =
-    DescribeClass<TMemoryStream>(u"TMemoryStream", {.Unit = u"Streams"});
+    DescribeClass<TMemoryStream>(u"TMemoryStream", {.Unit = u"System"});
 
 std::int32_t TCustomMemoryStream::Read(void* ABuffer, std::int32_t ACount) {
     const std::int64_t Count = std::clamp<std::int64_t>(FSize - FPosition, 0, std::max(ACount, 0));

@@ -18,7 +18,7 @@ std::int32_t StepOf(std::int64_t ACount, std::int64_t ALargest) {
 
 } // namespace
 
-constinit const TClassRec TStream::ClassRec = DescribeClass<TStream>(u"TStream", {.Unit = u"Streams"});
+constinit const TClassRec TStream::ClassRec = DescribeClass<TStream>(u"TStream", {.Unit = u"System"});
 
 std::int64_t TStream::GetSize() {
     const std::int64_t Here = Position();

@@ -7,7 +7,7 @@
 namespace qz {
 
 constinit const TClassRec TStringStream::ClassRec =
-    DescribeClass<TStringStream>(u"TStringStream", {.Unit = u"Streams"});
+    DescribeClass<TStringStream>(u"TStringStream", {.Unit = u"System"});
 
 TStringStream::TStringStream(const TStringArg& AText, const TEncoding& AEncoding) : FEncoding(AEncoding) {
     WriteString(AText);

@@ -17,7 +17,7 @@ std::span<char> Chars(const TBytes& ABytes) {
 
 } // namespace
 
-constinit const TClassRec TEncoding::ClassRec = DescribeClass<TEncoding>(u"TEncoding", {.Unit = u"Text"});
+constinit const TClassRec TEncoding::ClassRec = DescribeClass<TEncoding>(u"TEncoding", {.Unit = u"System"});
 
 bool TEncoding::IsSingleByte() const {
     return platform::CodePageMaxCharSize(RealCodePage(FCodePage)) == 1;

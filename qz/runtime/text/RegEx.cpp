@@ -62,7 +62,7 @@ std::uint32_t FlagsOf(TRegExOptions AOptions) {
 } // namespace
 
 const TClassRec ERegularExpressionError::ClassRec =
-    DescribeException<ERegularExpressionError>(u"ERegularExpressionError", u"Text");
+    DescribeException<ERegularExpressionError>(u"ERegularExpressionError", u"System");
 
 struct TRegEx::TCode {
     THandle<pcre2_code, pcre2_code_free> Code;

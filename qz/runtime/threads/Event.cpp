@@ -8,7 +8,7 @@
 namespace qz {
 namespace {
 
-constexpr std::u16string_view cUnit = u"System.SyncObjs";
+constexpr std::u16string_view cUnit = u"System";
 
 } // namespace
 

@@ -1,7 +1,7 @@
 // TEvent: a signal that threads wait for, and TSimpleEvent, one that stays until it is reset.
 //
 //     TSimpleEvent Done;
-//     ... another thread: Done.SetEvent();
+//     std::thread Worker([&] { Done.SetEvent(); });
 //     if (Done.WaitFor(500) == wrSignaled) ...
 //
 // Any number of threads may use one event at the same time. An event may be freed by the thread that it woke.

@@ -9,7 +9,7 @@ namespace qz {
 
 constinit const TClassRec TMultiReadExclusiveWriteSynchronizer::ClassRec =
     DescribeClass<TMultiReadExclusiveWriteSynchronizer>(u"TMultiReadExclusiveWriteSynchronizer",
-                                                        {.Unit = u"System.SysUtils"});
+                                                        {.Unit = u"System"});
 
 auto TMultiReadExclusiveWriteSynchronizer::FindReader(std::uint32_t AThread) noexcept -> TReader* {
     const auto Found = std::find_if(FReaders.begin(), FReaders.end(),

@@ -25,11 +25,11 @@ private:
 };
 
 constinit const TClassRec TAnonymousThread::ClassRec =
-    DescribeClass<TAnonymousThread>(u"TAnonymousThread", {.Unit = u"System.Classes", .IsPublic = false});
+    DescribeClass<TAnonymousThread>(u"TAnonymousThread", {.Unit = u"System", .IsPublic = false});
 
 } // namespace
 
-constinit const TClassRec TThread::ClassRec = DescribeClass<TThread>(u"TThread", {.Unit = u"System.Classes"});
+constinit const TClassRec TThread::ClassRec = DescribeClass<TThread>(u"TThread", {.Unit = u"System"});
 
 TThread::~TThread() {
     if (FThread.joinable()) {

@@ -9,7 +9,7 @@
 //         }
 //     };
 //     TLoader* Loader = TLoader::Create();                // runs at once
-//     ... main loop: TThread::CheckSynchronize(100);
+//     TThread::CheckSynchronize(100);                     // in the main loop
 //     Loader->Free();                                     // requests termination and waits
 //
 // The main thread is the one that loaded the library. It runs queued work whenever it calls CheckSynchronize.

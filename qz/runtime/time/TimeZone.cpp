@@ -8,7 +8,7 @@
 namespace qz {
 namespace {
 
-constexpr std::u16string_view cUnit = u"System.DateUtils";
+constexpr std::u16string_view cUnit = u"System";
 constexpr auto cLocalTimeTypes = EnumItems({u"ltStandard", u"ltDaylight", u"ltAmbiguous", u"ltInvalid"});
 
 constexpr std::int64_t cFirstDay = 1 - DateDelta;
@@ -47,10 +47,6 @@ const detail::TZonePeriod& PeriodOf(const detail::TZoneTable& ATable, TDateTime 
 
 TTimeSpan SpanOf(const detail::TZonePeriod& APeriod) noexcept {
     return {APeriod.Offset * TTimeSpan::TicksPerMillisecond};
-}
-
-TZoneYearDay YearDayOf(const detail::TZoneChangeDay& ADay) noexcept {
-    return {ADay.Month, ADay.Occurrence, ADay.DayOfTheWeek, ADay.MSecs / static_cast<double>(MSecsPerDay)};
 }
 
 } // namespace
@@ -113,8 +109,8 @@ UnicodeString TTimeZone::GetDisplayName(TDateTime ALocal, bool AForceDaylight) c
 void TTimeZone::GetYearChanges(int AYear, TZoneYearDay& AToStandard, TZoneYearDay& AToDaylight) const {
     EncodeDate(AYear, 1, 1);
     const detail::TZoneYear Year = detail::CurrentZone().YearAt(AYear);
-    AToStandard = YearDayOf(Year.ToStandard);
-    AToDaylight = YearDayOf(Year.ToDaylight);
+    AToStandard = Year.ToStandard;
+    AToDaylight = Year.ToDaylight;
 }
 
 } // namespace qz

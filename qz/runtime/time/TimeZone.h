@@ -16,6 +16,7 @@
 #include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/time/DateTime.h>
 #include <qz/runtime/time/TimeSpan.h>
+#include <qz/runtime/time/ZoneYearDay.h>
 
 namespace qz {
 
@@ -24,14 +25,6 @@ QZ_PLAIN_EXCEPTION(ELocalTimeInvalid, Exception);
 
 enum class TLocalTimeType : std::uint8_t { ltStandard, ltDaylight, ltAmbiguous, ltInvalid };
 using enum TLocalTimeType;
-
-// A yearly day by an occurrence of a weekday, 5 for the last, and a time of day. Month 0 is no day.
-struct TZoneYearDay {
-    int Month = 0;
-    int Occurrence = 0;
-    int DayOfTheWeek = 0; // 1 Monday to 7 Sunday
-    TTime Time;
-};
 
 class QZ_API TTimeZone {
 public:

@@ -61,12 +61,12 @@ constinit const TTypeInfo TInfo<UTF8String>::Info =
 constinit const TTypeInfo TInfo<RawByteString>::Info =
     DescribeType<RawByteString>(tkLString, u"RawByteString", cSystem);
 constinit const TTypeInfo TInfo<TBytes>::Info =
-    DescribeOf<TBytes, std::uint8_t>(tkDynArray, u"TBytes", u"System.SysUtils");
+    DescribeOf<TBytes, std::uint8_t>(tkDynArray, u"TBytes", u"System");
 constinit const TTypeInfo TInfo<decltype(TGUID::D4)>::Info =
     DescribeOf<decltype(TGUID::D4), std::uint8_t>(tkArray, u"TGUIDTail", cSystem);
 constinit const TTypeInfo TInfo<TGUID>::Info = DescribeRecord<TGUID>(u"TGUID", cSystem, cGuidFields);
 constinit const TTypeInfo TInfo<TCharSet>::Info =
-    DescribeOf<TCharSet, char>(tkSet, u"TSysCharSet", u"System.SysUtils");
+    DescribeOf<TCharSet, char>(tkSet, u"TSysCharSet", u"System");
 constinit const TTypeInfo TInfo<void*>::Info = DescribeType<void*>(tkPointer, u"Pointer", cSystem);
 constinit const TTypeInfo TInfo<TClass>::Info = DescribeType<TClass>(tkClassRef, u"TClass", cSystem);
 constinit const TTypeInfo TInfo<IInterface>::Info = DescribeInterface<IInterface>(u"IInterface", cSystem);

@@ -11,7 +11,7 @@
 
 namespace qz {
 
-constinit const TTypeInfo TTypeDescription<TValue>::Info = DescribeRecord<TValue>(u"TValue", u"System.Rtti");
+constinit const TTypeInfo TTypeDescription<TValue>::Info = DescribeRecord<TValue>(u"TValue", u"System");
 
 namespace detail {
 

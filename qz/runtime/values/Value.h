@@ -1,7 +1,7 @@
 // TValue: a value of any described type, together with its type.
 //
 //     TValue Value = 17;                             // texts, numbers, enumerations, objects, interfaces, records
-//     Value.Kind() == tkInteger;
+//     TTypeKind Kind = Value.Kind();                 // tkInteger
 //     Value.AsInt64();                               // 17; AsString raises EInvalidCast
 //     TValue Object = Shape.get();                   // which the value does not own
 //     if (TPoint Point; Other.TryAsType(Point)) ...

@@ -5,13 +5,13 @@
 
 namespace qz {
 
-const TClassRec EVariantError::ClassRec = DescribeException<EVariantError>(u"EVariantError", u"Variants");
+const TClassRec EVariantError::ClassRec = DescribeException<EVariantError>(u"EVariantError", u"System");
 const TClassRec EVariantInvalidOpError::ClassRec =
-    DescribeException<EVariantInvalidOpError>(u"EVariantInvalidOpError", u"Variants");
+    DescribeException<EVariantInvalidOpError>(u"EVariantInvalidOpError", u"System");
 const TClassRec EVariantTypeCastError::ClassRec =
-    DescribeException<EVariantTypeCastError>(u"EVariantTypeCastError", u"Variants");
+    DescribeException<EVariantTypeCastError>(u"EVariantTypeCastError", u"System");
 const TClassRec EVariantOverflowError::ClassRec =
-    DescribeException<EVariantOverflowError>(u"EVariantOverflowError", u"Variants");
+    DescribeException<EVariantOverflowError>(u"EVariantOverflowError", u"System");
 
 constinit const TTypeInfo TTypeDescription<Variant>::Info =
     DescribeType<Variant>(tkVariant, u"Variant", u"System");

@@ -43,6 +43,14 @@ QZ_PLAIN_EXCEPTION(EVariantOverflowError, EVariantError);
 namespace detail {
 struct TVariantItems;
 struct TVariantAccess;
+template <class T>
+concept CVariantInteger = std::integral<T> && CVariantNumber<T>;
+template <class T>
+concept CVariantText = std::convertible_to<const T&, UnicodeString> && !std::derived_from<T, WideString>;
+template <class I>
+concept CVariantInterface = std::constructible_from<Ref<IInterface>, I*>;
+template <class T>
+concept CVariantObject = std::derived_from<T, TObject> && !std::is_const_v<T>;
 } // namespace detail
 
 class QZ_API Variant {
@@ -50,10 +58,9 @@ public:
     // An integer has the type of its width and sign, so that a long is another one on Windows than on Linux.
     Variant() noexcept = default; // empty
     Variant(std::same_as<bool> auto AValue) noexcept : FType(varBoolean) { FData.Integer = AValue ? -1 : 0; }
-    template <std::integral T>
-        requires(detail::CVariantNumber<T>)
-    Variant(T AValue)
-    noexcept : FType(detail::VarTypeOf<T>()) { FData.Integer = static_cast<std::int64_t>(AValue); }
+    template <detail::CVariantInteger T> Variant(T AValue) noexcept : FType(detail::VarTypeOf<T>()) {
+        FData.Integer = static_cast<std::int64_t>(AValue);
+    }
     Variant(float AValue) noexcept : FType(varSingle) { FData.Single = AValue; }
     Variant(double AValue) noexcept : FType(varDouble) { FData.Real = AValue; }
     Variant(Extended AValue) noexcept : Variant(AValue.Value) {}
@@ -69,20 +76,18 @@ public:
         FData.Integer = static_cast<std::int64_t>(AValue.Low);
     }
     // A text of any form that UnicodeString takes.
-    template <class T>
-        requires(std::convertible_to<const T&, UnicodeString> && !std::derived_from<T, WideString>)
-    Variant(const T& AText) : FType(varUString) { new (&FData.Wide) UnicodeString(AText); }
+    template <detail::CVariantText T> Variant(const T& AText) : FType(varUString) {
+        new (&FData.Wide) UnicodeString(AText);
+    }
     Variant(const WideString& AText) noexcept : FType(varOleStr) { new (&FData.Wide) UnicodeString(AText); }
     Variant(const AnsiString& AText) noexcept : FType(varString) { new (&FData.Narrow) TByteText(AText); }
     // An interface, which the variant counts.
-    template <class I>
-    requires std::constructible_from<Ref<IInterface>, I*> Variant(const Ref<I>& AInterface) noexcept
-        : Variant(Ref<IInterface>(AInterface.Get()), varUnknown) {}
+    template <detail::CVariantInterface I>
+    Variant(const Ref<I>& AInterface) noexcept : Variant(Ref<IInterface>(AInterface.Get()), varUnknown) {}
     // An object, not owned.
-    template <std::derived_from<TObject> T>
-        requires(!std::is_const_v<T>)
-    Variant(T* AObject)
-    noexcept : FType(varObject) { FData.Object = AObject; }
+    template <detail::CVariantObject T> Variant(T* AObject) noexcept : FType(varObject) {
+        FData.Object = AObject;
+    }
     Variant(const Variant& AOther) noexcept {
         CopyBits(AOther);
         if (IsManaged(FType))

@@ -10,9 +10,9 @@
 namespace qz {
 
 const TClassRec EVariantArrayCreateError::ClassRec =
-    DescribeException<EVariantArrayCreateError>(u"EVariantArrayCreateError", u"Variants");
+    DescribeException<EVariantArrayCreateError>(u"EVariantArrayCreateError", u"System");
 const TClassRec EVariantBadIndexError::ClassRec =
-    DescribeException<EVariantBadIndexError>(u"EVariantBadIndexError", u"Variants");
+    DescribeException<EVariantBadIndexError>(u"EVariantBadIndexError", u"System");
 
 namespace {
 

@@ -187,7 +187,7 @@ std::int64_t DayInYear(const TZoneDay& ADay, int AYear) noexcept {
 }
 
 // A local time as an occurrence of a weekday in its month.
-TZoneChangeDay YearDayOf(std::int64_t ALocal) {
+TZoneYearDay YearDayOf(std::int64_t ALocal) {
     const std::int64_t DayOf1899 = (ALocal - (ALocal < 0 ? cMSecsPerDay - 1 : 0)) / cMSecsPerDay;
     const TDateTime Date = static_cast<double>(DayOf1899);
     std::uint16_t Year, Month, Day;
@@ -196,7 +196,7 @@ TZoneChangeDay YearDayOf(std::int64_t ALocal) {
     return {.Month = Month,
             .Occurrence = IsLast ? 5 : (Day + 6) / 7,
             .DayOfTheWeek = DayOfTheWeek(Date),
-            .MSecs = static_cast<std::int32_t>(ALocal - DayOf1899 * cMSecsPerDay)};
+            .Time = static_cast<double>(ALocal - DayOf1899 * cMSecsPerDay) / cMSecsPerDay};
 }
 
 } // namespace

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include <qz/platform/TimeZone.h>
-#include <qz/runtime/time/DateTime.h>
+#include <qz/runtime/time/ZoneYearDay.h>
 
 namespace qz::detail {
 
@@ -37,15 +37,9 @@ struct TZoneMatch {
 
 // The days on which a year changes to either time, as the local clock showed it until then: an occurrence of
 // a weekday, 5 for the last. All 0 in a year without the two changes.
-struct TZoneChangeDay {
-    int Month = 0;
-    int Occurrence = 0;
-    int DayOfTheWeek = 0; // 1 Monday to 7 Sunday
-    std::int32_t MSecs = 0;
-};
 struct TZoneYear {
-    TZoneChangeDay ToStandard;
-    TZoneChangeDay ToDaylight;
+    TZoneYearDay ToStandard;
+    TZoneYearDay ToDaylight;
 };
 
 class QZ_API TZoneTable {

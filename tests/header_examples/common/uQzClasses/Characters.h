@@ -1,0 +1,7 @@
+#pragma once
+
+#include <qz/common/uQzClasses/TextParser.h>
+
+namespace qz {
+extern TQzTextParser& Parser;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+namespace qz {
+
+class TModel : public TObject {
+public:
+    TQzFreeNotifies FNotifies{this, [](TObject*) {}};
+};
+inline TModel Model;
+
+} // namespace qz

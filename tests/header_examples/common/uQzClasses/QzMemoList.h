@@ -1,0 +1,6 @@
+#pragma once
+
+#include <qz/runtime/lists/StringList.h>
+
+inline qz::TQzMemoList* List;
+inline qz::TStringList Lines;

@@ -1,0 +1,3 @@
+#pragma once
+
+static char Buffer[16];

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace qz {
+
+class TQzShape : public TQzObject {
+    QZ_CLASS(TQzShape, TQzObject)
+};
+
+} // namespace qz

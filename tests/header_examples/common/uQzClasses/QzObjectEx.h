@@ -1,0 +1,8 @@
+#pragma once
+
+namespace qz {
+
+inline TObject* FModel;
+inline TQzObjectEx *View, *Model;
+
+} // namespace qz

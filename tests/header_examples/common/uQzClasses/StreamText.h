@@ -1,0 +1,5 @@
+#pragma once
+
+#include <qz/runtime/streams/Streams.h>
+
+inline qz::TMemoryStream Stream, Source, Target;

@@ -1,0 +1,3 @@
+#pragma once
+
+inline qz::TDateTime Born;

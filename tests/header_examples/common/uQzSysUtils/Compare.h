@@ -1,0 +1,5 @@
+#pragma once
+
+#include <qz/common/uQzSysUtils/Strings.h>
+
+inline int Count;

@@ -1,0 +1,3 @@
+#pragma once
+
+#include <qz/runtime/values/VariantArray.h>

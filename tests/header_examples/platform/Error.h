@@ -1,0 +1,3 @@
+#pragma once
+
+#include <qz/platform/Files.h>

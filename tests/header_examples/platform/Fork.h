@@ -1,0 +1,4 @@
+#pragma once
+
+static void TakeLocks() {}
+static void ReleaseLocks() {}

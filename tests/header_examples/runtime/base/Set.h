@@ -1,0 +1,3 @@
+#pragma once
+
+#include <qz/runtime/base/StringUtils.h>

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <vector>
+
+static std::u16string Wide;
+static std::vector<char> Bytes;

@@ -1,0 +1,11 @@
+#pragma once
+
+namespace qz {
+
+class TServer : public TComponent {
+    QZ_CLASS(TServer, TComponent)
+protected:
+    explicit TServer(TComponent* AOwner) : TComponent(AOwner) {}
+};
+
+} // namespace qz

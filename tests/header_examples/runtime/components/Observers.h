@@ -1,0 +1,5 @@
+#pragma once
+
+#include <qz/runtime/components/Components.h>
+
+static qz::UnicodeString FText;

@@ -1,0 +1,4 @@
+#pragma once
+
+#include "tests/header_examples/Shapes.h"
+#include <qz/runtime/values/BasicTypes.h>

@@ -1,0 +1,5 @@
+#pragma once
+
+#include "tests/header_examples/Shapes.h"
+
+inline qz::TShape* Shape;

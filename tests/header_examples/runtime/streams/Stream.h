@@ -1,0 +1,9 @@
+#pragma once
+
+struct THeader {
+    int Version;
+};
+inline THeader Header;
+namespace qz {
+extern TStream& Body;
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+static std::vector<std::byte> Bytes;
+static std::array<char, 16> Buffer;

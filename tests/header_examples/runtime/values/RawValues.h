@@ -1,0 +1,4 @@
+#pragma once
+
+extern const qz::TPropInfo& Prop;
+extern void* Room;

@@ -1,0 +1,4 @@
+#pragma once
+
+enum TDay { dSunday, dMonday, dTuesday, dFriday = 5 };
+inline TDay Other;

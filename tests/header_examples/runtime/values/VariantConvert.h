@@ -1,0 +1,3 @@
+#pragma once
+
+inline qz::Variant V;
