@@ -1,14 +1,22 @@
 // Code around fork(), by which a process becomes two and only the calling thread goes on in the new one.
 //
-//     AroundFork(TakeLocks, GiveLocksBack, GiveLocksBack);     // so that no other thread holds one at that moment
+//     AroundFork(TForkRank::Zone, TakeLocks, ReleaseLocks, ReleaseLocks);     // so that no other thread holds one then
+//
+// This is the one place that says in which order the locks of the library are taken around a fork.
 #pragma once
+
+#include <cstdint>
 
 #include <qz/platform/Export.h>
 
 namespace qz::platform {
 
-// Has ABefore called on the forking thread before each fork(), and behind it AInParent and AInChild, each in its process.
-// There is no way to take it back. Does nothing on a system without fork().
-QZ_API void AroundFork(void (*ABefore)(), void (*AInParent)(), void (*AInChild)());
+// From the outermost lock to the innermost: code that holds one may wait for those that follow, and for no earlier one.
+enum class TForkRank : std::uint8_t { Loggers, LogFiles, Zone, Environment };
+
+// Has ABefore called on the forking thread before each fork(), and AInParent or AInChild after it, each in its process.
+// ABefore runs in the order of the ranks, the other two in the reverse order, whatever the order of the calls of this
+// function. A rank is registered once, at the start of the program. Does nothing on a system without fork().
+QZ_API void AroundFork(TForkRank ARank, void (*ABefore)(), void (*AInParent)(), void (*AInChild)());
 
 } // namespace qz::platform

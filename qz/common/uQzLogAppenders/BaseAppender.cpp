@@ -1,7 +1,9 @@
 #include <qz/common/uQzLogAppenders/BaseAppender.h>
 
+#include <qz/common/uQzLogger/LogAppenderList.h>
 #include <qz/common/uQzLogger/LogDrops.h>
-#include <qz/common/uQzLogger/QzLogger.h>
+#include <qz/common/uQzLogger/LoggerClass.h>
+#include <qz/common/uQzLogger/detail/LogThread.h>
 #include <qz/common/uQzTypes/VarTolerant.h>
 
 namespace qz {
@@ -9,6 +11,16 @@ namespace qz {
 constinit const TClassRec TQzBaseAppender::ClassRec = DescribeLogBase<TQzBaseAppender>(
     u"TQzBaseAppender",
     {.Unit = u"uQzLogAppenders", .Interfaces = Interfaces<TQzBaseAppender, IQzLogAppenderEx>()});
+
+void TQzBaseAppender::Lock() noexcept {
+    detail::BeginBusy();
+    FLock.Enter();
+}
+
+void TQzBaseAppender::Unlock() noexcept {
+    FLock.Leave();
+    detail::EndBusy();
+}
 
 void TQzBaseAppender::AfterConstruction() {
     Inherited::AfterConstruction();
@@ -114,6 +126,23 @@ void TQzBaseAppender::SetLayout(const UnicodeString& AClassName) {
 Ref<IQzLogLayout> TQzBaseAppender::GetLayout() {
     const TScopedLock Hold(*this);
     return FLayout;
+}
+
+// The operations of uQzLogger for an appender of this unit.
+void IQzLogger::AddAppender(TQzBaseAppender* AAppender) {
+    AddAppender(static_cast<IQzLogAppender*>(AAppender));
+}
+
+void IQzLogger::RemoveAppender(TQzBaseAppender* AAppender) {
+    RemoveAppender(static_cast<IQzLogAppender*>(AAppender));
+}
+
+void TQzLogAppenderList::Add(TQzBaseAppender* AAppender) {
+    Add(static_cast<IQzLogAppender*>(AAppender));
+}
+
+void TQzLogAppenderList::Remove(TQzBaseAppender* AAppender) {
+    Remove(static_cast<IQzLogAppender*>(AAppender));
 }
 
 } // namespace qz

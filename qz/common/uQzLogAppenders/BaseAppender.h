@@ -21,9 +21,8 @@
 
 namespace qz {
 
-class QZ_API TQzBaseAppender : public TQzLogBase, public IQzLogAppenderEx {
+class QZ_API TQzBaseAppender : public TQzLogBaseWith<TQzLogBase, IQzLogAppenderEx> {
     QZ_CLASS(TQzBaseAppender, TQzLogBase)
-    QZ_LOG_BASE(TQzLogBase)
 
 public:
     // Makes the appender open and closed. A descendant opens and closes its resource around these.
@@ -41,10 +40,9 @@ public:
     void SetLayout(const UnicodeString& AClassName) override;
     Ref<IQzLogLayout> GetLayout();
 
-    // The lock of the appender, which re-enters.
-    void Lock() noexcept { FLock.Enter(); }
-    void Unlock() noexcept { FLock.Leave(); }
-    bool TryLock() noexcept { return FLock.TryEnter(); }
+    // The lock of the appender, which re-enters. Messages of a thread that holds it are delivered after Unlock.
+    void Lock() noexcept;
+    void Unlock() noexcept;
     void Enter() noexcept { Lock(); }
     void Leave() noexcept { Unlock(); }
 
@@ -53,10 +51,10 @@ public:
     void BeforeDestruction() override;
 
 protected:
-    using TQzLogBase::TQzLogBase;
+    using TQzLogBaseWith::TQzLogBaseWith;
     ~TQzBaseAppender() override = default;
 
-    bool IsAppender() const noexcept override { return true; }
+    TCriticalSection* AppenderLock() noexcept override { return &FLock; }
     // The layout, which may be null, and whether the appender is open; under the lock.
     IQzLogLayout* Layout() const noexcept { return FLayout.Get(); }
     bool IsInitialized() const noexcept { return FInitialized; }
@@ -66,6 +64,7 @@ protected:
     UnicodeString Footer();
     UnicodeString FormatLine(const UnicodeString& ALogger, TQzLogLevel ALevel, const UnicodeString& AMessage,
                              PQzDataRec AValue, TQzLogIndent AIndent);
+    // For a resource with operations that call nothing outside this library.
     TCriticalSection& OwnLock() noexcept { return FLock; }
     // Whether a call of Initialize is under way.
     bool IsInitializing() const noexcept { return FInitializing != 0; }

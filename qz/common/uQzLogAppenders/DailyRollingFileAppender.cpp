@@ -34,7 +34,7 @@ constexpr std::u16string_view cWithinSecond = u"Zz";
 } // namespace
 
 TQzDailyRollingFileAppender::TQzDailyRollingFileAppender(TQzLogger* ALogger, const UnicodeString& AName)
-    : Inherited(ALogger, AName),
+    : TQzFileAppenderWith(ALogger, AName),
       FDatePattern(cPattern) {
     Inherited::SetMaxFileSize(cLargestSize);
 }

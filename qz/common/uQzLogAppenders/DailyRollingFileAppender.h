@@ -27,9 +27,9 @@ protected:
     ~IQzDailyRollingFileAppender() = default;
 };
 
-class QZ_API TQzDailyRollingFileAppender : public TQzRollingFileAppender, public IQzDailyRollingFileAppender {
+class QZ_API TQzDailyRollingFileAppender
+    : public TQzFileAppenderWith<TQzRollingFileAppender, IQzDailyRollingFileAppender> {
     QZ_CLASS(TQzDailyRollingFileAppender, TQzRollingFileAppender)
-    QZ_FILE_APPENDER(TQzRollingFileAppender)
 
 public:
     void Initialize() override;

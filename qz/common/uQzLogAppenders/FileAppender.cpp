@@ -44,7 +44,7 @@ UnicodeString DefaultFileName() {
 } // namespace
 
 TQzFileAppender::TQzFileAppender(TQzLogger* ALogger, const UnicodeString& AName)
-    : Inherited(ALogger, AName),
+    : TQzLogBaseWith(ALogger, AName),
       FFileName(DefaultFileName()),
       FFileExt(cExtension) {}
 

@@ -52,9 +52,8 @@ public:
     UnicodeString FileNameRight; // what stands between the number and the extension
 };
 
-class QZ_API TQzRollingFileAppender : public TQzFileAppender, public IQzRollingFileAppender {
+class QZ_API TQzRollingFileAppender : public TQzFileAppenderWith<TQzFileAppender, IQzRollingFileAppender> {
     QZ_CLASS(TQzRollingFileAppender, TQzFileAppender)
-    QZ_FILE_APPENDER(TQzFileAppender)
 
 public:
     void Initialize() override;
@@ -81,7 +80,7 @@ public:
     void RollOver() override;
 
 protected:
-    using TQzFileAppender::TQzFileAppender;
+    using TQzFileAppenderWith::TQzFileAppenderWith;
     // The name of the file without its extension.
     UnicodeString BasePath() const;
 

@@ -1,8 +1,9 @@
 #include <qz/common/uQzLogAppenders/TextFile.h>
 
 #include <algorithm>
+#include <vector>
 
-#include <qz/common/uQzLogAppenders/LineFlusher.h>
+#include <qz/common/uQzLogAppenders/detail/LineFlusher.h>
 #include <qz/common/uQzLogger/LogDrops.h>
 #include <qz/common/uQzWindows/FileTimes.h>
 #include <qz/platform/FileLimit.h>
@@ -11,6 +12,7 @@
 #include <qz/runtime/files/FileSystem.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/streams/FileStream.h>
 #include <qz/runtime/time/DateTime.h>
 
 namespace qz {
@@ -20,41 +22,56 @@ constinit const TClassRec TQzTextFile::ClassRec =
 
 namespace {
 
+constexpr TTextConstant cCannotSeek = u"Cannot seek in file \"%s\". %s";
+constexpr TTextConstant cCannotWrite = u"Cannot write to file \"%s\". %s";
 constexpr std::u16string_view cLineEnd = u"\r\n";
 constexpr std::size_t cMostBytesOfUnit = 3;
 constexpr std::uint64_t cLookEvery = 1000; // milliseconds
 
-// After a fork the family of processes writes to its files together.
+// After a fork the processes share their files.
 std::atomic<bool> GHasForked{false};
 
-// Makes the file, if it is not there at this moment. Its day is that of its making even where its name has been used before.
+template <class E>
+[[noreturn]] void Raise(const TStringArg& APattern, const TStringArg& AFile, platform::TError AError) {
+    throw E(APattern, {AFile.View(), SysErrorMessage(AError.Code)});
+}
+
+// Makes the file if it does not exist. Its creation time is set, since a file system may reuse that of an earlier file of the
+// name.
 void MakeFile(const TStringArg& AFileName) {
     platform::TFileHandle File;
     platform::TError Error;
     if (!File.Open(AFileName, platform::TFileAccess::ReadWrite, platform::TFileCreation::Exclusive,
                    {.Read = true}, Error)) {
         if (!FileExists(AFileName))
-            throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Error.Code)});
+            Raise<EFCreateError>(SFCreateError, AFileName, Error);
         return;
     }
     File.Close();
     try {
         QzSetFileCreated(AFileName, NowUTC());
-    } catch (const Exception&) { // NOLINT(bugprone-empty-catch): the system's own time counts, then
+    } catch (const Exception&) { // NOLINT(bugprone-empty-catch): the file keeps the system's time
     }
 }
 
-TFileStream OpenFile(const TStringArg& AFileName) {
+platform::TFileHandle OpenFile(const TStringArg& AFileName) {
     const bool IsThere = FileExists(AFileName);
     const UnicodeString Path = ExtractFilePath(AFileName);
     if (!Path.IsEmpty())
         ForceDirectories(Path);
     if (!IsThere)
         MakeFile(AFileName);
-    return TFileStream(AFileName, fmOpenReadWrite | (GHasForked ? fmShareDenyNone : fmShareDenyWrite));
+    platform::TFileHandle Result;
+    platform::TError Error;
+    if (!Result.Open(AFileName, platform::TFileAccess::ReadWrite, platform::TFileCreation::Never,
+                     {.Read = true, .Write = GHasForked}, Error))
+        Raise<EFOpenError>(SFOpenError, AFileName, Error);
+    if (!Result.WriteAtEnd(Error))
+        Raise<EStreamError>(cCannotSeek, AFileName, Error);
+    return Result;
 }
 
-// Under the lock, which keeps other changes out: others only read.
+// The caller holds the lock; other threads only read.
 template <class T> void AddTo(std::atomic<T>& ATarget, T ACount) noexcept {
     ATarget.store(ATarget.load(std::memory_order_relaxed) + ACount, std::memory_order_relaxed);
 }
@@ -66,15 +83,15 @@ std::span<const std::byte> BytesOf(const char* AText, std::size_t ACount) {
 } // namespace
 
 TQzTextFile::TQzTextFile(const TStringArg& AFileName, TCriticalSection* ALock)
-    : FFile(OpenFile(AFileName)),
+    : FFileName(AFileName.View()),
+      FHandle(OpenFile(AFileName)),
       FLock(ALock != nullptr ? *ALock : FCritSect),
       FIsWholePath(IsWholePath(AFileName)),
       FSizeLimit(platform::FileSizeLimit()),
       FLookedAt(platform::CoarseTickCount64()) {
     platform::TError Error;
-    std::int64_t End = 0; // of a pipe or a device
-    FFile.SetAppending();
-    FFile.Handle().Seek(0, platform::TFileOrigin::End, End, Error);
+    std::int64_t End = 0;
+    FHandle.Seek(0, platform::TFileOrigin::End, End, Error); // fails for a pipe or a device
     FSize = End;
     TLineFlusher::Instance().Add(*this);
 }
@@ -87,14 +104,18 @@ TQzTextFile::~TQzTextFile() {
         detail::CountDrops(FLines);
     }
     if (FIsShared)
-        FFile.Handle().DenyNothing();
+        FHandle.DenyNothing();
 }
 
 std::int64_t TQzTextFile::Size() {
     if (!FIsShared.load(std::memory_order_relaxed))
         return FSize.load(std::memory_order_relaxed);
     const TScopedLock Hold(FLock);
-    return FFile.Seek(0, TSeekOrigin::soEnd) + static_cast<std::int64_t>(FWaiting);
+    std::int64_t End = 0;
+    platform::TError Error;
+    if (!FHandle.Seek(0, platform::TFileOrigin::End, End, Error))
+        Raise<EStreamError>(cCannotSeek, FFileName, Error);
+    return End + static_cast<std::int64_t>(FWaiting);
 }
 
 void TQzTextFile::Write(const TStringArg& AText) {
@@ -121,15 +142,42 @@ void TQzTextFile::Put(const TStringArg& AText, std::u16string_view ATail) {
     AddTo(FSize, std::int64_t{End - Start});
 }
 
-// A file that comes to its limit is asked about anew, since the limit may have been raised.
+// At the limit of file sizes this asks for the limit again, which may have been raised.
 void TQzTextFile::PutBytes(TBytes ABytes) {
     const auto Size = static_cast<std::uint64_t>(FSize.load(std::memory_order_relaxed));
     const bool IsShared = FIsShared.load(std::memory_order_relaxed);
     if (Size + ABytes.size() <= FSizeLimit && (!IsShared || FSizeLimit == UINT64_MAX))
-        return FFile.AppendWhole(ABytes);
+        return AppendWhole(ABytes);
     FSizeLimit = platform::FileSizeLimit();
     const platform::TNoLimitSignal Quiet;
-    FFile.AppendWhole(ABytes);
+    AppendWhole(ABytes);
+}
+
+// Appends all of ABytes or nothing.
+void TQzTextFile::AppendWhole(TBytes ABytes) {
+    std::size_t Done = 0;
+    platform::TError Error;
+    if (FHandle.Append(ABytes, Done, Error)) [[likely]]
+        return;
+    if (Done != 0)
+        TakeBack(ABytes.first(Done));
+    Raise<EWriteError>(cCannotWrite, FFileName, Error);
+}
+
+// Removes ABytes from the end of the file, unless another process has written after them.
+void TQzTextFile::TakeBack(TBytes ABytes) {
+    using platform::TFileOrigin;
+    std::vector<std::byte> Found(ABytes.size());
+    const auto Count = static_cast<std::int64_t>(ABytes.size());
+    std::int64_t Size = 0;
+    std::int64_t Place = 0;
+    std::size_t Done = 0;
+    platform::TError Error;
+    if (FHandle.Seek(0, TFileOrigin::End, Size, Error) && Size >= Count &&
+        FHandle.Seek(Size - Count, TFileOrigin::Beginning, Place, Error) &&
+        FHandle.Read(Found, Done, Error) && Done == Found.size() && std::ranges::equal(Found, ABytes))
+        FHandle.SetSize(Place, Error);
+    FHandle.Seek(0, TFileOrigin::End, Place, Error);
 }
 
 void TQzTextFile::FlushWaiting() {
@@ -153,7 +201,7 @@ void TQzTextFile::WriteLnLater(const TStringArg& AText) {
             AddTo(FSize, std::int64_t{End - Start});
             FWaiting += static_cast<std::size_t>(End - Start);
             AddTo(FLines, 1u);
-            if (FLines.load(std::memory_order_relaxed) == 1 && !TLineFlusher::Instance().Await())
+            if (FLines.load(std::memory_order_relaxed) == 1 && !TLineFlusher::Instance().Wake())
                 FlushWaiting();
             return;
         }
@@ -176,7 +224,7 @@ void TQzTextFile::Flush() {
     FlushWaiting();
 }
 
-// Not while lines wait, which has its end within a second: that saves a look at the clock with each of them.
+// False while lines are in the buffer, which lasts a second at most: so they need no look at the clock.
 bool TQzTextFile::HasGone() {
     if (FLines.load(std::memory_order_relaxed) != 0)
         return false;
@@ -186,11 +234,11 @@ bool TQzTextFile::HasGone() {
     FLookedAt.store(Now, std::memory_order_relaxed);
     const TScopedLock Hold(FLock);
     FSizeLimit = platform::FileSizeLimit();
-    if (!FFile.Handle().IsAt(FFile.FileName()))
+    if (!FHandle.IsAt(FFileName))
         return true;
     platform::TError Error;
     std::int64_t End = 0;
-    if (FFile.Handle().Seek(0, platform::TFileOrigin::End, End, Error))
+    if (FHandle.Seek(0, platform::TFileOrigin::End, End, Error))
         FSize = End + static_cast<std::int64_t>(FWaiting);
     return false;
 }
@@ -200,7 +248,7 @@ void TQzTextFile::Share() noexcept {
     GHasForked = true;
 }
 
-void TQzTextFile::Inherit() noexcept {
+void TQzTextFile::Inherit(TAccessKey<TLineFlusher>) noexcept {
     FSize.fetch_sub(static_cast<std::int64_t>(FWaiting), std::memory_order_relaxed);
     FWaiting = 0;
     FLines = 0;

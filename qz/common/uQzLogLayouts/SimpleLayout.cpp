@@ -1,6 +1,6 @@
 #include <qz/common/uQzLogLayouts/SimpleLayout.h>
 
-#include <qz/common/uQzLogLayouts/LinePen.h>
+#include <qz/common/uQzLogLayouts/detail/LinePen.h>
 #include <qz/common/uQzLogger/DataRec.h>
 #include <qz/runtime/time/DateTimeText.h>
 #include <qz/runtime/time/LocalClock.h>

@@ -7,13 +7,14 @@
 // of several lines keep them; nothing is escaped. Any number of threads may format lines.
 #pragma once
 
+#include <atomic>
+
 #include <qz/common/uQzLogger/LogBase.h>
 
 namespace qz {
 
-class QZ_API TQzSimpleLayout : public TQzLogBase, public IQzLogLayout, public _IQzLogLayout {
+class QZ_API TQzSimpleLayout : public TQzLogBaseWith<TQzLogBase, IQzLogLayout, _IQzLogLayout> {
     QZ_CLASS(TQzSimpleLayout, TQzLogBase)
-    QZ_LOG_BASE(TQzLogBase)
 
 public:
     // "Log stopped on : " and "Log started on : " with the local time.
@@ -24,7 +25,7 @@ public:
     void Initialize(TQzLogBase* ALogBase) override;
 
 protected:
-    using TQzLogBase::TQzLogBase;
+    using TQzLogBaseWith::TQzLogBaseWith;
 
 private:
     std::size_t Indent(TQzLogIndent AIndent) noexcept;

@@ -1,8 +1,7 @@
 #include <qz/common/uQzLogLayouts/XmlLayout.h>
 
-#include <qz/common/uQzLogAppenders/FileAppender.h>
-#include <qz/common/uQzLogLayouts/LinePen.h>
-#include <qz/common/uQzLogLayouts/XmlStylesheet.h>
+#include <qz/common/uQzLogLayouts/detail/LinePen.h>
+#include <qz/common/uQzLogLayouts/detail/XmlStylesheet.h>
 #include <qz/common/uQzWindows/Accounts.h>
 #include <qz/platform/Threads.h>
 #include <qz/runtime/base/StringUtils.h>
@@ -167,7 +166,10 @@ UnicodeString TQzXmlLayout::FormatLine(const UnicodeString& ALogger, TQzLogLevel
 }
 
 void TQzXmlLayout::Initialize(TQzLogBase* ALogBase) {
-    auto* const Appender = dynamic_cast<TQzFileAppender*>(ALogBase);
+    // Not counted, since the appender may have no reference yet.
+    auto* const Appender = ALogBase != nullptr
+        ? static_cast<IQzFileAppender*>(ALogBase->FindInterface(IQzFileAppender::IID))
+        : nullptr;
     if (Appender == nullptr)
         return;
     const UnicodeString FileName = ChangeFileExt(Appender->GetFileName(), u".xsl");

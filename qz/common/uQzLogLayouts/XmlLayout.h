@@ -21,9 +21,8 @@
 
 namespace qz {
 
-class QZ_API TQzXmlLayout : public TQzLogBase, public IQzLogLayoutEx, public _IQzLogLayout {
+class QZ_API TQzXmlLayout : public TQzLogBaseWith<TQzLogBase, IQzLogLayoutEx, _IQzLogLayout> {
     QZ_CLASS(TQzXmlLayout, TQzLogBase)
-    QZ_LOG_BASE(TQzLogBase)
 
 public:
     // Closes the document.
@@ -43,7 +42,7 @@ public:
     void SetStrictXml(bool AValue) noexcept { FIsStrict = AValue; }
 
 protected:
-    using TQzLogBase::TQzLogBase;
+    using TQzLogBaseWith::TQzLogBaseWith;
 
 private:
     void AppendEscaped(UnicodeString& ATarget, std::u16string_view AText) const;

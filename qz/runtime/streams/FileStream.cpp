@@ -70,37 +70,6 @@ std::int32_t TFileStream::Write(const void* ABuffer, std::int32_t ACount) {
     return static_cast<std::int32_t>(Done);
 }
 
-void TFileStream::SetAppending() {
-    TError Error;
-    if (!FHandle.WriteAtEnd(Error))
-        Raise<EStreamError>(u"Cannot seek in file \"%s\". %s", FFileName, Error);
-}
-
-void TFileStream::AppendWhole(std::span<const std::byte> ABytes) {
-    std::size_t Done = 0;
-    TError Error;
-    if (FHandle.Append(ABytes, Done, Error)) [[likely]]
-        return;
-    if (Done != 0)
-        TakeBack(ABytes.first(Done));
-    Raise<EWriteError>(cCannotWrite, FFileName, Error);
-}
-
-// Unless somebody else has written behind it.
-void TFileStream::TakeBack(std::span<const std::byte> ABytes) {
-    std::vector<std::byte> Found(ABytes.size());
-    const auto Count = static_cast<std::int64_t>(ABytes.size());
-    std::int64_t Size = 0;
-    std::int64_t Place = 0;
-    std::size_t Done = 0;
-    TError Error;
-    if (FHandle.Seek(0, platform::TFileOrigin::End, Size, Error) && Size >= Count &&
-        FHandle.Seek(Size - Count, platform::TFileOrigin::Beginning, Place, Error) &&
-        FHandle.Read(Found, Done, Error) && Done == Found.size() && std::ranges::equal(Found, ABytes))
-        FHandle.SetSize(Place, Error);
-    FHandle.Seek(0, platform::TFileOrigin::End, Place, Error);
-}
-
 std::int64_t TFileStream::Seek(std::int64_t AOffset, TSeekOrigin AOrigin) {
     std::int64_t Position = 0;
     TError Error;

@@ -49,11 +49,6 @@ public:
     // The number of bytes that arrived, less than ACount when the disk became full. Raises EWriteError with the file and
     // the reason when none did.
     std::int32_t Write(const void* ABuffer, std::int32_t ACount) override;
-    // Has AppendWhole write at the end of the file. Raises EStreamError.
-    void SetAppending();
-    // Writes all of ABytes at the end or nothing: where only a part has room, it is taken back, if it is what the file ends
-    // with. Where the position is then is not said. Raises EWriteError with the file and the reason.
-    void AppendWhole(std::span<const std::byte> ABytes);
     // Places behind the end are allowed; a write there leaves zeros before it. Raises EStreamError.
     std::int64_t Seek(std::int64_t AOffset, TSeekOrigin AOrigin) override;
     // New bytes are 0; the position stays. Raises EStreamError.
@@ -61,12 +56,7 @@ public:
     // Waits until all that was written is on the disk. Raises EStreamError.
     void FlushToDisk();
 
-    // The open file itself.
-    platform::TFileHandle& Handle() noexcept { return FHandle; }
-
 private:
-    void TakeBack(std::span<const std::byte> ABytes);
-
     UnicodeString FFileName;
     platform::TFileHandle FHandle;
 };

@@ -12,9 +12,8 @@
 namespace qz {
 
 // The message alone; a header and a footer of one word.
-class TPlainLayout : public TQzLogBase, public IQzLogLayout {
+class TPlainLayout : public TQzLogBaseWith<TQzLogBase, IQzLogLayout> {
     QZ_CLASS(TPlainLayout, TQzLogBase)
-    QZ_LOG_BASE(TQzLogBase)
 
 public:
     UnicodeString GetFooter() override { return u"foot"; }
@@ -25,7 +24,7 @@ public:
     }
 
 protected:
-    using TQzLogBase::TQzLogBase;
+    using TQzLogBaseWith::TQzLogBaseWith;
 };
 
 class TLogFiles {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include <qz/common/uQzLogAppenders/BaseAppender.h>
-#include <qz/common/uQzLogger/QzLogger.h>
+#include <qz/common/uQzLogger/LoggerClass.h>
 
 namespace qz {
 

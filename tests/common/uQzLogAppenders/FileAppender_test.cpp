@@ -191,7 +191,7 @@ TEST(FileAppender, ManyThreadsWriteWholeLines) {
     }
 }
 
-// A layout that closes the appender, or gives it another layout, while it formats.
+// A layout that closes the appender, gives it another layout, or logs, while it formats.
 class TUnrulyLayout : public TPlainLayout {
     QZ_CLASS(TUnrulyLayout, TPlainLayout)
 
@@ -200,6 +200,8 @@ public:
                              PQzDataRec AValue, TQzLogIndent AIndent) override {
         if (AMessage == u"close")
             Appender->Close();
+        if (AMessage == u"log")
+            Logger().Info("of the layout");
         if (AMessage == u"replace")
             Appender->SetLayout(TQzLogBaseClass::Of<TPlainLayout>());
         return Inherited::FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
@@ -214,15 +216,18 @@ const TClassRec TUnrulyLayout::ClassRec =
 
 TEST(FileAppender, LayoutsMayDoAsTheyLike) {
     TLogFiles Files;
+    const TLogTree Tree;
     const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>();
+    Logger().AddAppender(File.Get());
     TUnrulyLayout* Layout = TUnrulyLayout::Create(nullptr, u"");
     Layout->Appender = File.Get();
     File->SetLayout(static_cast<IQzLogLayout*>(Layout));
     Say(File, u"close");
     Say(File, u"one");
+    Say(File, u"log"); // not through a logger
     Say(File, u"replace");
     Say(File, u"two");
-    EXPECT_EQ("head|footclose|one|footreplace|two|", Files.Text());
+    EXPECT_EQ(Files.Text(), "head|footclose|one|log|of the layout|footreplace|two|");
 }
 
 TEST(FileAppender, WhatCannotBeOpenedIsTriedAgain) {
