@@ -12,7 +12,15 @@
 namespace qz::platform {
 
 // From the outermost lock to the innermost: code that holds one may wait for those that follow, and for no earlier one.
-enum class TForkRank : std::uint8_t { Loggers, LogFiles, Zone, Environment };
+enum class TForkRank : std::uint8_t {
+    Loggers,
+    LogFiles,
+    FormatSettings,
+    Locale,
+    CodePages,
+    Zone,
+    Environment
+};
 
 // Has ABefore called on the forking thread before each fork(), and AInParent or AInChild after it, each in its process.
 // ABefore runs in the order of the ranks, the other two in the reverse order, whatever the order of the calls of this

@@ -168,6 +168,7 @@ private:
     bool TryAddRef() noexcept;
     void Send(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue = nullptr,
               TQzLogIndent AIndent = liIndentNone);
+    void SendTaken(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue, TQzLogIndent AIndent);
     Ref<TQzLogger> Child(std::u16string_view AName);
     void Recompute();
     bool RecomputeOwn() noexcept;

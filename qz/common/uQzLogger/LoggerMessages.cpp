@@ -29,10 +29,16 @@ TValue ValueOf(const Exception& AException) {
 
 } // namespace
 
-void TQzLogger::Send(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue,
-                     TQzLogIndent AIndent) {
+// Inlined into the families, so that a message that no appender takes costs one comparison.
+inline void TQzLogger::Send(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue,
+                            TQzLogIndent AIndent) {
     if (IsTaken(ALevel))
-        detail::TLogDispatch::Send(*this, {FullName(), ALevel, AMessage, AValue, AIndent});
+        SendTaken(ALevel, AMessage, AValue, AIndent);
+}
+
+void TQzLogger::SendTaken(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue,
+                          TQzLogIndent AIndent) {
+    detail::TLogDispatch::Send(*this, {FullName(), ALevel, AMessage, AValue, AIndent});
 }
 
 void TQzLogger::DoLog(const UnicodeString& ASource, TQzLogLevel ALevel, const TStringArg& AMessage,

@@ -7,7 +7,6 @@
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <map>
@@ -17,6 +16,7 @@
 
 #include "tests/common/support/LogFiles.h"
 #include "tests/common/support/MemoryAppender.h"
+#include "tests/common/support/linux/InChild.h"
 #include <qz/common/uQzLogger.h>
 #include <qz/common/uQzLogger/LogDrops.h>
 #include <qz/platform/Threads.h>
@@ -31,19 +31,6 @@ std::vector<std::string> LinesOf(const std::string& AText) {
     for (std::string Line; std::getline(Stream, Line, '|');)
         Result.push_back(Line);
     return Result;
-}
-
-// Runs ABody in a child that must end with 0.
-template <class F> void InChild(F ABody) {
-    const pid_t Child = fork();
-    ASSERT_GE(Child, 0);
-    if (Child == 0) {
-        alarm(60);
-        _exit(ABody() ? 0 : 1);
-    }
-    int Status = 0;
-    waitpid(Child, &Status, 0);
-    EXPECT_EQ(0, Status);
 }
 
 // Each thread tells by the pipe which of its lines has returned.
@@ -79,9 +66,7 @@ TEST(LogFaults, KilledAtAnyMoment) {
         while (read(Pipe[0], Told, sizeof Told) > 0)
             Returned[Told[0]] = Told[1];
         close(Pipe[0]);
-        int Status = 0;
-        waitpid(Child, &Status, 0);
-        ASSERT_TRUE(WIFSIGNALED(Status));
+        ASSERT_TRUE(WIFSIGNALED(AwaitChild(Child)));
         int Next[cThreads] = {};
         const std::vector<std::string> Lines = LinesOf(Files.Text());
         ASSERT_EQ("head", Lines.at(0));
@@ -281,7 +266,6 @@ TEST(LogFaults, ProcessesThatRollOneFamily) {
         const pid_t Child = fork();
         ASSERT_GE(Child, 0);
         if (Child == 0) {
-            alarm(60);
             CloseRootLogger();
             const Ref<TQzRollingFileAppender> File = Files.Make<TQzRollingFileAppender>();
             File->SetMaxFileSize(2000);
@@ -297,9 +281,7 @@ TEST(LogFaults, ProcessesThatRollOneFamily) {
         Children.push_back(Child);
     }
     for (const pid_t Child : Children) {
-        int Status = 0;
-        waitpid(Child, &Status, 0);
-        EXPECT_EQ(0, Status);
+        EXPECT_EQ(AwaitChild(Child), 0);
     }
     close(Pipe[1]);
     std::set<std::string> Seen;
@@ -339,7 +321,6 @@ TEST(LogFaults, AChildThatLivesOn) {
     const pid_t Child = fork();
     ASSERT_GE(Child, 0);
     if (Child == 0) {
-        alarm(60);
         close(Pipe[1]);
         char Byte = 0;
         while (read(Pipe[0], &Byte, 1) > 0) {}
@@ -353,10 +334,8 @@ TEST(LogFaults, AChildThatLivesOn) {
     Logger().Info(u"three");
     platform::SleepMs(1100);
     close(Pipe[1]);
-    int Status = 0;
-    waitpid(Child, &Status, 0);
+    EXPECT_EQ(AwaitChild(Child), 0);
     close(Pipe[0]);
-    EXPECT_EQ(0, Status);
     Logger().Info(u"four");
     EXPECT_EQ("head|one|foottwo|foot", Files.Text(u"app.1.log"));
     EXPECT_EQ("head|three|of the child|footfour|", Files.Text());
@@ -414,7 +393,6 @@ TEST(LogFaults, TheEndOfTheProgram) {
     const pid_t Child = fork();
     ASSERT_GE(Child, 0);
     if (Child == 0) {
-        alarm(60);
         CloseRootLogger();
         static TLast Late;
         const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>();
@@ -426,9 +404,7 @@ TEST(LogFaults, TheEndOfTheProgram) {
         Logger().GetLogger("kept").Detach()->AddAppender(File.Get()); // which outlives the root
         std::exit(0);
     }
-    int Status = 0;
-    waitpid(Child, &Status, 0);
-    EXPECT_EQ(0, Status);
+    EXPECT_EQ(AwaitChild(Child), 0);
     EXPECT_TRUE(Files.Text().starts_with("head|waits|late|")) << Files.Text();
 }
 
