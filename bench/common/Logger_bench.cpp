@@ -1,5 +1,5 @@
-// A message on its way through the loggers, without anything that writes, beside log4cplus and spdlog: one that nobody
-// takes, one to appenders that do nothing, and the line of text that the layouts make of one.
+// The delivery of a message beside log4cplus and spdlog: one that no appender takes, one to appenders that do nothing, and the
+// line of text that the layouts make of one.
 #include <benchmark/benchmark.h>
 
 #include <log4cplus/initializer.h>
@@ -107,6 +107,17 @@ void DispatchSpdlog(benchmark::State& AState) {
 BENCHMARK(Dispatch)->Arg(1)->Arg(4);
 BENCHMARK(DispatchLog4cplus)->Arg(1)->Arg(4);
 BENCHMARK(DispatchSpdlog)->Arg(1)->Arg(4);
+
+// A logger among so many children of the root.
+void GetLogger(benchmark::State& AState) {
+    std::vector<Ref<IQzLogger>> Siblings;
+    for (std::int64_t I = 0; I < AState.range(0); ++I)
+        Siblings.push_back(Logger().GetLogger("sibling" + std::to_string(I)));
+    for (auto _ : AState)
+        benchmark::DoNotOptimize(Logger().GetLogger("sibling0").Get());
+}
+
+BENCHMARK(GetLogger)->Arg(1)->Arg(10000);
 
 void FormatLine(benchmark::State& AState) {
     const auto Layout = AsInterface<IQzLogLayout>(TQzSimpleLayout::Create(nullptr, u""));

@@ -31,7 +31,7 @@ void TQzBaseAppender::AfterConstruction() {
 }
 
 void TQzBaseAppender::BeforeDestruction() {
-    Inherited::BeforeDestruction(); // nothing is written from here on
+    Inherited::BeforeDestruction(); // no list holds it from here on
     try {
         Close();
     } catch (...) {
@@ -56,7 +56,7 @@ void TQzBaseAppender::Write(const UnicodeString&, const UnicodeString&, TQzLogLe
     Initialize();
 }
 
-// Keeps layouts that are replaced meanwhile.
+// Keeps layouts alive that are replaced during a call of theirs.
 class TQzBaseAppender::TFormatting {
 public:
     explicit TFormatting(TQzBaseAppender& AAppender) noexcept : FAppender(AAppender) {
@@ -128,7 +128,7 @@ Ref<IQzLogLayout> TQzBaseAppender::GetLayout() {
     return FLayout;
 }
 
-// The operations of uQzLogger for an appender of this unit.
+// Defined here, since uQzLogger does not include this unit.
 void IQzLogger::AddAppender(TQzBaseAppender* AAppender) {
     AddAppender(static_cast<IQzLogAppender*>(AAppender));
 }

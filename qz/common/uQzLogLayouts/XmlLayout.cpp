@@ -22,7 +22,7 @@ namespace {
 
 constexpr TTextConstant cFooter = u"</log>";
 constexpr TTextConstant cExtension = u".log.xml";
-constexpr std::size_t cMarkUpOfItem = 224; // and of a value, roughly
+constexpr std::size_t cMarkUpOfItem = 224; // with that of a value, roughly
 constexpr std::u16string_view cEndOfText = u"]]>";
 
 void AppendTime(UnicodeString& ATarget) {
@@ -46,12 +46,12 @@ void AppendNumber(UnicodeString& ATarget, std::uint32_t ANumber) {
     ATarget.Append({Place, std::end(Digits)});
 }
 
-// Whether XML 1.0 has no place for it. Halves of pairs are not looked at: what is no pair becomes U+FFFD on its way to UTF-8.
+// Whether XML 1.0 excludes the character. Lone surrogates pass, since the conversion to UTF-8 replaces them by U+FFFD.
 constexpr bool IsForbidden(char16_t AChar) noexcept {
     return (AChar < 0x20 && AChar != u'\t' && AChar != u'\n' && AChar != u'\r') || AChar >= 0xFFFE;
 }
 
-// The escape of a character, if it has one.
+// The escape of a character, or null.
 constexpr const char16_t* EscapeOf(char16_t AChar) noexcept {
     switch (AChar) {
     case u'&': return u"&amp;";
@@ -66,7 +66,7 @@ constexpr const char16_t* EscapeOf(char16_t AChar) noexcept {
 
 } // namespace
 
-// Runs between special characters are copied in one piece.
+// Copies the runs between special characters in one piece.
 void TQzXmlLayout::AppendEscaped(UnicodeString& ATarget, std::u16string_view AText) const {
     const bool IsStrict = FIsStrict;
     std::size_t Copied = 0;

@@ -7,15 +7,14 @@
 
 #include <qz/common/uQzLogger/LogTypes.h>
 #include <qz/common/uQzTypes/TypeKinds.h>
-#include <qz/runtime/components/Component.h>
+#include <qz/runtime/values/Value.h>
 
 namespace qz {
 
+class TComponent;
 class TQzBaseAppender;
-class TQzLogAppenderList;
 class TQzLogBase;
 class TQzLogger;
-class TQzLoggerList;
 using TQzLogBaseClass = ClassRef<TQzLogBase>;
 
 // What appenders and layouts have in common.

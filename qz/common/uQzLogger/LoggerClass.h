@@ -18,6 +18,7 @@
 #include <memory>
 #include <span>
 
+#include <qz/common/uQzLogger/LogInterfaces.h>
 #include <qz/common/uQzLogger/LoggerInterface.h>
 #include <qz/runtime/base/AccessKey.h>
 #include <qz/runtime/objects/InterfacedObject.h>

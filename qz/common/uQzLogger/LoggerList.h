@@ -14,8 +14,11 @@
 #include <qz/common/uQzLogger/LoggerInterface.h>
 #include <qz/runtime/base/AccessKey.h>
 #include <qz/runtime/lists/List.h>
+#include <qz/runtime/objects/Object.h>
 
 namespace qz {
+
+class TQzLogger;
 
 inline constexpr TTextConstant SLockFailed = u"%s failed to get a lock";
 

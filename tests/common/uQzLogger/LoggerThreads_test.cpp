@@ -1,7 +1,6 @@
 // What changes while eight threads log; the sanitizers look on.
 #include <gtest/gtest.h>
 
-#include <map>
 #include <set>
 #include <thread>
 
@@ -59,7 +58,6 @@ TEST(LoggerThreads, LevelsAndListsChangeWhileOthersLog) {
     }
 }
 
-// Whoever removed an appender may take apart what it writes to.
 TEST(LoggerThreads, NothingComesBehindARemoval) {
     const TLogTree Tree;
     const TLoggingThreads Threads("a");
@@ -73,28 +71,6 @@ TEST(LoggerThreads, NothingComesBehindARemoval) {
         Logger().RemoveAppender(Hold.Get());
         IsRemoved = true;
         Out.OnWrite = nullptr; // a message on its way would be a race here
-    }
-}
-
-TEST(LoggerThreads, EachMessageComesOnceAndInOrder) {
-    const TLogTree Tree;
-    TMemoryAppender& Out = AddMemory(Logger());
-    constexpr int cMessages = 500;
-    std::vector<std::thread> Threads;
-    for (int I = 0; I < cThreads; ++I)
-        Threads.emplace_back([I] {
-            const Ref<IQzLogger> Log = Logger().GetLogger("x.y");
-            for (int Number = 0; Number < cMessages; ++Number)
-                Log->Info(UnicodeString(std::to_string(I) + ":" + std::to_string(Number)));
-        });
-    for (std::thread& Thread : Threads)
-        Thread.join();
-    ASSERT_EQ(static_cast<std::size_t>(cThreads * cMessages), Out.Lines.size());
-    std::map<char16_t, int> Next;
-    for (const UnicodeString& Line : Out.Lines) {
-        const std::string Text = ToUtf8(Line);
-        const std::string Message = Text.substr(Text.rfind(' ') + 1);
-        EXPECT_EQ(Next[static_cast<char16_t>(Message[0])]++, std::stoi(Message.substr(2)));
     }
 }
 
