@@ -37,7 +37,7 @@ const char* Path(std::int64_t ADepth) {
     return ADepth == 1 ? "a" : "a.b.c.d";
 }
 
-// The root has an appender, whose level holds the message back.
+// The root has an appender, but its level is higher.
 void NobodyTakes(benchmark::State& AState) {
     static const Ref<IQzLogAppender> Appender = Logger().AddAppender(TQzLogBaseClass::Of<TNoAppender>());
     Logger().SetLevel(llError);
@@ -69,7 +69,7 @@ BENCHMARK(NobodyTakes)->Arg(1)->Arg(4)->Threads(1)->Threads(4)->UseRealTime();
 BENCHMARK(NobodyTakesLog4cplus)->Arg(1)->Arg(4)->Threads(1)->Threads(4)->UseRealTime();
 BENCHMARK(NobodyTakesSpdlog)->Arg(1)->Threads(1)->Threads(4)->UseRealTime();
 
-// To so many appenders that do nothing, of the logger itself.
+// To so many appenders of the logger, which do nothing.
 void Dispatch(benchmark::State& AState) {
     const Ref<IQzLogger> Log = Logger().GetLogger("dispatch");
     Log->SetAdditive(false);
@@ -108,7 +108,7 @@ BENCHMARK(Dispatch)->Arg(1)->Arg(4);
 BENCHMARK(DispatchLog4cplus)->Arg(1)->Arg(4);
 BENCHMARK(DispatchSpdlog)->Arg(1)->Arg(4);
 
-// A logger among so many children of the root.
+// Finds one of so many children of the root.
 void GetLogger(benchmark::State& AState) {
     std::vector<Ref<IQzLogger>> Siblings;
     for (std::int64_t I = 0; I < AState.range(0); ++I)

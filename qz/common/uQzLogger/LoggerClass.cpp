@@ -173,7 +173,7 @@ std::uint32_t TQzLogger::_Release() {
     std::int32_t Count = 0;
     if (FRefCount.DecrementUnlessLast())
         return 1;
-    if (!detail::ThisLogThread().MayWait() && detail::TLogDispatch::ReleaseLater(*this))
+    if (!FIsEnding && !detail::ThisLogThread().MayWait() && detail::TLogDispatch::ReleaseLater(*this))
         return static_cast<std::uint32_t>(FRefCount.Value() - 1);
     TQzLogger* Ending = DropReference(Count) ? this : nullptr;
     while (Ending != nullptr) {

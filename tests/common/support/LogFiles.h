@@ -1,4 +1,4 @@
-// Log files in a directory of a test's own.
+// Log files in a directory for one test.
 #pragma once
 
 #include <algorithm>
@@ -11,7 +11,7 @@
 
 namespace qz {
 
-// The message alone; a header and a footer of one word.
+// A line is the message; header and footer are one word.
 class TPlainLayout : public TQzLogBaseWith<TQzLogBase, IQzLogLayout> {
     QZ_CLASS(TPlainLayout, TQzLogBase)
 
@@ -37,7 +37,7 @@ public:
         return Result;
     }
     UnicodeString Path(const UnicodeString& AFile) const { return FDirectory / AFile.View(); }
-    // The content with "|" for each end of a line; "-" when there is no such file.
+    // The content with "|" for each line end; "-" if the file does not exist.
     std::string Text(const UnicodeString& AFile = u"app.log") const {
         std::vector<std::byte> Bytes;
         platform::TError Error;
@@ -52,7 +52,7 @@ public:
         platform::TError Error;
         EXPECT_TRUE(platform::WriteWholeFile(Path(AFile), std::as_bytes(std::span(AText)), Error));
     }
-    // The names in order, each with a blank behind it.
+    // The names in order, each followed by a blank.
     std::string Names() const {
         std::vector<platform::TDirEntry> Entries;
         platform::TError Error;
@@ -71,7 +71,7 @@ private:
     platform::TTemporaryDirectory FDirectory;
 };
 
-// As a logger writes.
+// Writes as a logger does.
 inline void Say(IQzLogAppender& AAppender, const UnicodeString& AMessage, TQzLogLevel ALevel = llInfo) {
     AAppender.Write(u"root", u"root", ALevel, AMessage, nullptr, liIndentNone);
 }

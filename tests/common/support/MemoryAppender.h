@@ -1,4 +1,4 @@
-// An appender that keeps what it gets, and does what a test wants with each message.
+// An appender that keeps its lines and calls a function of the test for each message.
 #pragma once
 
 #include <functional>
@@ -40,7 +40,7 @@ public:
         if (OnClose)
             OnClose();
     }
-    // What came since the last call, a bar behind each line.
+    // The lines since the last call, each followed by a bar.
     UnicodeString Take() {
         const TScopedLock Hold(*this);
         UnicodeString Result;
@@ -67,7 +67,7 @@ public:
     TLogTree& operator=(const TLogTree&) = delete;
 };
 
-// An appender that the logger holds; the result is good as long as it does.
+// Adds an appender; the result is valid as long as the logger holds it.
 inline TMemoryAppender& AddMemory(IQzLogger& ALogger, const UnicodeString& AName = u"") {
     TMemoryAppender* Result = TMemoryAppender::Create(nullptr, AName);
     ALogger.AddAppender(static_cast<IQzLogAppender*>(Result));
