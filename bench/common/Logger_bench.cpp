@@ -1,5 +1,5 @@
-// The delivery of a message beside log4cplus and spdlog: one that no appender takes, one to appenders that do nothing, and the
-// line of text that the layouts make of one.
+// The delivery of a message beside log4cplus and spdlog: one that no appender takes, one to appenders that do
+// nothing, and the line of text that the layouts make of one.
 #include <benchmark/benchmark.h>
 
 #include <log4cplus/initializer.h>

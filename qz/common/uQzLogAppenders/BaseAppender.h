@@ -1,4 +1,5 @@
-// TQzBaseAppender: the base of all appenders. It has a layout and a lock, and opens what it writes to at the first message.
+// TQzBaseAppender: the base of all appenders. It has a layout and a lock, and opens what it writes to at the
+// first message.
 //
 //     class TMemoryAppender : public TQzBaseAppender {
 //         QZ_CLASS(TMemoryAppender, TQzBaseAppender)
@@ -11,8 +12,8 @@
 //         }
 //     ...
 //
-// An appender that is made for a logger with a configurator asks it for its values at the end of Create. A closed appender
-// opens again at the next message. Descendants hold the lock during each operation.
+// An appender that is made for a logger with a configurator asks it for its values at the end of Create. A
+// closed appender opens again at the next message. Descendants hold the lock during each operation.
 #pragma once
 
 #include <vector>
@@ -25,7 +26,8 @@ class QZ_API TQzBaseAppender : public TQzLogBaseWith<TQzLogBase, IQzLogAppenderE
     QZ_CLASS(TQzBaseAppender, TQzLogBase)
 
 public:
-    // Marks the appender as open; Close marks it as closed. A descendant opens and closes its resource in its overrides.
+    // Marks the appender as open; Close marks it as closed. A descendant opens and closes its resource in its
+    // overrides.
     virtual void Initialize();
     // Asks for "Layout", if AConfigurator is not null, and sets a new layout of the class of that name.
     virtual void SetConfig(IQzLogConfigurator* AConfigurator);
@@ -40,7 +42,8 @@ public:
     void SetLayout(const UnicodeString& AClassName) override;
     Ref<IQzLogLayout> GetLayout();
 
-    // The lock of the appender, which re-enters. Messages of a thread that holds it are delivered after Unlock.
+    // The lock of the appender, which re-enters. Messages of a thread that holds it are delivered after
+    // Unlock.
     void Lock() noexcept;
     void Unlock() noexcept;
     void Enter() noexcept { Lock(); }
@@ -58,8 +61,8 @@ protected:
     // The layout, which may be null, and whether the appender is open; under the lock.
     IQzLogLayout* Layout() const noexcept { return FLayout.Get(); }
     bool IsInitialized() const noexcept { return FInitialized; }
-    // The texts of the layout, which is not null; under the lock. The layout may close the appender or set another layout
-    // during the call.
+    // The texts of the layout, which is not null; under the lock. The layout may close the appender or set
+    // another layout during the call.
     UnicodeString Header();
     UnicodeString Footer();
     UnicodeString FormatLine(const UnicodeString& ALogger, TQzLogLevel ALevel, const UnicodeString& AMessage,

@@ -1,14 +1,15 @@
-// TQzDailyRollingFileAppender: a file that is renamed to its date whenever the text of a date pattern changes.
+// TQzDailyRollingFileAppender: a file that is renamed to its date whenever the text of a date pattern
+// changes.
 //
 //     Ref<TQzDailyRollingFileAppender> File(TQzDailyRollingFileAppender::Create(nullptr, u"main"));
 //     File->SetLayout(QzSimpleLayout);
 //     File->SetFileName(u"/var/log/app/app.log");      // yesterday's is app.2024-01-31.log
 //     File->SetDatePattern(u"yyyy-mm-dd-hh");          // one an hour
 //
-// The date of a file is its creation time in local time, also after a restart of the program: the first message renames a
-// file of an earlier day. The size of the file counts too, as in TQzRollingFileAppender. If the dated name exists or is no
-// valid name, the file gets a number and its date, app.1.2024-01-31.log, and the numbers of the whole family grow. Only that
-// and SetMaxBackupCount count dated files and delete them.
+// The date of a file is its creation time in local time, also after a restart of the program: the first
+// message renames a file of an earlier day. The size of the file counts too, as in TQzRollingFileAppender. If
+// the dated name exists or is no valid name, the file gets a number and its date, app.1.2024-01-31.log, and
+// the numbers of the whole family grow. Only that and SetMaxBackupCount count dated files and delete them.
 #pragma once
 
 #include <qz/common/uQzLogAppenders/RollingFileAppender.h>

@@ -5,15 +5,16 @@
 //     File->SetFileName(u"/var/log/app/app.log");
 //     Logger().AddAppender(File.Get());
 //
-// The first message opens the file and makes its directories. The file begins with the header of the layout, unless an existing
-// one is continued, and Close ends it with the footer. When a logging call has returned, its line is with the operating
-// system, and the end of the process does not lose it. A line that does not fit on the disk is not written at all and counted
-// by QzDroppedLogMessages; logging goes on when there is room again. If the file is moved or removed, a new one is made
-// within a second. While it is open, others may read it; FileHandle.h says who may write to it.
+// The first message opens the file and makes its directories. The file begins with the header of the layout,
+// unless an existing one is continued, and Close ends it with the footer. When a logging call has returned,
+// its line is with the operating system, and the end of the process does not lose it. A line that does not
+// fit on the disk is not written at all and counted by QzDroppedLogMessages; logging goes on when there is
+// room again. If the file is moved or removed, a new one is made within a second. While it is open, others
+// may read it; FileHandle.h says who may write to it.
 //
-// Beyond the common operations: with a BufferSize, lines below FlushLevel may wait in memory, for a second at most. A line of
-// that level is written at once, with all before it. Flush, Close and the end of the program write the buffer; abort, _exit
-// and a kill lose it.
+// Beyond the common operations: with a BufferSize, lines below FlushLevel may wait in memory, for a second at
+// most. A line of that level is written at once, with all before it. Flush, Close and the end of the program
+// write the buffer; abort, _exit and a kill lose it.
 #pragma once
 
 #include <memory>
@@ -51,14 +52,14 @@ public:
     void SetConfig(IQzLogConfigurator* AConfigurator) override;
     void Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
                const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) override;
-    // Raises EWriteError if there is no room for the footer or the buffer. The file is closed all the same, and lines in the
-    // buffer are counted as dropped.
+    // Raises EWriteError if there is no room for the footer or the buffer. The file is closed all the same,
+    // and lines in the buffer are counted as dropped.
     void Close() override;
     // A layout with IQzLogLayoutEx changes the extension of the file.
     void SetLayout(IQzLogLayout* ALayout) override;
 
-    // The default is the name of the program with ".log", in a directory of that name below the documents of all users
-    // (QzGetShellFolder), or beside the program if there is no such place.
+    // The default is the name of the program with ".log", in a directory of that name below the documents of
+    // all users (QzGetShellFolder), or beside the program if there is no such place.
     UnicodeString GetFileName() override;
     bool GetAppendExisting() override;
     UnicodeString GetFileExt() override;
@@ -83,7 +84,8 @@ protected:
     TQzTextFile* File() const noexcept { return FFileStream.get(); }
     void WriteFooter();
     void EndFile();
-    // Opens the file for appending, or replaces it. A header that does not fit on the disk is written before the first line.
+    // Opens the file for appending, or replaces it. A header that does not fit on the disk is written before
+    // the first line.
     void OpenFile(bool AContinues);
     // As Close, without EStreamError.
     void CloseQuietly();

@@ -83,8 +83,8 @@ std::vector<TQzRollingFileAppender::TMember> TQzRollingFileAppender::Family() {
     return Result;
 }
 
-// Renames the member to the number APlace. A backup that cannot be renamed is deleted when its name is needed. A file that
-// another process has created under the new name stays, and the member keeps its name.
+// Renames the member to the number APlace. A backup that cannot be renamed is deleted when its name is
+// needed. A file that another process has created under the new name stays, and the member keeps its name.
 void TQzRollingFileAppender::Move(std::vector<TMember>& AFamily, TMember& AMember, std::int64_t APlace) {
     const UnicodeString Path = ExtractFilePath(FileName());
     const UnicodeString Name = UnicodeString(BaseOf(FileName(), FileExt())) + u'.' + IntToStr(APlace) +
@@ -100,7 +100,8 @@ void TQzRollingFileAppender::Move(std::vector<TMember>& AFamily, TMember& AMembe
         AMember.IsStuck = FileExists(Path + AMember.Name) && (IsInTheWay || !FileExists(Path + Name));
 }
 
-// Numbers that decrease are assigned in ascending order, the others in descending order, so that each new name is free.
+// Numbers that decrease are assigned in ascending order, the others in descending order, so that each new
+// name is free.
 void TQzRollingFileAppender::Shift() {
     CheckBackupCount();
     std::vector<TMember> All = Family();

@@ -6,16 +6,17 @@
 //     File->SetMaxFileSize(1 << 20);
 //     File->SetMaxBackupCount(5);                // app.log and app.1.log to app.4.log
 //
-// A message that finds the file at its size or above rolls over first: the file becomes number 1, the number of each backup
-// grows by one, and backups beyond the count are deleted. The family is read from the directory, so that it outlives the
-// program. It is every entry whose name begins with that of the file: app2.log, a directory app.d and a stylesheet belong to
-// the family of app.log, so give a family a directory of its own. A file whose name is only an extension, such as .log, is a
-// family of one. A backup that cannot be renamed stays until its name is needed. A live file that cannot be renamed is
-// continued, and the next attempt comes a second later.
+// A message that finds the file at its size or above rolls over first: the file becomes number 1, the number
+// of each backup grows by one, and backups beyond the count are deleted. The family is read from the
+// directory, so that it outlives the program. It is every entry whose name begins with that of the file:
+// app2.log, a directory app.d and a stylesheet belong to the family of app.log, so give a family a directory
+// of its own. A file whose name is only an extension, such as .log, is a family of one. A backup that cannot
+// be renamed stays until its name is needed. A live file that cannot be renamed is continued, and the next
+// attempt comes a second later.
 //
-// A name consists of the base, a point, the number, what followed the number before, and the extension. The base is the name
-// of the file without its extension (".log.xml" under an XML layout). Two processes that write to one family never mix their
-// lines, but each counts the family as it finds it.
+// A name consists of the base, a point, the number, what followed the number before, and the extension. The
+// base is the name of the file without its extension (".log.xml" under an XML layout). Two processes that
+// write to one family never mix their lines, but each counts the family as it finds it.
 #pragma once
 
 #include <vector>
@@ -32,8 +33,8 @@ public:
     virtual std::uint16_t GetMaxBackupCount() = 0;
     // In bytes; 0 for no limit.
     virtual void SetMaxFileSize(std::uint32_t AValue) = 0;
-    // The number of files, the live one included. Deletes files beyond it. With 0 the whole family is deleted and nothing is
-    // written.
+    // The number of files, the live one included. Deletes files beyond it. With 0 the whole family is deleted
+    // and nothing is written.
     virtual void SetMaxBackupCount(std::uint16_t AValue) = 0;
     // Ends the file with the footer and starts a new one.
     virtual void RollOver() = 0;
@@ -57,8 +58,8 @@ class QZ_API TQzRollingFileAppender : public TQzFileAppenderWith<TQzFileAppender
 
 public:
     void Initialize() override;
-    // Asks for "MaxFileSize", which is cut to 32 bits, and "MaxBackupCount" beside what a file appender asks for. Raises
-    // ERangeError for a count outside 0 to 65535.
+    // Asks for "MaxFileSize", which is cut to 32 bits, and "MaxBackupCount" beside what a file appender asks
+    // for. Raises ERangeError for a count outside 0 to 65535.
     void SetConfig(IQzLogConfigurator* AConfigurator) override;
     void Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
                const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) override;
@@ -75,7 +76,8 @@ public:
     virtual void CheckBackupCount();
     // Rolls over if the file has reached its size.
     virtual void CheckRollover();
-    // Raises what Initialize and the layout raise. Without room for the footer the files are renamed all the same.
+    // Raises what Initialize and the layout raise. Without room for the footer the files are renamed all the
+    // same.
     void RollOver() override;
 
 protected:

@@ -36,8 +36,8 @@ template <class E>
     throw E(APattern, {AFile.View(), SysErrorMessage(AError.Code)});
 }
 
-// Makes the file if it does not exist. Its creation time is set, since a file system may reuse that of an earlier file of the
-// name.
+// Makes the file if it does not exist. Its creation time is set, since a file system may reuse that of an
+// earlier file of the name.
 void MakeFile(const TStringArg& AFileName) {
     platform::TFileHandle File;
     platform::TError Error;

@@ -1,12 +1,13 @@
-// TQzTextFile: a text file that grows at its end, in UTF-8 without a byte order mark. Others may read it but not write to it.
+// TQzTextFile: a text file that grows at its end, in UTF-8 without a byte order mark. Others may read it but
+// not write to it.
 //
 //     TQzTextFile File(u"/var/log/app/app.log");       // the directories are made
 //     File.WriteLn(u"Zoë connected");                  // the line is with the system when this returns
 //
-// A line is in the file whole or not at all: a part that fits on a full disk is removed again. Beyond the common operations:
-// with a buffer, lines that may wait are kept until it is full, until Flush, and for a second at most. While the disk is full
-// they stay in the buffer. Any thread. After a fork() parent and child write to the same file, other writers are no longer
-// kept out, and the lines in the buffer are the parent's.
+// A line is in the file whole or not at all: a part that fits on a full disk is removed again. Beyond the
+// common operations: with a buffer, lines that may wait are kept until it is full, until Flush, and for a
+// second at most. While the disk is full they stay in the buffer. Any thread. After a fork() parent and child
+// write to the same file, other writers are no longer kept out, and the lines in the buffer are the parent's.
 #pragma once
 
 #include <atomic>
@@ -26,8 +27,9 @@ class QZ_API TQzTextFile : public TObject {
     QZ_CLASS(TQzTextFile, TObject)
 
 public:
-    // Opens the file for appending, or makes it and sets its creation time to now, where the file system can keep it. Raises
-    // EFOpenError or EFCreateError. ALock, if given, replaces the file's own lock and lives longer than the file.
+    // Opens the file for appending, or makes it and sets its creation time to now, where the file system can
+    // keep it. Raises EFOpenError or EFCreateError. ALock, if given, replaces the file's own lock and lives
+    // longer than the file.
     explicit TQzTextFile(const TStringArg& AFileName, TCriticalSection* ALock = nullptr);
     TQzTextFile(const TQzTextFile&) = delete;
     TQzTextFile& operator=(const TQzTextFile&) = delete;
@@ -40,19 +42,22 @@ public:
     void Write(const TStringArg& AText);
     void WriteLn(const TStringArg& AText);
 
-    // As WriteLn, for a line that may wait in the buffer. Raises EWriteError if the buffer is full and the disk too; the line
-    // is lost then, and those in the buffer are not.
+    // As WriteLn, for a line that may wait in the buffer. Raises EWriteError if the buffer is full and the
+    // disk too; the line is lost then, and those in the buffer are not.
     void WriteLnLater(const TStringArg& AText);
-    // In bytes; 0, the default, for no buffer. Writes what is in the buffer. Raises EWriteError, and std::bad_alloc.
+    // In bytes; 0, the default, for no buffer. Writes what is in the buffer. Raises EWriteError, and
+    // std::bad_alloc.
     void SetBufferSize(std::size_t ASize);
     // Writes what is in the buffer. Raises EWriteError.
     void Flush();
-    // Whether the file was renamed or removed. Looks at most once a second, otherwise false; false for a relative path.
+    // Whether the file was renamed or removed. Looks at most once a second, otherwise false; false for a
+    // relative path.
     bool HasGone();
     // Whether a parent process opened it.
     bool IsInherited() const noexcept { return FIsInherited; }
 
-    // For the flusher. Its lock; writes what is in the buffer, under the lock; after a fork: in both processes, in the child.
+    // For the flusher. Its lock; writes what is in the buffer, under the lock; after a fork: in both
+    // processes, in the child.
     TCriticalSection& Lock(TAccessKey<TLineFlusher>) noexcept { return FLock; }
     void FlushWaiting(TAccessKey<TLineFlusher>) { FlushWaiting(); }
     void Share(TAccessKey<TLineFlusher>) noexcept { Share(); }

@@ -2,9 +2,9 @@
 //
 //     2024-01-31 08:15:02:047 - Info root.app - connected - 17
 //
-// The local time of formatting, the level, the logger, the message, and the value if there is one. Each EnterMethod without
-// its ExitMethod indents the lines by two spaces, in all threads that write through the layout. Line ends in messages stay;
-// nothing is escaped. Any number of threads may format lines.
+// The local time of formatting, the level, the logger, the message, and the value if there is one. Each
+// EnterMethod without its ExitMethod indents the lines by two spaces, in all threads that write through the
+// layout. Line ends in messages stay; nothing is escaped. Any number of threads may format lines.
 #pragma once
 
 #include <atomic>

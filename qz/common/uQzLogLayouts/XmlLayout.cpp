@@ -46,7 +46,8 @@ void AppendNumber(UnicodeString& ATarget, std::uint32_t ANumber) {
     ATarget.Append({Place, std::end(Digits)});
 }
 
-// Whether XML 1.0 excludes the character. Lone surrogates pass, since the conversion to UTF-8 replaces them by U+FFFD.
+// Whether XML 1.0 excludes the character. Lone surrogates pass, since the conversion to UTF-8 replaces them
+// by U+FFFD.
 constexpr bool IsForbidden(char16_t AChar) noexcept {
     return (AChar < 0x20 && AChar != u'\t' && AChar != u'\n' && AChar != u'\r') || AChar >= 0xFFFE;
 }

@@ -1,16 +1,16 @@
 // TQzXmlLayout: the log as an XML document that a browser shows as a table.
 //
-//     <?xml-stylesheet type="text/xsl" href="app.log.xsl"?><log timeStamp="2024-01-31T07:15:02Z" fileName="..." ...>
-//     <item><timeStamp>2024-01-31T07:15:03Z</timeStamp><threadID>4711</threadID><loggerName>root.app</loggerName>...</item>
+//     <?xml-stylesheet type="text/xsl" href="app.log.xsl"?><log timeStamp="2024-01-31T07:15:02Z" ...>
+//     <item><timeStamp>2024-01-31T07:15:03Z</timeStamp><threadID>4711</threadID>...</item>
 //     </log>
 //
-// A file appender with this layout gets the extension ".log.xml", and the stylesheet is written beside its file; set the name
-// of the file first. Other appenders get no stylesheet. Times are UTC. The document is complete when the file is closed; a
-// continued file holds several documents.
+// A file appender with this layout gets the extension ".log.xml", and the stylesheet is written beside its
+// file; set the name of the file first. Other appenders get no stylesheet. Times are UTC. The document is
+// complete when the file is closed; a continued file holds several documents.
 //
-// Markup characters are escaped, U+0000 is left out, and all others stay, also control characters that XML excludes and at
-// which a reader of XML stops. SetStrictXml replaces these by U+FFFD and escapes the path in the header, so that the document
-// is always well-formed.
+// Markup characters are escaped, U+0000 is left out, and all others stay, also control characters that XML
+// excludes and at which a reader of XML stops. SetStrictXml replaces these by U+FFFD and escapes the path in
+// the header, so that the document is always well-formed.
 //
 // Any number of threads may format lines.
 #pragma once
@@ -29,13 +29,14 @@ public:
     UnicodeString GetFooter() override;
     // Opens the document, with the time, the program, the user, the computer and the process.
     UnicodeString GetHeader() override;
-    // The message as an element, with the text of the value unless it is blank. That of an object is its ToString.
+    // The message as an element, with the text of the value unless it is blank. That of an object is its
+    // ToString.
     UnicodeString FormatLine(const UnicodeString& ALogger, TQzLogLevel ALevel, const UnicodeString& AMessage,
                              PQzDataRec AValue, TQzLogIndent AIndent) override;
     // ".log.xml"
     UnicodeString GetFileExt() override;
-    // Writes the stylesheet beside the file of a file appender, unless it exists, and makes the directory. Raises
-    // EFCreateError.
+    // Writes the stylesheet beside the file of a file appender, unless it exists, and makes the directory.
+    // Raises EFCreateError.
     void Initialize(TQzLogBase* ALogBase) override;
 
     bool GetStrictXml() const noexcept { return FIsStrict; }

@@ -5,13 +5,14 @@
 //     Log->UnLockAppenders();
 //     List.Add(QzFileAppender, QzSimpleLayout);
 //
-// Any thread may change the list at any time, also an appender while it writes: an added appender gets the next message, a
-// removed one gets none. A change waits for the lock of the list. When a removal has returned, nothing is written to the
-// appender any more. Only a thread that is writing to an appender, or holds the lock of an appender or of a list, does not
-// wait: another thread may be writing to what it removes, and the appender ends after that.
+// Any thread may change the list at any time, also an appender while it writes: an added appender gets the
+// next message, a removed one gets none. A change waits for the lock of the list. When a removal has
+// returned, nothing is written to the appender any more. Only a thread that is writing to an appender, or
+// holds the lock of an appender or of a list, does not wait: another thread may be writing to what it
+// removes, and the appender ends after that.
 //
-// An appender that is freed leaves all lists. One that does not derive from TQzLogBase must not be freed while other threads
-// change the lists that hold it.
+// An appender that is freed leaves all lists. One that does not derive from TQzLogBase must not be freed
+// while other threads change the lists that hold it.
 #pragma once
 
 #include <memory>
@@ -31,9 +32,9 @@ class QZ_API TQzLogAppenderList : public TComponent {
     QZ_CLASS(TQzLogAppenderList, TComponent)
 
 public:
-    // Holds back the messages of the logger and changes of the list, both of other threads, until Unlock. Waits as long as
-    // it takes and gives true; the arguments are not used. The lock re-enters. An appender that writes must not lock a list,
-    // and threads that lock several lists must lock them in the same order.
+    // Holds back the messages of the logger and changes of the list, both of other threads, until Unlock.
+    // Waits as long as it takes and gives true; the arguments are not used. The lock re-enters. An appender
+    // that writes must not lock a list, and threads that lock several lists must lock them in the same order.
     bool Lock(const TStringArg& AName, bool ARaise);
     void Unlock() noexcept;
 
@@ -41,12 +42,14 @@ public:
     // Raises EArgumentOutOfRangeException. Hold the lock from Count on.
     Ref<IQzLogAppender> GetAppender(int AIndex) const;
 
-    // Appends, unless the list holds the appender by any of its interfaces. Null raises EAssertionFailed, "Assertion failure".
+    // Appends, unless the list holds the appender by any of its interfaces. Null raises EAssertionFailed,
+    // "Assertion failure".
     void Add(IQzLogAppender* AAppender);
     void Add(TQzBaseAppender* AAppender);
-    // Appends a new appender of that class, or of the class of that name in RegisteredAppenders, with a new layout if one is
-    // given. Its name is that of its class. Raises EListError, "Class %s not found!", for an unknown name, EAssertionFailed
-    // for a class of something else, and EIntfCastError for a layout where the appender takes none.
+    // Appends a new appender of that class, or of the class of that name in RegisteredAppenders, with a new
+    // layout if one is given. Its name is that of its class. Raises EListError, "Class %s not found!", for an
+    // unknown name, EAssertionFailed for a class of something else, and EIntfCastError for a layout where the
+    // appender takes none.
     Ref<IQzLogAppender> Add(TQzLogBaseClass AClass);
     Ref<IQzLogAppender> Add(const UnicodeString& AClassName);
     Ref<IQzLogAppender> Add(TQzLogBaseClass AAppenderClass, TQzLogBaseClass ALayoutClass);

@@ -6,13 +6,14 @@
 //         using TQzBaseAppender::TQzBaseAppender;
 //         void Write(...) override;
 //     };
-//     const TClassRec TMyAppender::ClassRec = DescribeLogBase<TMyAppender>(u"TMyAppender", {.Unit = u"Demo"});
+//     const TClassRec TMyAppender::ClassRec =
+//         DescribeLogBase<TMyAppender>(u"TMyAppender", {.Unit = u"Demo"});
 //     RegisteredAppenders().Add(TQzLogBaseClass::Of<TMyAppender>());
 //
-// Appenders and layouts are counted, on any number of threads. One in the lists of loggers may also be destroyed by Free
-// while other threads log: it leaves all lists first. If another reference exists, Free raises, and the appender is in no
-// list any more. A thread that is writing to an appender, or holds the lock of an appender or of a list, keeps a reference to
-// what it removes until it is done.
+// Appenders and layouts are counted, on any number of threads. One in the lists of loggers may also be
+// destroyed by Free while other threads log: it leaves all lists first. If another reference exists, Free
+// raises, and the appender is in no list any more. A thread that is writing to an appender, or holds the lock
+// of an appender or of a list, keeps a reference to what it removes until it is done.
 #pragma once
 
 #include <vector>
@@ -48,11 +49,12 @@ public:
     using TVirtualCreate =
         TVirtualConstructor<TQzLogBase, TQzLogBase*(TQzLogger* ALogger, const UnicodeString& AName)>;
 
-    // The name of the component. Any thread, also while another one calls SetName; Name() is for the thread that does.
+    // The name of the component. Any thread, also while another one calls SetName; Name() is for the thread
+    // that does.
     UnicodeString GetName() const override;
     void SetName(const UnicodeString& AName) override;
-    // The name given at creation, which SetName does not change. A configurator is asked by it, and AppenderInstances finds
-    // it. Without such a name it is that of the component. Any thread.
+    // The name given at creation, which SetName does not change. A configurator is asked by it, and
+    // AppenderInstances finds it. Without such a name it is that of the component. Any thread.
     UnicodeString ConfiguredName() const;
     TComponent* Component() override { return this; }
     HRESULT QueryInterface(const TGUID& AIid, void** AObject) override {
@@ -82,12 +84,13 @@ public:
     }
 
 protected:
-    // ALogger is the logger that it is made for, which may end earlier. An empty name and one that begins with a digit are
-    // not set; any other that is no identifier raises EComponentError.
+    // ALogger is the logger that it is made for, which may end earlier. An empty name and one that begins
+    // with a digit are not set; any other that is no identifier raises EComponentError.
     TQzLogBase(TQzLogger* ALogger, const UnicodeString& AName);
     ~TQzLogBase() override;
 
-    // The lock of an appender, which re-enters; null for what is no appender. AppenderInstances lists those that have one.
+    // The lock of an appender, which re-enters; null for what is no appender. AppenderInstances lists those
+    // that have one.
     virtual TCriticalSection* AppenderLock() noexcept { return nullptr; }
     // The logger that it was made for; null after that has ended.
     Ref<TQzLogger> LoggerOfOrigin() const;
@@ -154,8 +157,8 @@ public:
 
     // Any thread; other threads may change the answers at once.
     int Count() const;
-    // The first one of that name, case-sensitive, or else the first one with that TQzLogBase::ConfiguredName; null if there
-    // is none.
+    // The first one of that name, case-sensitive, or else the first one with that TQzLogBase::ConfiguredName;
+    // null if there is none.
     Ref<IQzLogAppender> Find(std::u16string_view AName) const;
     std::vector<Ref<IQzLogAppender>> Items() const;
 
@@ -171,8 +174,8 @@ private:
 
 QZ_API TQzAppenderInstances& AppenderInstances();
 
-// Makes an object by the virtual constructor of its class. Raises EInvalidOperation, "Class %s cannot be made", for null and
-// for a class without one.
+// Makes an object by the virtual constructor of its class. Raises EInvalidOperation, "Class %s cannot be
+// made", for null and for a class without one.
 QZ_API Ref<IQzLogBase> MakeLogBase(TQzLogBaseClass AClass, TQzLogger* ALogger, const UnicodeString& AName);
 
 namespace detail {

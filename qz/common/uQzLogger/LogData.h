@@ -1,4 +1,5 @@
-// IQzLogData: a message as a record with a description of the machine, which can be passed on before it is logged.
+// IQzLogData: a message as a record with a description of the machine, which can be passed on before it is
+// logged.
 //
 //     Ref<IQzLogData> Data = TQzLogData::Create(llInfo, u"started");
 //     Data->Data()->FSource = u"backup";
@@ -41,8 +42,8 @@ public:
     UnicodeString FActiveControl;
     UnicodeString FExtendedInfo;
     UnicodeString FSource;
-    // The name for the number of QzGetWindowsVersion, "Unidentified OS" on other systems. Later versions than Windows 8 may
-    // have its number.
+    // The name for the number of QzGetWindowsVersion, "Unidentified OS" on other systems. Later versions than
+    // Windows 8 may have its number.
     UnicodeString FOS;
     UnicodeString FVersion; // of the system, such as 10.0; Build: 4A61, "": the build is hexadecimal
     TDateTime FTimestamp;   // local time of creation

@@ -22,14 +22,14 @@ struct TQzLogDrop {
 
 using TQzLogDropHook = std::function<void(const TQzLogDrop& ADrop)>;
 
-// Sets the hook of the process; an empty one removes it. The hook is called on the logging thread, with no lock held, at
-// most once a second for each appender, and never while it runs on this or another thread. It may log; its messages are
-// delivered afterwards to all appenders but the one that raised. What it raises is dropped. Any thread; a call of the old
-// hook may still be running on another thread.
+// Sets the hook of the process; an empty one removes it. The hook is called on the logging thread, with no
+// lock held, at most once a second for each appender, and never while it runs on this or another thread. It
+// may log; its messages are delivered afterwards to all appenders but the one that raised. What it raises is
+// dropped. Any thread; a call of the old hook may still be running on another thread.
 QZ_API void QzSetLogDropHook(TQzLogDropHook AHook);
 
-// The number of messages lost so far: an appender raised, the disk was full until the file was closed, the log of the system
-// refused them, or more than 1000 arose while one was delivered. Any thread.
+// The number of messages lost so far: an appender raised, the disk was full until the file was closed, the
+// log of the system refused them, or more than 1000 arose while one was delivered. Any thread.
 QZ_API std::uint64_t QzDroppedLogMessages() noexcept;
 
 namespace detail {
@@ -38,7 +38,8 @@ void CountDrops(std::uint64_t ACount) noexcept;
 inline void CountDrop() noexcept {
     CountDrops(1);
 }
-// Counts a drop and calls the hook; for a handler of exceptions. AAppender is the serial of an appender, or 0.
+// Counts a drop and calls the hook; for a handler of exceptions. AAppender is the serial of an appender, or
+// 0.
 void ReportDrop(const UnicodeString& ALogger, std::uint64_t AAppender,
                 const UnicodeString& AAppenderName) noexcept;
 // In the child of a fork: a call of the hook on a thread of the parent has no end there.

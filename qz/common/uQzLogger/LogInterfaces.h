@@ -1,5 +1,5 @@
-// What loggers call: appenders, which write messages, layouts, which format them, and the configurator, by which an application
-// sets the values of loggers and appenders.
+// What loggers call: appenders, which write messages, layouts, which format them, and the configurator, by
+// which an application sets the values of loggers and appenders.
 //
 //     class TMemoryAppender : public TQzBaseAppender { ... };          // see BaseAppender.h
 //     class TMyConfiguration : public TInterfacedObject, public IQzLogConfigurator { ... };
@@ -34,9 +34,9 @@ class IQzLogAppender : public IQzLogBase {
 public:
     static constexpr TGUID IID = Guid("{D10CACCF-3B7D-4CBB-96D3-7C22BEF8FE7E}");
 
-    // Writes a message. ASource is the full name of the logger where it began, ALogger that of the logger whose appender is
-    // called, which may be an ancestor. Called on any thread; one logger makes one call at a time. An exception ends the
-    // delivery of the message, and the logger drops it.
+    // Writes a message. ASource is the full name of the logger where it began, ALogger that of the logger
+    // whose appender is called, which may be an ancestor. Called on any thread; one logger makes one call at
+    // a time. An exception ends the delivery of the message, and the logger drops it.
     virtual void Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
                        const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) = 0;
     // Closes what the appender writes to, until the next message.
@@ -85,7 +85,8 @@ protected:
     ~_IQzLogLayout() = default;
 };
 
-// An appender with a layout. It has the identifier of IQzLogAppender, so that a query for either gives the same interface.
+// An appender with a layout. It has the identifier of IQzLogAppender, so that a query for either gives the
+// same interface.
 class IQzLogAppenderEx : public IQzLogAppender {
 public:
     static constexpr TGUID IID = IQzLogAppender::IID;
@@ -108,9 +109,9 @@ public:
     virtual UnicodeString GetFileName() = 0;
     virtual bool GetAppendExisting() = 0;
     virtual UnicodeString GetFileExt() = 0;
-    // A new name or extension closes the open file. A name without an extension gets the current one, a name with an
-    // extension sets it, and an extension may come without its point. With a blank name nothing is written. A footer that
-    // does not fit on the disk is left out.
+    // A new name or extension closes the open file. A name without an extension gets the current one, a name
+    // with an extension sets it, and an extension may come without its point. With a blank name nothing is
+    // written. A footer that does not fit on the disk is left out.
     virtual void SetFileName(const UnicodeString& AName) = 0;
     // Whether an existing file is continued, the default, or replaced; from the next opening on.
     virtual void SetAppendExisting(bool AValue) = 0;
@@ -125,14 +126,15 @@ protected:
 //     logger    Level            mtkInteger   a TQzLogLevel; llDoNotLog without an answer
 //               Additive         mtkBoolean   whether messages go on to the parent
 //               Appenders        mtkArray     the names of its appenders, an array of texts
-//     appender  class            mtkString    a name in RegisteredAppenders; asked if no appender has the name
+//     appender  class            mtkString    in RegisteredAppenders; asked if no appender has the name
 //               Layout           mtkString    a name in RegisteredLayouts
 //               AppendExisting   mtkBoolean   FileName, FileExt  mtkString              file appenders
+//               BufferSize, FlushLevel        mtkInteger                                file appenders
 //               MaxFileSize, MaxBackupCount   mtkInteger         DatePattern  mtkString rolling appenders
 //               ServiceName      mtkString    event log appenders
 //
-// A logger asks under the lock of the tree. The configurator may log, get loggers and change appenders. It must not wait for
-// another thread that does so, or for the lock of an appender.
+// A logger asks under the lock of the tree. The configurator may log, get loggers and change appenders. It
+// must not wait for another thread that does so, or for the lock of an appender.
 //
 // Keys are case-sensitive. The default is the answer for a key that the configurator does not know.
 class IQzLogConfigurator : public IInterface {

@@ -12,7 +12,8 @@ namespace qz {
 
 class TValue;
 
-// From the least to the most serious; the ordinals are stored in log files. llAll and llDoNotLog serve as thresholds.
+// From the least to the most serious; the ordinals are stored in log files. llAll and llDoNotLog serve as
+// thresholds.
 enum class TQzLogLevel : std::uint8_t {
     llAll,
     llTrace,

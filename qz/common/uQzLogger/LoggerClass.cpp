@@ -39,8 +39,8 @@ std::unordered_set<TQzLogger*>& AllLoggers() {
 
 } // namespace
 
-// Begins and ends with the program. The root stays, since threads may still log through it. What a message needs is made
-// here, so that no fork happens while a thread makes it.
+// Begins and ends with the program. The root stays, since threads may still log through it. What a message
+// needs is made here, so that no fork happens while a thread makes it.
 struct TLogUnit {
     TLogUnit() {
         AllLoggers();
@@ -152,8 +152,8 @@ Ref<TQzLogger> TQzLogger::Hold(TAccessKey<TQzLogBase>) noexcept {
     return TryAddRef() ? Ref<TQzLogger>::Attach(this) : Ref<TQzLogger>();
 }
 
-// The last reference is dropped under the lock by which loggers are found, so that a logger that ends is not found. True if
-// this logger has to end; otherwise it may be destroyed already.
+// The last reference is dropped under the lock by which loggers are found, so that a logger that ends is not
+// found. True if this logger has to end; otherwise it may be destroyed already.
 bool TQzLogger::DropReference(std::int32_t& ACount) {
     ACount = 1;
     if (FRefCount.DecrementUnlessLast())
@@ -167,8 +167,8 @@ bool TQzLogger::DropReference(std::int32_t& ACount) {
     return Ends;
 }
 
-// A parent may end with its last child, and so on up the tree, which may be high. A thread that may not wait for the tree
-// lock leaves the last reference to its queue.
+// A parent may end with its last child, and so on up the tree, which may be high. A thread that may not wait
+// for the tree lock leaves the last reference to its queue.
 std::uint32_t TQzLogger::_Release() {
     std::int32_t Count = 0;
     if (FRefCount.DecrementUnlessLast())

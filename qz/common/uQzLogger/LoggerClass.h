@@ -6,12 +6,14 @@
 //     Log->Info("connected");
 //     CloseRootLogger();
 //
-// IQzLogger says what a logger does. Beyond that: the root lives until CloseRootLogger or the end of the program. Logger()
-// makes a new one afterwards, also for destructors that run later. A logger that outlives its root writes to its own
-// appenders and to those of its ancestors below the root. After a fork the child can log.
+// IQzLogger says what a logger does. Beyond that: the root lives until CloseRootLogger or the end of the
+// program. Logger() makes a new one afterwards, also for destructors that run later. A logger that outlives
+// its root writes to its own appenders and to those of its ancestors below the root. After a fork the child
+// can log.
 //
-// A message that no appender takes costs one comparison beside what its arguments cost (a narrow text is converted, a u""
-// text is not): each logger knows the lowest level at which an appender on the way to the root would be called.
+// A message that no appender takes costs one comparison beside what its arguments cost (a narrow text is
+// converted, a u"" text is not): each logger knows the lowest level at which an appender on the way to the
+// root would be called.
 #pragma once
 
 #include <atomic>
@@ -55,11 +57,11 @@ public:
     // Tree.
     Ref<IQzLogger> GetLogger(const TStringArg& AName) override;
     Ref<IQzLogger> GetLogger(const TObject* AObject) override;
-    // Detaches all children, which have no parent then. Raises as TQzLoggerList::Lock does, under the full name and
-    // ".ClearChildLoggers".
+    // Detaches all children, which have no parent then. Raises as TQzLoggerList::Lock does, under the full
+    // name and ".ClearChildLoggers".
     void ClearChildLoggers();
-    // One lock for all trees, which re-enters and waits as long as it takes. Always true; the arguments are not used. An
-    // appender that writes, and a thread that holds a list of appenders, must not call it.
+    // One lock for all trees, which re-enters and waits as long as it takes. Always true; the arguments are
+    // not used. An appender that writes, and a thread that holds a list of appenders, must not call it.
     bool Lock(const TStringArg& AName, bool ARaise);
     void Unlock();
 
@@ -124,12 +126,12 @@ public:
     TQzLogAppenderList* LockAppenders() override;
     void UnLockAppenders() override;
 
-    // Raises EAssertionFailed for a logger without parent, "Do not get the IQzLogger interface from the rootlogger!", since
-    // its count does not decide its life. A Ref takes the interface without this call.
+    // Raises EAssertionFailed for a logger without parent, "Do not get the IQzLogger interface from the
+    // rootlogger!", since its count does not decide its life. A Ref takes the interface without this call.
     HRESULT QueryInterface(const TGUID& AIid, void** AObject) override;
     std::uint32_t _AddRef() override;
-    // The last one destroys a logger that was made with a parent. If an appender that writes drops it, or a thread that holds
-    // a list of appenders, that happens afterwards.
+    // The last one destroys a logger that was made with a parent. If an appender that writes drops it, or a
+    // thread that holds a list of appenders, that happens afterwards.
     std::uint32_t _Release() override;
     int RefCount() const noexcept { return FRefCount.Value(); }
 
@@ -195,16 +197,18 @@ private:
     Ref<IQzLogConfigurator> FConfigurator; // guarded by the state lock
     bool FEndsByCount;
     std::atomic<bool> FIsEnding{false};
-    // Follow from the above for this logger and its ancestors; written under the state lock. Dispatch reads them without a
-    // lock: a thread that has learnt of a change in another way sees the new values, since the change came first.
+    // Follow from the above for this logger and its ancestors; written under the state lock. Dispatch reads
+    // them without a lock: a thread that has learnt of a change in another way sees the new values, since the
+    // change came first.
     std::atomic<TQzLogLevel> FEffectiveLevel{llDebug};
     std::atomic<TQzLogLevel> FTakenFrom; // the lowest level that an appender on the way takes
 };
 
-// The root, made when it is first asked for; its level is llDebug. The reference is good until CloseRootLogger.
+// The root, made when it is first asked for; its level is llDebug. The reference is good until
+// CloseRootLogger.
 QZ_API TQzLogger& Logger();
-// Ends the tree, if there is one: the root drops its children and appenders. Must not be called while another thread uses
-// the root by its reference; loggers that were got from it may be in use.
+// Ends the tree, if there is one: the root drops its children and appenders. Must not be called while another
+// thread uses the root by its reference; loggers that were got from it may be in use.
 QZ_API void CloseRootLogger();
 
 } // namespace qz

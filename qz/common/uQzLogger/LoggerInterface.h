@@ -5,15 +5,16 @@
 //     Log->Debug("%s took %d ms", {Query, 17});
 //     Log->Fatal("failed", Failure);
 //
-// A message goes to the appenders of the logger if its level is at least that of the logger. Then it goes in the same way to
-// the parent, and so on as long as the loggers are additive. An exception of an appender or layout does not reach the caller
-// (LogDrops.h). A bad pattern raises EConvertError from the operation itself, before anything is logged. Texts are formatted
-// even if no appender takes them: check IsEnabledFor first where that costs too much.
+// A message goes to the appenders of the logger if its level is at least that of the logger. Then it goes in
+// the same way to the parent, and so on as long as the loggers are additive. An exception of an appender or
+// layout does not reach the caller (LogDrops.h). A bad pattern raises EConvertError from the operation
+// itself, before anything is logged. Texts are formatted even if no appender takes them: check IsEnabledFor
+// first where that costs too much.
 //
-// Any thread may call any operation. A message that arises while an appender writes or a layout formats a line, on the same
-// thread, is queued and delivered next, to all appenders that take it. So is a message of a thread that holds the lock of an
-// appender. The text of an object that is its value is taken at once. Of more than 1000 such messages in a row the rest is
-// dropped.
+// Any thread may call any operation. A message that arises while an appender writes or a layout formats a
+// line, on the same thread, is queued and delivered next, to all appenders that take it. So is a message of a
+// thread that holds the lock of an appender. The text of an object that is its value is taken at once. Of
+// more than 1000 such messages in a row the rest is dropped.
 //
 // This header is for code that only logs. A message with a value needs Variant.h or Value.h as well.
 #pragma once
@@ -56,13 +57,14 @@ public:
     // Whether the level is the parent's. False restores the logger's own level.
     virtual void SetParentLevel(bool AValue) = 0;
     virtual void SetLevel(TQzLogLevel AValue) = 0;
-    // Asks for the values of this logger now. Null removes the configurator from this logger and all below it, and changes no
-    // values.
+    // Asks for the values of this logger now. Null removes the configurator from this logger and all below
+    // it, and changes no values.
     virtual void SetConfig(IQzLogConfigurator* AConfigurator) = 0;
 
-    // The logger of that path below this one. A new logger is configured by the configurator of the root. A logger, with its
-    // level and appenders, lives as long as there is a reference to it or to one below it. Empty parts of the path are
-    // skipped; an empty path gives this logger. Raises what the configurator raises.
+    // The logger of that path below this one. A new logger is configured by the configurator of the root. A
+    // logger, with its level and appenders, lives as long as there is a reference to it or to one below it.
+    // Empty parts of the path are skipped; an empty path gives this logger. Raises what the configurator
+    // raises.
     virtual Ref<IQzLogger> GetLogger(const TStringArg& AName) = 0;
     // The logger with the name of the object's class.
     virtual Ref<IQzLogger> GetLogger(const TObject* AObject) = 0;
@@ -75,8 +77,8 @@ public:
     // Whether the level is at least GetLevel.
     virtual bool IsEnabledFor(TQzLogLevel ALevel) const = 0;
 
-    // Messages. For an object, Trace prepends its class and address, EnterMethod and ExitMethod its class. Patterns and
-    // arguments are those of Format.
+    // Messages. For an object, Trace prepends its class and address, EnterMethod and ExitMethod its class.
+    // Patterns and arguments are those of Format.
     virtual void Trace(const TStringArg& AMessage) = 0;
     virtual void Trace(const TObject* AObject, const TStringArg& AMessage) = 0;
     virtual void Trace(const TObject* AObject, const TStringArg& APattern, TVarRecs AArgs) = 0;
@@ -92,7 +94,8 @@ public:
     virtual void Fatal(const TStringArg& APattern, TVarRecs AArgs) = 0;
     virtual void Fatal(const Exception& AValue) = 0;
     virtual void Fatal(const TStringArg& AMessage, const Exception& AValue) = 0;
-    // A counter, which readers of logs can collect: the message "#counter::NAME#" of level llDebug with the value.
+    // A counter, which readers of logs can collect: the message "#counter::NAME#" of level llDebug with the
+    // value.
     virtual void Count(const TStringArg& AName, std::int32_t AValue) = 0;
     // Does nothing, since no log is kept in memory.
     virtual void ClearLog() = 0;
@@ -123,8 +126,8 @@ public:
     virtual Ref<IQzLogAppender> AddAppender(TQzLogBaseClass AClass) = 0;
     virtual void RemoveAppender(IQzLogAppender* AAppender) = 0;
     virtual void ClearAppenders() = 0;
-    // Holds back messages of this logger on other threads, and changes of the list, until UnLockAppenders on the same thread.
-    // That raises EAssertionFailed if the thread does not hold the lock.
+    // Holds back messages of this logger on other threads, and changes of the list, until UnLockAppenders on
+    // the same thread. That raises EAssertionFailed if the thread does not hold the lock.
     virtual TQzLogAppenderList* LockAppenders() = 0;
     virtual void UnLockAppenders() = 0;
 

@@ -5,8 +5,9 @@
 //     for (int I = 0; I < List.Count(); ++I) Show(List.GetLogger(I)->GetName());
 //     List.Unlock();
 //
-// Loggers come and go on any thread. While a thread holds the lock, no logger leaves a list, and none is added but by an
-// appender that writes at that moment; it is appended. Hold the lock briefly: it is that of the whole tree.
+// Loggers come and go on any thread. While a thread holds the lock, no logger leaves a list, and none is
+// added but by an appender that writes at that moment; it is appended. Hold the lock briefly: it is that of
+// the whole tree.
 #pragma once
 
 #include <unordered_map>
@@ -30,14 +31,16 @@ public:
     // Raises EAssertionFailed, "Assertion failure", while loggers are in the list.
     void BeforeDestruction() override;
 
-    // Re-enters. Tries for a second. Then raises Exception, SLockFailed with the name, or gives false if ARaise is false.
+    // Re-enters. Tries for a second. Then raises Exception, SLockFailed with the name, or gives false if
+    // ARaise is false.
     bool Lock(const TStringArg& AName, bool ARaise);
     void Unlock() noexcept;
 
     // Each raises as Lock does, under the name of the owner and ".LoggerList.Remove".
     void AddLogger(TQzLogger* ALogger);
     void RemoveLogger(TQzLogger* ALogger);
-    // The last one of that full name, case-sensitive; null if there is none. It is valid as long as a reference to it exists.
+    // The last one of that full name, case-sensitive; null if there is none. It is valid as long as a
+    // reference to it exists.
     TQzLogger* FindLogger(const TStringArg& AFullName);
 
     // The caller holds the lock, or the index may be out of range by the next call.

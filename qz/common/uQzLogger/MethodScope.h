@@ -5,7 +5,8 @@
 //         ...
 //     }
 //
-// It belongs to one thread. It holds a reference to the logger, and takes the class of the object at the start.
+// It belongs to one thread. It holds a reference to the logger, and takes the class of the object at the
+// start.
 #pragma once
 
 #include <qz/common/uQzLogger/LoggerInterface.h>

@@ -168,8 +168,8 @@ constinit std::mutex GLock;
 
 // Calls AUse with the locale that the environment names now.
 template <class TUse> auto WithUserLocale(const TUse& AUse) {
-    // To open a locale in ICU takes a tenth of a millisecond, and what it says does not change with time. Guarded by the lock
-    // and never destroyed.
+    // To open a locale in ICU takes a tenth of a millisecond, and what it says does not change with time.
+    // Guarded by the lock and never destroyed.
     constinit static std::pair<TLocaleNames, TLocale>* Last = nullptr;
     const TLocaleNames Names = NamesOfEnvironment();
     const std::lock_guard Hold(GLock);

@@ -1,5 +1,5 @@
-// IInterface, the root of all interfaces, and Ref<I>, which holds one; Interface.h describes both. For headers that only name
-// interfaces.
+// IInterface, the root of all interfaces, and Ref<I>, which holds one; Interface.h describes both. For
+// headers that only name interfaces.
 #pragma once
 
 #include <concepts>

@@ -31,10 +31,6 @@ public:
         if (OnWrite)
             OnWrite(AMessage);
     }
-    void Initialize() override {
-        Inherited::Initialize();
-        ++Opened;
-    }
     void Close() override {
         Inherited::Close();
         if (OnClose)
@@ -52,7 +48,6 @@ public:
     std::function<void(const UnicodeString& AMessage)> OnWrite;
     std::function<void()> OnClose;
     std::vector<UnicodeString> Lines;
-    int Opened = 0;
 
 protected:
     using TQzBaseAppender::TQzBaseAppender;

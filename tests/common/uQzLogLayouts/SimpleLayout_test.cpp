@@ -5,7 +5,6 @@
 #include "tests/common/support/MemoryAppender.h"
 #include "tests/support/Message.h"
 #include <qz/runtime/time/DateTimeText.h>
-#include <qz/runtime/time/LocalClock.h>
 
 namespace qz {
 namespace {
@@ -47,19 +46,6 @@ TEST(SimpleLayout, EnteredMethodsStandDeeper) {
     }
 }
 
-TEST(BaseAppender, OpensAtTheFirstMessageAndAgainWhenClosed) {
-    const TLogTree Tree;
-    TMemoryAppender& Out = AddMemory(Logger());
-    Out.Close();
-    EXPECT_EQ(Out.Opened, 0);
-    Logger().Info("x");
-    Logger().Info("y");
-    EXPECT_EQ(Out.Opened, 1);
-    Out.Close();
-    Logger().Info("z");
-    EXPECT_EQ(Out.Opened, 2);
-}
-
 TEST(BaseAppender, KeepsItsLayoutWhenAnotherCannotBeMade) {
     const TLogTree Tree;
     TMemoryAppender& Out = AddMemory(Logger());
@@ -71,17 +57,6 @@ TEST(BaseAppender, KeepsItsLayoutWhenAnotherCannotBeMade) {
     EXPECT_EQ(Out.GetLayout(), Layout);
     Out.SetLayout(static_cast<IQzLogLayout*>(nullptr));
     EXPECT_EQ(Out.GetLayout(), nullptr);
-}
-
-TEST(LocalClock, IsTheLocalTime) {
-    for (int I = 0; I < 100; ++I) {
-        const double Before = Now();
-        const TLocalInstant Instant = LocalClock();
-        const double After = Now();
-        const double Value = Instant.Day + Instant.MSecs / double{MSecsPerDay};
-        EXPECT_LE(Before - 1e-9, Value);
-        EXPECT_LE(Value, After + 1e-9);
-    }
 }
 
 } // namespace

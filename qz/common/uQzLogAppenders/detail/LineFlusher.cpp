@@ -118,7 +118,8 @@ TLineFlusher::TOutcome TLineFlusher::FlushOne(TQzTextFile& AFile) noexcept {
     }
 }
 
-// Other threads may have been ended while they held locks, and a file that blocks must not keep back the others.
+// Other threads may have been ended while they held locks, and a file that blocks must not keep back the
+// others.
 void TLineFlusher::End() {
     GIsEnding = true;
     TLineFlusher& Flusher = Instance();
@@ -136,7 +137,8 @@ void TLineFlusher::End() {
     }
 }
 
-// A file whose lock another thread keeps is left out: an appender that the child has lost, or a write that blocks.
+// A file whose lock another thread keeps is left out: an appender that the child has lost, or a write that
+// blocks.
 void TLineFlusher::LockForFork() {
     std::unique_lock Hold(FLock);
     FIdle.wait_for(Hold, cForkPatience, [this] { return FBusy == nullptr; });
@@ -173,7 +175,8 @@ void TLineFlusher::EndForkInParent() {
         GForking->UnlockAfterFork(false);
 }
 
-// The thread does not exist here, nor do those that waited for a condition, so that the old flusher stays as it is.
+// The thread does not exist here, nor do those that waited for a condition, so that the old flusher stays as
+// it is.
 void TLineFlusher::EndForkInChild() {
     TLineFlusher* const Old = GForking;
     if (Old == nullptr)

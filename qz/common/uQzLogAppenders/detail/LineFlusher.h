@@ -1,8 +1,8 @@
 // TLineFlusher: writes the lines in the buffers of text files in time. Internal.
 //
-// Its thread starts with the first such line and writes what is in the buffers at least once a second. At the end of the
-// program everything is written, and no line is buffered any more. Lines are lost when the process is killed, or ends by
-// abort or _exit.
+// Its thread starts with the first such line and writes what is in the buffers at least once a second. At the
+// end of the program everything is written, and no line is buffered any more. Lines are lost when the process
+// is killed, or ends by abort or _exit.
 #pragma once
 
 #include <atomic>
@@ -29,7 +29,8 @@ public:
     // A line is in a buffer: wakes the thread. False if the thread could not start.
     bool Wake() noexcept;
 
-    // Around a fork. The child gets a new flusher with the files that could be locked; their buffers are emptied there.
+    // Around a fork. The child gets a new flusher with the files that could be locked; their buffers are
+    // emptied there.
     static void BeginFork();
     static void EndForkInParent();
     static void EndForkInChild();
@@ -40,7 +41,8 @@ private:
     void Serve() noexcept;
     void LockForFork();
     void UnlockAfterFork(bool AIsChild) noexcept;
-    // Full: the lines stay until there is room or the file is closed. Busy: another thread is writing to the file.
+    // Full: the lines stay until there is room or the file is closed. Busy: another thread is writing to the
+    // file.
     enum class TOutcome : std::uint8_t { Done, Full, Busy };
     TOutcome FlushAll() noexcept;
     static TOutcome FlushOne(TQzTextFile& AFile) noexcept;

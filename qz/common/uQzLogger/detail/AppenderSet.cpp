@@ -31,8 +31,9 @@ void EndQuietly(TQzLogBase* ABase) noexcept {
 
 } // namespace
 
-// A change of the list. Holds the gate if the thread may wait for it; otherwise it leaves the old entries and the removed
-// appenders to the queue of the thread. Outlives the state lock, since appenders end in its destructor.
+// A change of the list. Holds the gate if the thread may wait for it; otherwise it leaves the old entries and
+// the removed appenders to the queue of the thread. Outlives the state lock, since appenders end in its
+// destructor.
 class TAppenderSet::TChange {
 public:
     explicit TChange(TAppenderSet& ASet)
@@ -67,8 +68,8 @@ public:
         FEnding.Removed.reserve(ACount);
         FEnded.reserve(ACount);
     }
-    // Under the gate nothing is being written to the appender, so that the reference of the list ends at once. Then Free on
-    // another thread finds no reference of a list that has let the appender go.
+    // Under the gate nothing is being written to the appender, so that the reference of the list ends at
+    // once. Then Free on another thread finds no reference of a list that has let the appender go.
     void Remove(const TAppenderEntry& AEntry, Ref<IQzLogAppender>& AOwned) {
         if (AEntry.Base != nullptr)
             AEntry.Base->LeftSet(*FEnding.Set, {});

@@ -1,9 +1,10 @@
 // The appenders of one logger as dispatch and changes share them. Internal.
 //
-// The entries are an immutable snapshot, which a change replaces as a whole. Whoever walks a snapshot holds the gate, and
-// whoever replaces it deletes the old one only after it has held the gate itself. So the walk counts no references and takes
-// no second lock. A thread that may not wait for the gate replaces the snapshot at once, and its queue keeps the old one and
-// the removed appenders until it may wait (LogDispatch.h).
+// The entries are an immutable snapshot, which a change replaces as a whole. Whoever walks a snapshot holds
+// the gate, and whoever replaces it deletes the old one only after it has held the gate itself. So the walk
+// counts no references and takes no second lock. A thread that may not wait for the gate replaces the
+// snapshot at once, and its queue keeps the old one and the removed appenders until it may wait
+// (LogDispatch.h).
 #pragma once
 
 #include <memory>
@@ -60,14 +61,14 @@ public:
 
     // Appends, unless the appender is in the list.
     void Add(IQzLogAppender* AAppender);
-    // Removes the appenders of that component, or all for null. If the caller may wait, nothing is written to them any more
-    // when this returns.
+    // Removes the appenders of that component, or all for null. If the caller may wait, nothing is written to
+    // them any more when this returns.
     void Remove(const TComponent* AComponent);
 
     // The logger ends.
     void LoseLogger() noexcept;
-    // In the child of a fork, under the state lock: frees the gate if a thread of the parent held it, and drops the lost
-    // appenders without a release.
+    // In the child of a fork, under the state lock: frees the gate if a thread of the parent held it, and
+    // drops the lost appenders without a release.
     void BeginChild(std::span<TQzLogBase* const> ALost);
 
 private:

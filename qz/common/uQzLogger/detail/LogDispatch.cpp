@@ -93,7 +93,8 @@ void TLogDispatch::Walk(TProgress& AProgress, const TQzLogger& ALogger, const TL
     }
 }
 
-// An exception ends the delivery. It is reported with no gate held, while the messages of the hook are queued.
+// An exception ends the delivery. It is reported with no gate held, while the messages of the hook are
+// queued.
 void TLogDispatch::Deliver(TLogThread& AThread, TQzLogger& ALogger, const TLogMessage& AMessage,
                            std::uint64_t AExcept) noexcept {
     TProgress Progress{AThread, AExcept, 0, {}};

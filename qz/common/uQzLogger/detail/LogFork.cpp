@@ -40,7 +40,8 @@ TLogFork& TLogFork::Instance() {
     return *Result;
 }
 
-// True if all of them could be locked. A thread that holds one may wait for the state lock, which the caller holds.
+// True if all of them could be locked. A thread that holds one may wait for the state lock, which the caller
+// holds.
 bool TLogFork::TryAppenders() {
     FMissed.clear();
     for (TQzLogBase* Each : AppenderInstances().All({})) {

@@ -1,8 +1,9 @@
 // What keeps the child of a fork() able to log. Internal.
 //
-// Before a fork this takes the locks of all appenders and then the state lock. Gates and the tree lock are not waited for:
-// the child frees those that a thread of the parent held. Only an appender lock may be held for long, by a write that
-// blocks; an appender whose lock cannot be had in a second is in no list of the child.
+// Before a fork this takes the locks of all appenders and then the state lock. Gates and the tree lock are
+// not waited for: the child frees those that a thread of the parent held. Only an appender lock may be held
+// for long, by a write that blocks; an appender whose lock cannot be had in a second is in no list of the
+// child.
 #pragma once
 
 #include <atomic>

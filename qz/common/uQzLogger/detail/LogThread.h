@@ -5,10 +5,11 @@
 //     the tree lock        one for all loggers, held while a logger is made and configured
 //     the gate of a list   held while its appenders write (AppenderSet.h)
 //     a lock of an appender
-//     the state lock       one for all lists, names and levels; held briefly, and only the library's own code runs under it
+//     the state lock       one for all lists, names and levels, under which only library code runs
 //
-// The first three are held while the code of users runs. A thread that holds a gate or the lock of an appender never waits
-// for the tree lock. A thread that is busy queues its messages, so that it never waits for a second gate.
+// The first three are held while the code of users runs. A thread that holds a gate or the lock of an
+// appender never waits for the tree lock. A thread that is busy queues its messages, so that it never waits
+// for a second gate.
 #pragma once
 
 #include <atomic>
@@ -63,7 +64,8 @@ public:
     static void BeginChild();
 };
 
-// Holds the tree lock for a block. A thread that may not wait goes on without the lock if another thread holds it.
+// Holds the tree lock for a block. A thread that may not wait goes on without the lock if another thread
+// holds it.
 class [[nodiscard]] TTreeHold {
 public:
     TTreeHold() noexcept;

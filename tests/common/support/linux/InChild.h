@@ -19,8 +19,9 @@
 
 namespace qz {
 
-// Whether a child can allocate after a fork among threads that allocate. The allocator of AddressSanitizer does not take its
-// locks around a fork, so that a child may wait for one for ever, with or without this library.
+// Whether a child can allocate after a fork among threads that allocate. The allocator of AddressSanitizer
+// does not take its locks around a fork, so that a child may wait for one for ever, with or without this
+// library.
 #if defined(QZ_TESTS_CHECK_ADDRESSES)
 inline constexpr bool cChildrenCanAllocate = false;
 #else

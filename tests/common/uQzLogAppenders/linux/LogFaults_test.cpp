@@ -1,4 +1,5 @@
-// Log files under faults: a killed process, a full disk, a removed file, forks, and several processes with one family.
+// Log files under faults: a killed process, a full disk, a removed file, forks, and several processes with
+// one family.
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
@@ -254,8 +255,8 @@ TEST(LogFaults, ThreadsThatRollOver) {
         EXPECT_EQ(Count, cLines);
 }
 
-// Each line is whole and occurs once. A line that was not counted as lost is in the family, unless one process has deleted
-// a backup as one too many while another process was renaming it.
+// Each line is whole and occurs once. A line that was not counted as lost is in the family, unless one
+// process has deleted a backup as one too many while another process was renaming it.
 TEST(LogFaults, ProcessesThatRollOneFamily) {
     TLogFiles Files;
     int Pipe[2];
@@ -389,9 +390,7 @@ TEST(LogFaults, TheEndOfTheProgram) {
     };
     static TLast Early; // destroyed after the root
     TLogFiles Files;
-    const pid_t Child = fork();
-    ASSERT_GE(Child, 0);
-    if (Child == 0) {
+    InChild([&]() -> bool {
         CloseRootLogger();
         static TLast Late;
         const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>();
@@ -402,8 +401,7 @@ TEST(LogFaults, TheEndOfTheProgram) {
         Late.Words = u"late";
         Logger().GetLogger("kept").Detach()->AddAppender(File.Get()); // this logger outlives the root
         std::exit(0);
-    }
-    EXPECT_EQ(AwaitChild(Child), 0);
+    });
     EXPECT_TRUE(Files.Text().starts_with("head|waits|late|")) << Files.Text();
 }
 

@@ -11,8 +11,8 @@
 namespace qz {
 namespace {
 
-// Other threads write, change lists and get loggers at the moment of the fork. The child gets a logger, changes a list, and
-// its message arrives.
+// Other threads write, change lists and get loggers at the moment of the fork. The child gets a logger,
+// changes a list, and its message arrives.
 TEST(LoggerFork, TheChildCanLog) {
     if constexpr (cChildrenCanAllocate) {
         const TLogTree Tree;
@@ -45,8 +45,8 @@ TEST(LoggerFork, TheChildCanLog) {
     }
 }
 
-// Another thread holds the locks for the whole time. Those of the list and of the tree are free in the child; the appender
-// whose lock is held is in none of its lists.
+// Another thread holds the locks for the whole time. Those of the list and of the tree are free in the child;
+// the appender whose lock is held is in none of its lists.
 TEST(LoggerFork, LocksThatAnotherThreadKeeps) {
     const TLogTree Tree;
     TMemoryAppender& Out = AddMemory(Logger());
