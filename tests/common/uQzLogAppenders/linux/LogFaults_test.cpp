@@ -115,14 +115,10 @@ TEST(LogFaults, AFileThatMayNotGrow) {
 }
 
 TEST(LogFaults, AFullDevice) {
-    const TLogTree Tree;
-    const Ref<TQzFileAppender> File(TQzFileAppender::Create(nullptr, u""));
-    File->SetFileExt(u"");
-    File->SetFileName(u"/dev/full.");
     TLogFiles Files;
     ASSERT_EQ(symlink("/dev/full", Utf16ToUtf8(Files.Path(u"full.log")).c_str()), 0);
-    File->SetFileName(Files.Path(u"full.log"));
-    File->SetLayout(TQzLogBaseClass::Of<TPlainLayout>());
+    const TLogTree Tree;
+    const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>(u"full.log");
     Logger().AddAppender(File.Get());
     const std::uint64_t Before = QzDroppedLogMessages();
     for (int I = 0; I < 10; ++I)
