@@ -1,5 +1,5 @@
-// A message on its way through the loggers, without anything that writes, beside log4cplus and spdlog: one that nobody
-// takes, one to appenders that do nothing, and the line of text that the layouts make of one.
+// The delivery of a message beside log4cplus and spdlog: one that no appender takes, one to appenders that do
+// nothing, and the line of text that the layouts make of one.
 #include <benchmark/benchmark.h>
 
 #include <log4cplus/initializer.h>
@@ -37,7 +37,7 @@ const char* Path(std::int64_t ADepth) {
     return ADepth == 1 ? "a" : "a.b.c.d";
 }
 
-// The root has an appender, whose level holds the message back.
+// The root has an appender, but its level is higher.
 void NobodyTakes(benchmark::State& AState) {
     static const Ref<IQzLogAppender> Appender = Logger().AddAppender(TQzLogBaseClass::Of<TNoAppender>());
     Logger().SetLevel(llError);
@@ -69,7 +69,7 @@ BENCHMARK(NobodyTakes)->Arg(1)->Arg(4)->Threads(1)->Threads(4)->UseRealTime();
 BENCHMARK(NobodyTakesLog4cplus)->Arg(1)->Arg(4)->Threads(1)->Threads(4)->UseRealTime();
 BENCHMARK(NobodyTakesSpdlog)->Arg(1)->Threads(1)->Threads(4)->UseRealTime();
 
-// To so many appenders that do nothing, of the logger itself.
+// To so many appenders of the logger, which do nothing.
 void Dispatch(benchmark::State& AState) {
     const Ref<IQzLogger> Log = Logger().GetLogger("dispatch");
     Log->SetAdditive(false);
@@ -107,6 +107,17 @@ void DispatchSpdlog(benchmark::State& AState) {
 BENCHMARK(Dispatch)->Arg(1)->Arg(4);
 BENCHMARK(DispatchLog4cplus)->Arg(1)->Arg(4);
 BENCHMARK(DispatchSpdlog)->Arg(1)->Arg(4);
+
+// Finds one of so many children of the root.
+void GetLogger(benchmark::State& AState) {
+    std::vector<Ref<IQzLogger>> Siblings;
+    for (std::int64_t I = 0; I < AState.range(0); ++I)
+        Siblings.push_back(Logger().GetLogger("sibling" + std::to_string(I)));
+    for (auto _ : AState)
+        benchmark::DoNotOptimize(Logger().GetLogger("sibling0").Get());
+}
+
+BENCHMARK(GetLogger)->Arg(1)->Arg(10000);
 
 void FormatLine(benchmark::State& AState) {
     const auto Layout = AsInterface<IQzLogLayout>(TQzSimpleLayout::Create(nullptr, u""));

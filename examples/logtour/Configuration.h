@@ -1,4 +1,4 @@
-// How this application sets up its loggers: a table of its own, behind the interface that loggers and appenders ask.
+// The configuration of the loggers of this application: a table with the interface of a configurator.
 //
 //     Logger().SetConfig(TourConfiguration(u"logtour/").Get());
 //     const Ref<IQzLogger> Tour = Logger().GetLogger("tour");

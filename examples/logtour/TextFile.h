@@ -18,7 +18,7 @@ struct TTextFile {
     std::array<std::int64_t, 8> OfLevel{};
 };
 
-// Told of each thousandth line.
+// Called for each thousandth line.
 using TOnProgress = std::function<void(const TTextFile& AFile)>;
 
 // The level of a line, by its words; a blank one is llTrace.

@@ -1,20 +1,15 @@
-// Unit uQzLogAppenders: where messages go.
+// Unit uQzLogAppenders: appenders, which write messages.
 #pragma once
 
-// TQzBaseAppender: the frame of all appenders.
+// TQzBaseAppender: the base of all appenders.
 #include <qz/common/uQzLogAppenders/BaseAppender.h>
-// TQzDailyRollingFileAppender: a file
-// for each day.
+// TQzDailyRollingFileAppender: a new file each day.
 #include <qz/common/uQzLogAppenders/DailyRollingFileAppender.h>
-// TQzEventLogAppender: an event in the log
-// of the system for each message.
+// TQzEventLogAppender: the log of the system.
 #include <qz/common/uQzLogAppenders/EventLogAppender.h>
-// TQzFileAppender: a line of a file
-// for each message.
+// TQzFileAppender: a line of a file for each message.
 #include <qz/common/uQzLogAppenders/FileAppender.h>
-// TQzRollingFileAppender: a family of
-// files of one size.
+// TQzRollingFileAppender: numbered files of limited size.
 #include <qz/common/uQzLogAppenders/RollingFileAppender.h>
-// TQzTextFile: the file that these
-// write to.
+// TQzTextFile: the file that they write.
 #include <qz/common/uQzLogAppenders/TextFile.h>

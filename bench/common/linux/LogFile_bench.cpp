@@ -27,7 +27,7 @@
 #include <qz/common/uQzLogLayouts.h>
 #include <qz/common/uQzLogger.h>
 
-// Counts what a thread allocates, in whatever library.
+// Counts the allocations of a thread, in all libraries.
 namespace {
 thread_local std::int64_t GAllocations = 0;
 } // namespace
@@ -56,7 +56,7 @@ std::string PathOf(const char* AName) {
     return Directory + "/" + AName;
 }
 
-// How much the messages of this thread have allocated.
+// The allocations of this thread so far.
 class TAllocations {
 public:
     ~TAllocations() {

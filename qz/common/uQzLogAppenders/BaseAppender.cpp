@@ -1,7 +1,9 @@
 #include <qz/common/uQzLogAppenders/BaseAppender.h>
 
+#include <qz/common/uQzLogger/LogAppenderList.h>
 #include <qz/common/uQzLogger/LogDrops.h>
-#include <qz/common/uQzLogger/QzLogger.h>
+#include <qz/common/uQzLogger/LoggerClass.h>
+#include <qz/common/uQzLogger/detail/LogThread.h>
 #include <qz/common/uQzTypes/VarTolerant.h>
 
 namespace qz {
@@ -9,6 +11,16 @@ namespace qz {
 constinit const TClassRec TQzBaseAppender::ClassRec = DescribeLogBase<TQzBaseAppender>(
     u"TQzBaseAppender",
     {.Unit = u"uQzLogAppenders", .Interfaces = Interfaces<TQzBaseAppender, IQzLogAppenderEx>()});
+
+void TQzBaseAppender::Lock() noexcept {
+    detail::BeginBusy();
+    FLock.Enter();
+}
+
+void TQzBaseAppender::Unlock() noexcept {
+    FLock.Leave();
+    detail::EndBusy();
+}
 
 void TQzBaseAppender::AfterConstruction() {
     Inherited::AfterConstruction();
@@ -19,7 +31,7 @@ void TQzBaseAppender::AfterConstruction() {
 }
 
 void TQzBaseAppender::BeforeDestruction() {
-    Inherited::BeforeDestruction(); // nothing is written from here on
+    Inherited::BeforeDestruction(); // no list holds it from here on
     try {
         Close();
     } catch (...) {
@@ -44,7 +56,7 @@ void TQzBaseAppender::Write(const UnicodeString&, const UnicodeString&, TQzLogLe
     Initialize();
 }
 
-// Keeps layouts that are replaced meanwhile.
+// Keeps layouts alive that are replaced during a call of theirs.
 class TQzBaseAppender::TFormatting {
 public:
     explicit TFormatting(TQzBaseAppender& AAppender) noexcept : FAppender(AAppender) {
@@ -114,6 +126,23 @@ void TQzBaseAppender::SetLayout(const UnicodeString& AClassName) {
 Ref<IQzLogLayout> TQzBaseAppender::GetLayout() {
     const TScopedLock Hold(*this);
     return FLayout;
+}
+
+// Defined here, since uQzLogger does not include this unit.
+void IQzLogger::AddAppender(TQzBaseAppender* AAppender) {
+    AddAppender(static_cast<IQzLogAppender*>(AAppender));
+}
+
+void IQzLogger::RemoveAppender(TQzBaseAppender* AAppender) {
+    RemoveAppender(static_cast<IQzLogAppender*>(AAppender));
+}
+
+void TQzLogAppenderList::Add(TQzBaseAppender* AAppender) {
+    Add(static_cast<IQzLogAppender*>(AAppender));
+}
+
+void TQzLogAppenderList::Remove(TQzBaseAppender* AAppender) {
+    Remove(static_cast<IQzLogAppender*>(AAppender));
 }
 
 } // namespace qz

@@ -1,4 +1,5 @@
-// TQzBaseAppender: the frame of all appenders. It has a layout and a lock, and opens what it writes to at the first message.
+// TQzBaseAppender: the base of all appenders. It has a layout and a lock, and opens what it writes to at the
+// first message.
 //
 //     class TMemoryAppender : public TQzBaseAppender {
 //         QZ_CLASS(TMemoryAppender, TQzBaseAppender)
@@ -11,8 +12,8 @@
 //         }
 //     ...
 //
-// Made for a logger that has a configurator, an appender asks it for its values when it is complete. A closed appender
-// opens again at the next message. Descendants hold the lock over each operation.
+// An appender that is made for a logger with a configurator asks it for its values at the end of Create. A
+// closed appender opens again at the next message. Descendants hold the lock during each operation.
 #pragma once
 
 #include <vector>
@@ -21,55 +22,56 @@
 
 namespace qz {
 
-class QZ_API TQzBaseAppender : public TQzLogBase, public IQzLogAppenderEx {
+class QZ_API TQzBaseAppender : public TQzLogBaseWith<TQzLogBase, IQzLogAppenderEx> {
     QZ_CLASS(TQzBaseAppender, TQzLogBase)
-    QZ_LOG_BASE(TQzLogBase)
 
 public:
-    // Makes the appender open and closed. A descendant opens and closes its resource around these.
+    // Marks the appender as open; Close marks it as closed. A descendant opens and closes its resource in its
+    // overrides.
     virtual void Initialize();
-    // Asks for "Layout", where AConfigurator is not null, and takes a layout of the class of that name.
+    // Asks for "Layout", if AConfigurator is not null, and sets a new layout of the class of that name.
     virtual void SetConfig(IQzLogConfigurator* AConfigurator);
     // Opens a closed appender. A descendant calls it before it writes.
     void Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
                const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) override;
-    // What it raises when the appender ends is told as a dropped message (LogDrops.h).
+    // An exception at the end of the appender is reported as a dropped message (LogDrops.h).
     void Close() override;
-    // The first of the three is what the others come to. A layout that cannot be made leaves the old one.
+    // The other two make a layout and call the first. If the layout cannot be made, the old one stays.
     void SetLayout(IQzLogLayout* ALayout) override;
     void SetLayout(TQzLogBaseClass AClass) override;
     void SetLayout(const UnicodeString& AClassName) override;
     Ref<IQzLogLayout> GetLayout();
 
-    // The lock of the appender, which re-enters.
-    void Lock() noexcept { FLock.Enter(); }
-    void Unlock() noexcept { FLock.Leave(); }
-    bool TryLock() noexcept { return FLock.TryEnter(); }
+    // The lock of the appender, which re-enters. Messages of a thread that holds it are delivered after
+    // Unlock.
+    void Lock() noexcept;
+    void Unlock() noexcept;
     void Enter() noexcept { Lock(); }
     void Leave() noexcept { Unlock(); }
 
     void AfterConstruction() override;
-    // Leaves all lists, and closes the appender when nobody holds it any more.
+    // Leaves all lists, then closes the appender, unless another reference exists.
     void BeforeDestruction() override;
 
 protected:
-    using TQzLogBase::TQzLogBase;
+    using TQzLogBaseWith::TQzLogBaseWith;
     ~TQzBaseAppender() override = default;
 
-    bool IsAppender() const noexcept override { return true; }
+    TCriticalSection* AppenderLock() noexcept override { return &FLock; }
     // The layout, which may be null, and whether the appender is open; under the lock.
     IQzLogLayout* Layout() const noexcept { return FLayout.Get(); }
     bool IsInitialized() const noexcept { return FInitialized; }
-    // The line that the layout, which is not null, makes of a message, and what it wants in front and behind; under the lock.
-    // The layout may do as it likes with the appender meanwhile: it may be closed, or have another layout, when these return.
+    // The texts of the layout, which is not null; under the lock. The layout may close the appender or set
+    // another layout during the call.
     UnicodeString Header();
     UnicodeString Footer();
     UnicodeString FormatLine(const UnicodeString& ALogger, TQzLogLevel ALevel, const UnicodeString& AMessage,
                              PQzDataRec AValue, TQzLogIndent AIndent);
+    // For a resource with operations that call nothing outside this library.
     TCriticalSection& OwnLock() noexcept { return FLock; }
     // Whether a call of Initialize is under way.
     bool IsInitializing() const noexcept { return FInitializing != 0; }
-    // Tells that one is, as long as it lives.
+    // Counts a call as under way for the length of a block.
     class [[nodiscard]] TInitializing {
     public:
         explicit TInitializing(TQzBaseAppender& AAppender) noexcept : FDepth(AAppender.FInitializing) {
@@ -87,7 +89,7 @@ private:
     class TFormatting;
 
     Ref<IQzLogLayout> FLayout;
-    std::vector<Ref<IQzLogLayout>> FFormerLayouts; // one of which may be formatting
+    std::vector<Ref<IQzLogLayout>> FFormerLayouts; // replaced during a call of theirs
     int FFormatting = 0;
     bool FInitialized = false;
     std::int32_t FInitializing = 0;

@@ -27,19 +27,19 @@ constexpr std::int64_t cSecondsPerDay = 86400;
 constexpr std::int32_t cMSecsPerSecond = 1000;
 constexpr double cMSecsPerDay = 86400000;
 
-// Letters that do not stand for a day, a month or a year; a literal counts too, which only costs time.
+// Letters for times of the day. They are found in literals too, which only costs time.
 constexpr std::u16string_view cWithinDay = u"HhNnSsTtCcAaPpZz";
 constexpr std::u16string_view cWithinSecond = u"Zz";
 
 } // namespace
 
 TQzDailyRollingFileAppender::TQzDailyRollingFileAppender(TQzLogger* ALogger, const UnicodeString& AName)
-    : Inherited(ALogger, AName),
+    : TQzFileAppenderWith(ALogger, AName),
       FDatePattern(cPattern) {
     Inherited::SetMaxFileSize(cLargestSize);
 }
 
-// Asked for with each message, so that it is kept as long as it cannot change.
+// Called for each message, so that the text is kept while it cannot change.
 const UnicodeString& TQzDailyRollingFileAppender::TextOfNow() {
     const TLocalInstant Now = LocalClock();
     const std::int64_t Unit =
@@ -51,7 +51,7 @@ const UnicodeString& TQzDailyRollingFileAppender::TextOfNow() {
     return FText;
 }
 
-// The text for the file that is there; false when it cannot be found out.
+// The text for the existing file; false if its creation time cannot be read.
 bool TQzDailyRollingFileAppender::TextOfFile(UnicodeString& AText) {
     const platform::TResult<platform::TFileTimes> Times = platform::ReadFileTimes(FileName());
     if (!Times)
@@ -75,7 +75,7 @@ void TQzDailyRollingFileAppender::CheckRollover() {
         RollOver();
 }
 
-// Gives the file its dated name.
+// Renames the file to its date.
 void TQzDailyRollingFileAppender::PutAside() {
     if (!FileExists(FileName()))
         return;

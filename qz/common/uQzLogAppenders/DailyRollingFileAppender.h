@@ -1,14 +1,15 @@
-// TQzDailyRollingFileAppender: a file that is put aside under its date, as often as the text of a date pattern changes.
+// TQzDailyRollingFileAppender: a file that is renamed to its date whenever the text of a date pattern
+// changes.
 //
 //     Ref<TQzDailyRollingFileAppender> File(TQzDailyRollingFileAppender::Create(nullptr, u"main"));
 //     File->SetLayout(QzSimpleLayout);
 //     File->SetFileName(u"/var/log/app/app.log");      // yesterday's is app.2024-01-31.log
 //     File->SetDatePattern(u"yyyy-mm-dd-hh");          // one an hour
 //
-// The date of a file is that of its making, which it keeps when the program is started again, in local time; one that is
-// left from an earlier day is put aside at the first message. The size of a file counts too, as in TQzRollingFileAppender.
-// Where the dated name is taken, or cannot be a name, the file gets a number and its date, app.1.2024-01-31.log, and all of the family move up.
-// Dated files are counted, and deleted, only by that and by SetMaxBackupCount.
+// The date of a file is its creation time in local time, also after a restart of the program: the first
+// message renames a file of an earlier day. The size of the file counts too, as in TQzRollingFileAppender. If
+// the dated name exists or is no valid name, the file gets a number and its date, app.1.2024-01-31.log, and
+// the numbers of the whole family grow. Only that and SetMaxBackupCount count dated files and delete them.
 #pragma once
 
 #include <qz/common/uQzLogAppenders/RollingFileAppender.h>
@@ -20,20 +21,20 @@ public:
     static constexpr TGUID IID = IQzFileAppender::IID;
 
     virtual UnicodeString GetDatePattern() = 0;
-    // As FormatDateTime takes it. Rolls over when its text is another one now.
+    // A pattern of FormatDateTime. Rolls over if its text for now differs from that of the open file.
     virtual void SetDatePattern(const UnicodeString& AValue) = 0;
 
 protected:
     ~IQzDailyRollingFileAppender() = default;
 };
 
-class QZ_API TQzDailyRollingFileAppender : public TQzRollingFileAppender, public IQzDailyRollingFileAppender {
+class QZ_API TQzDailyRollingFileAppender
+    : public TQzFileAppenderWith<TQzRollingFileAppender, IQzDailyRollingFileAppender> {
     QZ_CLASS(TQzDailyRollingFileAppender, TQzRollingFileAppender)
-    QZ_FILE_APPENDER(TQzRollingFileAppender)
 
 public:
     void Initialize() override;
-    // Asks for "DatePattern" beside what its base asks for; nothing rolls over by that.
+    // Asks for "DatePattern" too, which causes no rollover.
     void SetConfig(IQzLogConfigurator* AConfigurator) override;
     void Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
                const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) override {
@@ -46,7 +47,7 @@ public:
     TQzFileInfo CreateFileInfo(const UnicodeString& AFileName) override;
     void CheckRollover() override;
     void RollOver() override;
-    // "yyyy-mm-dd" at first; the size is 2 GiB less one byte.
+    // The default is "yyyy-mm-dd". That of the size is 2 GiB less one byte.
     UnicodeString GetDatePattern() override;
     void SetDatePattern(const UnicodeString& AValue) override;
 
@@ -60,8 +61,8 @@ private:
     void PutAside();
 
     UnicodeString FDatePattern;
-    UnicodeString FCurrent; // the text for the file that is open
-    // The text of a moment, which holds for that day, or that second.
+    UnicodeString FCurrent; // the text for the open file
+    // The last text, which is valid for its day or second.
     UnicodeString FText;
     std::int64_t FTextUnit = -1;
     bool FChangesWithinDay = false;

@@ -38,7 +38,7 @@ TEvent EventOf(TQzLogLevel ALevel) noexcept {
     return {TEventType::Information, 2};
 }
 
-// Seconds to add to UTC now.
+// The seconds from UTC to local time.
 std::int32_t LocalOffset() noexcept {
     return static_cast<std::int32_t>(TTimeZone::Local().UtcOffset().Ticks / TTimeSpan::TicksPerSecond);
 }
@@ -59,7 +59,7 @@ TQzEventLogAppender::TQzEventLogAppender(TQzLogger* ALogger, const UnicodeString
     : Inherited(ALogger, AName),
       FLog(ALog),
       FLevel(ALevel) {
-    LocalOffset(); // so that the zone is known before a lock is held
+    LocalOffset(); // reads the zone before a lock is held
     RegisterLogger(detail::EventSourceOf(ProgramFileName()));
 }
 

@@ -1,5 +1,5 @@
-// TQzEventLogAppender: each message as an event in the log of the system (platform/EventLog.h): the Application event log of
-// Windows, the journal or the syslog of Linux.
+// TQzEventLogAppender: each message as an event in the log of the system (platform/EventLog.h): the
+// Application event log of Windows, the journal or the syslog of Linux.
 //
 //     Ref<TQzEventLogAppender> Events(TQzEventLogAppender::Create(nullptr, u"events"));
 //     Events->SetLayout(QzSimpleLayout);
@@ -8,12 +8,12 @@
 //     llInfo                     success, event 1          llWarn              warning, event 3
 //     llAll, llTrace, llDebug    information, event 2      llError, llFatal    error, event 4
 //
-// The events come from a source that bears the name of the program, or the configured "ServiceName". It is there as soon as
-// the appender is, and one that the system refuses makes it silent. Nothing is raised for an event that is lost, or part of
-// it; QzDroppedLogMessages counts them.
+// The source of the events has the name of the program, or the configured "ServiceName". It is registered by
+// the constructor. If the system refuses it, nothing is written. A lost or shortened event raises nothing;
+// QzDroppedLogMessages counts it.
 //
-// On Windows the event viewer shows the texts of programs that carry the message table, which a program gets by linking to
-// rQzCommon210::event_messages.
+// On Windows the event viewer shows the texts only for programs with the message table. Link to
+// rQzCommon210::event_messages to get it.
 #pragma once
 
 #include <cstdint>
@@ -29,7 +29,7 @@ class IEventLog;
 
 namespace detail {
 
-// The name of the source of a program: that of its file without the extension, or as it is where nothing else is left.
+// The name of the source of a program: that of its file without the extension, unless nothing remains.
 QZ_API UnicodeString EventSourceOf(const UnicodeString& AProgram);
 
 } // namespace detail
@@ -38,18 +38,19 @@ class QZ_API TQzEventLogAppender : public TQzBaseAppender {
     QZ_CLASS(TQzEventLogAppender, TQzBaseAppender)
 
 public:
-    // From now on events come from the source of that name. With an administrator's rights it is entered in the registry
-    // of Windows first, unless it is there. The former source is let go of (ours).
+    // Uses the source of that name from now on and closes the previous one. With the rights of an
+    // administrator it is first entered in the registry of Windows, unless it exists there.
     void RegisterLogger(const UnicodeString& AServiceName);
-    // Asks for "Layout", then for "ServiceName": an answer that is not empty becomes the source. An empty one and one that is
-    // an identifier become the name of the component; with any other, such as "my-backup", it stays (ours).
+    // Asks for "Layout", then for "ServiceName". An answer that is not empty becomes the source. An
+    // identifier or an empty answer becomes the name of the component; with another answer, such as
+    // "my-backup", the name stays.
     void SetConfig(IQzLogConfigurator* AConfigurator) override;
     void Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
                const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) override;
 
 protected:
     TQzEventLogAppender(TQzLogger* ALogger, const UnicodeString& AName);
-    // Writes to ALog, which lives longer, with the rights that ALevel tells.
+    // Writes to ALog, which lives longer. ALevel gives the rights of the process.
     TQzEventLogAppender(TQzLogger* ALogger, const UnicodeString& AName, platform::IEventLog& ALog,
                         TQzElevationLevel (*ALevel)() noexcept);
     ~TQzEventLogAppender() override;

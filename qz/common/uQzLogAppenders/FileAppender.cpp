@@ -17,7 +17,7 @@ namespace {
 
 constexpr TTextConstant cExtension = u".log";
 constexpr std::int32_t cCommonDocuments = 46;
-// From this version on a program cannot write beside itself.
+// From this version on a program cannot write files beside itself.
 constexpr std::uint16_t cKeepsOffPrograms = 601;
 constexpr std::int64_t cLargestBuffer = std::int64_t{1} << 30;
 
@@ -29,7 +29,7 @@ UnicodeString NameAmongDocuments(const UnicodeString& AProgram) {
     return Directory + Name + cExtension;
 }
 
-// A user without any place for documents can still give the file another name.
+// Without a directory for documents the application can still set another name.
 UnicodeString DefaultFileName() {
     const UnicodeString Program = ProgramFileName();
     if (QzGetWindowsVersion() >= cKeepsOffPrograms) {
@@ -44,7 +44,7 @@ UnicodeString DefaultFileName() {
 } // namespace
 
 TQzFileAppender::TQzFileAppender(TQzLogger* ALogger, const UnicodeString& AName)
-    : Inherited(ALogger, AName),
+    : TQzLogBaseWith(ALogger, AName),
       FFileName(DefaultFileName()),
       FFileExt(cExtension) {}
 
@@ -70,7 +70,7 @@ void TQzFileAppender::OpenFile(bool AContinues) {
     FOwesHeader = Layout() != nullptr && !FIsContinuing;
     try {
         PayHeader();
-    } catch (const EStreamError&) { // NOLINT(bugprone-empty-catch): before the first line, then
+    } catch (const EStreamError&) { // NOLINT(bugprone-empty-catch): written before the first line
     } catch (...) {
         FFileStream.reset();
         throw;
@@ -133,7 +133,7 @@ void TQzFileAppender::Close() {
 void TQzFileAppender::CloseQuietly() {
     try {
         Close();
-    } catch (const EStreamError&) { // NOLINT(bugprone-empty-catch): the file is closed nevertheless
+    } catch (const EStreamError&) { // NOLINT(bugprone-empty-catch): the file is closed all the same
     }
 }
 

@@ -24,7 +24,7 @@ namespace {
 
 constexpr std::uint64_t cPatience = 1000; // milliseconds
 
-// Without path and extension, which is AExtension or else what stands behind the last point.
+// The name without path and extension. The extension is AExtension, or else what follows the last point.
 std::u16string_view BaseOf(std::u16string_view AFileName, std::u16string_view AExtension) {
     const std::size_t Path = ExtractFilePath(AFileName).size();
     const std::u16string_view Name = AFileName.substr(Path);
@@ -56,14 +56,14 @@ TQzFileInfo TQzRollingFileAppender::CreateFileInfo(const UnicodeString& AFileNam
     return Result;
 }
 
-// A name that is all extension would take the whole directory for its family.
+// With a name that is only an extension, the whole directory would be the family.
 bool TQzRollingFileAppender::IsOfFamily(std::u16string_view AName) const {
     const std::u16string_view Base = BaseOf(FileName(), FileExt());
     return Base.empty() ? SameFileName(AName, ExtractFileName(FileName()))
                         : SameFileName(AName.substr(0, Base.size()), Base);
 }
 
-// The file itself, and then by number; among equals by name.
+// The live file first, then by number, then by name.
 std::vector<TQzRollingFileAppender::TMember> TQzRollingFileAppender::Family() {
     const UnicodeString Path = ExtractFilePath(FileName());
     const UnicodeString Live = ExtractFileName(FileName());
@@ -82,8 +82,8 @@ std::vector<TQzRollingFileAppender::TMember> TQzRollingFileAppender::Family() {
     return Result;
 }
 
-// Gives the member its place. One that cannot leave its own place is deleted for the next; what another process has put there
-// meanwhile stays, and so does the member.
+// Renames the member to the number APlace. A backup that cannot be renamed is deleted when its name is
+// needed. A file that another process has created under the new name stays, and the member keeps its name.
 void TQzRollingFileAppender::Move(std::vector<TMember>& AFamily, TMember& AMember, std::int64_t APlace) {
     const UnicodeString Path = ExtractFilePath(FileName());
     const UnicodeString Name = UnicodeString(BaseOf(FileName(), FileExt())) + u'.' + IntToStr(APlace) +
@@ -99,7 +99,8 @@ void TQzRollingFileAppender::Move(std::vector<TMember>& AFamily, TMember& AMembe
         AMember.IsStuck = FileExists(Path + AMember.Name) && (IsInTheWay || !FileExists(Path + Name));
 }
 
-// Those behind a gap come down from the bottom up, the others go up from the top down: so each name is free by then.
+// Numbers that decrease are assigned in ascending order, the others in descending order, so that each new
+// name is free.
 void TQzRollingFileAppender::Shift() {
     CheckBackupCount();
     std::vector<TMember> All = Family();
@@ -137,7 +138,7 @@ void TQzRollingFileAppender::CheckRollover() {
     if (!IsFull() || platform::CoarseTickCount64() < FNextTry)
         return;
     RollOver();
-    if (IsFull() && IsContinuing()) // it could not be put aside
+    if (IsFull() && IsContinuing()) // the rename failed
         FNextTry = platform::CoarseTickCount64() + cPatience;
 }
 
@@ -146,7 +147,7 @@ bool TQzRollingFileAppender::IsFull() const {
         static_cast<std::uint32_t>(File()->Size()) >= FMaxFileSize;
 }
 
-// What could not be put aside is not deleted but continued.
+// A file that cannot be renamed is continued.
 void TQzRollingFileAppender::Initialize() {
     const TScopedLock Hold(*this);
     const TInitializing Now(*this);

@@ -1,8 +1,10 @@
 #include <qz/common/uQzLogAppenders/TextFile.h>
 
 #include <algorithm>
+#include <tuple>
+#include <vector>
 
-#include <qz/common/uQzLogAppenders/LineFlusher.h>
+#include <qz/common/uQzLogAppenders/detail/LineFlusher.h>
 #include <qz/common/uQzLogger/LogDrops.h>
 #include <qz/common/uQzWindows/FileTimes.h>
 #include <qz/platform/FileLimit.h>
@@ -11,6 +13,7 @@
 #include <qz/runtime/files/FileSystem.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/streams/FileStream.h>
 #include <qz/runtime/time/DateTime.h>
 
 namespace qz {
@@ -20,41 +23,57 @@ constinit const TClassRec TQzTextFile::ClassRec =
 
 namespace {
 
+constexpr TTextConstant cCannotSeek = u"Cannot seek in file \"%s\". %s";
+constexpr TTextConstant cCannotWrite = u"Cannot write to file \"%s\". %s";
 constexpr std::u16string_view cLineEnd = u"\r\n";
 constexpr std::size_t cMostBytesOfUnit = 3;
 constexpr std::uint64_t cLookEvery = 1000; // milliseconds
 
-// After a fork the family of processes writes to its files together.
+// After a fork the processes share their files.
 std::atomic<bool> GHasForked{false};
 
-// Makes the file, if it is not there at this moment. Its day is that of its making even where its name has been used before.
+template <class E>
+[[noreturn]] void Raise(const TStringArg& APattern, const TStringArg& AFile, platform::TError AError) {
+    throw E(APattern, {AFile.View(), SysErrorMessage(AError.Code)});
+}
+
+// Makes the file if it does not exist. Its creation time is set, since a file system may reuse that of an
+// earlier file of the name.
 void MakeFile(const TStringArg& AFileName) {
     platform::TFileHandle File;
     const platform::TResult<> Made = File.Open(AFileName, platform::TFileAccess::ReadWrite,
                                                platform::TFileCreation::Exclusive, {.Read = true});
     if (!Made) {
         if (!FileExists(AFileName))
-            throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Made.Code())});
+            Raise<EFCreateError>(SFCreateError, AFileName, Made.Error());
         return;
     }
     File.Close();
     try {
         QzSetFileCreated(AFileName, NowUTC());
-    } catch (const Exception&) { // NOLINT(bugprone-empty-catch): the system's own time counts, then
+    } catch (const Exception&) { // NOLINT(bugprone-empty-catch): the file keeps the system's time
     }
 }
 
-TFileStream OpenFile(const TStringArg& AFileName) {
+platform::TFileHandle OpenFile(const TStringArg& AFileName) {
     const bool IsThere = FileExists(AFileName);
     const UnicodeString Path = ExtractFilePath(AFileName);
     if (!Path.IsEmpty())
         ForceDirectories(Path);
     if (!IsThere)
         MakeFile(AFileName);
-    return TFileStream(AFileName, fmOpenReadWrite | (GHasForked ? fmShareDenyNone : fmShareDenyWrite));
+    platform::TFileHandle Result;
+    const platform::TResult<> Opened =
+        Result.Open(AFileName, platform::TFileAccess::ReadWrite, platform::TFileCreation::Never,
+                    {.Read = true, .Write = GHasForked});
+    if (!Opened)
+        Raise<EFOpenError>(SFOpenError, AFileName, Opened.Error());
+    if (const platform::TResult<> Moved = Result.WriteAtEnd(); !Moved)
+        Raise<EStreamError>(cCannotSeek, AFileName, Moved.Error());
+    return Result;
 }
 
-// Under the lock, which keeps other changes out: others only read.
+// The caller holds the lock; other threads only read.
 template <class T> void AddTo(std::atomic<T>& ATarget, T ACount) noexcept {
     ATarget.store(ATarget.load(std::memory_order_relaxed) + ACount, std::memory_order_relaxed);
 }
@@ -66,13 +85,13 @@ std::span<const std::byte> BytesOf(const char* AText, std::size_t ACount) {
 } // namespace
 
 TQzTextFile::TQzTextFile(const TStringArg& AFileName, TCriticalSection* ALock)
-    : FFile(OpenFile(AFileName)),
+    : FFileName(AFileName.View()),
+      FHandle(OpenFile(AFileName)),
       FLock(ALock != nullptr ? *ALock : FCritSect),
       FIsWholePath(IsWholePath(AFileName)),
       FSizeLimit(platform::FileSizeLimit()),
       FLookedAt(platform::CoarseTickCount64()) {
-    FFile.SetAppending();
-    FSize = *FFile.Handle().Seek(0, platform::TFileOrigin::End); // 0 for a pipe or a device
+    FSize = *FHandle.Seek(0, platform::TFileOrigin::End); // 0 for a pipe or a device
     TLineFlusher::Instance().Add(*this);
 }
 
@@ -84,14 +103,17 @@ TQzTextFile::~TQzTextFile() {
         detail::CountDrops(FLines);
     }
     if (FIsShared)
-        FFile.Handle().DenyNothing();
+        FHandle.DenyNothing();
 }
 
 std::int64_t TQzTextFile::Size() {
     if (!FIsShared.load(std::memory_order_relaxed))
         return FSize.load(std::memory_order_relaxed);
     const TScopedLock Hold(FLock);
-    return FFile.Seek(0, TSeekOrigin::soEnd) + static_cast<std::int64_t>(FWaiting);
+    const auto End = FHandle.Seek(0, platform::TFileOrigin::End);
+    if (!End)
+        Raise<EStreamError>(cCannotSeek, FFileName, End.Error());
+    return *End + static_cast<std::int64_t>(FWaiting);
 }
 
 void TQzTextFile::Write(const TStringArg& AText) {
@@ -118,15 +140,39 @@ void TQzTextFile::Put(const TStringArg& AText, std::u16string_view ATail) {
     AddTo(FSize, std::int64_t{End - Start});
 }
 
-// A file that comes to its limit is asked about anew, since the limit may have been raised.
+// At the limit of file sizes this asks for the limit again, which may have been raised.
 void TQzTextFile::PutBytes(TBytes ABytes) {
     const auto Size = static_cast<std::uint64_t>(FSize.load(std::memory_order_relaxed));
     const bool IsShared = FIsShared.load(std::memory_order_relaxed);
     if (Size + ABytes.size() <= FSizeLimit && (!IsShared || FSizeLimit == UINT64_MAX))
-        return FFile.AppendWhole(ABytes);
+        return AppendWhole(ABytes);
     FSizeLimit = platform::FileSizeLimit();
     const platform::TNoLimitSignal Quiet;
-    FFile.AppendWhole(ABytes);
+    AppendWhole(ABytes);
+}
+
+// Appends all of ABytes or nothing.
+void TQzTextFile::AppendWhole(TBytes ABytes) {
+    const platform::TWritten Written = FHandle.Append(ABytes);
+    if (Written) [[likely]]
+        return;
+    if (Written.Done != 0)
+        TakeBack(ABytes.first(Written.Done));
+    Raise<EWriteError>(cCannotWrite, FFileName, Written.Error);
+}
+
+// Removes ABytes from the end of the file, unless another process has written after them.
+void TQzTextFile::TakeBack(TBytes ABytes) {
+    using platform::TFileOrigin;
+    std::vector<std::byte> Found(ABytes.size());
+    const auto Count = static_cast<std::int64_t>(ABytes.size());
+    const platform::TResult<std::int64_t> Size = FHandle.Seek(0, TFileOrigin::End);
+    if (Size && *Size >= Count && FHandle.Seek(*Size - Count, TFileOrigin::Beginning)) {
+        const platform::TResult<std::size_t> Got = FHandle.Read(Found);
+        if (Got && *Got == Found.size() && std::ranges::equal(Found, ABytes))
+            std::ignore = FHandle.SetSize(*Size - Count);
+    }
+    std::ignore = FHandle.Seek(0, TFileOrigin::End);
 }
 
 void TQzTextFile::FlushWaiting() {
@@ -150,7 +196,7 @@ void TQzTextFile::WriteLnLater(const TStringArg& AText) {
             AddTo(FSize, std::int64_t{End - Start});
             FWaiting += static_cast<std::size_t>(End - Start);
             AddTo(FLines, 1u);
-            if (FLines.load(std::memory_order_relaxed) == 1 && !TLineFlusher::Instance().Await())
+            if (FLines.load(std::memory_order_relaxed) == 1 && !TLineFlusher::Instance().Wake())
                 FlushWaiting();
             return;
         }
@@ -173,7 +219,7 @@ void TQzTextFile::Flush() {
     FlushWaiting();
 }
 
-// Not while lines wait, which has its end within a second: that saves a look at the clock with each of them.
+// False while lines are in the buffer, which lasts a second at most: so they need no look at the clock.
 bool TQzTextFile::HasGone() {
     if (FLines.load(std::memory_order_relaxed) != 0)
         return false;
@@ -183,9 +229,9 @@ bool TQzTextFile::HasGone() {
     FLookedAt.store(Now, std::memory_order_relaxed);
     const TScopedLock Hold(FLock);
     FSizeLimit = platform::FileSizeLimit();
-    if (!FFile.Handle().IsAt(FFile.FileName()))
+    if (!FHandle.IsAt(FFileName))
         return true;
-    if (const auto End = FFile.Handle().Seek(0, platform::TFileOrigin::End))
+    if (const auto End = FHandle.Seek(0, platform::TFileOrigin::End))
         FSize = *End + static_cast<std::int64_t>(FWaiting);
     return false;
 }
@@ -195,7 +241,7 @@ void TQzTextFile::Share() noexcept {
     GHasForked = true;
 }
 
-void TQzTextFile::Inherit() noexcept {
+void TQzTextFile::Inherit(TAccessKey<TLineFlusher>) noexcept {
     FSize.fetch_sub(static_cast<std::int64_t>(FWaiting), std::memory_order_relaxed);
     FWaiting = 0;
     FLines = 0;

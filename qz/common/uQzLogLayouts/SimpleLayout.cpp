@@ -1,6 +1,6 @@
 #include <qz/common/uQzLogLayouts/SimpleLayout.h>
 
-#include <qz/common/uQzLogLayouts/LinePen.h>
+#include <qz/common/uQzLogLayouts/detail/LinePen.h>
 #include <qz/common/uQzLogger/DataRec.h>
 #include <qz/runtime/time/DateTimeText.h>
 #include <qz/runtime/time/LocalClock.h>
@@ -18,7 +18,7 @@ namespace {
 constexpr std::u16string_view cDash = u" - ";
 constexpr std::size_t cTimeLength = 23; // 2024-01-31 08:15:02:047
 
-// "2024-01-31 ", worked out once a day and thread.
+// "2024-01-31 ", computed once per day and thread.
 std::u16string_view DateText(std::int32_t ADay) noexcept {
     struct TDateText {
         std::int32_t Day = INT32_MIN;
@@ -59,7 +59,7 @@ UnicodeString TQzSimpleLayout::GetFooter() {
 
 void TQzSimpleLayout::Initialize(TQzLogBase*) {}
 
-// The line of an entered method stands deeper already, that of a left one does not any more.
+// The line of EnterMethod is indented already, that of ExitMethod no longer.
 std::size_t TQzSimpleLayout::Indent(TQzLogIndent AIndent) noexcept {
     std::size_t Steps = FIndent.load(std::memory_order_relaxed);
     if (AIndent == liIndentIncrease)

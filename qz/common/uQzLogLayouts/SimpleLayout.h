@@ -2,18 +2,19 @@
 //
 //     2024-01-31 08:15:02:047 - Info root.app - connected - 17
 //
-// The local time when the line is made, the level, the logger, the message, and the value if there is one. Lines stand two
-// spaces further in for each method that was entered and not left, in all threads that write through the layout. Messages
-// of several lines keep them; nothing is escaped. Any number of threads may format lines.
+// The local time of formatting, the level, the logger, the message, and the value if there is one. Each
+// EnterMethod without its ExitMethod indents the lines by two spaces, in all threads that write through the
+// layout. Line ends in messages stay; nothing is escaped. Any number of threads may format lines.
 #pragma once
+
+#include <atomic>
 
 #include <qz/common/uQzLogger/LogBase.h>
 
 namespace qz {
 
-class QZ_API TQzSimpleLayout : public TQzLogBase, public IQzLogLayout, public _IQzLogLayout {
+class QZ_API TQzSimpleLayout : public TQzLogBaseWith<TQzLogBase, IQzLogLayout, _IQzLogLayout> {
     QZ_CLASS(TQzSimpleLayout, TQzLogBase)
-    QZ_LOG_BASE(TQzLogBase)
 
 public:
     // "Log stopped on : " and "Log started on : " with the local time.
@@ -24,7 +25,7 @@ public:
     void Initialize(TQzLogBase* ALogBase) override;
 
 protected:
-    using TQzLogBase::TQzLogBase;
+    using TQzLogBaseWith::TQzLogBaseWith;
 
 private:
     std::size_t Indent(TQzLogIndent AIndent) noexcept;

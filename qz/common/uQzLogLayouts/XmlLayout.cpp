@@ -1,8 +1,7 @@
 #include <qz/common/uQzLogLayouts/XmlLayout.h>
 
-#include <qz/common/uQzLogAppenders/FileAppender.h>
-#include <qz/common/uQzLogLayouts/LinePen.h>
-#include <qz/common/uQzLogLayouts/XmlStylesheet.h>
+#include <qz/common/uQzLogLayouts/detail/LinePen.h>
+#include <qz/common/uQzLogLayouts/detail/XmlStylesheet.h>
 #include <qz/common/uQzWindows/Accounts.h>
 #include <qz/platform/Threads.h>
 #include <qz/runtime/base/StringUtils.h>
@@ -23,7 +22,7 @@ namespace {
 
 constexpr TTextConstant cFooter = u"</log>";
 constexpr TTextConstant cExtension = u".log.xml";
-constexpr std::size_t cMarkUpOfItem = 224; // and of a value, roughly
+constexpr std::size_t cMarkUpOfItem = 224; // with that of a value, roughly
 constexpr std::u16string_view cEndOfText = u"]]>";
 
 void AppendTime(UnicodeString& ATarget) {
@@ -47,12 +46,13 @@ void AppendNumber(UnicodeString& ATarget, std::uint32_t ANumber) {
     ATarget.Append({Place, std::end(Digits)});
 }
 
-// Whether XML 1.0 has no place for it. Halves of pairs are not looked at: what is no pair becomes U+FFFD on its way to UTF-8.
+// Whether XML 1.0 excludes the character. Lone surrogates pass, since the conversion to UTF-8 replaces them
+// by U+FFFD.
 constexpr bool IsForbidden(char16_t AChar) noexcept {
     return (AChar < 0x20 && AChar != u'\t' && AChar != u'\n' && AChar != u'\r') || AChar >= 0xFFFE;
 }
 
-// The escape of a character, if it has one.
+// The escape of a character, or null.
 constexpr const char16_t* EscapeOf(char16_t AChar) noexcept {
     switch (AChar) {
     case u'&': return u"&amp;";
@@ -67,7 +67,7 @@ constexpr const char16_t* EscapeOf(char16_t AChar) noexcept {
 
 } // namespace
 
-// Runs between special characters are copied in one piece.
+// Copies the runs between special characters in one piece.
 void TQzXmlLayout::AppendEscaped(UnicodeString& ATarget, std::u16string_view AText) const {
     const bool IsStrict = FIsStrict;
     std::size_t Copied = 0;
@@ -167,7 +167,10 @@ UnicodeString TQzXmlLayout::FormatLine(const UnicodeString& ALogger, TQzLogLevel
 }
 
 void TQzXmlLayout::Initialize(TQzLogBase* ALogBase) {
-    auto* const Appender = dynamic_cast<TQzFileAppender*>(ALogBase);
+    // Not counted, since the appender may have no reference yet.
+    auto* const Appender = ALogBase != nullptr
+        ? static_cast<IQzFileAppender*>(ALogBase->FindInterface(IQzFileAppender::IID))
+        : nullptr;
     if (Appender == nullptr)
         return;
     const UnicodeString FileName = ChangeFileExt(Appender->GetFileName(), u".xsl");

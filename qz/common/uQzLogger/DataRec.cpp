@@ -3,13 +3,14 @@
 #include <qz/common/uQzTypes/VarTolerant.h>
 #include <qz/runtime/components/Component.h>
 #include <qz/runtime/reflection/Properties.h>
+#include <qz/runtime/values/Value.h>
 
 namespace qz {
 namespace {
 
 constexpr TTextConstant cLineEnd = u"\r\n";
 
-// An object that is being dumped, and the one whose property it is.
+// An object that is being dumped, and the object that has it as a property.
 struct TOpenObject {
     const TObject* Object;
     const TOpenObject* Outer;

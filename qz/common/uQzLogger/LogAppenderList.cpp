@@ -1,8 +1,8 @@
 #include <qz/common/uQzLogger/LogAppenderList.h>
 
-#include <qz/common/uQzLogAppenders/BaseAppender.h>
 #include <qz/common/uQzLogger/LogBase.h>
-#include <qz/common/uQzLogger/QzLogger.h>
+#include <qz/common/uQzLogger/LoggerClass.h>
+#include <qz/common/uQzLogger/detail/AppenderSet.h>
 #include <qz/runtime/objects/Describe.h>
 
 namespace qz {
@@ -12,16 +12,11 @@ constinit const TClassRec TQzLogAppenderList::ClassRec =
 
 namespace {
 
-// A new appender, and a layout for it where there is a way to set one.
 Ref<IQzLogAppender> MakeAppender(TQzLogger& ALogger, TQzLogBaseClass AClass) {
     Ref<IQzLogAppender> Result =
         As<IQzLogAppender>(MakeLogBase(AClass, &ALogger, AClass ? AClass->Name() : u""));
     Assert(Result != nullptr);
     return Result;
-}
-
-IQzLogAppender* InterfaceOf(TQzBaseAppender* AAppender) noexcept {
-    return AAppender;
 }
 
 IQzLogAppenderEx& WithLayout(const Ref<IQzLogAppender>& AAppender) {
@@ -36,20 +31,28 @@ IQzLogAppenderEx& WithLayout(const Ref<IQzLogAppender>& AAppender) {
 TQzLogAppenderList::TQzLogAppenderList(TQzLogger* ALogger)
     : Inherited(nullptr),
       FLogger(ALogger),
-      FCore(std::make_shared<detail::TLogAppenderCore>(ALogger)) {}
+      FSet(std::make_shared<detail::TAppenderSet>(ALogger)) {}
 
 TQzLogAppenderList::~TQzLogAppenderList() {
-    FCore->LoseLogger();
+    FSet->LoseLogger();
     Clear();
 }
 
 bool TQzLogAppenderList::Lock(const TStringArg&, bool) {
-    FCore->EnterGate();
+    FSet->Enter(detail::ThisLogThread());
     return true;
 }
 
+void TQzLogAppenderList::Unlock() noexcept {
+    FSet->Leave(detail::ThisLogThread());
+}
+
+int TQzLogAppenderList::Count() const noexcept {
+    return FSet->Count();
+}
+
 Ref<IQzLogAppender> TQzLogAppenderList::GetAppender(int AIndex) const {
-    Ref<IQzLogAppender> Result = FCore->Item(AIndex);
+    Ref<IQzLogAppender> Result = FSet->Item(AIndex);
     if (Result == nullptr)
         detail::RaiseOutOfRange();
     return Result;
@@ -60,24 +63,12 @@ void TQzLogAppenderList::Add(IQzLogAppender* AAppender) {
     Ref<IQzLogAppender> Appender = As<IQzLogAppender>(AAppender); // one object, one address
     if (Appender == nullptr)
         Appender = AAppender;
-    LinkAppender(Appender->Component(), *this);
-    FCore->Add(Appender.Get());
-}
-
-void TQzLogAppenderList::Add(TQzBaseAppender* AAppender) {
-    Add(InterfaceOf(AAppender));
-}
-
-void TQzLogAppenderList::Remove(TQzBaseAppender* AAppender) {
-    Remove(InterfaceOf(AAppender));
-}
-
-void IQzLogger::AddAppender(TQzBaseAppender* AAppender) {
-    AddAppender(InterfaceOf(AAppender));
-}
-
-void IQzLogger::RemoveAppender(TQzBaseAppender* AAppender) {
-    RemoveAppender(InterfaceOf(AAppender));
+    TComponent* const Component = Appender->Component();
+    if (Component != nullptr && dynamic_cast<TQzLogBase*>(Component) == nullptr) {
+        const detail::TStateHold Hold;
+        Component->FreeNotification(this);
+    }
+    FSet->Add(Appender.Get());
 }
 
 Ref<IQzLogAppender> TQzLogAppenderList::Add(TQzLogBaseClass AClass) {
@@ -106,17 +97,17 @@ Ref<IQzLogAppender> TQzLogAppenderList::Add(const UnicodeString& AAppenderName,
 
 void TQzLogAppenderList::Remove(IQzLogAppender* AAppender) {
     if (TComponent* Component = AAppender == nullptr ? nullptr : AAppender->Component())
-        FCore->Remove(Component);
+        FSet->Remove(Component);
 }
 
 void TQzLogAppenderList::Clear() {
-    FCore->Remove(nullptr);
+    FSet->Remove(nullptr);
 }
 
 void TQzLogAppenderList::Notification(TComponent* AComponent, TOperation AOperation) {
     Inherited::Notification(AComponent, AOperation);
     if (AOperation == opRemove && !IsEnding())
-        FCore->Remove(AComponent);
+        FSet->Remove(AComponent);
 }
 
 } // namespace qz

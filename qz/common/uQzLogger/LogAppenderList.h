@@ -5,49 +5,61 @@
 //     Log->UnLockAppenders();
 //     List.Add(QzFileAppender, QzSimpleLayout);
 //
-// Any thread may change the list at any time, also an appender while it writes: what is added meanwhile gets the next
-// message, what is removed gets no more. A change waits for the lock of the list, and returns when no message is on its way to
-// what it removed; a thread that is writing to an appender, holds the lock of some list, or is being asked by a logger for
-// its values, does not wait, so that its changes may be met by others while they hold the lock. An appender that is freed
-// leaves all lists by itself; one that does not derive from TQzLogBase must not be freed while other threads change the
-// lists it is in.
+// Any thread may change the list at any time, also an appender while it writes: an added appender gets the
+// next message, a removed one gets none. A change waits for the lock of the list. When a removal has
+// returned, nothing is written to the appender any more. Only a thread that is writing to an appender, or
+// holds the lock of an appender or of a list, does not wait: another thread may be writing to what it
+// removes, and the appender ends after that.
+//
+// An appender that is freed leaves all lists. One that does not derive from TQzLogBase must not be freed
+// while other threads change the lists that hold it.
 #pragma once
 
-#include <qz/common/uQzLogger/LogAppenderCore.h>
+#include <memory>
+
+#include <qz/common/uQzLogger/LogInterfaces.h>
+#include <qz/runtime/base/AccessKey.h>
 #include <qz/runtime/base/StringArg.h>
+#include <qz/runtime/components/Component.h>
 
 namespace qz {
+
+namespace detail {
+class TAppenderSet;
+}
 
 class QZ_API TQzLogAppenderList : public TComponent {
     QZ_CLASS(TQzLogAppenderList, TComponent)
 
 public:
-    // Holds up the messages of the logger on other threads, and all messages of this one, until Unlock. Waits as long as it
-    // takes and gives true; the arguments are not used. The lock re-enters. An appender that writes, a configurator
-    // and whoever holds the lock of a TQzLoggerList must not lock a list of appenders.
+    // Holds back the messages of the logger and changes of the list, both of other threads, until Unlock.
+    // Waits as long as it takes and gives true; the arguments are not used. The lock re-enters. An appender
+    // that writes must not lock a list, and threads that lock several lists must lock them in the same order.
     bool Lock(const TStringArg& AName, bool ARaise);
-    void Unlock() noexcept { FCore->LeaveGate(); }
+    void Unlock() noexcept;
 
-    int Count() const noexcept { return FCore->Count(); }
+    int Count() const noexcept;
     // Raises EArgumentOutOfRangeException. Hold the lock from Count on.
     Ref<IQzLogAppender> GetAppender(int AIndex) const;
 
-    // At the end, unless it is there already, under whatever interface. Null raises EAssertionFailed, "Assertion failure".
+    // Appends, unless the list holds the appender by any of its interfaces. Null raises EAssertionFailed,
+    // "Assertion failure".
     void Add(IQzLogAppender* AAppender);
     void Add(TQzBaseAppender* AAppender);
-    // A new appender of that class with the name of the class, of a class of that name in RegisteredAppenders, with a new
-    // layout of that class or name. Raises EListError, "Class %s not found!", for an unknown name, and EAssertionFailed for a
-    // class of something else. An appender that knows no layouts raises EIntfCastError.
+    // Appends a new appender of that class, or of the class of that name in RegisteredAppenders, with a new
+    // layout if one is given. Its name is that of its class. Raises EListError, "Class %s not found!", for an
+    // unknown name, EAssertionFailed for a class of something else, and EIntfCastError for a layout where the
+    // appender takes none.
     Ref<IQzLogAppender> Add(TQzLogBaseClass AClass);
     Ref<IQzLogAppender> Add(const UnicodeString& AClassName);
     Ref<IQzLogAppender> Add(TQzLogBaseClass AAppenderClass, TQzLogBaseClass ALayoutClass);
     Ref<IQzLogAppender> Add(const UnicodeString& AAppenderName, const UnicodeString& ALayoutName);
-    // Every entry of the same component; none where there is none.
+    // Removes every entry of the same component.
     void Remove(IQzLogAppender* AAppender);
     void Remove(TQzBaseAppender* AAppender);
     void Clear();
 
-    const detail::TLogAppenderCorePtr& Core() const noexcept { return FCore; }
+    const std::shared_ptr<detail::TAppenderSet>& Set(TAccessKey<TQzLogger>) const noexcept { return FSet; }
 
 protected:
     explicit TQzLogAppenderList(TQzLogger* ALogger);
@@ -56,7 +68,7 @@ protected:
 
 private:
     TQzLogger* FLogger;
-    detail::TLogAppenderCorePtr FCore;
+    std::shared_ptr<detail::TAppenderSet> FSet;
 };
 
 } // namespace qz

@@ -2,16 +2,15 @@
 
 #include <algorithm>
 
-#include <qz/common/uQzLogAppenders/DailyRollingFileAppender.h>
-#include <qz/common/uQzLogAppenders/EventLogAppender.h>
-#include <qz/common/uQzLogLayouts/SimpleLayout.h>
-#include <qz/common/uQzLogLayouts/XmlLayout.h>
-#include <qz/common/uQzLogger/LogAppenderList.h>
-#include <qz/common/uQzLogger/QzLogger.h>
+#include <qz/common/uQzLogger/LoggerClass.h>
+#include <qz/common/uQzLogger/detail/AppenderSet.h>
+#include <qz/common/uQzLogger/detail/BuiltIns.h>
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/objects/ClassRegistry.h>
 
 namespace qz {
+
+using detail::TStateHold;
 
 constinit const TClassRec TQzLogBase::ClassRec = DescribeClass<TQzLogBase>(
     u"TQzLogBase", {.Unit = u"uQzLogger", .Interfaces = Interfaces<TQzLogBase, IQzLogBase>()});
@@ -20,7 +19,7 @@ constinit const TClassRec TQzLogBaseClassList::ClassRec =
 
 namespace {
 
-// Of an appender for which a reference was counted.
+// Takes over a counted reference.
 Ref<IQzLogAppender> AppenderOf(TQzLogBase* ABase) noexcept {
     return Ref<IQzLogAppender>::Attach(
         static_cast<IQzLogAppender*>(ABase->FindInterface(IQzLogAppender::IID)));
@@ -39,27 +38,27 @@ TQzLogBase::TQzLogBase(TQzLogger* ALogger, const UnicodeString& AName)
       FLogger(ALogger) {
     if (!AName.IsEmpty() && (AName[0] < u'0' || AName[0] > u'9'))
         SetName(AName);
-    const TScopedLock Hold(AppenderInstances().FLock);
+    const TStateHold Hold;
     AppenderInstances().FList.Add(this);
 }
 
 TQzLogBase::~TQzLogBase() {
-    const TScopedLock Hold(AppenderInstances().FLock);
+    const TStateHold Hold;
     AppenderInstances().FList.Remove(this);
 }
 
 UnicodeString TQzLogBase::GetName() const {
-    const TScopedLock Hold(AppenderInstances().FLock);
+    const TStateHold Hold;
     return Name();
 }
 
 void TQzLogBase::SetName(const UnicodeString& AName) {
-    const TScopedLock Hold(AppenderInstances().FLock);
+    const TStateHold Hold;
     Inherited::SetName(AName);
 }
 
 UnicodeString TQzLogBase::ConfiguredName() const {
-    const TScopedLock Hold(AppenderInstances().FLock);
+    const TStateHold Hold;
     return NameToFind();
 }
 
@@ -69,11 +68,11 @@ void TQzLogBase::FinishCreate() {
 }
 
 void TQzLogBase::SetComplete(bool AValue) noexcept {
-    const TScopedLock Hold(AppenderInstances().FLock);
+    const TStateHold Hold;
     FIsComplete = AValue;
 }
 
-// An appender that nobody holds is in no list.
+// An appender without references is in no list.
 void TQzLogBase::BeforeDestruction() {
     SetComplete(false);
     if (RefCount() != 0)
@@ -87,38 +86,30 @@ void TQzLogBase::DestructionRefused() noexcept {
 }
 
 Ref<TQzLogger> TQzLogBase::LoggerOfOrigin() const {
-    const TScopedLock Hold(AppenderInstances().FLock);
-    return FLogger != nullptr && FLogger->TryAddRef() ? Ref<TQzLogger>::Attach(FLogger) : Ref<TQzLogger>();
+    const TStateHold Hold;
+    return FLogger != nullptr ? FLogger->Hold({}) : Ref<TQzLogger>();
 }
 
 void TQzLogBase::LeaveLists() {
-    std::vector<detail::TLogAppenderCorePtr> Cores;
-    {
-        const TScopedLock Hold(AppenderInstances().FLock);
-        for (const auto& List : FLists) {
-            if (auto Core = List.lock())
-                Cores.push_back(std::move(Core));
+    for (;;) {
+        detail::TAppenderSetPtr Set;
+        {
+            const TStateHold Hold;
+            if (FSets.empty())
+                return;
+            Set = FSets.back()->shared_from_this();
         }
-    }
-    for (const auto& Core : Cores) {
-        Core->Remove(this);
-        Core->AwaitLetGo();
+        Set->Remove(this);
     }
 }
 
-void LinkAppender(TComponent* AComponent, TQzLogAppenderList& AList) {
-    const TScopedLock Hold(AppenderInstances().FLock);
-    auto* Base = dynamic_cast<TQzLogBase*>(AComponent);
-    if (Base == nullptr) {
-        if (AComponent != nullptr)
-            AComponent->FreeNotification(&AList);
-        return;
-    }
-    if (Base->FLists.size() >= Base->FSweepAt) {
-        std::erase_if(Base->FLists, [](const auto& AItem) { return AItem.expired(); });
-        Base->FSweepAt = std::max<std::size_t>(16, 2 * Base->FLists.size());
-    }
-    Base->FLists.insert(AList.Core());
+void TQzLogBase::LeftSet(detail::TAppenderSet& ASet, TAccessKey<detail::TAppenderSet>) noexcept {
+    std::erase(FSets, &ASet);
+}
+
+bool TQzLogBase::ReleaseFromSet(TAccessKey<detail::TAppenderSet>) {
+    std::int32_t Count = 0;
+    return DropReference(Count);
 }
 
 Ref<IQzLogBase> MakeLogBase(TQzLogBaseClass AClass, TQzLogger* ALogger, const UnicodeString& AName) {
@@ -131,13 +122,13 @@ Ref<IQzLogBase> MakeLogBase(TQzLogBaseClass AClass, TQzLogger* ALogger, const Un
 void TQzLogBaseClassList::Add(TQzLogBaseClass AClass) {
     Assert(static_cast<bool>(AClass));
     RegisterClass(AClass);
-    const std::lock_guard Hold(FLock);
+    const TStateHold Hold;
     if (!FList.Contains(AClass))
         FList.Add(AClass);
 }
 
 TQzLogBaseClass TQzLogBaseClassList::GetClass(const TStringArg& AName) const {
-    const std::lock_guard Hold(FLock);
+    const TStateHold Hold;
     const auto Found = std::find_if(FList.begin(), FList.end(),
                                     [&AName](TClass AClass) { return SameText(AClass->Name(), AName); });
     if (Found == FList.end())
@@ -148,8 +139,7 @@ TQzLogBaseClass TQzLogBaseClassList::GetClass(const TStringArg& AName) const {
 TQzLogBaseClassList& RegisteredLayouts() {
     static TQzLogBaseClassList* const Result = [] {
         auto List = std::make_unique<TQzLogBaseClassList>();
-        List->Add(TQzLogBaseClass::Of<TQzSimpleLayout>());
-        List->Add(TQzLogBaseClass::Of<TQzXmlLayout>());
+        detail::AddLayouts(*List);
         return List.release();
     }();
     return *Result;
@@ -158,10 +148,7 @@ TQzLogBaseClassList& RegisteredLayouts() {
 TQzLogBaseClassList& RegisteredAppenders() {
     static TQzLogBaseClassList* const Result = [] {
         auto List = std::make_unique<TQzLogBaseClassList>();
-        List->Add(TQzLogBaseClass::Of<TQzFileAppender>());
-        List->Add(TQzLogBaseClass::Of<TQzRollingFileAppender>());
-        List->Add(TQzLogBaseClass::Of<TQzDailyRollingFileAppender>());
-        List->Add(TQzLogBaseClass::Of<TQzEventLogAppender>());
+        detail::AddAppenders(*List);
         return List.release();
     }();
     return *Result;
@@ -177,10 +164,10 @@ int TQzAppenderInstances::Count() const {
 }
 
 Ref<IQzLogAppender> TQzAppenderInstances::Find(std::u16string_view AName) const {
-    const TScopedLock Hold(FLock);
-    TQzLogBase* Other = nullptr; // that was made under the name and bears another one by now
+    const TStateHold Hold;
+    TQzLogBase* Other = nullptr; // found by its ConfiguredName
     for (TQzLogBase* Item : FList) {
-        if (!Item->FIsComplete || !Item->IsAppender())
+        if (!Item->FIsComplete || Item->AppenderLock() == nullptr)
             continue;
         if (Item->Name() == AName && Item->TryAddReference())
             return AppenderOf(Item);
@@ -191,18 +178,18 @@ Ref<IQzLogAppender> TQzAppenderInstances::Find(std::u16string_view AName) const 
 }
 
 std::vector<Ref<IQzLogAppender>> TQzAppenderInstances::Items() const {
-    std::vector<Ref<IQzLogAppender>> Result; // ends behind the lock, if it does not get there
-    const TScopedLock Hold(FLock);
+    std::vector<Ref<IQzLogAppender>> Result; // released after the lock
+    const TStateHold Hold;
     Result.reserve(static_cast<std::size_t>(FList.Count()));
     for (TQzLogBase* Item : FList) {
-        if (Item->FIsComplete && Item->IsAppender() && Item->TryAddReference())
+        if (Item->FIsComplete && Item->AppenderLock() != nullptr && Item->TryAddReference())
             Result.push_back(AppenderOf(Item));
     }
     return Result;
 }
 
-void TQzAppenderInstances::LoseLogger(const TQzLogger* ALogger) noexcept {
-    const TScopedLock Hold(FLock);
+void TQzAppenderInstances::LoseLogger(const TQzLogger* ALogger, TAccessKey<TQzLogger>) noexcept {
+    const TStateHold Hold;
     for (TQzLogBase* Item : FList) {
         if (Item->FLogger == ALogger)
             Item->FLogger = nullptr;

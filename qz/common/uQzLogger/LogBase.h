@@ -6,43 +6,33 @@
 //         using TQzBaseAppender::TQzBaseAppender;
 //         void Write(...) override;
 //     };
-//     const TClassRec TMyAppender::ClassRec = DescribeLogBase<TMyAppender>(u"TMyAppender", {.Unit = u"Demo"});
+//     const TClassRec TMyAppender::ClassRec =
+//         DescribeLogBase<TMyAppender>(u"TMyAppender", {.Unit = u"Demo"});
 //     RegisteredAppenders().Add(TQzLogBaseClass::Of<TMyAppender>());
 //
-// Appenders and layouts are counted, by any number of threads. One in the lists of loggers may also be ended by Free while
-// other threads log: it leaves all lists first. If somebody else holds it, Free raises, and it is in no list any more. A thread
-// that holds the lock of a list, or writes, counts as somebody else: what it frees then ends when it lets go of that lock.
+// Appenders and layouts are counted, on any number of threads. One in the lists of loggers may also be
+// destroyed by Free while other threads log: it leaves all lists first. If another reference exists, Free
+// raises, and the appender is in no list any more. A thread that is writing to an appender, or holds the lock
+// of an appender or of a list, keeps a reference to what it removes until it is done.
 #pragma once
 
-#include <mutex>
-#include <set>
+#include <vector>
 
 #include <qz/common/uQzClasses/QzComponent.h>
-#include <qz/common/uQzLogger/LogAppenderCore.h>
+#include <qz/common/uQzLogger/LogInterfaces.h>
+#include <qz/runtime/base/AccessKey.h>
 #include <qz/runtime/lists/List.h>
 #include <qz/runtime/objects/Describe.h>
-
-// In a class of an appender or layout with interfaces of its own: its part of those is the base's.
-#define QZ_LOG_BASE(ABase)                   \
-public:                                      \
-    QZ_INTERFACE_COUNTING(ABase)             \
-public:                                      \
-    UnicodeString GetName() const override { \
-        return ABase::GetName();             \
-    }                                        \
-    qz::TComponent* Component() override {   \
-        return ABase::Component();           \
-    }                                        \
-                                             \
-private:
+#include <qz/runtime/threads/CriticalSection.h>
 
 namespace qz {
 
 namespace detail {
-struct TForkLocks;
-}
+class TAppenderSet;
+class TLogFork;
+} // namespace detail
 
-// The names of the classes of this library, and of two that only other modules can bring.
+// The names of the classes of this library, and of two that only other modules can register.
 inline constexpr TTextConstant QzFileAppender = u"TQzFileAppender";
 inline constexpr TTextConstant QzRollingFileAppender = u"TQzRollingFileAppender";
 inline constexpr TTextConstant QzDailyRollingFileAppender = u"TQzDailyRollingFileAppender";
@@ -59,11 +49,12 @@ public:
     using TVirtualCreate =
         TVirtualConstructor<TQzLogBase, TQzLogBase*(TQzLogger* ALogger, const UnicodeString& AName)>;
 
-    // The name of the component. Any thread, also while another one calls SetName; Name() is for the thread that does.
+    // The name of the component. Any thread, also while another one calls SetName; Name() is for the thread
+    // that does.
     UnicodeString GetName() const override;
     void SetName(const UnicodeString& AName) override;
-    // The name that it was made under, which stays when the component gets another one: by it a configurator is asked, and
-    // AppenderInstances finds it. For one that was made without, the name of the component. Any thread.
+    // The name given at creation, which SetName does not change. A configurator is asked by it, and
+    // AppenderInstances finds it. Without such a name it is that of the component. Any thread.
     UnicodeString ConfiguredName() const;
     TComponent* Component() override { return this; }
     HRESULT QueryInterface(const TGUID& AIid, void** AObject) override {
@@ -72,31 +63,40 @@ public:
     std::uint32_t _AddRef() override { return Inherited::_AddRef(); }
     std::uint32_t _Release() override { return Inherited::_Release(); }
 
-    // Called by Create when the object is complete: from then on AppenderInstances knows it.
-    void FinishCreate();
-    // Leaves the lists of all loggers, then does as any component.
+    // Leaves the lists of all loggers, then continues as for any component.
     void BeforeDestruction() override;
-    void DestructionRefused() noexcept override;
 
-    // A number that no other one has in this process.
+    // Unique in this process.
     std::uint64_t Serial() const noexcept { return FSerial; }
     static std::uint64_t NextSerial() noexcept;
 
+    // The lists that hold it; the caller holds the state lock.
+    void JoinedSet(detail::TAppenderSet& ASet, TAccessKey<detail::TAppenderSet>) { FSets.push_back(&ASet); }
+    void LeftSet(detail::TAppenderSet& ASet, TAccessKey<detail::TAppenderSet>) noexcept;
+    // Drops the reference of a list. True if the caller has to call Free, with no lock held.
+    bool ReleaseFromSet(TAccessKey<detail::TAppenderSet>);
+    // The lock of an appender that may be in use; otherwise null. The caller holds the state lock.
+    TCriticalSection* LockForFork(TAccessKey<detail::TLogFork>) noexcept {
+        return FIsComplete || !FSets.empty() ? AppenderLock() : nullptr;
+    }
+
 protected:
-    // ALogger is the one it is made for, and need not live longer. A name that begins with a digit is not taken, an empty
-    // one neither; any other that is no identifier raises EComponentError.
+    // ALogger is the logger that it is made for, which may end earlier. An empty name and one that begins
+    // with a digit are not set; any other that is no identifier raises EComponentError.
     TQzLogBase(TQzLogger* ALogger, const UnicodeString& AName);
     ~TQzLogBase() override;
+    // AppenderInstances finds the object from here on.
+    void FinishCreate() override;
+    void DestructionRefused() noexcept override;
 
-    // Whether it stands in AppenderInstances.
-    virtual bool IsAppender() const noexcept { return false; }
-    // The logger it was made for, while that lives; else null.
+    // The lock of an appender, which re-enters; null for what is no appender. AppenderInstances lists those
+    // that have one.
+    virtual TCriticalSection* AppenderLock() noexcept { return nullptr; }
+    // The logger that it was made for; null after that has ended.
     Ref<TQzLogger> LoggerOfOrigin() const;
 
 private:
     friend class TQzAppenderInstances;
-    friend struct detail::TForkLocks;
-    friend void LinkAppender(TComponent* AComponent, TQzLogAppenderList& AList);
     const UnicodeString& NameToFind() const noexcept {
         return FConfiguredName.IsEmpty() ? Name() : FConfiguredName;
     }
@@ -105,67 +105,78 @@ private:
 
     const std::uint64_t FSerial = NextSerial();
     const UnicodeString FConfiguredName;
-    // All of these are guarded by the lock of the instances, and so is the name of the component.
+    // These, and the name of the component, are guarded by the state lock.
     TQzLogger* FLogger;
     bool FIsComplete = false;
-    std::set<std::weak_ptr<detail::TLogAppenderCore>, std::owner_less<>> FLists; // that may hold it
-    std::size_t FSweepAt = 16; // the size at which the gone are dropped
+    std::vector<detail::TAppenderSet*> FSets;
 };
 
-// The classes of a kind, to be found by name.
+// Mixes interfaces into a base that implements the operations of IQzLogBase.
+//
+//     class TMyLayout : public TQzLogBaseWith<TQzLogBase, IQzLogLayout> {
+//         QZ_CLASS(TMyLayout, TQzLogBase)
+template <class TBase, class... I> class TQzLogBaseWith : public TBase, public I... {
+public:
+    HRESULT QueryInterface(const TGUID& AIid, void** AObject) override {
+        return TBase::QueryInterface(AIid, AObject);
+    }
+    std::uint32_t _AddRef() override { return TBase::_AddRef(); }
+    std::uint32_t _Release() override { return TBase::_Release(); }
+    UnicodeString GetName() const override { return TBase::GetName(); }
+    TComponent* Component() override { return TBase::Component(); }
+
+protected:
+    using TBase::TBase;
+    ~TQzLogBaseWith() override = default;
+};
+
+// Classes of appenders or of layouts, which are found by name. Any thread.
 class QZ_API TQzLogBaseClassList : public TObject {
     QZ_CLASS(TQzLogBaseClassList, TObject)
 
 public:
-    // Also registers the class with RegisterClass; null raises EAssertionFailed. One that is there already is not added again.
+    // Also calls RegisterClass. Null raises EAssertionFailed. A class is added once.
     void Add(TQzLogBaseClass AClass);
     // In any case of letters. Raises EListError, "Class %s not found!".
     TQzLogBaseClass GetClass(const TStringArg& AName) const;
 
 private:
-    friend struct detail::TForkLocks;
-    mutable std::mutex FLock;
-    TList<TClass> FList;
+    TList<TClass> FList; // guarded by the state lock
 };
 
-// Both live to the end of the program. Any thread.
+// Both live to the end of the program.
 QZ_API TQzLogBaseClassList& RegisteredLayouts();
 QZ_API TQzLogBaseClassList& RegisteredAppenders();
 
-// All living appenders that somebody holds, in the order of their making.
+// All living appenders with a reference, in the order of their creation.
 class QZ_API TQzAppenderInstances {
 public:
     TQzAppenderInstances() = default;
     TQzAppenderInstances(const TQzAppenderInstances&) = delete;
     TQzAppenderInstances& operator=(const TQzAppenderInstances&) = delete;
 
-    // Any thread; the answers are of that moment.
+    // Any thread; other threads may change the answers at once.
     int Count() const;
-    // The first that bears that name, case-sensitive, or else was made under it; null when there is none. See
-    // TQzLogBase::ConfiguredName.
+    // The first one of that name, case-sensitive, or else the first one with that TQzLogBase::ConfiguredName;
+    // null if there is none.
     Ref<IQzLogAppender> Find(std::u16string_view AName) const;
     std::vector<Ref<IQzLogAppender>> Items() const;
 
+    // Tells those that were made for the logger that it ends.
+    void LoseLogger(const TQzLogger* ALogger, TAccessKey<TQzLogger>) noexcept;
+    // Appenders and layouts, also incomplete ones. The caller holds the state lock.
+    const TList<TQzLogBase*>& All(TAccessKey<detail::TLogFork>) const noexcept { return FList; }
+
 private:
     friend class TQzLogBase;
-    friend class TQzLogger;
-    friend struct detail::TForkLocks;
-    friend void LinkAppender(TComponent* AComponent, TQzLogAppenderList& AList);
-    // Tells all that were made for the logger that it ends.
-    void LoseLogger(const TQzLogger* ALogger) noexcept;
-
-    mutable TCriticalSection FLock; // nothing is called under it but counting
-    TList<TQzLogBase*> FList;       // appenders and layouts, also those that are not complete
+    TList<TQzLogBase*> FList; // guarded by the state lock
 };
 
 QZ_API TQzAppenderInstances& AppenderInstances();
 
-// A new object of the class, by its virtual constructor. Raises EInvalidOperation, "Class %s cannot be made", for a null
-// class or one without.
+// Makes an object by the virtual constructor of its class. Raises EInvalidOperation, "Class %s cannot be
+// made", for null and for a class without one.
 QZ_API Ref<IQzLogBase> MakeLogBase(TQzLogBaseClass AClass, TQzLogger* ALogger, const UnicodeString& AName);
-
-// Has the component leave the list when it ends.
-void LinkAppender(TComponent* AComponent, TQzLogAppenderList& AList);
 
 namespace detail {
 
@@ -177,7 +188,7 @@ inline constexpr TMakerEntry cLogBaseMaker[] = {Maker<TQzLogBase::TVirtualCreate
 
 } // namespace detail
 
-// The record of the class of an appender or layout, which can then be made by name.
+// The class record of an appender or layout, by which the registries can make it.
 template <std::derived_from<TQzLogBase> T>
 constexpr TClassRec DescribeLogBase(std::u16string_view AName, TClassDescription AMore) noexcept {
     if (AMore.Makers.empty())

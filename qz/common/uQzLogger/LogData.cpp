@@ -30,7 +30,7 @@ constexpr TSystemName cSystems[] = {
     {601, u"Vista"},        {611, u"Windows 7"},     {621, u"Windows 8"},
 };
 
-// What does not change while the program runs.
+// Constant while the program runs.
 struct TSystem {
     UnicodeString Name;
     UnicodeString Version;
@@ -43,8 +43,7 @@ TSystem AskSystem() {
 }
 
 const TSystem& System() {
-    static const TSystem& Result =
-        *new TSystem(AskSystem()); // never destroyed: threads may ask while the program ends
+    static const TSystem& Result = *new TSystem(AskSystem()); // never destroyed: used while the program ends
     return Result;
 }
 

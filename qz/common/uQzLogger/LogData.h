@@ -1,9 +1,9 @@
-// IQzLogData: a message as a record of its own, with the machine on which it arose, which can be passed around before it is
+// IQzLogData: a message as a record with a description of the machine, which can be passed on before it is
 // logged.
 //
 //     Ref<IQzLogData> Data = TQzLogData::Create(llInfo, u"started");
 //     Data->Data()->FSource = u"backup";
-//     Logger().Log(Data);            // the level, the message and the indent; the other fields are for readers of the record
+//     Logger().Log(Data);            // uses the level, the message and the indent
 //
 // A record belongs to one thread at a time.
 #pragma once
@@ -42,10 +42,10 @@ public:
     UnicodeString FActiveControl;
     UnicodeString FExtendedInfo;
     UnicodeString FSource;
-    // By QzGetWindowsVersion, whose number for Windows 8 later ones may have too. "Unidentified OS" for a number that has no
-    // name here, such as that of other systems.
+    // The name for the number of QzGetWindowsVersion, "Unidentified OS" on other systems. Later versions than
+    // Windows 8 may have its number.
     UnicodeString FOS;
-    UnicodeString FVersion; // of the system, such as 10.0; Build: 4A61, "": the build in hexadecimal digits
+    UnicodeString FVersion; // of the system, such as 10.0; Build: 4A61, "": the build is hexadecimal
     TDateTime FTimestamp;   // local time of creation
     UnicodeString FResolution;
     UnicodeString FHelpText;

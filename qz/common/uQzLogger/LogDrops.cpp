@@ -3,21 +3,22 @@
 #include <atomic>
 #include <map>
 #include <memory>
-#include <mutex>
 
-#include <qz/common/uQzLogger/QzLogger.h>
+#include <qz/common/uQzLogger/detail/LogThread.h>
 #include <qz/platform/Clock.h>
+#include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
 namespace {
 
+using detail::TStateHold;
+
 constexpr std::int64_t cSecond = 10'000'000;
 
-// It outlives the destructors of the program, from which logging goes on.
+// Lives to the very end of the process. The first two are guarded by the state lock.
 struct TDrops {
-    std::mutex Lock;
     std::shared_ptr<const TQzLogDropHook> Hook;
-    std::map<std::uint64_t, std::int64_t> Told; // when, for each appender
+    std::map<std::uint64_t, std::int64_t> Told; // the time of the last call, for each appender
     std::atomic<std::uint64_t> Count{0};
     std::atomic<bool> IsTelling{false};
 };
@@ -27,10 +28,10 @@ TDrops& Drops() {
     return *Result;
 }
 
-// The hook, if it has not heard of the appender within a second. Entries that do not matter any more go.
+// The hook, unless it was called for the appender within a second. Old entries are removed.
 std::shared_ptr<const TQzLogDropHook> HookFor(TDrops& ADrops, std::uint64_t AAppender) {
     const std::int64_t Now = platform::UtcNow100ns();
-    const std::lock_guard Hold(ADrops.Lock);
+    const TStateHold Hold;
     if (ADrops.Hook == nullptr)
         return nullptr;
     std::erase_if(ADrops.Told, [Now](const auto& AEntry) {
@@ -39,7 +40,7 @@ std::shared_ptr<const TQzLogDropHook> HookFor(TDrops& ADrops, std::uint64_t AApp
     return ADrops.Told.try_emplace(AAppender, Now).second ? ADrops.Hook : nullptr;
 }
 
-// Of the exception that is being handled.
+// Describes the exception that is being handled.
 void Describe(TQzLogDrop& ADrop) {
     try {
         throw;
@@ -58,21 +59,13 @@ void Describe(TQzLogDrop& ADrop) {
 void QzSetLogDropHook(TQzLogDropHook AHook) {
     TDrops& All = Drops();
     auto Hook = AHook ? std::make_shared<const TQzLogDropHook>(std::move(AHook)) : nullptr;
-    const std::lock_guard Hold(All.Lock);
+    const TStateHold Hold;
     All.Hook.swap(Hook);
     All.Told.clear();
 }
 
 std::uint64_t QzDroppedLogMessages() noexcept {
     return Drops().Count.load(std::memory_order_relaxed);
-}
-
-bool detail::TryLockDrops() {
-    return Drops().Lock.try_lock();
-}
-
-void detail::UnlockDrops() {
-    Drops().Lock.unlock();
 }
 
 void detail::ForgetTelling() noexcept {
@@ -95,7 +88,7 @@ void detail::ReportDrop(const UnicodeString& ALogger, std::uint64_t AAppender,
             Describe(Drop);
             (*Hook)(Drop);
         }
-    } catch (...) { // NOLINT(bugprone-empty-catch): there is nobody left to tell
+    } catch (...) { // NOLINT(bugprone-empty-catch): the hook is the last resort
     }
     All.IsTelling.store(false, std::memory_order_release);
 }

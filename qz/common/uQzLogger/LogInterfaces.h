@@ -1,5 +1,5 @@
-// What a logger needs of others: appenders, which take messages somewhere, layouts, which make text of them, and the
-// configurator, by which an application tells loggers and appenders how to behave.
+// What loggers call: appenders, which write messages, layouts, which format them, and the configurator, by
+// which an application sets the values of loggers and appenders.
 //
 //     class TMemoryAppender : public TQzBaseAppender { ... };          // see BaseAppender.h
 //     class TMyConfiguration : public TInterfacedObject, public IQzLogConfigurator { ... };
@@ -7,15 +7,14 @@
 
 #include <qz/common/uQzLogger/LogTypes.h>
 #include <qz/common/uQzTypes/TypeKinds.h>
-#include <qz/runtime/components/Component.h>
+#include <qz/runtime/values/Value.h>
 
 namespace qz {
 
+class TComponent;
 class TQzBaseAppender;
-class TQzLogAppenderList;
 class TQzLogBase;
 class TQzLogger;
-class TQzLoggerList;
 using TQzLogBaseClass = ClassRef<TQzLogBase>;
 
 // What appenders and layouts have in common.
@@ -35,12 +34,12 @@ class IQzLogAppender : public IQzLogBase {
 public:
     static constexpr TGUID IID = Guid("{D10CACCF-3B7D-4CBB-96D3-7C22BEF8FE7E}");
 
-    // One message. ASource is the full name of the logger where it began, ALogger that of the logger whose appender is
-    // being called, which may be an ancestor. Loggers call it from any thread, one logger one call at a time. What it
-    // raises is dropped by the logger, and ends the way of that message.
+    // Writes a message. ASource is the full name of the logger where it began, ALogger that of the logger
+    // whose appender is called, which may be an ancestor. Called on any thread; one logger makes one call at
+    // a time. An exception ends the delivery of the message, and the logger drops it.
     virtual void Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
                        const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) = 0;
-    // Lets go of what the appender writes to, until the next message.
+    // Closes what the appender writes to, until the next message.
     virtual void Close() = 0;
 
 protected:
@@ -51,7 +50,7 @@ class IQzLogLayout : public IQzLogBase {
 public:
     static constexpr TGUID IID = Guid("{5008EFF8-569C-4FD3-8C1D-FCCEF0DF632E}");
 
-    // What stands behind the last message and before the first.
+    // The text after the last message and before the first.
     virtual UnicodeString GetFooter() = 0;
     virtual UnicodeString GetHeader() = 0;
     // The message as text, without an end of line. Called for one message at a time.
@@ -63,7 +62,7 @@ protected:
     ~IQzLogLayout() = default;
 };
 
-// A layout that wants a file extension of its own.
+// A layout with a file extension of its own.
 class IQzLogLayoutEx : public IQzLogLayout {
 public:
     static constexpr TGUID IID = Guid("{69516E7B-351A-4F40-AED4-7CD5FDCB3FFD}");
@@ -74,7 +73,7 @@ protected:
     ~IQzLogLayoutEx() = default;
 };
 
-// A layout that wants to know the appender that took it.
+// A layout that needs the appender it is set to.
 // NOLINTNEXTLINE(bugprone-reserved-identifier,readability-identifier-naming): the name is fixed
 class _IQzLogLayout : public IInterface {
 public:
@@ -86,7 +85,8 @@ protected:
     ~_IQzLogLayout() = default;
 };
 
-// An appender with a layout. It bears the identifier of IQzLogAppender: whoever asks for the one gets the other.
+// An appender with a layout. It has the identifier of IQzLogAppender, so that a query for either gives the
+// same interface.
 class IQzLogAppenderEx : public IQzLogAppender {
 public:
     static constexpr TGUID IID = IQzLogAppender::IID;
@@ -101,22 +101,42 @@ protected:
     ~IQzLogAppenderEx() = default;
 };
 
+// Of appenders to a file. All their interfaces share this identifier: ask for no interface of a descendant.
+class IQzFileAppender : public IQzLogAppender {
+public:
+    static constexpr TGUID IID = Guid("{36A4304E-7A72-4C9C-A6B8-AE1B4B533E9E}");
+
+    virtual UnicodeString GetFileName() = 0;
+    virtual bool GetAppendExisting() = 0;
+    virtual UnicodeString GetFileExt() = 0;
+    // A new name or extension closes the open file. A name without an extension gets the current one, a name
+    // with an extension sets it, and an extension may come without its point. With a blank name nothing is
+    // written. A footer that does not fit on the disk is left out.
+    virtual void SetFileName(const UnicodeString& AName) = 0;
+    // Whether an existing file is continued, the default, or replaced; from the next opening on.
+    virtual void SetAppendExisting(bool AValue) = 0;
+    virtual void SetFileExt(const UnicodeString& AExtension) = 0;
+
+protected:
+    ~IQzFileAppender() = default;
+};
+
 // The keys that loggers and appenders ask for:
 //
-//     logger    Level            mtkInteger   a TQzLogLevel; a logger without an answer logs nothing (7)
+//     logger    Level            mtkInteger   a TQzLogLevel; llDoNotLog without an answer
 //               Additive         mtkBoolean   whether messages go on to the parent
 //               Appenders        mtkArray     the names of its appenders, an array of texts
-//     appender  class            mtkString    a name in RegisteredAppenders; asked where no appender has the name yet
+//     appender  class            mtkString    in RegisteredAppenders; asked if no appender has the name
 //               Layout           mtkString    a name in RegisteredLayouts
-//               AppendExisting   mtkBoolean   FileName, FileExt  mtkString              of an appender to a file
-//               MaxFileSize, MaxBackupCount   mtkInteger         DatePattern  mtkString of one that changes its file
-//               ServiceName      mtkString    of one to the event log
+//               AppendExisting   mtkBoolean   FileName, FileExt  mtkString              file appenders
+//               BufferSize, FlushLevel        mtkInteger                                file appenders
+//               MaxFileSize, MaxBackupCount   mtkInteger         DatePattern  mtkString rolling appenders
+//               ServiceName      mtkString    event log appenders
 //
-// A configurator is asked under the lock of the tree: it may log, get loggers and change appenders, and must neither wait for
-// another thread that does so nor for the lock of an appender.
+// A logger asks under the lock of the tree. The configurator may log, get loggers and change appenders. It
+// must not wait for another thread that does so, or for the lock of an appender.
 //
-// Keys are written as they stand here. Every question has a default, which is the answer for a key that the configurator
-// does not know.
+// Keys are case-sensitive. The default is the answer for a key that the configurator does not know.
 class IQzLogConfigurator : public IInterface {
 public:
     static constexpr TGUID IID = Guid("{28A992A8-9491-4F32-B3BC-851901F67357}");

@@ -6,11 +6,14 @@
 #include <cstdint>
 #include <string_view>
 
-#include <qz/runtime/values/Value.h>
+#include <qz/platform/Export.h>
 
 namespace qz {
 
-// From the least to the most serious; the ordinals are stored in log files. llAll and llDoNotLog serve as thresholds.
+class TValue;
+
+// From the least to the most serious; the ordinals are stored in log files. llAll and llDoNotLog serve as
+// thresholds.
 enum class TQzLogLevel : std::uint8_t {
     llAll,
     llTrace,
@@ -27,7 +30,7 @@ using enum TQzLogLevel;
 inline constexpr std::u16string_view QzLogLevels[] = {u"All",  u"Trace", u"Debug", u"Info",
                                                       u"Warn", u"Error", u"Fatal", u"Disabled"};
 
-// The name, empty for what is no level.
+// The name; empty for any other number.
 constexpr std::u16string_view QzLogLevelName(TQzLogLevel ALevel) noexcept {
     return ALevel <= llDoNotLog ? QzLogLevels[static_cast<int>(ALevel)] : std::u16string_view();
 }
@@ -35,11 +38,11 @@ constexpr std::u16string_view QzLogLevelName(TQzLogLevel ALevel) noexcept {
 // The level of that number. Raises ERangeError, "9 is not a log level".
 QZ_API TQzLogLevel QzLogLevelOf(std::int32_t ANumber);
 
-// Whether the lines from this one on stand deeper, as deep, or less deep.
+// The change of indentation for this line and those after it.
 enum class TQzLogIndent : std::uint8_t { liIndentNone, liIndentIncrease, liIndentDecrease };
 using enum TQzLogIndent;
 
-// The value of a message, null for none. It lives as long as the call.
+// The value of a message, null for none. It is valid during the call.
 using PQzDataRec = const TValue*;
 
 } // namespace qz

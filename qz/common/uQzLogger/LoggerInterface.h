@@ -5,51 +5,68 @@
 //     Log->Debug("%s took %d ms", {Query, 17});
 //     Log->Fatal("failed", Failure);
 //
-// A message goes to the appenders of the logger if its level is not below the logger's, then in the same way to those of
-// the parent, and so on as long as the loggers are additive. Nothing that an appender or layout raises reaches the
-// caller; LogDrops.h tells of it. A bad pattern raises EConvertError from the operation itself, before anything is
-// logged. Texts are formatted whether or not somebody takes them: ask IsEnabledFor first where that costs too much.
+// A message goes to the appenders of the logger if its level is at least that of the logger. Then it goes in
+// the same way to the parent, and so on as long as the loggers are additive. An exception of an appender or
+// layout does not reach the caller (LogDrops.h). A bad pattern raises EConvertError from the operation
+// itself, before anything is logged. Texts are formatted even if no appender takes them: check IsEnabledFor
+// first where that costs too much.
 //
-// Any thread may call any operation. A message that arises while the thread writes to an appender, is asked by a logger for
-// its values, or holds the lock of a list or of the tree, goes its way when that is over, and is not given to the appenders
-// that were writing when it arose; an object that is its value comes as the text of its dump. Of more than 1000 such messages in a row the rest is dropped.
+// Any thread may call any operation. A message that arises while an appender writes or a layout formats a
+// line, on the same thread, is queued and delivered next, to all appenders that take it. So is a message of a
+// thread that holds the lock of an appender. The text of an object that is its value is taken at once. Of
+// more than 1000 such messages in a row the rest is dropped.
+//
+// This header is for code that only logs. A message with a value needs Variant.h or Value.h as well.
 #pragma once
 
-#include <qz/common/uQzLogger/LogData.h>
-#include <qz/common/uQzLogger/LogInterfaces.h>
+#include <qz/common/uQzLogger/LogTypes.h>
 #include <qz/runtime/base/StringArg.h>
 #include <qz/runtime/base/VarRec.h>
+#include <qz/runtime/objects/Ref.h>
 
 namespace qz {
+
+class Exception;
+class IQzLogAppender;
+class IQzLogConfigurator;
+class IQzLogData;
+class TQzBaseAppender;
+class TQzLogAppenderList;
+class TQzLogBase;
+class TQzLoggerList;
+class Variant;
+template <class TBase> class ClassRef;
+using TQzLogBaseClass = ClassRef<TQzLogBase>;
 
 class IQzLogger : public IInterface {
 public:
     static constexpr TGUID IID = Guid("{C9719FC7-DE99-4B3B-A008-A480D810D29E}");
 
-    // Access. The lists belong to the logger and are as good as it is. A logger that has no parent, or whose tree was
-    // closed, gives none.
+    // Access. The logger owns the lists. The parent is null for the root and after the tree was closed.
     virtual Ref<IQzLogger> GetParentLogger() const = 0;
     virtual bool GetParentLevel() const = 0;
-    // The logger's own level, or that of the nearest ancestor that has its own.
+    // The level of the logger, or that of the nearest ancestor that does not take its parent's.
     virtual TQzLogLevel GetLevel() const = 0;
     virtual TQzLogAppenderList* GetAppenders() const = 0;
     virtual TQzLoggerList* GetChildLoggers() const = 0;
     virtual bool GetAdditive() const = 0;
-    // The last part of the name, and the whole from the root: "b" and "root.a.b".
+    // The last part of the name, and the path from the root: "b" and "root.a.b".
     virtual UnicodeString GetName() const = 0;
     virtual UnicodeString GetFullName() const = 0;
     virtual void SetAdditive(bool AValue) = 0;
-    // Whether the level is the parent's. False brings the logger's own level back.
+    // Whether the level is the parent's. False restores the logger's own level.
     virtual void SetParentLevel(bool AValue) = 0;
     virtual void SetLevel(TQzLogLevel AValue) = 0;
-    // Has the logger ask for its values now. Null takes the configurator from the whole tree below, whose values stay.
+    // Asks for the values of this logger now. Null removes the configurator from this logger and all below
+    // it, and changes no values.
     virtual void SetConfig(IQzLogConfigurator* AConfigurator) = 0;
 
-    // The logger of that path below this one, made where it does not exist, and configured then by the configurator of
-    // the root. A logger lives as long as somebody holds it or one below it, and so do its level and appenders. Parts
-    // that are empty do not count; without any it is this logger. Raises what the configurator raises.
+    // The logger of that path below this one. A new logger is configured by the configurator of the root. A
+    // logger, with its level and appenders, lives as long as there is a reference to it or to one below it.
+    // Empty parts of the path are skipped; an empty path gives this logger. Raises what the configurator
+    // raises.
     virtual Ref<IQzLogger> GetLogger(const TStringArg& AName) = 0;
-    // The one that bears the name of the object's class.
+    // The logger with the name of the object's class.
     virtual Ref<IQzLogger> GetLogger(const TObject* AObject) = 0;
 
     virtual bool IsDebugEnabled() const = 0;
@@ -57,11 +74,11 @@ public:
     virtual bool IsFatalEnabled() const = 0;
     virtual bool IsInfoEnabled() const = 0;
     virtual bool IsWarnEnabled() const = 0;
-    // Whether the level is not below GetLevel.
+    // Whether the level is at least GetLevel.
     virtual bool IsEnabledFor(TQzLogLevel ALevel) const = 0;
 
-    // Messages. With an object, Trace begins the message with its class and address, EnterMethod and ExitMethod with its
-    // class. Patterns and their arguments are those of Format.
+    // Messages. For an object, Trace prepends its class and address, EnterMethod and ExitMethod its class.
+    // Patterns and arguments are those of Format.
     virtual void Trace(const TStringArg& AMessage) = 0;
     virtual void Trace(const TObject* AObject, const TStringArg& AMessage) = 0;
     virtual void Trace(const TObject* AObject, const TStringArg& APattern, TVarRecs AArgs) = 0;
@@ -77,11 +94,12 @@ public:
     virtual void Fatal(const TStringArg& APattern, TVarRecs AArgs) = 0;
     virtual void Fatal(const Exception& AValue) = 0;
     virtual void Fatal(const TStringArg& AMessage, const Exception& AValue) = 0;
-    // A counter for a reader that collects such: the message "#counter::NAME#" of level llDebug with the value.
+    // A counter, which readers of logs can collect: the message "#counter::NAME#" of level llDebug with the
+    // value.
     virtual void Count(const TStringArg& AName, std::int32_t AValue) = 0;
-    // Does nothing: no log is kept in memory.
+    // Does nothing, since no log is kept in memory.
     virtual void ClearLog() = 0;
-    // The lines from this one on stand deeper, until ExitMethod.
+    // This line and those up to ExitMethod are indented by one more step.
     virtual void EnterMethod(const TStringArg& AMessage, TQzLogLevel ALevel = llTrace) = 0;
     virtual void EnterMethod(const TStringArg& APattern, TVarRecs AArgs, TQzLogLevel ALevel = llTrace) = 0;
     virtual void EnterMethod(const TObject* AObject, const TStringArg& AMessage,
@@ -103,17 +121,17 @@ public:
     virtual void LogValue(TQzLogLevel ALevel, const TStringArg& AMessage, const TValue& AValue,
                           TQzLogIndent AIndent = liIndentNone) = 0;
 
-    // Appenders; see TQzLogAppenderList, also for when a call that removes one waits for messages on their way to it.
+    // Appenders. TQzLogAppenderList says when a removal waits.
     virtual void AddAppender(IQzLogAppender* AAppender) = 0;
     virtual Ref<IQzLogAppender> AddAppender(TQzLogBaseClass AClass) = 0;
     virtual void RemoveAppender(IQzLogAppender* AAppender) = 0;
     virtual void ClearAppenders() = 0;
-    // Holds up the messages of this logger, and all of this thread, for a walk through the list, until UnLockAppenders on
-    // the same thread, which raises EAssertionFailed on one that holds nothing.
+    // Holds back messages of this logger on other threads, and changes of the list, until UnLockAppenders on
+    // the same thread. That raises EAssertionFailed if the thread does not hold the lock.
     virtual TQzLogAppenderList* LockAppenders() = 0;
     virtual void UnLockAppenders() = 0;
 
-    // The same for an appender of this library, which may be an IQzLogAppender in more ways than one.
+    // The same for an appender of this library, which may derive from IQzLogAppender in several ways.
     QZ_API void AddAppender(TQzBaseAppender* AAppender);
     QZ_API void RemoveAppender(TQzBaseAppender* AAppender);
 

@@ -1,7 +1,7 @@
 #include <qz/common/uQzLogger/LoggerList.h>
 
-#include <qz/common/uQzLogger/LogTreeLock.h>
-#include <qz/common/uQzLogger/QzLogger.h>
+#include <qz/common/uQzLogger/LoggerClass.h>
+#include <qz/common/uQzLogger/detail/LogThread.h>
 #include <qz/runtime/objects/Describe.h>
 
 namespace qz {
@@ -11,13 +11,14 @@ constinit const TClassRec TQzLoggerList::ClassRec =
 
 namespace {
 
-using detail::TLogTreeLock;
+using detail::TStateHold;
+using detail::TTreeLock;
 
 constexpr std::uint32_t cLockTime = 1000; // milliseconds
 constexpr std::u16string_view cAction = u".LoggerList.Remove";
 
 struct [[nodiscard]] TUnlock {
-    ~TUnlock() { TLogTreeLock::Leave(); }
+    ~TUnlock() { TTreeLock::Leave(); }
 };
 
 } // namespace
@@ -28,7 +29,7 @@ void TQzLoggerList::BeforeDestruction() {
 }
 
 bool TQzLoggerList::Lock(const TStringArg& AName, bool ARaise) {
-    if (TLogTreeLock::TryEnter(cLockTime))
+    if (TTreeLock::TryEnter(cLockTime))
         return true;
     if (ARaise)
         throw Exception(SLockFailed, {AName.View()});
@@ -36,46 +37,97 @@ bool TQzLoggerList::Lock(const TStringArg& AName, bool ARaise) {
 }
 
 void TQzLoggerList::Unlock() noexcept {
-    TLogTreeLock::Leave();
+    TTreeLock::Leave();
 }
 
-void TQzLoggerList::LockForChange(std::u16string_view AAction) {
-    if (!TLogTreeLock::TryEnter(cLockTime))
-        throw Exception(SLockFailed, {FLogger.FullNameIfKnown() + AAction});
+void TQzLoggerList::LockFor(std::u16string_view AAction) {
+    if (!TTreeLock::TryEnter(cLockTime))
+        throw Exception(SLockFailed, {FLogger.FullName() + AAction});
+}
+
+void TQzLoggerList::LockForChange(std::u16string_view AAction, TAccessKey<TQzLogger>) {
+    LockFor(AAction);
 }
 
 void TQzLoggerList::AddLogger(TQzLogger* ALogger) {
-    LockForChange(cAction);
+    LockFor(cAction);
     const TUnlock Hold;
-    FList.Add(ALogger);
+    const TStateHold State;
+    Insert(ALogger);
 }
 
 void TQzLoggerList::RemoveLogger(TQzLogger* ALogger) {
-    LockForChange(cAction);
+    LockFor(cAction);
     const TUnlock Hold;
-    FList.Remove(ALogger);
+    const TStateHold State;
+    Erase(ALogger);
 }
 
 TQzLogger* TQzLoggerList::FindLogger(const TStringArg& AFullName) {
-    LockForChange(cAction);
+    LockFor(cAction);
     const TUnlock Hold;
-    for (int I = Count(); I-- > 0;) {
-        if (FList[I]->IsNamed(AFullName))
-            return FList[I];
-    }
-    return nullptr;
+    const TStateHold State;
+    const UnicodeString Prefix = FLogger.FullName() + u'.';
+    const std::u16string_view Name = AFullName;
+    return Name.starts_with(Prefix) ? Find(Name.substr(Prefix.size())) : nullptr;
 }
 
-TQzLogger* TQzLoggerList::FindPart(std::u16string_view AName) const noexcept {
-    for (int I = Count(); I-- > 0;) {
-        if (FList[I]->Name() == AName)
-            return FList[I];
-    }
-    return nullptr;
+int TQzLoggerList::Count() const noexcept {
+    const TStateHold State;
+    return FList.Count();
 }
 
 Ref<IQzLogger> TQzLoggerList::GetLogger(int AIndex) const {
+    const TStateHold State;
     return Ref<IQzLogger>(FList[AIndex]);
+}
+
+void TQzLoggerList::Append(TQzLogger* ALogger, TAccessKey<TQzLogger>) {
+    Insert(ALogger);
+}
+
+void TQzLoggerList::Delete(TQzLogger* ALogger, TAccessKey<TQzLogger>) noexcept {
+    Erase(ALogger);
+}
+
+TQzLogger* TQzLoggerList::FindPart(std::u16string_view AName, TAccessKey<TQzLogger>) const noexcept {
+    return Find(AName);
+}
+
+void TQzLoggerList::Insert(TQzLogger* ALogger) {
+    const auto Place = FByName.insert({ALogger->Name().View(), {ALogger, ++FLastSerial}});
+    try {
+        FList.Add(ALogger);
+    } catch (...) {
+        FByName.erase(Place);
+        throw;
+    }
+}
+
+// From the end, where loggers that live briefly stand.
+void TQzLoggerList::Erase(TQzLogger* ALogger) noexcept {
+    int Index = FList.Count();
+    while (Index-- > 0 && FList[Index] != ALogger) {}
+    if (Index < 0)
+        return;
+    FList.Delete(Index);
+    const auto [First, Last] = FByName.equal_range(ALogger->Name().View());
+    for (auto Each = First; Each != Last; ++Each) {
+        if (Each->second.Logger == ALogger) {
+            FByName.erase(Each);
+            return;
+        }
+    }
+}
+
+TQzLogger* TQzLoggerList::Find(std::u16string_view AName) const noexcept {
+    TNamed Result{nullptr, 0};
+    const auto [First, Last] = FByName.equal_range(AName);
+    for (auto Each = First; Each != Last; ++Each) {
+        if (Each->second.Serial > Result.Serial)
+            Result = Each->second;
+    }
+    return Result.Logger;
 }
 
 } // namespace qz

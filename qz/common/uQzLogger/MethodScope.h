@@ -1,14 +1,16 @@
-// TQzMethodScope: EnterMethod and ExitMethod around a block, on every way out of it.
+// TQzMethodScope: EnterMethod and ExitMethod around a block, also when an exception leaves it.
 //
 //     void TServer::Run() {
 //         const TQzMethodScope Scope(Log, this, "Run");
 //         ...
 //     }
 //
-// It belongs to one thread. It keeps the logger, not the object, whose class is noted at the start.
+// It belongs to one thread. It holds a reference to the logger, and takes the class of the object at the
+// start.
 #pragma once
 
 #include <qz/common/uQzLogger/LoggerInterface.h>
+#include <qz/runtime/objects/Object.h>
 
 namespace qz {
 

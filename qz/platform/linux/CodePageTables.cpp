@@ -11,6 +11,8 @@
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_err.h>
 
+#include <qz/platform/Fork.h>
+
 namespace qz::platform::detail {
 
 namespace {
@@ -201,6 +203,11 @@ std::unique_ptr<const TCodePage> Build(const TPageData& AData) {
 }
 
 constinit std::mutex Making;
+[[maybe_unused]] const bool IsWatched = [] {
+    AroundFork(
+        TForkRank::CodePages, [] { Making.lock(); }, [] { Making.unlock(); }, [] { Making.unlock(); });
+    return true;
+}();
 
 const TCodePage* Keep(std::unique_ptr<const TCodePage> ATables) noexcept {
     std::size_t Slot = FirstCodePageSlot(ATables->Page);

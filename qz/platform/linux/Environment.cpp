@@ -14,15 +14,12 @@ namespace {
 // Has no destructor that does anything: threads may ask while the program ends.
 constinit std::mutex GEnvironmentLock;
 
-// Locks that are taken around a fork() are taken in the opposite order of this. Since the environment is
-// asked under others, it has to come before all of them.
-struct TForkWatch {
-    TForkWatch() {
-        AroundFork([] { GEnvironmentLock.lock(); }, [] { GEnvironmentLock.unlock(); },
-                   [] { GEnvironmentLock.unlock(); });
-    }
-};
-[[gnu::init_priority(101)]] const TForkWatch GForkWatch;
+[[maybe_unused]] const bool GIsWatched = [] {
+    AroundFork(
+        TForkRank::Environment, [] { GEnvironmentLock.lock(); }, [] { GEnvironmentLock.unlock(); },
+        [] { GEnvironmentLock.unlock(); });
+    return true;
+}();
 
 std::optional<std::string> NativeName(std::u16string_view AName) {
     if (AName.empty() || AName.find(u'=') != std::u16string_view::npos)

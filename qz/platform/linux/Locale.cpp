@@ -9,6 +9,7 @@
 #include <unicode/udat.h>
 #include <unicode/unum.h>
 
+#include <qz/platform/Fork.h>
 #include <qz/platform/linux/LocaleName.h>
 #include <qz/platform/linux/LocalePattern.h>
 
@@ -158,13 +159,22 @@ TLocale ReadLocale(const TLocaleNames& ANames) {
     return Result;
 }
 
-// The current environment setting, valid during AUse.
+constinit std::mutex GLock;
+[[maybe_unused]] const bool GIsWatched = [] {
+    AroundFork(
+        TForkRank::Locale, [] { GLock.lock(); }, [] { GLock.unlock(); }, [] { GLock.unlock(); });
+    return true;
+}();
+
+// Calls AUse with the locale that the environment names now.
 template <class TUse> auto WithUserLocale(const TUse& AUse) {
     // To open a locale in ICU takes a tenth of a millisecond, and what it says does not change with time.
-    static auto* const Lock = new std::mutex;
-    static auto* const Last = new std::pair<TLocaleNames, TLocale>;
+    // Guarded by the lock and never destroyed.
+    constinit static std::pair<TLocaleNames, TLocale>* Last = nullptr;
     const TLocaleNames Names = NamesOfEnvironment();
-    const std::lock_guard Hold(*Lock);
+    const std::lock_guard Hold(GLock);
+    if (Last == nullptr)
+        Last = new std::pair<TLocaleNames, TLocale>;
     if (Last->first != Names)
         *Last = {Names, ReadLocale(Names)};
     return AUse(Last->second);

@@ -2,6 +2,6 @@
 
 namespace qz::platform {
 
-void AroundFork(void (*)(), void (*)(), void (*)()) {}
+void AroundFork(TForkRank, void (*)(), void (*)(), void (*)()) {}
 
 } // namespace qz::platform

@@ -15,7 +15,6 @@
 
 #include <compare>
 #include <concepts>
-#include <functional>
 #include <iosfwd>
 #include <string>
 #include <string_view>

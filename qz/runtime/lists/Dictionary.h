@@ -10,6 +10,7 @@
 // order is none in particular. It belongs to one thread at a time.
 #pragma once
 
+#include <functional>
 #include <unordered_map>
 #include <utility>
 

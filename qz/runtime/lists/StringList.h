@@ -12,6 +12,7 @@
 #pragma once
 
 #include <concepts>
+#include <functional>
 #include <vector>
 
 #include <qz/runtime/lists/Strings.h>

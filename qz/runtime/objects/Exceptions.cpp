@@ -1,5 +1,6 @@
 #include <qz/runtime/objects/Exceptions.h>
 
+#include <functional>
 #include <qz/platform/Error.h>
 #include <qz/runtime/objects/DescribeException.h>
 

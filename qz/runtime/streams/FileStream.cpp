@@ -71,33 +71,6 @@ std::int32_t TFileStream::Write(const void* ABuffer, std::int32_t ACount) {
     return static_cast<std::int32_t>(Written.Done);
 }
 
-void TFileStream::SetAppending() {
-    if (const platform::TResult<> Result = FHandle.WriteAtEnd(); !Result)
-        Raise<EStreamError>(cCannotSeek, FFileName, Result.Error());
-}
-
-void TFileStream::AppendWhole(std::span<const std::byte> ABytes) {
-    const platform::TWritten Written = FHandle.Append(ABytes);
-    if (Written) [[likely]]
-        return;
-    if (Written.Done != 0)
-        TakeBack(ABytes.first(Written.Done));
-    Raise<EWriteError>(cCannotWrite, FFileName, Written.Error);
-}
-
-// Unless another writer has appended to it.
-void TFileStream::TakeBack(std::span<const std::byte> ABytes) {
-    std::vector<std::byte> Found(ABytes.size());
-    const auto Count = static_cast<std::int64_t>(ABytes.size());
-    const platform::TResult<std::int64_t> Size = FHandle.Seek(0, platform::TFileOrigin::End);
-    if (Size && *Size >= Count && FHandle.Seek(*Size - Count, platform::TFileOrigin::Beginning)) {
-        const platform::TResult<std::size_t> Got = FHandle.Read(Found);
-        if (Got && *Got == Found.size() && std::ranges::equal(Found, ABytes))
-            std::ignore = FHandle.SetSize(*Size - Count);
-    }
-    std::ignore = FHandle.Seek(0, platform::TFileOrigin::End);
-}
-
 std::int64_t TFileStream::Seek(std::int64_t AOffset, TSeekOrigin AOrigin) {
     const platform::TResult<std::int64_t> Position =
         FHandle.Seek(AOffset, static_cast<platform::TFileOrigin>(AOrigin));

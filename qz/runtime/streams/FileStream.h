@@ -49,25 +49,14 @@ public:
     // The number of bytes that arrived, less than ACount when the disk became full. Raises EWriteError with
     // the file and the reason when none did.
     std::int32_t Write(const void* ABuffer, std::int32_t ACount) override;
-    // Has AppendWhole write at the end of the file. Raises EStreamError.
-    void SetAppending();
-    // Appends all of ABytes or nothing: a part that was written is truncated again, if it is still what the
-    // file ends with. Where the position is then is not said. Raises EWriteError with the file and the
-    // reason.
-    void AppendWhole(std::span<const std::byte> ABytes);
-    // Places after the end are allowed; a write there leaves zeros before it. Raises EStreamError.
+    // Positions after the end are allowed; a write there leaves zeros before it. Raises EStreamError.
     std::int64_t Seek(std::int64_t AOffset, TSeekOrigin AOrigin) override;
     // New bytes are 0; the position stays. Raises EStreamError.
     void SetSize(std::int64_t ANewSize) override;
     // Waits until all that was written is on the disk. Raises EStreamError.
     void FlushToDisk();
 
-    // The open file itself.
-    platform::TFileHandle& Handle() noexcept { return FHandle; }
-
 private:
-    void TakeBack(std::span<const std::byte> ABytes);
-
     UnicodeString FFileName;
     platform::TFileHandle FHandle;
 };

@@ -5,6 +5,7 @@
 #include <mutex>
 #include <vector>
 
+#include <qz/platform/Fork.h>
 #include <qz/platform/Locale.h>
 
 namespace qz {
@@ -62,6 +63,13 @@ TFormatSettings FromLocale(const platform::TLocale& ALocale) {
 // them is rare, so that little is kept.
 std::atomic<const TFormatSettings*> GDefault{nullptr};
 std::mutex GChange;
+[[maybe_unused]] const bool GIsWatched = [] {
+    TFormatSettings::Neutral(); // so that no fork happens while a thread makes it
+    platform::AroundFork(
+        platform::TForkRank::FormatSettings, [] { GChange.lock(); }, [] { GChange.unlock(); },
+        [] { GChange.unlock(); });
+    return true;
+}();
 
 const TFormatSettings& Install(const TFormatSettings& ASettings) {
     static auto* const Kept = new std::vector<std::unique_ptr<const TFormatSettings>>;

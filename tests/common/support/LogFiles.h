@@ -1,4 +1,4 @@
-// Log files in a directory of a test's own.
+// Log files in a directory for one test.
 #pragma once
 
 #include <algorithm>
@@ -11,10 +11,9 @@
 
 namespace qz {
 
-// The message alone; a header and a footer of one word.
-class TPlainLayout : public TQzLogBase, public IQzLogLayout {
+// A line is the message; header and footer are one word.
+class TPlainLayout : public TQzLogBaseWith<TQzLogBase, IQzLogLayout> {
     QZ_CLASS(TPlainLayout, TQzLogBase)
-    QZ_LOG_BASE(TQzLogBase)
 
 public:
     UnicodeString GetFooter() override { return u"foot"; }
@@ -25,7 +24,7 @@ public:
     }
 
 protected:
-    using TQzLogBase::TQzLogBase;
+    using TQzLogBaseWith::TQzLogBaseWith;
 };
 
 class TLogFiles {
@@ -38,7 +37,7 @@ public:
         return Result;
     }
     UnicodeString Path(const UnicodeString& AFile) const { return FDirectory / AFile.View(); }
-    // The content with "|" for each end of a line; "-" when there is no such file.
+    // The content with "|" for each line end; "-" if the file does not exist.
     std::string Text(const UnicodeString& AFile = u"app.log") const {
         const auto Bytes = platform::ReadWholeFile(Path(AFile));
         if (!Bytes)
@@ -51,7 +50,7 @@ public:
     void Put(const UnicodeString& AFile, std::string_view AText) const {
         EXPECT_TRUE(platform::WriteWholeFile(Path(AFile), std::as_bytes(std::span(AText))));
     }
-    // The names in order, each with a blank behind it.
+    // The names in order, each followed by a blank.
     std::string Names() const {
         const auto Entries = platform::ListDirectory(FDirectory.Path());
         std::vector<std::string> Names;
@@ -68,7 +67,7 @@ private:
     platform::TTemporaryDirectory FDirectory;
 };
 
-// As a logger writes.
+// Writes as a logger does.
 inline void Say(IQzLogAppender& AAppender, const UnicodeString& AMessage, TQzLogLevel ALevel = llInfo) {
     AAppender.Write(u"root", u"root", ALevel, AMessage, nullptr, liIndentNone);
 }

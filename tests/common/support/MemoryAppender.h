@@ -1,4 +1,4 @@
-// An appender that keeps what it gets, and does what a test wants with each message.
+// An appender that keeps its lines and calls a function of the test for each message.
 #pragma once
 
 #include <functional>
@@ -7,7 +7,7 @@
 #include <vector>
 
 #include <qz/common/uQzLogAppenders/BaseAppender.h>
-#include <qz/common/uQzLogger/QzLogger.h>
+#include <qz/common/uQzLogger/LoggerClass.h>
 
 namespace qz {
 
@@ -31,16 +31,12 @@ public:
         if (OnWrite)
             OnWrite(AMessage);
     }
-    void Initialize() override {
-        Inherited::Initialize();
-        ++Opened;
-    }
     void Close() override {
         Inherited::Close();
         if (OnClose)
             OnClose();
     }
-    // What came since the last call, a bar behind each line.
+    // The lines since the last call, each followed by a bar.
     UnicodeString Take() {
         const TScopedLock Hold(*this);
         UnicodeString Result;
@@ -52,7 +48,6 @@ public:
     std::function<void(const UnicodeString& AMessage)> OnWrite;
     std::function<void()> OnClose;
     std::vector<UnicodeString> Lines;
-    int Opened = 0;
 
 protected:
     using TQzBaseAppender::TQzBaseAppender;
@@ -67,7 +62,7 @@ public:
     TLogTree& operator=(const TLogTree&) = delete;
 };
 
-// An appender that the logger holds; the result is good as long as it does.
+// Adds an appender; the result is valid as long as the logger holds it.
 inline TMemoryAppender& AddMemory(IQzLogger& ALogger, const UnicodeString& AName = u"") {
     TMemoryAppender* Result = TMemoryAppender::Create(nullptr, AName);
     ALogger.AddAppender(static_cast<IQzLogAppender*>(Result));

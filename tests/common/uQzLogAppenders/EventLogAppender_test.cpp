@@ -18,12 +18,12 @@
 namespace qz {
 namespace {
 
-// A log that writes down what it is asked for, by one call at a time.
+// A log that records its calls and counts those that overlap.
 class TRecorder final : public platform::IEventLog {
 public:
     void EnterSource(std::u16string_view AName, std::u16string_view AProgram) noexcept override {
         Trace += Format(u"enter(%s) ", {AName});
-        EXPECT_EQ(ProgramFileName(), AProgram);
+        EXPECT_EQ(AProgram, ProgramFileName());
     }
     std::uintptr_t OpenSource(std::u16string_view AName) noexcept override {
         const TCall Call(*this);
@@ -81,7 +81,7 @@ protected:
 const TClassRec TRecordedAppender::ClassRec =
     DescribeLogBase<TRecordedAppender>(u"TRecordedAppender", {.Unit = u"Tests"});
 
-// The message itself, and nothing for "none".
+// Gives the message, or an empty line for "none".
 class TBareLayout : public TQzSimpleLayout {
     QZ_CLASS(TBareLayout, TQzSimpleLayout)
 
@@ -118,15 +118,15 @@ protected:
 
 TEST_F(EventLogAppender, LevelsAreTypesAndNumbers) {
     const Ref<TRecordedAppender> Appender = Make();
-    EXPECT_EQ(u"open(" + Program + u") ", Log.Take());
+    EXPECT_EQ(Log.Take(), u"open(" + Program + u") ");
     Write(*Appender, llInfo);
-    EXPECT_EQ(u"", Log.Take()); // no layout
+    EXPECT_EQ(Log.Take(), u""); // no layout
     Appender->SetLayout(TQzLogBaseClass::Of<TBareLayout>());
     for (int Level = 0; Level <= static_cast<int>(llDoNotLog); ++Level)
         Write(*Appender, static_cast<TQzLogLevel>(Level), QzLogLevelName(static_cast<TQzLogLevel>(Level)));
     Write(*Appender, llError, u"none");
-    EXPECT_EQ(u"1:4,2,All 1:4,2,Trace 1:4,2,Debug 1:0,1,Info 1:2,3,Warn 1:1,4,Error 1:1,4,Fatal ",
-              Log.Take());
+    EXPECT_EQ(Log.Take(),
+              u"1:4,2,All 1:4,2,Trace 1:4,2,Debug 1:0,1,Info 1:2,3,Warn 1:1,4,Error 1:1,4,Fatal ");
 }
 
 TEST_F(EventLogAppender, ConfiguredNameBecomesTheSource) {
@@ -146,13 +146,13 @@ TEST_F(EventLogAppender, ConfiguredNameBecomesTheSource) {
         Config->Answers[u"events/ServiceName"] = UnicodeString(Case.Answer);
         Appender->SetConfig(Config.Get());
         Write(*Appender, llWarn);
-        EXPECT_EQ(Case.Trace, Log.Take());
-        EXPECT_EQ(Case.Name, Appender->GetName());
-        EXPECT_EQ(u"events", Appender->ConfiguredName());
+        EXPECT_EQ(Log.Take(), Case.Trace);
+        EXPECT_EQ(Appender->GetName(), Case.Name);
+        EXPECT_EQ(Appender->ConfiguredName(), u"events");
     }
     EXPECT_TRUE(Config->Asked.View().starts_with(u"events/Layout:3 events/ServiceName:3 "));
     Appender = {};
-    EXPECT_EQ(u"close(3) ", Log.Take());
+    EXPECT_EQ(Log.Take(), u"close(3) ");
 }
 
 TEST_F(EventLogAppender, ConfiguringAgainMakesNoOther) {
@@ -166,13 +166,13 @@ TEST_F(EventLogAppender, ConfiguringAgainMakesNoOther) {
                        {u"events/ServiceName", u"Backup"}};
     for (int Round = 0; Round < 3; ++Round) {
         Logger().SetConfig(Config.Get());
-        EXPECT_EQ(2, AppenderInstances().Count());
+        EXPECT_EQ(AppenderInstances().Count(), 2);
     }
-    EXPECT_EQ(u"Backup", AppenderInstances().Find(u"events")->GetName());
-    EXPECT_EQ(AppenderInstances().Find(u"events"), AppenderInstances().Find(u"Backup"));
+    EXPECT_EQ(AppenderInstances().Find(u"events")->GetName(), u"Backup");
+    EXPECT_EQ(AppenderInstances().Find(u"Backup"), AppenderInstances().Find(u"events"));
 }
 
-// The log takes one call at a time, and names may be asked for meanwhile.
+// The log gets one call at a time, while other threads read names.
 TEST_F(EventLogAppender, ThreadsTakeTurns) {
     const Ref<TRecordedAppender> Appender = Make();
     Appender->SetLayout(TQzLogBaseClass::Of<TBareLayout>());
@@ -201,7 +201,7 @@ TEST_F(EventLogAppender, ThreadsTakeTurns) {
     Stop = true;
     for (std::thread& Thread : Threads)
         Thread.join();
-    EXPECT_EQ(0, Log.Overlaps);
+    EXPECT_EQ(Log.Overlaps, 0);
 }
 
 TEST_F(EventLogAppender, LostEventsAreCounted) {
@@ -209,24 +209,24 @@ TEST_F(EventLogAppender, LostEventsAreCounted) {
     Appender->SetLayout(TQzLogBaseClass::Of<TBareLayout>());
     const std::uint64_t Before = QzDroppedLogMessages();
     Write(*Appender, llInfo);
-    EXPECT_EQ(Before, QzDroppedLogMessages());
+    EXPECT_EQ(QzDroppedLogMessages(), Before);
     Log.Loses = true;
     Write(*Appender, llInfo);
-    EXPECT_EQ(Before + 1, QzDroppedLogMessages());
+    EXPECT_EQ(QzDroppedLogMessages(), Before + 1);
 }
 
 TEST_F(EventLogAppender, SourceIsEnteredWithFullRightsOnly) {
     for (const TQzElevationLevel Level : {elDefault, elLimited}) {
         GLevel = Level;
         Make();
-        EXPECT_EQ(std::u16string_view::npos, Log.Take().View().find(u"enter"));
+        EXPECT_EQ(Log.Take().View().find(u"enter"), std::u16string_view::npos);
     }
     GLevel = elFull;
     Log.Refuses = true;
     const Ref<TRecordedAppender> Appender = Make();
     Appender->SetLayout(TQzLogBaseClass::Of<TBareLayout>());
-    Write(*Appender, llFatal); // a refused source is silent
-    EXPECT_EQ(u"enter(" + Program + u") open(" + Program + u") ", Log.Take());
+    Write(*Appender, llFatal); // nothing is written without a source
+    EXPECT_EQ(Log.Take(), u"enter(" + Program + u") open(" + Program + u") ");
 }
 
 TEST_F(EventLogAppender, IsMadeByItsNameForTheProgram) {
@@ -234,7 +234,7 @@ TEST_F(EventLogAppender, IsMadeByItsNameForTheProgram) {
     const std::pair<const char16_t*, const char16_t*> Programs[] = {
         {u"/opt/a.b.exe", u"a.b"}, {u"/opt/.svc", u".svc"}, {u"tool", u"tool"}};
     for (const auto& [Path, Source] : Programs)
-        EXPECT_EQ(Source, detail::EventSourceOf(Path));
+        EXPECT_EQ(detail::EventSourceOf(Path), Source);
 }
 
 } // namespace

@@ -27,9 +27,9 @@ TEST(RollingFileAppender, NamesAreTakenApart) {
                   {u"app..5.log", 0, u""},    {u"app.99999999999.log", 0, u""}};
     for (const auto& Case : cCases) {
         const TQzFileInfo Info = File->CreateFileInfo(Case.Name);
-        EXPECT_EQ(u"app", Info.FileNameLeft);
-        EXPECT_EQ(Case.Index, Info.Index) << Utf16ToUtf8(Case.Name);
-        EXPECT_EQ(Case.Right, Info.FileNameRight) << Utf16ToUtf8(Case.Name);
+        EXPECT_EQ(Info.FileNameLeft, u"app");
+        EXPECT_EQ(Info.Index, Case.Index) << Utf16ToUtf8(Case.Name);
+        EXPECT_EQ(Info.FileNameRight, Case.Right) << Utf16ToUtf8(Case.Name);
     }
 }
 
@@ -40,17 +40,17 @@ TEST(RollingFileAppender, RollsOverAtItsSize) {
     Say(File, u"12345678901234567890"); // written whole, and over the limit
     Say(File, u"b");                    // "head", with its end of a line, is below it
     Say(File, u"c");
-    EXPECT_EQ("app.1.log app.log ", Files.Names());
-    EXPECT_EQ("head|12345678901234567890|foot", Files.Text(u"app.1.log"));
-    EXPECT_EQ("head|b|c|", Files.Text());
+    EXPECT_EQ(Files.Names(), "app.1.log app.log ");
+    EXPECT_EQ(Files.Text(u"app.1.log"), "head|12345678901234567890|foot");
+    EXPECT_EQ(Files.Text(), "head|b|c|");
     for (int I = 0; I < 12; ++I)
         Say(File, IntToStr(I));
-    EXPECT_EQ("app.1.log app.2.log app.3.log app.4.log app.log ", Files.Names());
-    EXPECT_EQ("head|4|5|foot", Files.Text(u"app.4.log"));
+    EXPECT_EQ(Files.Names(), "app.1.log app.2.log app.3.log app.4.log app.log ");
+    EXPECT_EQ(Files.Text(u"app.4.log"), "head|4|5|foot");
     File->SetMaxFileSize(0);
     for (int I = 0; I < 20; ++I)
         Say(File, u"x");
-    EXPECT_EQ(48u, Files.Text().size());
+    EXPECT_EQ(Files.Text().size(), 48u);
 }
 
 TEST(RollingFileAppender, FamiliesWithGapsAndStrangers) {
@@ -60,7 +60,7 @@ TEST(RollingFileAppender, FamiliesWithGapsAndStrangers) {
         std::string Found;
         for (const char16_t* Name : {u"app.log", u"app.1.log", u"app.2.log", u"app.3.log", u"app.4.log"})
             Found += Files.Text(Name) + ' ';
-        EXPECT_EQ(AContents, Found);
+        EXPECT_EQ(Found, AContents);
     };
     Files.Put(u"app.log", "0");
     Files.Put(u"app.1.log", "1");
@@ -68,18 +68,18 @@ TEST(RollingFileAppender, FamiliesWithGapsAndStrangers) {
     File->RollOver();
     Expect("head| 0 1 7 - ");
     File->Close();
-    // the numbers close up from both sides, and nothing is lost
+    // some numbers decrease and others increase, and nothing is lost
     EXPECT_TRUE(DeleteFile(Files.Path(u"app.1.log")) && DeleteFile(Files.Path(u"app.2.log")));
     Files.Put(u"app.log", "0");
     Files.Put(u"app.9.log", "9");
     File->RollOver();
     Expect("head| 0 7 9 - ");
     File->Close();
-    // two of one number, and one that only begins with the same letters: with it there is one too many
+    // two backups of one number, and a name that only begins with the base and exceeds the count
     Files.Put(u"app.2.x.log", "x");
     Files.Put(u"apple", "stranger");
     File->RollOver();
-    EXPECT_EQ("app.1.log app.2le.log app.3.log app.4.log app.log ", Files.Names());
+    EXPECT_EQ(Files.Names(), "app.1.log app.2le.log app.3.log app.4.log app.log ");
 }
 
 TEST(RollingFileAppender, TheCount) {
@@ -88,19 +88,19 @@ TEST(RollingFileAppender, TheCount) {
     Say(File, u"a");
     for (int I = 0; I < 3; ++I)
         File->RollOver();
-    EXPECT_EQ("app.1.log app.2.log app.3.log app.log ", Files.Names());
+    EXPECT_EQ(Files.Names(), "app.1.log app.2.log app.3.log app.log ");
     File->SetMaxBackupCount(2);
-    EXPECT_EQ("app.1.log app.log ", Files.Names());
+    EXPECT_EQ(Files.Names(), "app.1.log app.log ");
     File->SetMaxBackupCount(0);
-    EXPECT_EQ("", Files.Names());
+    EXPECT_EQ(Files.Names(), "");
     Say(File, u"nothing");
-    EXPECT_EQ("", Files.Names());
+    EXPECT_EQ(Files.Names(), "");
     File->SetMaxBackupCount(3);
     Say(File, u"again");
-    EXPECT_EQ("head|again|", Files.Text());
+    EXPECT_EQ(Files.Text(), "head|again|");
 }
 
-// Under a long extension, and under one that is all of the name.
+// A long extension, and a name that is only an extension.
 TEST(RollingFileAppender, Extensions) {
     TLogFiles Files;
     const Ref<TQzRollingFileAppender> File = Files.Make<TQzRollingFileAppender>();
@@ -109,24 +109,24 @@ TEST(RollingFileAppender, Extensions) {
     Say(File, u"x");
     for (int I = 0; I < 3; ++I)
         File->RollOver();
-    EXPECT_EQ("app.1.log.xml app.2.log.xml app.3.log.xml app.log.xml ", Files.Names());
+    EXPECT_EQ(Files.Names(), "app.1.log.xml app.2.log.xml app.3.log.xml app.log.xml ");
     File->SetMaxBackupCount(0);
     Files.Put(u"mine", "mine");
     File->SetFileName(Files.Path(u".log"));
     File->SetMaxBackupCount(2);
     Say(File, u"x");
     File->RollOver();
-    EXPECT_EQ("mine", Files.Text(u"mine"));
+    EXPECT_EQ(Files.Text(u"mine"), "mine");
 }
 
-// The file itself has the first place, also beside one with a number below 0.
+// The live file comes before a backup with a negative number.
 TEST(RollingFileAppender, OddNumbers) {
     TLogFiles Files;
     Files.Put(u"app.-1.log", "odd");
     const Ref<TQzRollingFileAppender> File = Files.Make<TQzRollingFileAppender>();
     Say(File, u"x");
     File->SetMaxBackupCount(1);
-    EXPECT_EQ("app.log ", Files.Names());
+    EXPECT_EQ(Files.Names(), "app.log ");
 }
 
 TEST(RollingFileAppender, WhatIsNotContinuedIsPutAside) {
@@ -135,14 +135,14 @@ TEST(RollingFileAppender, WhatIsNotContinuedIsPutAside) {
     const Ref<TQzRollingFileAppender> File = Files.Make<TQzRollingFileAppender>();
     File->SetAppendExisting(false);
     Say(File, u"new");
-    EXPECT_EQ("old", Files.Text(u"app.1.log"));
-    EXPECT_EQ("head|new|", Files.Text());
-    // the count is taken before the new file is there
+    EXPECT_EQ(Files.Text(u"app.1.log"), "old");
+    EXPECT_EQ(Files.Text(), "head|new|");
+    // the files are counted before the new one exists
     for (int I = 0; I < 6; ++I) {
         File->Close();
         Say(File, u"x");
     }
-    EXPECT_EQ("app.1.log app.2.log app.3.log app.4.log app.5.log app.log ", Files.Names());
+    EXPECT_EQ(Files.Names(), "app.1.log app.2.log app.3.log app.4.log app.5.log app.log ");
 }
 
 UnicodeString DateOf(TDateTime ADay) {
@@ -163,22 +163,22 @@ TEST(DailyRollingFileAppender, AFileOfAnEarlierDayIsPutAside) {
         const Ref<TQzDailyRollingFileAppender> File = Files.Make<TQzDailyRollingFileAppender>();
         File->SetAppendExisting(Appends);
         Say(File, u"new");
-        EXPECT_EQ("old", Files.Text(Dated));
-        EXPECT_EQ("head|new|", Files.Text());
+        EXPECT_EQ(Files.Text(Dated), "old");
+        EXPECT_EQ(Files.Text(), "head|new|");
         File->Close();
         EXPECT_TRUE(DeleteFile(Files.Path(Dated)) && DeleteFile(Files.Path(u"app.log")));
     }
-    // the dated name is taken: number and date
+    // the dated name exists: number and date
     Files.Put(u"app.log", "old");
     Files.Put(Dated, "taken");
     QzSetFileCreated(Files.Path(u"app.log"), QzLocalToUTC(Before));
     const Ref<TQzDailyRollingFileAppender> File = Files.Make<TQzDailyRollingFileAppender>();
     Say(File, u"new");
-    EXPECT_EQ("old", Files.Text(u"app.1." + DateOf(Before) + u".log"));
-    EXPECT_EQ("taken", Files.Text(u"app.2." + DateOf(Before) + u".log"));
-    EXPECT_EQ("head|new|", Files.Text());
+    EXPECT_EQ(Files.Text(u"app.1." + DateOf(Before) + u".log"), "old");
+    EXPECT_EQ(Files.Text(u"app.2." + DateOf(Before) + u".log"), "taken");
+    EXPECT_EQ(Files.Text(), "head|new|");
     File->SetMaxBackupCount(0);
-    EXPECT_EQ("", Files.Names());
+    EXPECT_EQ(Files.Names(), "");
 }
 
 TEST(DailyRollingFileAppender, RollsWhenTheTextChanges) {
@@ -188,21 +188,21 @@ TEST(DailyRollingFileAppender, RollsWhenTheTextChanges) {
     Say(File, u"one");
     platform::SleepMs(1100);
     Say(File, u"two");
-    EXPECT_EQ("head|two|", Files.Text());
+    EXPECT_EQ(Files.Text(), "head|two|");
     std::string Names = Files.Names();
-    EXPECT_EQ(2, std::count(Names.begin(), Names.end(), ' ')) << Names;
+    EXPECT_EQ(std::count(Names.begin(), Names.end(), ' '), 2) << Names;
     EXPECT_TRUE(Names.starts_with("app.2")) << Names;
-    // a pattern that gives no name: number and date of the old one
+    // the text is no valid name: number and date of the old file
     File->SetDatePattern(u"yyyy'/'mm");
     Names = Files.Names();
     EXPECT_TRUE(Names.starts_with("app.1.2")) << Names;
-    EXPECT_EQ("head|", Files.Text());
-    // by size, on a day that has its file
+    EXPECT_EQ(Files.Text(), "head|");
+    // by size, when the dated name exists
     File->SetDatePattern(u"yyyy");
     File->SetMaxFileSize(1);
     Say(File, u"three");
     Say(File, u"four");
-    EXPECT_EQ("head|four|", Files.Text());
+    EXPECT_EQ(Files.Text(), "head|four|");
 }
 
 } // namespace

@@ -29,38 +29,38 @@ TEST(XmlLayout, TheLine) {
         return std::regex_match(AText, Match, Form) ? Match.str(1) + '|' + Match.str(2)
                                                     : "no match: " + AText;
     };
-    EXPECT_EQ("|", Parts(Line(*Layout, u"")));
-    EXPECT_EQ("&lt;&amp;&gt; &quot;&apos; \t\x01|",
-              Parts(Line(*Layout, UnicodeString(u"<&>\0 \"' \t\x01", 10))));
+    EXPECT_EQ(Parts(Line(*Layout, u"")), "|");
+    EXPECT_EQ(Parts(Line(*Layout, UnicodeString(u"<&>\0 \"' \t\x01", 10))),
+              "&lt;&amp;&gt; &quot;&apos; \t\x01|");
     const std::pair<const char16_t*, const char*> cValues[] = {
         {u"17", "17"}, {u" a]]>b]]>]] ", " a__>b__>]] "}, {u"]]]]>>", "]]__>>"}, {u"<&\"", "<&\""}};
     for (const auto& [Text, Expected] : cValues) {
         const TValue Value = TValue::From(UnicodeString(Text));
-        EXPECT_EQ("m|<logValue><![CDATA[" + std::string(Expected) + "]]></logValue>",
-                  Parts(Line(*Layout, u"m", &Value)));
+        EXPECT_EQ(Parts(Line(*Layout, u"m", &Value)),
+                  "m|<logValue><![CDATA[" + std::string(Expected) + "]]></logValue>");
     }
     const TValue Blank = TValue::From(UnicodeString(u" \t"));
-    EXPECT_EQ("m|", Parts(Line(*Layout, u"m", &Blank)));
+    EXPECT_EQ(Parts(Line(*Layout, u"m", &Blank)), "m|");
     Layout->SetStrictXml(true);
     const TValue Control = TValue::From(UnicodeString(u"a\x02"));
-    EXPECT_EQ("\uFFFD\uFFFD\t\uFFFD|<logValue><![CDATA[a\uFFFD]]></logValue>",
-              Parts(Line(*Layout, u"\x01\x1F\t\xFFFF", &Control)));
+    EXPECT_EQ(Parts(Line(*Layout, u"\x01\x1F\t\xFFFF", &Control)),
+              "\uFFFD\uFFFD\t\uFFFD|<logValue><![CDATA[a\uFFFD]]></logValue>");
 }
 
 TEST(XmlLayout, TheDocument) {
     const Ref<TQzXmlLayout> Alone(TQzXmlLayout::Create(nullptr, u""));
     EXPECT_TRUE(Alone->GetHeader().View().starts_with(u"<log timeStamp=\""));
-    EXPECT_EQ(u".log.xml", Alone->GetFileExt());
+    EXPECT_EQ(Alone->GetFileExt(), u".log.xml");
     TLogFiles Files;
     const Ref<TQzFileAppender> File(TQzFileAppender::Create(nullptr, u""));
     File->SetFileName(Files.Path(u"new/app.log"));
     File->SetLayout(QzXmlLayout);
-    EXPECT_EQ(Files.Path(u"new/app.log.xml"), File->GetFileName());
+    EXPECT_EQ(File->GetFileName(), Files.Path(u"new/app.log.xml"));
     const std::string Style = Files.Text(u"new/app.log.xsl");
     EXPECT_TRUE(Style.starts_with(
         "<xsl:stylesheet version=\"1.0\"  xmlns:xsl=\"http://www.w3.org/1999/XSL/Transform\">|"));
     EXPECT_TRUE(Style.ends_with("  </xsl:template>||</xsl:stylesheet>|"));
-    EXPECT_EQ(71, std::count(Style.begin(), Style.end(), '|'));
+    EXPECT_EQ(std::count(Style.begin(), Style.end(), '|'), 71);
     Say(File, u"hello");
     File->Close();
     const std::regex Form(
@@ -68,10 +68,10 @@ TEST(XmlLayout, TheDocument) {
         "fileName=\"[^\"]+\" userName=\"[^\"]*\" computer=\"[^\"]*\" processID=\"\\d+\">\\|"
         "<item>.*<logMessage>hello</logMessage></item>\\|</log>");
     EXPECT_TRUE(std::regex_match(Files.Text(u"new/app.log.xml"), Form)) << Files.Text(u"new/app.log.xml");
-    // one that is there stays
+    // an existing stylesheet stays
     Files.Put(u"new/app.log.xsl", "mine");
     File->SetLayout(QzXmlLayout);
-    EXPECT_EQ("mine", Files.Text(u"new/app.log.xsl"));
+    EXPECT_EQ(Files.Text(u"new/app.log.xsl"), "mine");
     EXPECT_TRUE(DeleteFile(Files.Path(u"new/app.log.xsl")) &&
                 ForceDirectories(Files.Path(u"new/app.log.xsl")));
     EXPECT_THROW(File->SetLayout(QzXmlLayout), EFCreateError);

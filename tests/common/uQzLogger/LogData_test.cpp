@@ -15,12 +15,12 @@ TEST(LogData, TellsOfTheMachine) {
     const Ref<TQzLogData> Data(TQzLogData::Create(llWarn, u"hot"));
     EXPECT_LE(Before, Data->FTimestamp);
     EXPECT_LE(Data->FTimestamp, Now());
-    EXPECT_EQ(QzGetComputerName(), Data->FComputerName);
-    EXPECT_EQ(QzGetUserName(), Data->FUserName);
+    EXPECT_EQ(Data->FComputerName, QzGetComputerName());
+    EXPECT_EQ(Data->FUserName, QzGetUserName());
     for (const UnicodeString& Text : {Data->FActiveForm, Data->FActiveControl, Data->FResolution})
-        EXPECT_EQ(u"n.a.", Text);
-    EXPECT_EQ(u"", Data->FSource + Data->FExtendedInfo + Data->FHelpText);
-    EXPECT_EQ(detail::SystemNameOf(QzGetWindowsVersion()), Data->FOS);
+        EXPECT_EQ(Text, u"n.a.");
+    EXPECT_EQ(Data->FSource + Data->FExtendedInfo + Data->FHelpText, u"");
+    EXPECT_EQ(Data->FOS, detail::SystemNameOf(QzGetWindowsVersion()));
     const auto Version = static_cast<std::string>(Data->FVersion);
     EXPECT_TRUE(std::regex_match(Version, std::regex("[1-9]\\d*\\.\\d+; Build: [0-9A-F]+, \".*\"")))
         << Version;
@@ -35,8 +35,8 @@ TEST(LogData, SystemsHaveNames) {
         {601, u"Vista"},        {611, u"Windows 7"},     {621, u"Windows 8"}};
     for (int Version = 0; Version <= 0xFFFF; ++Version) {
         const auto Name = Names.find(Version);
-        ASSERT_EQ(Name != Names.end() ? Name->second : u"Unidentified OS",
-                  detail::SystemNameOf(static_cast<std::uint16_t>(Version)))
+        ASSERT_EQ(detail::SystemNameOf(static_cast<std::uint16_t>(Version)),
+                  Name != Names.end() ? Name->second : u"Unidentified OS")
             << Version;
     }
 }

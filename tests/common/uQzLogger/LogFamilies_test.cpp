@@ -20,7 +20,7 @@ template <> struct qz::TTypeDescription<qz::TShade> { static const qz::TTypeInfo
 namespace qz {
 namespace {
 
-// An object with a property of each kind, some of which are not to be shown.
+// An object with a property of each kind, some of which are not shown.
 class TSample : public TPersistent {
     QZ_CLASS(TSample, TPersistent)
 
@@ -115,7 +115,7 @@ TEST(LogFamilies, EachMakesItsMessage) {
     };
     for (const auto& [Call, Expected] : Cases) {
         Call();
-        EXPECT_EQ(Expected.IsEmpty() ? u"" : u"root>root " + Expected, Out.Take());
+        EXPECT_EQ(Out.Take(), Expected.IsEmpty() ? u"" : u"root>root " + Expected);
     }
 }
 
@@ -129,14 +129,14 @@ TEST(LogFamilies, BadPatternsReachTheCaller) {
     TMemoryAppender& Out = AddMemory(Logger());
     Logger().SetLevel(llAll);
     Logger().EnterMethod(static_cast<TObject*>(nullptr), "x");
-    EXPECT_EQ(u"root>root Trace nil.x {|", Out.Take());
+    EXPECT_EQ(Out.Take(), u"root>root Trace nil.x {|");
 }
 
 TEST(DataRec, DumpsPublishedProperties) {
     TSample Outer;
     TSample Inner;
     Outer.FInner = &Inner;
-    Inner.FInner = &Outer; // a circle ends where it began
+    Inner.FInner = &Outer; // a cycle ends at its first object
     Inner.FShade = static_cast<TShade>(7);
     const auto Lines = [](const UnicodeString& AIndent, const char16_t* AShade) {
         UnicodeString Result;
@@ -148,13 +148,13 @@ TEST(DataRec, DumpsPublishedProperties) {
         return Result;
     };
     const TValue Value(static_cast<TObject*>(&Outer));
-    EXPECT_EQ(u"object : TSample\r\n" + Lines(u"  ", u"Shade = shDark") + u"  object : TSample\r\n" +
-                  Lines(u"    ", u"Shade = 7"),
-              QzDataRecToString(&Value));
+    EXPECT_EQ(QzDataRecToString(&Value),
+              u"object : TSample\r\n" + Lines(u"  ", u"Shade = shDark") + u"  object : TSample\r\n" +
+                  Lines(u"    ", u"Shade = 7"));
     const TValue Null(static_cast<TObject*>(nullptr));
-    EXPECT_EQ(Null.ToString(), QzDataRecToString(&Null));
+    EXPECT_EQ(QzDataRecToString(&Null), Null.ToString());
     const TValue Number(5);
-    EXPECT_EQ(u"5", QzDataRecToString(&Number));
+    EXPECT_EQ(QzDataRecToString(&Number), u"5");
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-// What a log file is worth when things go wrong: the process killed, the disk full, the file taken away, forks, and others at
-// the same family.
+// Log files under faults: a killed process, a full disk, a removed file, forks, and several processes with
+// one family.
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
@@ -7,7 +7,6 @@
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <map>
@@ -17,6 +16,7 @@
 
 #include "tests/common/support/LogFiles.h"
 #include "tests/common/support/MemoryAppender.h"
+#include "tests/common/support/linux/InChild.h"
 #include <qz/common/uQzLogger.h>
 #include <qz/common/uQzLogger/LogDrops.h>
 #include <qz/platform/Threads.h>
@@ -33,26 +33,13 @@ std::vector<std::string> LinesOf(const std::string& AText) {
     return Result;
 }
 
-// Runs ABody in a child that must end with 0.
-template <class F> void InChild(F ABody) {
-    const pid_t Child = fork();
-    ASSERT_GE(Child, 0);
-    if (Child == 0) {
-        alarm(60);
-        _exit(ABody() ? 0 : 1);
-    }
-    int Status = 0;
-    waitpid(Child, &Status, 0);
-    EXPECT_EQ(0, Status);
-}
-
-// Each thread tells by the pipe which of its lines has returned.
+// Each thread reports by the pipe which of its logging calls has returned.
 TEST(LogFaults, KilledAtAnyMoment) {
     constexpr int cThreads = 4;
     for (int Round = 0; Round < 12; ++Round) {
         TLogFiles Files;
         int Pipe[2];
-        ASSERT_EQ(0, pipe(Pipe));
+        ASSERT_EQ(pipe(Pipe), 0);
         const pid_t Child = fork();
         ASSERT_GE(Child, 0);
         if (Child == 0) {
@@ -79,17 +66,15 @@ TEST(LogFaults, KilledAtAnyMoment) {
         while (read(Pipe[0], Told, sizeof Told) > 0)
             Returned[Told[0]] = Told[1];
         close(Pipe[0]);
-        int Status = 0;
-        waitpid(Child, &Status, 0);
-        ASSERT_TRUE(WIFSIGNALED(Status));
+        ASSERT_TRUE(WIFSIGNALED(AwaitChild(Child)));
         int Next[cThreads] = {};
         const std::vector<std::string> Lines = LinesOf(Files.Text());
-        ASSERT_EQ("head", Lines.at(0));
+        ASSERT_EQ(Lines.at(0), "head");
         for (std::size_t I = 1; I < Lines.size(); ++I) {
             int T = 0, Line = 0;
-            ASSERT_EQ(2, std::sscanf(Lines[I].c_str(), "%d:%d", &T, &Line)) << Lines[I];
+            ASSERT_EQ(std::sscanf(Lines[I].c_str(), "%d:%d", &T, &Line), 2) << Lines[I];
             if (T != 0) {
-                ASSERT_EQ(Next[T]++, Line);
+                ASSERT_EQ(Line, Next[T]++);
             }
         }
         for (int T = 1; T < cThreads; ++T)
@@ -122,34 +107,30 @@ TEST(LogFaults, AFileThatMayNotGrow) {
             });
             const std::vector<std::string> Lines = LinesOf(Files.Text());
             ASSERT_GE(Lines.size(), 5u) << Files.Text();
-            EXPECT_EQ("room", Lines.back());
+            EXPECT_EQ(Lines.back(), "room");
             for (std::size_t I = 1; I + 1 < Lines.size(); ++I)
-                EXPECT_EQ("a line " + std::to_string(I + 9), Lines[I]);
+                EXPECT_EQ(Lines[I], "a line " + std::to_string(I + 9));
         }
     }
 }
 
 TEST(LogFaults, AFullDevice) {
-    const TLogTree Tree;
-    const Ref<TQzFileAppender> File(TQzFileAppender::Create(nullptr, u""));
-    File->SetFileExt(u"");
-    File->SetFileName(u"/dev/full.");
     TLogFiles Files;
-    ASSERT_EQ(0, symlink("/dev/full", Utf16ToUtf8(Files.Path(u"full.log")).c_str()));
-    File->SetFileName(Files.Path(u"full.log"));
-    File->SetLayout(TQzLogBaseClass::Of<TPlainLayout>());
+    ASSERT_EQ(symlink("/dev/full", Utf16ToUtf8(Files.Path(u"full.log")).c_str()), 0);
+    const TLogTree Tree;
+    const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>(u"full.log");
     Logger().AddAppender(File.Get());
     const std::uint64_t Before = QzDroppedLogMessages();
     for (int I = 0; I < 10; ++I)
         Logger().Info(u"x");
-    EXPECT_EQ(Before + 10, QzDroppedLogMessages());
-    // what waits at the end is told as lost too
+    EXPECT_EQ(QzDroppedLogMessages(), Before + 10);
+    // lines in the buffer at the end are counted as lost
     File->SetBufferSize(100);
     for (int I = 0; I < 3; ++I)
         Logger().Info(u"waits");
     EXPECT_THROW(File->Flush(), EWriteError);
     EXPECT_THROW(File->Close(), EWriteError);
-    EXPECT_EQ(Before + 13, QzDroppedLogMessages());
+    EXPECT_EQ(QzDroppedLogMessages(), Before + 13);
 }
 
 TEST(LogFaults, AFullDisk) {
@@ -168,16 +149,16 @@ TEST(LogFaults, AFullDisk) {
         const std::uint64_t Lost = QzDroppedLogMessages() - Before;
         EXPECT_GT(Lost, 0u);
         const std::vector<std::string> Lines = LinesOf(Files.Text(u"disk/app.log"));
-        EXPECT_EQ(6000u, Lines.size() - 1 + Lost);
+        EXPECT_EQ(Lines.size() - 1 + Lost, 6000u);
         for (std::size_t I = 1; I < Lines.size(); ++I)
             EXPECT_TRUE(Lines[I].starts_with("a line 1") && Lines[I].ends_with(" of some length"))
                 << Lines[I];
-        ASSERT_EQ(0, mount("none", Disk.c_str(), "tmpfs", MS_REMOUNT, "size=256k"));
+        ASSERT_EQ(mount("none", Disk.c_str(), "tmpfs", MS_REMOUNT, "size=256k"), 0);
         Logger().Info(u"room");
         EXPECT_TRUE(Files.Text(u"disk/app.log").ends_with("|room|"));
         File->Close();
     }
-    EXPECT_EQ(0, umount(Disk.c_str()));
+    EXPECT_EQ(umount(Disk.c_str()), 0);
 }
 
 TEST(LogFaults, AFileThatIsTakenAway) {
@@ -186,29 +167,29 @@ TEST(LogFaults, AFileThatIsTakenAway) {
     Logger().AddAppender(Files.Make<TQzFileAppender>().Get());
     Logger().Info(u"one");
     ASSERT_EQ(
-        0, rename(Utf16ToUtf8(Files.Path(u"app.log")).c_str(), Utf16ToUtf8(Files.Path(u"old.log")).c_str()));
+        rename(Utf16ToUtf8(Files.Path(u"app.log")).c_str(), Utf16ToUtf8(Files.Path(u"old.log")).c_str()), 0);
     platform::SleepMs(1100);
     Logger().Info(u"two");
-    EXPECT_EQ("head|one|foot", Files.Text(u"old.log"));
-    EXPECT_EQ("head|two|", Files.Text());
-    ASSERT_EQ(0, unlink(Utf16ToUtf8(Files.Path(u"app.log")).c_str()));
+    EXPECT_EQ(Files.Text(u"old.log"), "head|one|foot");
+    EXPECT_EQ(Files.Text(), "head|two|");
+    ASSERT_EQ(unlink(Utf16ToUtf8(Files.Path(u"app.log")).c_str()), 0);
     platform::SleepMs(1100);
     Logger().Info(u"three");
-    EXPECT_EQ("head|three|", Files.Text());
-    // emptied by another program
-    ASSERT_EQ(0, truncate(Utf16ToUtf8(Files.Path(u"app.log")).c_str(), 0));
+    EXPECT_EQ(Files.Text(), "head|three|");
+    // truncated by another program
+    ASSERT_EQ(truncate(Utf16ToUtf8(Files.Path(u"app.log")).c_str(), 0), 0);
     Logger().Info(u"four");
-    EXPECT_EQ("four|", Files.Text());
+    EXPECT_EQ(Files.Text(), "four|");
 }
 
 TEST(LogFaults, ADirectoryWithoutRight) {
     struct TUser {
         ~TUser() {
-            EXPECT_EQ(0, seteuid(getuid()));
-            EXPECT_EQ(0, setegid(getgid()));
+            EXPECT_EQ(seteuid(getuid()), 0);
+            EXPECT_EQ(setegid(getgid()), 0);
         }
     } const Restored;
-    if (geteuid() == 0 && (setegid(65534) != 0 || seteuid(65534) != 0)) // root lacks no right
+    if (geteuid() == 0 && (setegid(65534) != 0 || seteuid(65534) != 0)) // root has all rights
         GTEST_SKIP() << "needs a user without rights";
     {
         TLogFiles Files;
@@ -218,18 +199,18 @@ TEST(LogFaults, ADirectoryWithoutRight) {
         Logger().AddAppender(File.Get());
         Logger().Info(u"0123456789");
         const std::string Directory = Utf16ToUtf8(Files.Path(u""));
-        ASSERT_EQ(0, chmod(Directory.c_str(), 0500));
+        ASSERT_EQ(chmod(Directory.c_str(), 0500), 0);
         Logger().Info(u"stays");
         Logger().Info(u"too");
-        EXPECT_EQ("head|0123456789|footstays|too|", Files.Text()); // tried once a second
-        ASSERT_EQ(0, chmod(Directory.c_str(), 0700));
+        EXPECT_EQ(Files.Text(), "head|0123456789|footstays|too|"); // one attempt a second
+        ASSERT_EQ(chmod(Directory.c_str(), 0700), 0);
         platform::SleepMs(1100);
         Logger().Info(u"rolls");
-        EXPECT_EQ("head|rolls|", Files.Text());
+        EXPECT_EQ(Files.Text(), "head|rolls|");
     }
 }
 
-// All lines of the family once and in order, as long as the family is large enough for them.
+// The family has each line once and in order.
 TEST(LogFaults, ThreadsThatRollOver) {
     constexpr int cThreads = 8;
     constexpr int cLines = 4000;
@@ -258,30 +239,29 @@ TEST(LogFaults, ThreadsThatRollOver) {
         if (Text == "-")
             continue;
         const std::vector<std::string> Lines = LinesOf(Text);
-        ASSERT_EQ("head", Lines.front());
-        ASSERT_EQ("foot", Lines.back());
+        ASSERT_EQ(Lines.front(), "head");
+        ASSERT_EQ(Lines.back(), "foot");
         for (std::size_t I = 1; I + 1 < Lines.size(); ++I) {
             int T = 0, Line = 0;
-            ASSERT_EQ(2, std::sscanf(Lines[I].c_str(), "%d:%d of a line", &T, &Line)) << Lines[I];
-            ASSERT_EQ(Next[T]++, Line);
+            ASSERT_EQ(std::sscanf(Lines[I].c_str(), "%d:%d of a line", &T, &Line), 2) << Lines[I];
+            ASSERT_EQ(Line, Next[T]++);
         }
     }
     for (const int Count : Next)
-        EXPECT_EQ(cLines, Count);
+        EXPECT_EQ(Count, cLines);
 }
 
-// Each line is whole and none is there twice. What was not counted as lost is there, but for a file now and then that one
-// process takes for a backup too many while another moves it.
+// Each line is whole and occurs once. A line that was not counted as lost is in the family, unless one
+// process has deleted a backup as one too many while another process was renaming it.
 TEST(LogFaults, ProcessesThatRollOneFamily) {
     TLogFiles Files;
     int Pipe[2];
-    ASSERT_EQ(0, pipe(Pipe));
+    ASSERT_EQ(pipe(Pipe), 0);
     std::vector<pid_t> Children;
     for (int P = 0; P < 3; ++P) {
         const pid_t Child = fork();
         ASSERT_GE(Child, 0);
         if (Child == 0) {
-            alarm(60);
             CloseRootLogger();
             const Ref<TQzRollingFileAppender> File = Files.Make<TQzRollingFileAppender>();
             File->SetMaxFileSize(2000);
@@ -297,9 +277,7 @@ TEST(LogFaults, ProcessesThatRollOneFamily) {
         Children.push_back(Child);
     }
     for (const pid_t Child : Children) {
-        int Status = 0;
-        waitpid(Child, &Status, 0);
-        EXPECT_EQ(0, Status);
+        EXPECT_EQ(AwaitChild(Child), 0);
     }
     close(Pipe[1]);
     std::set<std::string> Seen;
@@ -314,8 +292,8 @@ TEST(LogFaults, ProcessesThatRollOneFamily) {
             if (Line.empty())
                 continue;
             int P = 0, I = 0, Length = 0;
-            ASSERT_EQ(2, std::sscanf(Line.c_str(), "<%d:%d>%n", &P, &I, &Length)) << Line;
-            ASSERT_EQ(Line.size(), static_cast<std::size_t>(Length)) << Line;
+            ASSERT_EQ(std::sscanf(Line.c_str(), "<%d:%d>%n", &P, &I, &Length), 2) << Line;
+            ASSERT_EQ(static_cast<std::size_t>(Length), Line.size()) << Line;
             EXPECT_TRUE(Seen.insert(Line).second) << Line;
         }
     }
@@ -327,7 +305,7 @@ TEST(LogFaults, ProcessesThatRollOneFamily) {
     EXPECT_GT(Seen.size() + Lost, 5000u); // a file holds 220
 }
 
-// A child of which nobody hears keeps the parent from nothing, and ends no file of its.
+// A child that lives on does not disturb the parent and writes no footer to its file.
 TEST(LogFaults, AChildThatLivesOn) {
     TLogFiles Files;
     const TLogTree Tree;
@@ -335,15 +313,14 @@ TEST(LogFaults, AChildThatLivesOn) {
     Logger().AddAppender(File.Get());
     Logger().Info(u"one");
     int Pipe[2];
-    ASSERT_EQ(0, pipe(Pipe));
+    ASSERT_EQ(pipe(Pipe), 0);
     const pid_t Child = fork();
     ASSERT_GE(Child, 0);
     if (Child == 0) {
-        alarm(60);
         close(Pipe[1]);
         char Byte = 0;
         while (read(Pipe[0], &Byte, 1) > 0) {}
-        Logger().Info(u"of the child"); // to the file of that name
+        Logger().Info(u"of the child"); // to the file that has the name by then
         File->Close();
         _exit(0);
     }
@@ -353,13 +330,11 @@ TEST(LogFaults, AChildThatLivesOn) {
     Logger().Info(u"three");
     platform::SleepMs(1100);
     close(Pipe[1]);
-    int Status = 0;
-    waitpid(Child, &Status, 0);
+    EXPECT_EQ(AwaitChild(Child), 0);
     close(Pipe[0]);
-    EXPECT_EQ(0, Status);
     Logger().Info(u"four");
-    EXPECT_EQ("head|one|foottwo|foot", Files.Text(u"app.1.log"));
-    EXPECT_EQ("head|three|of the child|footfour|", Files.Text());
+    EXPECT_EQ(Files.Text(u"app.1.log"), "head|one|foottwo|foot");
+    EXPECT_EQ(Files.Text(), "head|three|of the child|footfour|");
 }
 
 TEST(LogFaults, AHeaderThatFindsNoRoom) {
@@ -377,10 +352,10 @@ TEST(LogFaults, AHeaderThatFindsNoRoom) {
         Logger().Info(u"room");
         return true;
     });
-    EXPECT_EQ("head|room|", Files.Text());
+    EXPECT_EQ(Files.Text(), "head|room|");
 }
 
-// Lines that wait are the parent's; parent and child write to one file from then on.
+// Lines in the buffer are the parent's. Parent and child write to one file after the fork.
 TEST(LogFaults, AChildGoesOn) {
     TLogFiles Files;
     const TLogTree Tree;
@@ -391,13 +366,13 @@ TEST(LogFaults, AChildGoesOn) {
     InChild([&] {
         Logger().Info(u"of the child");
         for (int I = 0; I < 300 && Files.Text().find("|of the child|") == std::string::npos; ++I)
-            platform::SleepMs(10); // its own flusher
+            platform::SleepMs(10); // by the flusher of the child
         return true;
     });
     Logger().Warn(u"of the parent");
     std::vector<std::string> Lines = LinesOf(Files.Text());
     std::sort(Lines.begin(), Lines.end());
-    EXPECT_EQ((std::vector<std::string>{"head", "of the child", "of the parent", "waits"}), Lines);
+    EXPECT_EQ(Lines, (std::vector<std::string>{"head", "of the child", "of the parent", "waits"}));
 }
 
 // Lines reach the file at the end of the program, also from the destructors of static objects.
@@ -409,12 +384,9 @@ TEST(LogFaults, TheEndOfTheProgram) {
         }
         UnicodeString Words;
     };
-    static TLast Early; // gone after the root
+    static TLast Early; // destroyed after the root
     TLogFiles Files;
-    const pid_t Child = fork();
-    ASSERT_GE(Child, 0);
-    if (Child == 0) {
-        alarm(60);
+    InChild([&]() -> bool {
         CloseRootLogger();
         static TLast Late;
         const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>();
@@ -423,12 +395,9 @@ TEST(LogFaults, TheEndOfTheProgram) {
         Logger().Info(u"waits");
         Early.Words = u"early";
         Late.Words = u"late";
-        Logger().GetLogger("kept").Detach()->AddAppender(File.Get()); // which outlives the root
+        Logger().GetLogger("kept").Detach()->AddAppender(File.Get()); // this logger outlives the root
         std::exit(0);
-    }
-    int Status = 0;
-    waitpid(Child, &Status, 0);
-    EXPECT_EQ(0, Status);
+    });
     EXPECT_TRUE(Files.Text().starts_with("head|waits|late|")) << Files.Text();
 }
 

@@ -1,26 +1,27 @@
-// How a logger asks its configurator for its values.
+// TQzLogger: reads the values that a configurator gives.
 #include <vector>
 
 #include <qz/common/uQzLogger/LogBase.h>
-#include <qz/common/uQzLogger/LogTreeLock.h>
-#include <qz/common/uQzLogger/QzLogger.h>
+#include <qz/common/uQzLogger/LoggerClass.h>
+#include <qz/common/uQzLogger/LoggerList.h>
+#include <qz/common/uQzLogger/detail/LogThread.h>
 #include <qz/common/uQzTypes/VarTolerant.h>
 #include <qz/runtime/values/VariantArray.h>
 
 namespace qz {
 
-using detail::TLogTreeLock;
+using detail::TStateHold;
 
 Ref<IQzLogConfigurator> TQzLogger::Configurator() const {
-    const TLogTreeLock Hold;
+    const TStateHold Hold;
     return FConfigurator;
 }
 
 void TQzLogger::SetConfig(IQzLogConfigurator* AConfigurator) {
     const Ref<IQzLogConfigurator> Configurator(AConfigurator);
-    std::vector<Ref<IQzLogConfigurator>> Old; // ends with no lock held
+    std::vector<Ref<IQzLogConfigurator>> Old; // released after the lock
     {
-        const TLogTreeLock Hold;
+        const TStateHold Hold;
         Old.push_back(std::exchange(FConfigurator, Configurator));
         std::vector<TQzLogger*> Nodes;
         if (Configurator == nullptr)
@@ -29,7 +30,8 @@ void TQzLogger::SetConfig(IQzLogConfigurator* AConfigurator) {
             TQzLogger* Node = Nodes.back();
             Nodes.pop_back();
             Old.push_back(std::exchange(Node->FConfigurator, {}));
-            Nodes.insert(Nodes.end(), Node->FChildLoggers->FList.begin(), Node->FChildLoggers->FList.end());
+            const TList<TQzLogger*>& Children = Node->FChildLoggers->Items({});
+            Nodes.insert(Nodes.end(), Children.begin(), Children.end());
         }
     }
     if (Configurator == nullptr)
@@ -58,7 +60,7 @@ void TQzLogger::ReadAppenders(IQzLogConfigurator& AConfigurator) {
         const UnicodeString Name = QzVarToStr(VarArrayGet(Names, Low + I), {}, true);
         const UnicodeString ClassName =
             QzVarToStr(AConfigurator.GetAppenderValue(Name, u"class", mtkString, u""), {}, true);
-        const TLogTreeLock Hold; // one appender of a name, whoever asks
+        const detail::TTreeHold Hold; // two threads make one appender of a name
         Ref<IQzLogAppender> Appender = AppenderInstances().Find(Name);
         if (Appender == nullptr && !ClassName.IsEmpty())
             Appender = As<IQzLogAppender>(MakeLogBase(RegisteredAppenders().GetClass(ClassName), this, Name));

@@ -1,18 +1,24 @@
-#include <qz/common/uQzLogger/QzLogger.h>
+#include <qz/common/uQzLogger/LoggerClass.h>
 
 #include <algorithm>
 #include <unordered_set>
 #include <vector>
 
+#include <qz/common/uQzLogger/LogAppenderList.h>
 #include <qz/common/uQzLogger/LogBase.h>
-#include <qz/common/uQzLogger/LogFork.h>
-#include <qz/common/uQzLogger/LogTreeLock.h>
+#include <qz/common/uQzLogger/LogDrops.h>
+#include <qz/common/uQzLogger/LoggerList.h>
+#include <qz/common/uQzLogger/detail/AppenderSet.h>
+#include <qz/common/uQzLogger/detail/LogDispatch.h>
+#include <qz/common/uQzLogger/detail/LogFork.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/text/Format.h>
 
 namespace qz {
 
-using detail::TLogTreeLock;
+using detail::TStateHold;
+using detail::TTreeHold;
+using detail::TTreeLock;
 
 constinit const TClassRec TQzLogger::ClassRec = DescribeClass<TQzLogger>(
     u"TQzLogger", {.Unit = u"uQzLogger", .Interfaces = Interfaces<TQzLogger, IQzLogger>()});
@@ -23,9 +29,9 @@ constexpr std::u16string_view cRoot = u"root";
 // Above all levels: no appender takes anything.
 constexpr auto cNobody = static_cast<TQzLogLevel>(static_cast<int>(llDoNotLog) + 1);
 
-constinit std::atomic<TQzLogger*> GRoot{nullptr}; // changed under the lock of the tree
+constinit std::atomic<TQzLogger*> GRoot{nullptr}; // written under the state lock
 
-// All living loggers; guarded by the lock of the tree.
+// All living loggers; guarded by the state lock.
 std::unordered_set<TQzLogger*>& AllLoggers() {
     static auto* const Result = new std::unordered_set<TQzLogger*>;
     return *Result;
@@ -33,11 +39,14 @@ std::unordered_set<TQzLogger*>& AllLoggers() {
 
 } // namespace
 
-// Begins and ends with the program. The root stays: threads may still log through it.
+// Begins and ends with the program. The root stays, since threads may still log through it. What a message
+// needs is made here, so that no fork happens while a thread makes it.
 struct TLogUnit {
     TLogUnit() {
+        AllLoggers();
         RegisteredLayouts();
         RegisteredAppenders();
+        QzDroppedLogMessages();
         detail::WatchForks();
     }
     ~TLogUnit() {
@@ -56,32 +65,29 @@ TQzLogger::TQzLogger(TQzLogger* AParent, const UnicodeString& AName)
     : FName(AName),
       FHasFullName(AParent == nullptr),
       FAppenders(TQzLogAppenderList::Create(this)),
-      FCore(FAppenders->Core()),
+      FSet(FAppenders->Set({})),
       FParent(AParent),
       FChildLoggers(TQzLoggerList::Create(*this).release()),
       FEndsByCount(AParent != nullptr),
       FTakenFrom(cNobody) {}
 
 TQzLogger::~TQzLogger() {
-    const TLogTreeLock Hold;
+    const TStateHold Hold;
     AllLoggers().erase(this);
 }
 
-std::vector<detail::TLogAppenderCorePtr> TQzLogger::AllAppenders() {
-    const TLogTreeLock Hold;
-    std::vector<detail::TLogAppenderCorePtr> Result;
+void TQzLogger::BeginChild(std::span<TQzLogBase* const> ALost, TAccessKey<detail::TLogFork>) {
     for (const TQzLogger* Each : AllLoggers())
-        Result.push_back(Each->FCore);
-    return Result;
+        Each->FSet->BeginChild(ALost);
 }
 
 void TQzLogger::AfterConstruction() {
     Inherited::AfterConstruction();
-    const TLogTreeLock Hold;
+    const TStateHold Hold;
     AllLoggers().insert(this);
     RecomputeOwn();
     if (FParent != nullptr)
-        FParent->FChildLoggers->AddLogger(this);
+        FParent->FChildLoggers->Append(this, {});
 }
 
 void TQzLogger::FinishCreate() {
@@ -91,7 +97,7 @@ void TQzLogger::FinishCreate() {
 TQzLogger& Logger() {
     if (TQzLogger* Root = GRoot.load(std::memory_order_acquire))
         return *Root;
-    const TLogTreeLock Hold;
+    const TStateHold Hold;
     if (TQzLogger* Root = GRoot.load(std::memory_order_relaxed))
         return *Root;
     Ref<TQzLogger> Root(TQzLogger::Create(nullptr, cRoot));
@@ -104,7 +110,8 @@ TQzLogger& Logger() {
 void CloseRootLogger() {
     Ref<TQzLogger> Root;
     {
-        const TLogTreeLock Hold;
+        const TTreeHold Tree;
+        const TStateHold Hold;
         Root = Ref<TQzLogger>::Attach(GRoot.exchange(nullptr, std::memory_order_relaxed));
         if (Root == nullptr)
             return;
@@ -114,11 +121,11 @@ void CloseRootLogger() {
     Root->Retire();
 }
 
-// Lets go of what the application gave the logger.
+// Drops what the application gave the logger.
 void TQzLogger::Retire() {
     ClearAppenders();
-    Ref<IQzLogConfigurator> Configurator; // ends behind the lock
-    const TLogTreeLock Hold;
+    Ref<IQzLogConfigurator> Configurator; // released after the lock
+    const TStateHold Hold;
     std::swap(Configurator, FConfigurator);
 }
 
@@ -131,7 +138,7 @@ std::uint32_t TQzLogger::_AddRef() {
     return static_cast<std::uint32_t>(FRefCount.Increment());
 }
 
-// A logger that its maker ends may have none to begin with.
+// The count of a logger that its maker ends may be 0.
 bool TQzLogger::TryAddRef() noexcept {
     if (FRefCount.IncrementUnlessZero())
         return true;
@@ -141,32 +148,32 @@ bool TQzLogger::TryAddRef() noexcept {
     return true;
 }
 
-// The last reference goes under the lock by which a logger is found, so that nobody finds one that ends. True when this
-// logger ends by it; else it may be gone already.
+Ref<TQzLogger> TQzLogger::Hold(TAccessKey<TQzLogBase>) noexcept {
+    return TryAddRef() ? Ref<TQzLogger>::Attach(this) : Ref<TQzLogger>();
+}
+
+// The last reference is dropped under the lock by which loggers are found, so that a logger that ends is not
+// found. True if this logger has to end; otherwise it may be destroyed already.
 bool TQzLogger::DropReference(std::int32_t& ACount) {
     ACount = 1;
     if (FRefCount.DecrementUnlessLast())
         return false;
-    const TLogTreeLock Hold;
+    const TTreeHold Tree;
+    const TStateHold Hold;
     ACount = FRefCount.Decrement();
     const bool Ends = ACount == 0 && FEndsByCount && !FIsEnding;
-    if (Ends)
-        LeaveParent();
+    if (Ends && FParent != nullptr)
+        FParent->FChildLoggers->Delete(this, {});
     return Ends;
 }
 
-// The caller holds the lock of the tree.
-void TQzLogger::LeaveParent() {
-    if (FParent != nullptr)
-        FParent->FChildLoggers->FList.Remove(this);
-}
-
-// A parent may end with its last child, and so on up the tree, which may be high. What a thread drops of the
-// logger with whose message it is on the way counts until that has arrived.
+// A parent may end with its last child, and so on up the tree, which may be high. A thread that may not wait
+// for the tree lock leaves the last reference to its queue.
 std::uint32_t TQzLogger::_Release() {
     std::int32_t Count = 0;
-    const detail::TLogDispatch* Present = detail::ThisLogThread().Present;
-    if (Present != nullptr && Present->Logger == this && detail::ReleaseLater(*this))
+    if (FRefCount.DecrementUnlessLast())
+        return 1;
+    if (!FIsEnding && !detail::ThisLogThread().MayWait() && detail::TLogDispatch::ReleaseLater(*this))
         return static_cast<std::uint32_t>(FRefCount.Value() - 1);
     TQzLogger* Ending = DropReference(Count) ? this : nullptr;
     while (Ending != nullptr) {
@@ -181,14 +188,16 @@ std::uint32_t TQzLogger::_Release() {
 void TQzLogger::BeforeDestruction() {
     Ref<IQzLogConfigurator> Configurator;
     {
-        const TLogTreeLock Hold;
-        LeaveParent();
+        const TTreeHold Tree;
+        const TStateHold Hold;
+        if (FParent != nullptr)
+            FParent->FChildLoggers->Delete(this, {});
         DetachChildren(true);
         std::swap(Configurator, FConfigurator);
         TQzLogger* Self = this;
         GRoot.compare_exchange_strong(Self, nullptr, std::memory_order_relaxed);
     }
-    AppenderInstances().LoseLogger(this);
+    AppenderInstances().LoseLogger(this, {});
     if (RefCount() != 0) {
         try {
             detail::RaiseAssertion(Format(u"The refcount of \"%s\" is not equal to 0!", {FullName()}));
@@ -199,34 +208,35 @@ void TQzLogger::BeforeDestruction() {
 }
 
 void TQzLogger::ClearChildLoggers() {
-    FChildLoggers->LockForChange(u".ClearChildLoggers");
+    FChildLoggers->LockForChange(u".ClearChildLoggers", {});
     struct TUnlock {
-        ~TUnlock() { TLogTreeLock::Leave(); }
-    } const Hold;
+        ~TUnlock() { TTreeLock::Leave(); }
+    } const Tree;
+    const TStateHold Hold;
     DetachChildren(false);
 }
 
-// ALetGo is for a parent that ends although it has children; a message on its way would miss it. The caller holds the lock
-// of the tree.
-void TQzLogger::DetachChildren(bool ALetGo) {
-    while (!FChildLoggers->FList.IsEmpty()) {
-        TQzLogger* Child = FChildLoggers->FList.Last();
+// ADropParent is for a parent that ends although it has children. The caller holds the state lock.
+void TQzLogger::DetachChildren(bool ADropParent) {
+    const TList<TQzLogger*>& Children = FChildLoggers->Items({});
+    while (!Children.IsEmpty()) {
+        TQzLogger* Child = Children.Last();
         Child->FullName();
         Child->FIsOrphan.store(true, std::memory_order_relaxed);
-        FChildLoggers->FList.Delete(FChildLoggers->Count() - 1);
+        FChildLoggers->Delete(Child, {});
         Child->Recompute();
-        if (ALetGo)
+        if (ADropParent)
             Child->FParent = {};
     }
 }
 
 bool TQzLogger::Lock(const TStringArg&, bool) {
-    TLogTreeLock::Enter();
+    TTreeLock::Enter();
     return true;
 }
 
 void TQzLogger::Unlock() {
-    TLogTreeLock::Leave();
+    TTreeLock::Leave();
 }
 
 Ref<IQzLogger> TQzLogger::GetParentLogger() const {
@@ -236,7 +246,7 @@ Ref<IQzLogger> TQzLogger::GetParentLogger() const {
 const UnicodeString& TQzLogger::FullName() const {
     if (FHasFullName.load(std::memory_order_acquire))
         return FFullName;
-    const TLogTreeLock Hold;
+    const TStateHold Hold;
     std::vector<const TQzLogger*> Nodes;
     const TQzLogger* Top = this;
     for (; !Top->FHasFullName.load(std::memory_order_relaxed); Top = Top->FParent.Get())
@@ -253,37 +263,24 @@ const UnicodeString& TQzLogger::FullName() const {
     return FFullName;
 }
 
-UnicodeString TQzLogger::FullNameIfKnown() const {
-    return FHasFullName.load(std::memory_order_acquire) ? FFullName : FName;
-}
-
-bool TQzLogger::IsNamed(std::u16string_view AFullName) const noexcept {
-    for (const TQzLogger* Node = this; Node != nullptr; Node = Node->FParent.Get()) {
-        if (Node->FHasFullName.load(std::memory_order_acquire))
-            return Node->FFullName == AFullName;
-        if (!AFullName.ends_with(Node->FName.View()))
-            return false;
-        AFullName.remove_suffix(Node->FName.size());
-        if (!AFullName.ends_with(u'.'))
-            return false;
-        AFullName.remove_suffix(1);
-    }
-    return false;
-}
-
 Ref<TQzLogger> TQzLogger::Child(std::u16string_view AName) {
-    if (TQzLogger* Found = FChildLoggers->FindPart(AName))
-        return Found;
-    Ref<TQzLogger> Result(TQzLogger::Create(this, AName));
-    if (TQzLogger* Root = GRoot.load(std::memory_order_relaxed)) {
-        if (const Ref<IQzLogConfigurator> Configurator = Root->FConfigurator)
-            Result->SetConfig(Configurator.Get());
+    Ref<TQzLogger> Result;
+    Ref<IQzLogConfigurator> Configurator;
+    {
+        const TStateHold Hold;
+        if (TQzLogger* Found = FChildLoggers->FindPart(AName, {}))
+            return Found;
+        Result = TQzLogger::Create(this, AName);
+        if (const TQzLogger* Root = GRoot.load(std::memory_order_relaxed))
+            Configurator = Root->FConfigurator;
     }
+    if (Configurator != nullptr)
+        Result->SetConfig(Configurator.Get());
     return Result;
 }
 
 Ref<IQzLogger> TQzLogger::GetLogger(const TStringArg& AName) {
-    const TLogTreeLock Hold;
+    const TTreeHold Hold;
     std::u16string_view Rest = AName;
     Ref<TQzLogger> Result(this);
     while (!Rest.empty()) {
@@ -301,25 +298,21 @@ Ref<IQzLogger> TQzLogger::GetLogger(const TObject* AObject) {
 }
 
 void TQzLogger::SetLevel(TQzLogLevel AValue) {
-    const TLogTreeLock Hold;
+    const TStateHold Hold;
     FLevel.store(AValue, std::memory_order_relaxed);
     FParentLevel.store(false, std::memory_order_relaxed);
     Recompute();
 }
 
 void TQzLogger::SetParentLevel(bool AValue) {
-    const TLogTreeLock Hold;
+    const TStateHold Hold;
     FParentLevel.store(AValue, std::memory_order_relaxed);
     Recompute();
 }
 
 void TQzLogger::SetAdditive(bool AValue) {
-    const TLogTreeLock Hold;
+    const TStateHold Hold;
     FAdditive.store(AValue, std::memory_order_relaxed);
-    Recompute();
-}
-
-void TQzLogger::AppendersChanged() {
     Recompute();
 }
 
@@ -329,20 +322,22 @@ bool TQzLogger::RecomputeOwn() noexcept {
         GetParentLevel() && Parent != nullptr ? Parent->GetLevel() : FLevel.load(std::memory_order_relaxed);
     const TQzLogger* Next = NextOnTheWay();
     const TQzLogLevel TakenFrom =
-        std::min(FCore->IsEmpty() ? cNobody : Level,
+        std::min(FSet->IsEmpty() ? cNobody : Level,
                  Next == nullptr ? cNobody : Next->FTakenFrom.load(std::memory_order_relaxed));
     const bool IsOther = FEffectiveLevel.exchange(Level, std::memory_order_relaxed) != Level;
     return (FTakenFrom.exchange(TakenFrom, std::memory_order_relaxed) != TakenFrom) || IsOther;
 }
 
-// This logger, and what lies below one that is other than before. The tree may be high.
+// This logger, and the children of each that has changed. The tree may be high.
 void TQzLogger::Recompute() {
     std::vector<TQzLogger*> Nodes{this};
     while (!Nodes.empty()) {
         TQzLogger* Node = Nodes.back();
         Nodes.pop_back();
-        if (Node->RecomputeOwn())
-            Nodes.insert(Nodes.end(), Node->FChildLoggers->FList.begin(), Node->FChildLoggers->FList.end());
+        if (Node->RecomputeOwn()) {
+            const TList<TQzLogger*>& Children = Node->FChildLoggers->Items({});
+            Nodes.insert(Nodes.end(), Children.begin(), Children.end());
+        }
     }
 }
 
@@ -363,12 +358,12 @@ void TQzLogger::ClearAppenders() {
 }
 
 TQzLogAppenderList* TQzLogger::LockAppenders() {
-    FCore->EnterGate();
+    FSet->Enter(detail::ThisLogThread());
     return FAppenders.get();
 }
 
 void TQzLogger::UnLockAppenders() {
-    Assert(FCore->HoldsGate());
+    Assert(FSet->IsHeldByCaller());
     FAppenders->Unlock();
 }
 

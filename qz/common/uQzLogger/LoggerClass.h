@@ -6,25 +6,32 @@
 //     Log->Info("connected");
 //     CloseRootLogger();
 //
-// IQzLogger tells what a logger does. Beyond that: the root lives until CloseRootLogger or the end of the program, and can
-// be had again afterwards, also from destructors that run later. A logger that outlives its root writes to its own
-// appenders and walks no further. After a fork the child can log.
+// IQzLogger says what a logger does. Beyond that: the root lives until CloseRootLogger or the end of the
+// program. Logger() makes a new one afterwards, also for destructors that run later. A logger that outlives
+// its root writes to its own appenders and to those of its ancestors below the root. After a fork the child
+// can log.
 //
-// A message that no appender takes costs one comparison beside what its arguments cost (a narrow text is converted, a u""
-// text is not): each logger knows the lowest level at which an appender on the way to the root would be called.
+// A message that no appender takes costs one comparison beside what its arguments cost (a narrow text is
+// converted, a u"" text is not): each logger knows the lowest level at which an appender on the way to the
+// root would be called.
 #pragma once
 
 #include <atomic>
 #include <memory>
+#include <span>
 
-#include <qz/common/uQzLogger/LogAppenderCore.h>
-#include <qz/common/uQzLogger/LogAppenderList.h>
-#include <qz/common/uQzLogger/LogDispatch.h>
+#include <qz/common/uQzLogger/LogInterfaces.h>
 #include <qz/common/uQzLogger/LoggerInterface.h>
-#include <qz/common/uQzLogger/LoggerList.h>
+#include <qz/runtime/base/AccessKey.h>
 #include <qz/runtime/objects/InterfacedObject.h>
 
 namespace qz {
+
+namespace detail {
+class TAppenderSet;
+class TLogDispatch;
+class TLogFork;
+} // namespace detail
 
 class QZ_API TQzLogger : public TCreateOnly<TObject>, public IQzLogger {
     QZ_CLASS(TQzLogger, TObject)
@@ -50,10 +57,11 @@ public:
     // Tree.
     Ref<IQzLogger> GetLogger(const TStringArg& AName) override;
     Ref<IQzLogger> GetLogger(const TObject* AObject) override;
-    // Lets go of all children, which are then without parent. Raises as TQzLoggerList::Lock does, under the full name and
-    // ".ClearChildLoggers".
+    // Detaches all children, which have no parent then. Raises as TQzLoggerList::Lock does, under the full
+    // name and ".ClearChildLoggers".
     void ClearChildLoggers();
-    // One lock for all trees, which re-enters and waits as long as it takes. Always true; the arguments are not used.
+    // One lock for all trees, which re-enters and waits as long as it takes. Always true; the arguments are
+    // not used. An appender that writes, and a thread that holds a list of appenders, must not call it.
     bool Lock(const TStringArg& AName, bool ARaise);
     void Unlock();
 
@@ -104,12 +112,9 @@ public:
     void Log(IQzLogData* AData) override;
     void LogValue(TQzLogLevel ALevel, const TStringArg& AMessage, const TValue& AValue,
                   TQzLogIndent AIndent = liIndentNone) override;
-    // What all of them come to: the message goes its way under that source. Nothing is raised.
+    // Delivers the message under that source; all others end here. Raises nothing.
     void DoLog(const UnicodeString& ASource, TQzLogLevel ALevel, const TStringArg& AMessage,
-               PQzDataRec AValue, TQzLogIndent AIndent) noexcept {
-        if (IsTaken(ALevel))
-            detail::Dispatch(*this, {ASource, ALevel, AMessage, AValue, AIndent});
-    }
+               PQzDataRec AValue, TQzLogIndent AIndent) noexcept;
 
     // Appenders.
     using IQzLogger::AddAppender;
@@ -121,87 +126,89 @@ public:
     TQzLogAppenderList* LockAppenders() override;
     void UnLockAppenders() override;
 
-    // IQzLogger cannot be asked of a logger without parent, whose count does not decide its life: EAssertionFailed, "Do not
-    // get the IQzLogger interface from the rootlogger!". A Ref takes it without asking.
+    // Raises EAssertionFailed for a logger without parent, "Do not get the IQzLogger interface from the
+    // rootlogger!", since its count does not decide its life. A Ref takes the interface without this call.
     HRESULT QueryInterface(const TGUID& AIid, void** AObject) override;
     std::uint32_t _AddRef() override;
-    // The last one ends a logger, unless it has no parent by birth; one that an appender drops while this logger's message is
-    // on its way counts until that has arrived.
+    // The last one destroys a logger that was made with a parent. If an appender that writes drops it, or a
+    // thread that holds a list of appenders, that happens afterwards.
     std::uint32_t _Release() override;
     int RefCount() const noexcept { return FRefCount.Value(); }
 
     void AfterConstruction() override;
-    void FinishCreate();
     void BeforeDestruction() override;
-    bool BeginDestruction() noexcept override { return !FIsEnding.exchange(true); }
 
-    // For what keeps the tree together: the way up, the appenders as dispatch sees them, and the word that there are
-    // others now, under the lock of the tree.
-    TQzLogger* NextOnTheWay() const noexcept {
-        return GetAdditive() && !IsOrphan() ? FParent.Get() : nullptr;
-    }
-    detail::TLogAppenderCore& AppenderCore() const noexcept { return *FCore; }
-    void AppendersChanged();
-    // Counts a reference unless there is none left, as of a logger that ends.
-    bool TryAddRef() noexcept;
-    // The full name, which is not worked out for this.
-    UnicodeString FullNameIfKnown() const;
-    bool IsNamed(std::u16string_view AFullName) const noexcept;
-    // Of all living loggers.
-    static std::vector<detail::TLogAppenderCorePtr> AllAppenders();
+    // The next logger that a message goes to; null at the end.
+    const TQzLogger* NextOnTheWay(TAccessKey<detail::TLogDispatch>) const noexcept { return NextOnTheWay(); }
+    detail::TAppenderSet& AppenderSet(TAccessKey<detail::TLogDispatch>) const noexcept { return *FSet; }
+    // Increments unless the logger ends.
+    bool TryAddRef(TAccessKey<detail::TLogDispatch>) noexcept { return TryAddRef(); }
+    // A reference unless the logger ends; null then.
+    Ref<TQzLogger> Hold(TAccessKey<TQzLogBase>) noexcept;
+    // The caller holds the state lock.
+    void AppendersChanged(TAccessKey<detail::TAppenderSet>) { Recompute(); }
+    // In the child of a fork, for all loggers; see TAppenderSet::BeginChild.
+    static void BeginChild(std::span<TQzLogBase* const> ALost, TAccessKey<detail::TLogFork>);
 
 protected:
-    // AParent is null for a logger of its own, which its maker ends by Free, and which then must not be in use.
+    // AParent is null for a logger outside the tree, which its maker ends by Free while nothing uses it.
     TQzLogger(TQzLogger* AParent, const UnicodeString& AName);
     ~TQzLogger() override;
+    void FinishCreate() override;
+    bool BeginDestruction() noexcept override { return !FIsEnding.exchange(true); }
 
 private:
     friend QZ_API TQzLogger& Logger();
     friend QZ_API void CloseRootLogger();
+    friend struct TLogUnit;
     bool IsOrphan() const noexcept { return FIsOrphan.load(std::memory_order_relaxed); }
     bool IsTaken(TQzLogLevel ALevel) const noexcept {
         return ALevel >= FTakenFrom.load(std::memory_order_relaxed);
     }
+    const TQzLogger* NextOnTheWay() const noexcept {
+        return GetAdditive() && !IsOrphan() ? FParent.Get() : nullptr;
+    }
+    bool TryAddRef() noexcept;
     void Send(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue = nullptr,
               TQzLogIndent AIndent = liIndentNone);
+    void SendTaken(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue, TQzLogIndent AIndent);
     Ref<TQzLogger> Child(std::u16string_view AName);
     void Recompute();
     bool RecomputeOwn() noexcept;
-    void DetachChildren(bool ALetGo);
-    void LeaveParent();
+    void DetachChildren(bool ADropParent);
     void ReadLevel(IQzLogConfigurator& AConfigurator);
     void ReadAppenders(IQzLogConfigurator& AConfigurator);
     bool DropReference(std::int32_t& ACount);
     void Retire();
-    friend struct TLogUnit;
 
-    UnicodeString FName;
-    mutable UnicodeString FFullName; // set once, when it is first asked for
+    const UnicodeString FName;
+    mutable UnicodeString FFullName; // set once, at its first use
     mutable std::atomic<bool> FHasFullName{false};
     TRefCount FRefCount{1};
     TOwned<TQzLogAppenderList> FAppenders;
-    detail::TLogAppenderCorePtr FCore; // of FAppenders
-    // The parent is held as long as this logger lives, so that a message on its way never meets a dead one.
+    const std::shared_ptr<detail::TAppenderSet> FSet; // of FAppenders
+    // Held for the life of this logger, so that a message on its way never meets a destroyed parent.
     Ref<TQzLogger> FParent;
-    std::atomic<bool> FIsOrphan{false}; // there is no parent any more as far as anybody can tell
+    std::atomic<bool> FIsOrphan{false}; // the tree was closed: FParent counts as null
     TOwned<TQzLoggerList> FChildLoggers;
     std::atomic<bool> FParentLevel{true};
     std::atomic<TQzLogLevel> FLevel{llDebug};
     std::atomic<bool> FAdditive{true};
-    Ref<IQzLogConfigurator> FConfigurator; // guarded by the lock of the tree
+    Ref<IQzLogConfigurator> FConfigurator; // guarded by the state lock
     bool FEndsByCount;
     std::atomic<bool> FIsEnding{false};
-    // What follows from the above for this logger and its ancestors; changed under the lock of the tree. A message needs
-    // no lock to read them: whoever has heard of a change in some other way has its values too, since the change came
-    // first, and anybody else may be before it as well as behind it.
+    // Follow from the above for this logger and its ancestors; written under the state lock. Dispatch reads
+    // them without a lock: a thread that has learnt of a change in another way sees the new values, since the
+    // change came first.
     std::atomic<TQzLogLevel> FEffectiveLevel{llDebug};
     std::atomic<TQzLogLevel> FTakenFrom; // the lowest level that an appender on the way takes
 };
 
-// The root, made when it is first asked for; its level is llDebug. The reference is good until CloseRootLogger.
+// The root, made when it is first asked for; its level is llDebug. The reference is good until
+// CloseRootLogger.
 QZ_API TQzLogger& Logger();
-// Ends the tree, if there is one: the root lets go of its children and appenders. Must not be called while another thread
-// uses the root by its reference; loggers that were got from it may be in use.
+// Ends the tree, if there is one: the root drops its children and appenders. Must not be called while another
+// thread uses the root by its reference; loggers that were got from it may be in use.
 QZ_API void CloseRootLogger();
 
 } // namespace qz

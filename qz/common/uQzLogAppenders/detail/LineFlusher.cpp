@@ -1,10 +1,12 @@
-#include <qz/common/uQzLogAppenders/LineFlusher.h>
+#include <qz/common/uQzLogAppenders/detail/LineFlusher.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <memory>
 
 #include <qz/common/uQzLogAppenders/TextFile.h>
+#include <qz/platform/Fork.h>
 #include <qz/platform/Threads.h>
 
 namespace qz {
@@ -12,15 +14,23 @@ namespace {
 
 // In milliseconds.
 constexpr std::uint32_t cPatience = 700;
-constexpr std::uint32_t cRetry = 20; // of a file that somebody is writing to
+constexpr std::uint32_t cRetry = 20; // when another thread is writing to the file
 constexpr int cTriesAtEnd = 50;
+constexpr std::chrono::milliseconds cForkPatience{1000};
 
 std::atomic<TLineFlusher*> GInstance{nullptr};
 std::atomic<bool> GIsEnding{false};
+constinit thread_local TLineFlusher* GForking = nullptr; // locked by a fork of this thread
+
+[[maybe_unused]] const bool GIsWatched = [] {
+    platform::AroundFork(platform::TForkRank::LogFiles, &TLineFlusher::BeginFork,
+                         &TLineFlusher::EndForkInParent, &TLineFlusher::EndForkInChild);
+    return true;
+}();
 
 } // namespace
 
-// It outlives the destructors of the program, from which logging goes on.
+// Lives to the very end of the process, since destructors of the program may log.
 TLineFlusher& TLineFlusher::Instance() {
     TLineFlusher* Result = GInstance.load(std::memory_order_acquire);
     if (Result != nullptr)
@@ -32,17 +42,13 @@ TLineFlusher& TLineFlusher::Instance() {
     return *Fresh.release();
 }
 
-TLineFlusher* TLineFlusher::Existing() noexcept {
-    return GInstance.load(std::memory_order_acquire);
-}
-
 bool TLineFlusher::IsEnding() noexcept {
     return GIsEnding.load(std::memory_order_relaxed);
 }
 
 void TLineFlusher::Add(TQzTextFile& AFile) {
     const std::lock_guard Hold(FLock);
-    FLocked.reserve(FFiles.size() + 1);
+    FForkFiles.reserve(FFiles.size() + 1);
     FFiles.push_back(&AFile);
 }
 
@@ -52,7 +58,7 @@ void TLineFlusher::Remove(TQzTextFile& AFile) noexcept {
     std::erase(FFiles, &AFile);
 }
 
-bool TLineFlusher::Await() noexcept {
+bool TLineFlusher::Wake() noexcept {
     const std::lock_guard Hold(FWakeLock);
     if (!FHasThread)
         FHasThread = platform::StartServiceThread(Run);
@@ -82,11 +88,11 @@ void TLineFlusher::Serve() noexcept {
     }
 }
 
-// The worst of all files. Files come and go meanwhile.
+// The worst outcome of all files. Files come and go meanwhile.
 TLineFlusher::TOutcome TLineFlusher::FlushAll() noexcept {
     TOutcome Result = TOutcome::Done;
     std::unique_lock Hold(FLock);
-    for (std::size_t I = FFiles.size(); I-- > 0;) { // what comes stands behind, so that none is passed over
+    for (std::size_t I = FFiles.size(); I-- > 0;) { // new files are appended, so that none is left out
         if (I >= FFiles.size())
             continue;
         FBusy = FFiles[I];
@@ -100,18 +106,20 @@ TLineFlusher::TOutcome TLineFlusher::FlushAll() noexcept {
 }
 
 TLineFlusher::TOutcome TLineFlusher::FlushOne(TQzTextFile& AFile) noexcept {
-    if (!AFile.FLock.TryEnter())
+    TCriticalSection& Lock = AFile.Lock({});
+    if (!Lock.TryEnter())
         return TOutcome::Busy;
-    const TScopedLock Hold(AFile.FLock, std::adopt_lock);
+    const TScopedLock Hold(Lock, std::adopt_lock);
     try {
-        AFile.FlushWaiting();
+        AFile.FlushWaiting({});
         return TOutcome::Done;
     } catch (...) {
         return TOutcome::Full;
     }
 }
 
-// Threads may have been ended in the middle of anything by now, and a file that hangs must not keep the others.
+// Other threads may have been ended while they held locks, and a file that blocks must not keep back the
+// others.
 void TLineFlusher::End() {
     GIsEnding = true;
     TLineFlusher& Flusher = Instance();
@@ -129,51 +137,56 @@ void TLineFlusher::End() {
     }
 }
 
-bool TLineFlusher::TryLock() {
-    if (!FLock.try_lock())
-        return false;
-    if (FBusy == nullptr && FWakeLock.try_lock()) {
-        for (TQzTextFile* File : FFiles) {
-            if (!File->FLock.TryEnter()) {
-                Unlock();
-                return false;
-            }
-            FLocked.push_back(File);
-        }
-        return true;
+// A file whose lock another thread keeps is left out: an appender that the child has lost, or a write that
+// blocks.
+void TLineFlusher::LockForFork() {
+    std::unique_lock Hold(FLock);
+    FIdle.wait_for(Hold, cForkPatience, [this] { return FBusy == nullptr; });
+    for (TQzTextFile* File : FFiles) {
+        if (File != FBusy && File->Lock({}).TryEnter())
+            FForkFiles.push_back(File);
     }
-    FLock.unlock();
-    return false;
+    FWakeLock.lock();
+    static_cast<void>(Hold.release());
 }
 
-void TLineFlusher::Unlock() noexcept {
-    for (TQzTextFile* File : FLocked)
-        File->FLock.Leave();
-    FLocked.clear();
+// All files are shared by two processes from here on.
+void TLineFlusher::UnlockAfterFork(bool AIsChild) noexcept {
+    for (TQzTextFile* File : FFiles)
+        File->Share({});
+    for (TQzTextFile* File : FForkFiles) {
+        if (AIsChild)
+            File->Inherit({});
+        File->Lock({}).Leave();
+    }
+    FForkFiles.clear();
     FWakeLock.unlock();
     FLock.unlock();
 }
 
-void TLineFlusher::ShareAll() noexcept {
-    for (TQzTextFile* File : FFiles)
-        File->Share();
+void TLineFlusher::BeginFork() {
+    GForking = GInstance.load(std::memory_order_acquire);
+    if (GForking != nullptr)
+        GForking->LockForFork();
 }
 
-// The thread is not there any more, and whoever waited for a condition neither, so that the old flusher is left as it is.
-void TLineFlusher::BeginChild() noexcept {
-    TLineFlusher* const Old = Existing();
+void TLineFlusher::EndForkInParent() {
+    if (GForking != nullptr)
+        GForking->UnlockAfterFork(false);
+}
+
+// The thread does not exist here, nor do those that waited for a condition, so that the old flusher stays as
+// it is.
+void TLineFlusher::EndForkInChild() {
+    TLineFlusher* const Old = GForking;
     if (Old == nullptr)
         return;
-    try {
-        auto Fresh = std::make_unique<TLineFlusher>();
-        for (TQzTextFile* File : Old->FFiles)
-            File->Inherit();
-        Fresh->FLocked.reserve(Old->FFiles.size());
-        Fresh->FFiles.swap(Old->FFiles);
-        Fresh->FOfParent = Old;
-        GInstance = Fresh.release();
-    } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch)
-    }
+    auto Fresh = std::make_unique<TLineFlusher>();
+    Fresh->FForkFiles.reserve(Old->FFiles.size());
+    Fresh->FFiles = Old->FForkFiles;
+    Old->UnlockAfterFork(true);
+    Fresh->FOfParent = Old;
+    GInstance = Fresh.release();
 }
 
 } // namespace qz

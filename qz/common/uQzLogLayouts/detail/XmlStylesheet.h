@@ -1,4 +1,4 @@
-// The stylesheet that makes a table of an XML log. Data.
+// The stylesheet that shows an XML log as a table. Internal.
 #pragma once
 
 #include <string_view>

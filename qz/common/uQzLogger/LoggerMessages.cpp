@@ -1,6 +1,7 @@
-// The messages of TQzLogger: what each family makes of its arguments.
+// TQzLogger: the families of messages.
 #include <qz/common/uQzLogger/LogData.h>
-#include <qz/common/uQzLogger/QzLogger.h>
+#include <qz/common/uQzLogger/LoggerClass.h>
+#include <qz/common/uQzLogger/detail/LogDispatch.h>
 #include <qz/runtime/text/Format.h>
 
 namespace qz {
@@ -18,7 +19,7 @@ UnicodeString MethodText(const TObject* AObject, std::u16string_view AMessage) {
     return UnicodeString(ClassOfObject(AObject)) + u'.' + AMessage;
 }
 
-// An object travels by its address and is only read.
+// The value holds the address of the object, which is only read.
 TValue ValueOf(const TObject* AObject) {
     return TValue(const_cast<TObject*>(AObject));
 }
@@ -28,10 +29,22 @@ TValue ValueOf(const Exception& AException) {
 
 } // namespace
 
-void TQzLogger::Send(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue,
-                     TQzLogIndent AIndent) {
+// Inlined into the families, so that a message that no appender takes costs one comparison.
+inline void TQzLogger::Send(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue,
+                            TQzLogIndent AIndent) {
     if (IsTaken(ALevel))
-        DoLog(FullName(), ALevel, AMessage, AValue, AIndent);
+        SendTaken(ALevel, AMessage, AValue, AIndent);
+}
+
+void TQzLogger::SendTaken(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue,
+                          TQzLogIndent AIndent) {
+    detail::TLogDispatch::Send(*this, {FullName(), ALevel, AMessage, AValue, AIndent});
+}
+
+void TQzLogger::DoLog(const UnicodeString& ASource, TQzLogLevel ALevel, const TStringArg& AMessage,
+                      PQzDataRec AValue, TQzLogIndent AIndent) noexcept {
+    if (IsTaken(ALevel))
+        detail::TLogDispatch::Send(*this, {ASource, ALevel, AMessage, AValue, AIndent});
 }
 
 void TQzLogger::Trace(const TStringArg& AMessage) {

@@ -1,4 +1,4 @@
-// What layouts write a line with. Internal.
+// TLinePen: writes a line into a buffer of known size. Internal.
 #pragma once
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 
 namespace qz::detail {
 
-// Writes from one end of a text that has room for it to the other.
+// The buffer has room for all that is put.
 struct TLinePen {
     char16_t* Place;
 

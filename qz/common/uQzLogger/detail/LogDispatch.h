@@ -1,0 +1,73 @@
+// The delivery of a message from its logger up to the root, and the queue of a thread. Internal.
+#pragma once
+
+#include <deque>
+#include <vector>
+
+#include <qz/common/uQzLogger/LogInterfaces.h>
+#include <qz/common/uQzLogger/detail/AppenderSet.h>
+#include <qz/runtime/base/StringArg.h>
+#include <qz/runtime/values/Value.h>
+
+namespace qz {
+
+class TQzLogger;
+
+namespace detail {
+
+struct TLogMessage {
+    const UnicodeString& Source;
+    TQzLogLevel Level;
+    const TStringArg& Text;
+    PQzDataRec Value;
+    TQzLogIndent Indent;
+};
+
+// A message that arose while the thread was busy.
+struct TQueuedMessage {
+    Ref<TQzLogger> Logger;
+    UnicodeString Source;
+    TQzLogLevel Level;
+    UnicodeString Text;
+    TValue Value;
+    bool HasValue;
+    TQzLogIndent Indent;
+    std::uint64_t Except; // the serial of the appender that must not get it; 0 for none
+};
+
+// What a thread has to do as soon as it is free to.
+struct TLogQueue {
+    std::deque<TQueuedMessage> Messages;  // when it is not busy
+    std::vector<TAppenderEnding> Endings; // when it may wait
+    std::vector<Ref<TQzLogger>> Loggers;  // to be released when it may wait
+    int Arisen = 0;                       // messages since the queue was made
+
+    // The next push_back to Endings raises nothing.
+    void ReserveEnding();
+};
+
+// Makes the queue of the thread if there is none.
+TLogQueue& QueueOf(TLogThread& AThread);
+
+class TLogDispatch {
+public:
+    // Offers the message to the logger and its ancestors, or queues it if the thread is busy. Raises nothing.
+    static void Send(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept;
+    // Takes over a reference, to be released when the thread may wait. False if there is no memory.
+    static bool ReleaseLater(TQzLogger& ALogger) noexcept;
+
+private:
+    struct TProgress;
+    friend void Settle() noexcept;
+    static void Enqueue(TLogThread& AThread, TQzLogger& ALogger, const TLogMessage& AMessage) noexcept;
+    static void Deliver(TLogThread& AThread, TQzLogger& ALogger, const TLogMessage& AMessage,
+                        std::uint64_t AExcept) noexcept;
+    static void Walk(TProgress& AProgress, const TQzLogger& ALogger, const TLogMessage& AMessage);
+    static void WriteToAll(TProgress& AProgress, TAppenderSet& ASet, const UnicodeString& ALogger,
+                           const TLogMessage& AMessage, const UnicodeString& AText);
+    static void SettleOne(TLogThread& AThread) noexcept;
+};
+
+} // namespace detail
+
+} // namespace qz

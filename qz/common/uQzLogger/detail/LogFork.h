@@ -1,0 +1,25 @@
+// What keeps the child of a fork() able to log. Internal.
+//
+// Before a fork this takes the locks of all appenders and then the state lock. Gates and the tree lock are
+// not waited for: the child frees those that a thread of the parent held. Only an appender lock may be held
+// for long, by a write that blocks; an appender whose lock cannot be had in a second is in no list of the
+// child.
+#pragma once
+
+#include <atomic>
+
+namespace qz::detail {
+
+extern constinit std::atomic<int> GPendingForks;
+void AwaitFork() noexcept;
+
+// Delays a message for a moment while a fork waits for the locks of appenders.
+inline void LetForkPass() noexcept {
+    if (GPendingForks.load(std::memory_order_relaxed) != 0) [[unlikely]]
+        AwaitFork();
+}
+
+// Called once, at the start of the program.
+void WatchForks();
+
+} // namespace qz::detail

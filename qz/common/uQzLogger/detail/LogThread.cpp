@@ -1,0 +1,63 @@
+#include <qz/common/uQzLogger/detail/LogThread.h>
+
+#include <memory>
+
+namespace qz::detail {
+namespace {
+
+TQzCriticalSection*& TreeSection() {
+    static auto* Result = new TQzCriticalSection;
+    return Result;
+}
+
+} // namespace
+
+TLogThread& ThisLogThread() noexcept {
+    constinit static thread_local TLogThread Result;
+    return Result;
+}
+
+void BeginBusy() noexcept {
+    ++ThisLogThread().Busy;
+}
+
+void EndBusy() noexcept {
+    TLogThread& Thread = ThisLogThread();
+    if (--Thread.Busy == 0 && Thread.Queue != nullptr)
+        Settle();
+}
+
+TCriticalSection& TStateHold::Section() noexcept {
+    static auto* const Result = new TCriticalSection;
+    return *Result;
+}
+
+void TTreeLock::Enter() noexcept {
+    TreeSection()->Enter();
+}
+
+bool TTreeLock::TryEnter(std::uint32_t ATimeOut) noexcept {
+    return TreeSection()->TryEnter(ATimeOut);
+}
+
+void TTreeLock::Leave() noexcept {
+    TreeSection()->Leave();
+}
+
+void TTreeLock::BeginChild() {
+    if (TryEnter(0))
+        Leave();
+    else
+        TreeSection() = new TQzCriticalSection;
+}
+
+TTreeHold::TTreeHold() noexcept {
+    FIsHeld = !ThisLogThread().MayWait() ? TTreeLock::TryEnter(0) : (TTreeLock::Enter(), true);
+}
+
+TTreeHold::~TTreeHold() {
+    if (FIsHeld)
+        TTreeLock::Leave();
+}
+
+} // namespace qz::detail

@@ -1,0 +1,16 @@
+// TAccessKey: an argument that one class alone can make, for an operation that only this class may call.
+//
+//     class TRegistry {
+//     public:
+//         void Forget(TItem* AItem, TAccessKey<TItem>);      // TItem calls it as Forget(this, {})
+//     };
+#pragma once
+
+namespace qz {
+
+template <class T> class TAccessKey {
+    friend T;
+    TAccessKey() noexcept {}
+};
+
+} // namespace qz
