@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/Message.h"
+#include "tests/support/Rows.h"
 #include <qz/runtime/components/Bindings.h>
 #include <qz/runtime/components/DescribeComponent.h>
 #include <qz/runtime/components/LinkControlToProperty.h>
@@ -179,27 +181,15 @@ TEST_F(Bindings, NotifyOutputCarriesOn) {
 }
 
 TEST_F(Bindings, BadExpressionsAreNamed) {
-    const struct {
-        const char16_t* Input;
-        const char16_t* Output;
-        const char16_t* Part;
-    } Cases[] = {
-        {u"src.Missing", u"dst.Number", u"'Missing'"},
-        {u"other.Number", u"dst.Number", u"'other'"},
-        {u"src.Number.Deep", u"dst.Number", u"'Number'"},
-        {u"src.Number", u"dst.Writes", u"'Writes'"},
-        {u"src..Number", u"dst.Number", u"src..Number"},
-        {u"src.Number", u"dst", u"'dst'"},
-        {u"", u"dst.Number", u"''"},
-        {u"src.Number + 1", u"dst.Number", u"'Number + 1'"},
-    };
-    for (const auto& Case : Cases) {
-        try {
-            Bind(FA.get(), Case.Input, FB.get(), Case.Output);
-            ADD_FAILURE() << UnicodeString(Case.Input) << " to " << UnicodeString(Case.Output);
-        } catch (const EEvaluatorError& E) {
-            EXPECT_NE(E.Message().View().find(Case.Part), std::u16string_view::npos) << E.Message();
-        }
+    for (const auto& Case :
+         Rows(u"src.Missing => dst.Number => 'Missing'", u"other.Number => dst.Number => 'other'",
+              u"src.Number.Deep => dst.Number => 'Number'", u"src.Number => dst.Writes => 'Writes'",
+              u"src..Number => dst.Number => src..Number", u"src.Number => dst => 'dst'",
+              u" => dst.Number => ''", u"src.Number + 1 => dst.Number => 'Number + 1'")) {
+        const UnicodeString Error = Raised([&] { Bind(FA.get(), Case[0], FB.get(), Case[1]); });
+        EXPECT_TRUE(Error.View().starts_with(u"EEvaluatorError") &&
+                    Error.View().find(Case[2].View()) != std::u16string_view::npos)
+            << Case[0] << " to " << Case[1] << ": " << Error;
     }
     FA->SetNumber(1); // nothing was left behind
     EXPECT_EQ(FB->FWrites, 0);
@@ -268,25 +258,13 @@ TEST_F(Bindings, ValuesConvertOrAreRefused) {
     EXPECT_EQ(FB->FLarge.Items[5], 9);
     EXPECT_EQ(FB->FLarge.Text, "large");
     Move(FA.get(), u"Large", FB.get(), u"Large");
-    const struct {
-        const char16_t* Input;
-        const char16_t* Output;
-        TClass Error;
-    } Refused[] = {
-        {u"Text", u"Color", EConvertError::ClassRec.Info.Class}, // 18446744073709551615
-        {u"Text", u"Char", ClassOf<EConvertError>()},
-        {u"Float", u"Number", ClassOf<ERangeError>()}, // too large
-        {u"Big", u"Color", ClassOf<ERangeError>()},
-        {u"Large", u"Text", ClassOf<EConvertError>()},
-        {u"Number", u"Child", ClassOf<EConvertError>()},
-    };
-    for (const auto& Case : Refused) {
-        try {
-            Move(FA.get(), Case.Input, FB.get(), Case.Output);
-            ADD_FAILURE() << UnicodeString(Case.Input) << " to " << UnicodeString(Case.Output);
-        } catch (const Exception& E) {
-            EXPECT_EQ(E.ClassType(), Case.Error) << E.Message();
-        }
+    for (const auto& Case : Rows(u"Text => Color => EConvertError", u"Text => Char => EConvertError",
+                                 u"Float => Number => ERangeError", u"Big => Color => ERangeError",
+                                 u"Large => Text => EConvertError", u"Number => Child => EConvertError")) {
+        const UnicodeString Error =
+            Raised([&] { Move(FA.get(), Case[0].c_str(), FB.get(), Case[1].c_str()); });
+        EXPECT_TRUE(Error.View().starts_with(Case[2].View()))
+            << Case[0] << " to " << Case[1] << ": " << Error;
     }
 }
 

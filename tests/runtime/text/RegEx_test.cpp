@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Message.h"
+
 namespace qz {
 namespace {
 
@@ -33,11 +35,7 @@ TEST(RegEx, GoesOnBehindEmptyMatches) {
     EXPECT_EQ(u"1:aa 3: 4:a 5: ", Found(TRegEx(u"a*"), u"aaba"));
     EXPECT_EQ(u"1: 3: ", Found(TRegEx(u""), u"\U0001F600")) << "not within a pair";
     EXPECT_EQ(u"1:aa 4:a ", Found(TRegEx(u"a*", {roNotEmpty}), u"aaba"));
-    EXPECT_EQ(u"2:a ",
-              Found(TRegEx(u"a"),
-                    u"\xD800"
-                    u"a"))
-        << "lone surrogates are passed over";
+    EXPECT_EQ(u"2:z ", Found(TRegEx(u"z"), u"\xD800z")) << "lone surrogates are passed over";
 }
 
 TEST(RegEx, KeepsToItsOptions) {
@@ -67,12 +65,9 @@ TEST(RegEx, ReplacesAndSplits) {
 }
 
 TEST(RegEx, RaisesForBadAndHostilePatterns) {
-    try {
-        TRegEx(u"ab(c");
-        FAIL();
-    } catch (const ERegularExpressionError& Error) {
-        EXPECT_EQ(u"Error in regular expression at offset 4: missing closing parenthesis", Error.Message());
-    }
+    EXPECT_EQ(Raised([] { TRegEx(u"ab(c"); }),
+              u"ERegularExpressionError: Error in regular expression at offset 4: "
+              u"missing closing parenthesis");
     EXPECT_THROW(TRegEx(u"\\C"), ERegularExpressionError) << "it would tear pairs";
     EXPECT_THROW(TRegEx(u"(a+)+$").IsMatch(UnicodeString(40, u'a') + u"b"), ERegularExpressionError);
     EXPECT_THROW(TRegEx(u"a").Replace(u"a", u"${b}"), ERegularExpressionError);
