@@ -1,18 +1,12 @@
 // QzRound gives what decimal rounding gives, apart from values that are too close to a half to tell.
 #include <cmath>
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
 
+#include "fuzz/Fuzz.h"
 #include <qz/common/uQzSysUtils/Numbers.h>
 #include <qz/runtime/text/FloatText.h>
 
 namespace {
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 constexpr int cMostDigits = 6;
 constexpr double cHighest = 1e6;

@@ -1,7 +1,6 @@
 // A text that is read as a set is written back as the same set, and each name that is found is one.
-#include <cstdint>
-#include <cstdlib>
 
+#include "fuzz/Fuzz.h"
 #include <qz/runtime/base/Set.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
@@ -18,7 +17,7 @@ constinit const qz::TTypeInfo qz::TTypeDescription<TTones>::Info =
     qz::DescribeOf<TTones, TTone>(qz::tkSet, u"TTones", u"Fuzz");
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {
-    const qz::UnicodeString Text(std::string_view(reinterpret_cast<const char*>(AData), ASize));
+    const qz::UnicodeString Text(TextOf(AData, ASize));
     const int Tone = qz::GetEnumValue(qz::TypeInfo<TTone>(), Text);
     if (Tone >= 0 && qz::GetEnumValue(qz::TypeInfo<TTone>(), cTones[Tone].Name) != Tone)
         std::abort();

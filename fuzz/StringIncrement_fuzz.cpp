@@ -1,19 +1,13 @@
 // A text either ends in a number that can be counted on, or raises EConvertError; the number grows by the step.
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
 
+#include "fuzz/Fuzz.h"
 #include <qz/common/uQzSysUtils/Numbers.h>
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/text/NumberText.h>
 
 namespace {
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 std::u16string_view DigitsOf(std::u16string_view AText) {
     return AText.substr(AText.find_last_not_of(u"0123456789") + 1);

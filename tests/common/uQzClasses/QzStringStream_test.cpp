@@ -32,33 +32,17 @@ protected:
 
 TEST_F(QzStringStream, KeepsEachTextInItsCodePage) {
     const std::pair<int, std::string> Cases[] = {
-        {0,
-         "\xE4"
-         "b"s},
-        {1252,
-         "\xE4"
-         "b"s},
-        {65001,
-         "\xC3\xA4"
-         "b"s},
-        {1200, "\xE4\0b\0"s},
-        {1201, "\0\xE4\0b"s},
-        {12001, "\0\0\0\xE4\0\0\0b"s},
+        {0, "\xE4z"s},        {1252, "\xE4z"s},     {65001, "\xC3\xA4z"s},
+        {1200, "\xE4\0z\0"s}, {1201, "\0\xE4\0z"s}, {12001, "\0\0\0\xE4\0\0\0z"s},
     };
     for (const auto& [CodePage, Expected] : Cases) {
         TQzStringStream Stream(static_cast<std::uint16_t>(CodePage), 16);
-        const std::function<void()> Steps[] = {[&] { Stream.SetWString(u"äb"); },
-                                               [&] {
-                                                   Stream.SetAString(Ansi("\xE4"
-                                                                          "b"));
-                                               },
-                                               [&] { Stream.SetAsUTF8(UTF8String("äb")); },
-                                               [&] { Stream.SetValue(u"äb"); },
-                                               [&] { Stream.SetValue(WideString(UnicodeString(u"äb"))); },
-                                               [&] {
-                                                   Stream.SetValue(Ansi("\xE4"
-                                                                        "b"));
-                                               }};
+        const std::function<void()> Steps[] = {[&] { Stream.SetWString(u"äz"); },
+                                               [&] { Stream.SetAString(Ansi("\xE4z")); },
+                                               [&] { Stream.SetAsUTF8(UTF8String("äz")); },
+                                               [&] { Stream.SetValue(u"äz"); },
+                                               [&] { Stream.SetValue(WideString(UnicodeString(u"äz"))); },
+                                               [&] { Stream.SetValue(Ansi("\xE4z")); }};
         for (const auto& Step : Steps) {
             Stream.SetWString(u"longer than before");
             Step();
@@ -66,14 +50,10 @@ TEST_F(QzStringStream, KeepsEachTextInItsCodePage) {
             EXPECT_EQ(0, Stream.Position());
         }
         Stream.SetPosition(1);
-        EXPECT_EQ(u"äb", Stream.WString());
-        EXPECT_EQ("\xE4"
-                  "b",
-                  std::string(Stream.AString().View()));
-        EXPECT_EQ(UTF8String("äb"), Stream.AsUTF8());
-        EXPECT_EQ("\x84"
-                  "b",
-                  std::string(Stream.StringData(850).View()));
+        EXPECT_EQ(u"äz", Stream.WString());
+        EXPECT_EQ("\xE4z", std::string(Stream.AString().View()));
+        EXPECT_EQ(UTF8String("äz"), Stream.AsUTF8());
+        EXPECT_EQ("\x84z", std::string(Stream.StringData(850).View()));
         EXPECT_EQ(2, Stream.CharCnt());
         EXPECT_EQ(varUString, VarType(Stream.Value()));
         EXPECT_EQ(1, Stream.Position());
@@ -131,20 +111,15 @@ TEST_F(QzStringStream, WritesAtThePositionAndAddsTowardsTheEnd) {
 
 TEST_F(QzStringStream, AddsAnotherStreamAndTakesItOver) {
     TQzStringStream Other(0, 16);
-    Other.SetAString(Ansi("\x80"
-                          "b"));
+    Other.SetAString(Ansi("\x80z"));
     Other.SetPosition(1);
     TQzStringStream Stream(65001, 16);
     Stream.Add(Other);
-    EXPECT_EQ("€b", Content(Stream));
+    EXPECT_EQ("€z", Content(Stream));
     Other.Add(Stream);
-    EXPECT_EQ("\x80\x80"
-              "b",
-              Content(Other));
+    EXPECT_EQ("\x80\x80z", Content(Other));
     Stream.Assign(Other);
-    EXPECT_EQ("\x80\x80"
-              "b",
-              Content(Stream));
+    EXPECT_EQ("\x80\x80z", Content(Stream));
     EXPECT_EQ(0, Stream.FCodePage);
     EXPECT_EQ(1, Stream.FCodePageMaxCharSize);
     EXPECT_EQ(3, Stream.Position());
@@ -220,16 +195,9 @@ TEST_F(QzStringStream, ReadsBothHalvesOfAPairInUtf8) {
     Wide.SetWString(u"a\U0001F600b");
     EXPECT_EQ(u"a\xD83D", Wide.ReadWString(2)) << "the second unit is passed with the first";
     EXPECT_EQ(u"b", Wide.ReadWString(2));
-    TQzStringStream Stream(UTF8String("a\U0001F600b\U0001F601"));
-    UnicodeString Read;
-    while (Stream.Position() < Stream.Size())
-        Read += Stream.ReadWChar();
-    EXPECT_EQ(u"a\U0001F600b\U0001F601", Read);
-    Stream.SetPosition(0);
+    TQzStringStream Stream(UTF8String("a\U0001F600z\U0001F601"));
     EXPECT_EQ(u"a\xD83D", Stream.ReadString(2));
-    EXPECT_EQ(u"\xDE00"
-              u"b",
-              Stream.ReadString(2));
+    EXPECT_EQ(u"\xDE00z", Stream.ReadString(2));
     EXPECT_EQ(u"\U0001F601", Stream.ReadString(9));
     TQzStringStream Torn(RawByteString("\xC3"), 65001);
     EXPECT_EQ(u'\uFFFD', Torn.ReadChar());

@@ -65,9 +65,7 @@ TEST(Utf8StreamAdapter, SaysWhatIsWrongWithTheBytes) {
         std::int64_t Position;
     };
     const TCase Cases[] = {
-        {"ab\x80"
-         "cd",
-         Invalid, 3},
+        {"ab\x80z", Invalid, 3},
         {"\xBF", Invalid, 1},
         {"a\xC3", Invalid + u"\r\nThere are 1 or 2 bytes missing!", 2},
         {"a\xE2", Invalid + u"\r\nThere are 1 or 2 bytes missing!", 2},

@@ -3,30 +3,23 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/Message.h"
+#include "tests/support/Rows.h"
 #include "tests/support/SystemPage.h"
 #include <qz/common/uQzClasses/QzMemoryStream.h>
-#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/text/NumberText.h>
 
 namespace qz {
 namespace {
 
 TEST(QzCodePage, KnowsNamesInAnyCaseAndTheFirstOfTwo) {
-    const std::pair<const char*, int> Cases[] = {
-        {"UTF-8", 65001},       {"utf-16", 1200},
-        {"UCS-2", 1200},        {"UnicodeFFFE", 1201},
-        {"utf-32be", 12001},    {"Windows-1252", 1252},
-        {"iso-8859-1", 28591},  {"latin1", 1252},
-        {"us-ascii", 20127},    {"ASCII", 1252},
-        {"ISO-2022-JP", 50220}, {"csISO2022JP", 50221},
-        {"euc-jp", 20932},      {"ibm866", 866},
-        {"cp866", 866},         {"csgb2312 ", 936},
-        {"ms_kanji ", 932},     {"x-x-big5", 950},
-        {"GB18030", 54936},     {"ibm037", 37},
-        {"x-iscii-pa", 57011},  {"", 0},
-        {"iso-ir-149", 949},    {"hebrew", 1255},
-    };
-    for (const auto& [Name, Number] : Cases)
-        EXPECT_EQ(Number, QzCodePage(Name)) << Name;
+    for (const auto& Case :
+         Rows(u"UTF-8 => 65001", u"utf-16 => 1200", u"UCS-2 => 1200", u"UnicodeFFFE => 1201",
+              u"utf-32be => 12001", u"Windows-1252 => 1252", u"iso-8859-1 => 28591", u"latin1 => 1252",
+              u"us-ascii => 20127", u"ASCII => 1252", u"ISO-2022-JP => 50220", u"csISO2022JP => 50221",
+              u"euc-jp => 20932", u"ibm866 => 866", u"cp866 => 866", u"csgb2312  => 936", u"ms_kanji  => 932",
+              u"x-x-big5 => 950", u"GB18030 => 54936", u"ibm037 => 37", u"x-iscii-pa => 57011", u" => 0",
+              u"iso-ir-149 => 949", u"hebrew => 1255"))
+        EXPECT_EQ(QzCodePage(Case[0]), StrToInt(Case[1])) << Case[0];
     for (const char* Name : {"ms_kanji", "utf8", "utf-8 ", "\xC3\x84", "x", "windows-125"})
         EXPECT_EQ(UnicodeString(u"No CodePage ID found for ") + Name + u"!",
                   Message([&] { QzCodePage(Name); }));
@@ -53,39 +46,30 @@ TEST(QzCodePage, NamesEachOfItsNumbersAndFindsThemByIt) {
     EXPECT_EQ(u"x_Chinese-Eten", QzCodePage(20002));
 }
 
-struct TMarkCase {
-    std::string Bytes;
-    int CodePage;
-    std::int64_t Position;
-};
-
 TEST(QzGetCodePage, FindsMarksAndPlainUtf16) {
     using namespace std::string_literals;
-    const TMarkCase Cases[] = {
-        {"\xFF\xFE\0\0"s, 12000, 4},
-        {"\xFF\xFE\0"s, 1200, 2},
-        {"\0\0\xFE\xFFx"s, 12001, 4},
-        {"\xEF\xBB\xBF"s, 65001, 3},
-        {"\xEF\xBB"s, 0, 0},
-        {"\xFE\xFF"s, 1201, 2},
-        {"\xFF\xFE"s, 1200, 2},
-        {"a\0b"s, 1200, 0},
-        {"\0a\0"s, 0, 0},
-        {"a\0"s, 0, 0},
-        {"\xFF"s, 0, 0},
-        {""s, 0, 0},
-        {"abcd"s, 0, 0},
-        {"\0\0\xFE"s, 0, 0},
-    };
-    for (const TMarkCase& Case : Cases) {
-        EXPECT_EQ(Case.CodePage,
-                  QzGetCodePage(Case.Bytes.data(), static_cast<std::int32_t>(Case.Bytes.size())));
+    const std::tuple<std::string, int, int> Cases[] = {{"\xFF\xFE\0\0"s, 12000, 4},
+                                                       {"\xFF\xFE\0"s, 1200, 2},
+                                                       {"\0\0\xFE\xFFx"s, 12001, 4},
+                                                       {"\xEF\xBB\xBF"s, 65001, 3},
+                                                       {"\xEF\xBB"s, 0, 0},
+                                                       {"\xFE\xFF"s, 1201, 2},
+                                                       {"\xFF\xFE"s, 1200, 2},
+                                                       {"a\0b"s, 1200, 0},
+                                                       {"\0a\0"s, 0, 0},
+                                                       {"a\0"s, 0, 0},
+                                                       {"\xFF"s, 0, 0},
+                                                       {""s, 0, 0},
+                                                       {"abcd"s, 0, 0},
+                                                       {"\0\0\xFE"s, 0, 0}};
+    for (const auto& [Bytes, CodePage, Position] : Cases) {
+        EXPECT_EQ(CodePage, QzGetCodePage(Bytes.data(), static_cast<std::int32_t>(Bytes.size())));
         TQzMemoryStream Stream(16);
         Stream.WriteBuffer("head", 4);
-        Stream.WriteBuffer(Case.Bytes.data(), static_cast<std::int64_t>(Case.Bytes.size()));
+        Stream.WriteBuffer(Bytes.data(), static_cast<std::int64_t>(Bytes.size()));
         Stream.SetPosition(4);
-        EXPECT_EQ(Case.CodePage, QzGetCodePage(Stream));
-        EXPECT_EQ(4 + Case.Position, Stream.Position());
+        EXPECT_EQ(CodePage, QzGetCodePage(Stream));
+        EXPECT_EQ(4 + Position, Stream.Position());
     }
     EXPECT_EQ(0, QzGetCodePage(nullptr, -1));
 }

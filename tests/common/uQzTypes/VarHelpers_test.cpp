@@ -20,30 +20,14 @@ namespace {
 
 // One variant of each type. Values are their codes modulo 100, so that a result tells by itself what it came from.
 std::vector<Variant> Samples() {
-    return {Variant(),
-            Variant::Null(),
-            Variant(std::int16_t{2}),
-            Variant(3),
-            Variant(4.0F),
-            Variant(5.0),
-            Variant(Currency(6)),
-            Variant(TDateTime(7)),
-            Variant(WideString(u"8")),
-            Variant::Dispatch(nullptr),
-            Variant::Error(10),
-            Variant(true),
-            Variant(Ref<IInterface>()),
-            VarAsType(14, varDecimal),
-            Variant(std::int8_t{16}),
-            Variant(std::uint8_t{17}),
-            Variant(std::uint16_t{18}),
-            Variant(std::uint32_t{19}),
-            Variant(std::int64_t{20}),
-            Variant(std::uint64_t{21}),
-            Variant(static_cast<TObject*>(nullptr)),
-            Variant(AnsiString("56")),
-            Variant(u"58"),
-            VarArrayOf({92})};
+    std::vector<Variant> Result;
+    const auto Add = [&Result](const auto&... AValues) { (Result.emplace_back(AValues), ...); };
+    Add(Variant(), Variant::Null(), std::int16_t(2), 3, 4.0F, 5.0, Currency(6), TDateTime(7),
+        WideString(u"8"), Variant::Dispatch(nullptr), Variant::Error(10), true, Ref<IInterface>(),
+        VarAsType(14, varDecimal), std::int8_t(16), std::uint8_t(17), std::uint16_t(18), std::uint32_t(19),
+        std::int64_t(20), std::uint64_t(21), static_cast<TObject*>(nullptr), AnsiString("56"), u"58",
+        VarArrayOf({92}));
+    return Result;
 }
 
 UnicodeString Show(std::integral auto AValue) {
@@ -276,27 +260,14 @@ TEST(VarTolerant, WritesArraysLineByLine) {
 }
 
 TEST(VarQueries, EmptyCountedAndNullable) {
-    const std::pair<Variant, bool> Cases[] = {{0, true},
-                                              {0.0, true},
-                                              {TDateTime(0), true},
-                                              {u"   ", true},
-                                              {AnsiString(" \t"), true},
-                                              {false, false},
-                                              {true, false},
-                                              {1, false},
-                                              {u" x", false},
-                                              {Variant(), true},
-                                              {Variant::Null(), true},
-                                              {Variant::Error(0), false},
-                                              {Currency(0), true},
-                                              {-0.0, true},
-                                              {std::nan(""), false},
-                                              {VarArrayOf({}), true},
-                                              {VarArrayOf({1}), false},
-                                              {VarArrayCreate({-3, -1}, varByte), true},
-                                              {Variant(static_cast<TObject*>(nullptr)), false}};
-    for (const auto& [Value, Expected] : Cases)
-        EXPECT_EQ(Expected, QzVarIsEmpty(Value)) << VarType(Value);
+    const auto Check = [](bool AExpected, const auto&... AValues) {
+        for (const Variant& Value : {Variant(AValues)...})
+            EXPECT_EQ(QzVarIsEmpty(Value), AExpected) << VarType(Value);
+    };
+    Check(true, 0, 0.0, -0.0, TDateTime(0), u"   ", AnsiString(" \t"), Variant(), Variant::Null(),
+          Currency(0), VarArrayOf({}), VarArrayCreate({-3, -1}, varByte));
+    Check(false, false, true, 1, u" x", Variant::Error(0), std::nan(""), VarArrayOf({1}),
+          static_cast<TObject*>(nullptr));
     EXPECT_EQ(3, QzVarArrayCount(VarArrayOf({1, 2, 3})));
     EXPECT_EQ(11, QzVarArrayCount(VarArrayCreate({9, 10}, varByte)));
     EXPECT_EQ(0, QzVarArrayCount(VarArrayCreate({-3, -1}, varByte)));

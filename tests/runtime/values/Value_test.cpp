@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "tests/support/Message.h"
+#include "tests/support/SampleVariants.h"
 #include "tests/support/Trace.h"
 #include <qz/runtime/base/Set.h>
 #include <qz/runtime/objects/Describe.h>
@@ -339,30 +340,14 @@ TEST_F(Value, GivesTypedValues) {
 }
 
 TEST_F(Value, TellsWhatIsEmpty) {
-    const struct TRow {
-        TValue Value;
-        bool IsEmpty;
-    } cRows[] = {
-        {{}, true},
-        {0, false},
-        {u"", false},
-        {Variant(), false},
-        {TNumbers(), true},
-        {TNumbers{0}, false},
-        {TEvent(), true},
-        {TEvent([] {}), false},
-        {TClass(), true},
-        {ClassOf<TPlain>(), false},
-        {TGUID(), false},
-        {THolder(), false},
-        {Ref<IShape>(), true},
-        {TSides(), false},
-        {static_cast<TObject*>(nullptr), true},
-        {ExceptionClass(), true},
-        {static_cast<void*>(&GRefuse), false},
+    const auto Check = [](bool AExpected, const auto&... AValues) {
+        for (const TValue& Each : {TValue(AValues)...})
+            EXPECT_EQ(Each.IsEmpty(), AExpected) << Each.ToString();
     };
-    for (const TRow& Row : cRows)
-        EXPECT_EQ(Row.Value.IsEmpty(), Row.IsEmpty) << Row.Value.ToString();
+    Check(true, TValue(), TNumbers(), TEvent(), TClass(), Ref<IShape>(), static_cast<TObject*>(nullptr),
+          ExceptionClass());
+    Check(false, 0, u"", Variant(), TNumbers{0}, TEvent([] {}), ClassOf<TPlain>(), TGUID(), THolder(),
+          TSides(), static_cast<void*>(&GRefuse));
 }
 
 TEST_F(Value, KnowsItsType) {
@@ -473,26 +458,9 @@ TEST_F(Value, MakesValuesFromRawData) {
 
 TEST_F(Value, AVariantKeepsItsTypeOnTheWayThroughAValue) {
     TPlain Plain;
-    const Variant cVariants[] = {std::int8_t{-1},
-                                 std::int16_t{-2},
-                                 3,
-                                 std::uint8_t{4},
-                                 std::uint16_t{5},
-                                 6u,
-                                 INT64_MIN,
-                                 UINT64_MAX,
-                                 1.5f,
-                                 -0.0,
-                                 true,
-                                 u"wide",
-                                 WideString(u"w"),
-                                 AnsiString("a"),
-                                 TDateTime(2.5),
-                                 Currency(1.25),
-                                 Variant(),
-                                 Variant::Null(),
-                                 Ref<IInterface>(TCircle::Create())};
-    for (const Variant& Each : cVariants) {
+    std::vector<Variant> Variants = SampleVariants();
+    Variants.insert(Variants.end(), {Variant(), Variant::Null(), Ref<IInterface>(TCircle::Create())});
+    for (const Variant& Each : Variants) {
         const Variant Back = TValue::FromVariant(Each).AsVariant();
         EXPECT_EQ(VarType(Back), VarType(Each));
         EXPECT_TRUE(Back == Each) << VarType(Each);
