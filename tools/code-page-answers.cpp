@@ -17,12 +17,10 @@ namespace {
 using namespace qz::platform;
 
 void PrintCode(uint32_t APage, const std::string& ABytes) {
-    TError Error;
     char16_t Text[8];
     const auto Source = std::as_bytes(std::span(ABytes));
-    const size_t Length = CodePageToUtf16(APage, Source, Text, TDecoding::Lenient, Error);
-    const bool Strict = CodePageToUtf16(APage, Source, Text, TDecoding::Strict, Error) != 0;
-    CodePageToUtf16(APage, Source, Text, TDecoding::Lenient, Error);
+    const bool Strict = *CodePageToUtf16(APage, Source, Text, TDecoding::Strict) != 0;
+    const size_t Length = *CodePageToUtf16(APage, Source, Text, TDecoding::Lenient);
     std::printf("code ");
     for (const char Byte : ABytes)
         std::printf("%02x", static_cast<unsigned>(static_cast<unsigned char>(Byte)));
@@ -33,9 +31,8 @@ void PrintCode(uint32_t APage, const std::string& ABytes) {
 }
 
 void PrintChar(uint32_t APage, char16_t AChar) {
-    TError Error;
     char Bytes[8];
-    const size_t Length = Utf16ToCodePage(APage, {&AChar, 1}, Bytes, TComposing::Plain, Error);
+    const size_t Length = *Utf16ToCodePage(APage, {&AChar, 1}, Bytes, TComposing::Plain);
     std::printf("char %04x ", static_cast<unsigned>(AChar));
     for (size_t I = 0; I < Length; ++I)
         std::printf("%02x", static_cast<unsigned>(static_cast<unsigned char>(Bytes[I])));

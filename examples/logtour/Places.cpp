@@ -28,10 +28,7 @@ constexpr TPlace cWindowsPlaces[] = {
     {u"", u".ini"}, {u"", u".log"}, {u"inf\\", u".inf"}, {u"System32\\drivers\\etc\\", u""}};
 
 std::vector<platform::TDirEntry> EntriesOf(const UnicodeString& ADirectory) {
-    std::vector<platform::TDirEntry> Entries;
-    platform::TError Error;
-    platform::ListDirectory(ADirectory, Entries, Error); // gives none where it fails
-    return Entries;
+    return *platform::ListDirectory(ADirectory); // none where it fails
 }
 
 void AddLargest(const UnicodeString& ADirectory, std::u16string_view AEnding,

@@ -1,7 +1,8 @@
-// Who runs this process, and on which computer. Any thread; what is told is that of the moment, except as said below.
+// The computer, the user and the account of this process. Any thread. Each call asks the system, except as
+// stated below.
 //
-//     std::u16string Domain;
-//     const std::u16string User = AccountName(Domain);
+//     const TAccountName Account = AccountName();
+//     Show(Account.Domain, Account.Name);
 #pragma once
 
 #include <string>
@@ -10,21 +11,26 @@
 
 namespace qz::platform {
 
-// The computer's own name: the host name, or the NetBIOS name on Windows. Empty if the system does not tell.
+// The host name, or the NetBIOS name on Windows. Empty if the system reports none.
 QZ_API std::u16string ComputerName();
 
-// The user as whom the thread acts: on Linux the effective one, by its number where no database of users tells its name.
-// There a name that was found is kept for the life of the process; Windows may fail, which gives an empty text.
+// The user of the calling thread. On Linux the effective user, as a number where the user database has no
+// name for it; a name is looked up once per process. Empty if Windows fails.
 QZ_API std::u16string UserName();
 
-// The account of the process, and in ADomain the domain that it belongs to: for a local account the computer's name.
-// Both are empty if the system does not tell. Linux takes apart the names of accounts that other systems keep, which
-// read DOMAIN\user or user@domain.
-QZ_API std::u16string AccountName(std::u16string& ADomain);
+struct TAccountName {
+    std::u16string Name;
+    std::u16string Domain; // of a local account the computer's name
+};
+
+// The account of the process and its domain.
+// Both are empty if the system reports none. On Linux the names of
+// network accounts, DOMAIN\user or user@domain, are split.
+QZ_API TAccountName AccountName();
 
 enum class TElevation { Unknown, Full, Limited };
 
-// Whether the process has an administrator's rights now: on Linux, whether it acts as root.
+// Whether the process has administrator rights; on Linux, whether its effective user is root.
 QZ_API TElevation Elevation() noexcept;
 
 } // namespace qz::platform

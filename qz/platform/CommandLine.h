@@ -1,10 +1,13 @@
-// What a program of the command line asks: its arguments as they were typed, and whether somebody watches what it prints.
+// The command-line arguments of this process, and whether a standard stream is a terminal.
 //
-//     for (const std::u16string& Argument : CommandLineArguments()) ...
-//     if (IsTerminal(TStandardStream::Error)) ShowProgress();
+//     for (const std::u16string& Argument : CommandLineArguments())
+//         Open(Argument);
+//     if (IsTerminal(TStandardStream::Error))
+//         ShowProgress();
 //
-// Text is UTF-16, whatever the code page of the program; bytes of a Linux argument that aren't valid UTF-8 are carried as in
-// file names (platform/Files.h), so that each name that was typed can be opened. Any thread.
+// Text is UTF-16, whatever the code page of the program. Bytes of a Linux argument that are not valid UTF-8
+// are carried as in file names (Files.h), so that every file name on the command line can be opened. Any
+// thread.
 #pragma once
 
 #include <string>
@@ -16,10 +19,10 @@ namespace qz::platform {
 
 enum class TStandardStream { Input, Output, Error };
 
-// The arguments of this process, without the program's own name; none if the system doesn't tell.
+// The arguments without the program name; empty if the system reports none.
 QZ_API std::vector<std::u16string> CommandLineArguments();
 
-// Whether the stream is a terminal or a console, and no file or pipe.
+// Whether the stream is a terminal or a console.
 QZ_API bool IsTerminal(TStandardStream AStream) noexcept;
 
 } // namespace qz::platform

@@ -1,4 +1,7 @@
-// Questions about the desktop and the debugger around the process. Any thread.
+// Whether a debugger is attached, and whether a window exists on the desktop. Any thread.
+//
+//     if (IsDebuggerPresent())
+//         ShowDetails();
 #pragma once
 
 #include <string_view>
@@ -7,12 +10,11 @@
 
 namespace qz::platform {
 
-// Whether a debugger is attached to this process. False where the system has no way to tell.
+// Whether a debugger is attached to this process. False if the system cannot report it.
 QZ_API bool IsDebuggerPresent() noexcept;
 
-// Whether a top-level window with this class name and this title exists, letter case ignored. An empty text
-// stands for any; a text with a NUL in it matches nothing. Always false on Linux, which has no such desktop
-// to ask.
+// Whether a top-level window with this class name and title exists, ignoring case. An empty text matches any;
+// a text that contains a NUL matches none. Always false on Linux.
 QZ_API bool HasTopLevelWindow(std::u16string_view AClass, std::u16string_view ATitle);
 
 } // namespace qz::platform

@@ -1,5 +1,8 @@
-// The environment variables of this process. Text is UTF-16; bytes of a Linux variable that aren't valid
-// UTF-8 are carried as in file names (platform/Files.h).
+// The environment variables of this process.
+//
+//     const std::u16string Home = GetEnvironment(u"HOME").value_or(u"/");
+//
+// Text is UTF-16. Bytes of a Linux variable that are not valid UTF-8 are carried as in file names (Files.h).
 #pragma once
 
 #include <optional>
@@ -10,13 +13,13 @@
 
 namespace qz::platform {
 
-// The value, which may be empty; nothing when AName isn't set. Safe against SetEnvironment in other threads,
-// but not against setenv and putenv called past it.
+// The value, which may be empty; nothing when AName is not set. Other threads may call SetEnvironment
+// meanwhile, but not setenv or putenv.
 QZ_API std::optional<std::u16string> GetEnvironment(std::u16string_view AName);
 
-// Sets, or without a value removes, a variable of this process and of the processes that it starts from now
-// on. False when AName is empty or holds a "=", either text holds a NUL, or memory ran out. C code that reads
-// the environment at the same time must be kept away by the caller.
+// Sets a variable for this process and for processes started later; removes it when AValue is nothing. False
+// if AName is empty or contains "=", if either text contains a NUL, or if memory runs out. The caller must
+// prevent C code from reading the environment at the same time.
 QZ_API bool SetEnvironment(std::u16string_view AName, std::optional<std::u16string_view> AValue);
 
 } // namespace qz::platform

@@ -1,20 +1,21 @@
-// The log of the system: the Application event log of Windows; on Linux the journal, and where none listens the syslog.
+// The log of the system: the Application event log on Windows; the journal on Linux, or the syslog where no
+// journal listens.
 //
 //     IEventLog& Log = SystemEventLog();
-//     const uintptr_t Source = Log.OpenSource(u"backup");
+//     const std::uintptr_t Source = Log.OpenSource(u"backup");
 //     Log.Write(Source, TEventType::Warning, 3, u"The tape is worn", 3600);
 //     Log.CloseSource(Source);
 //
-// On Linux nothing waits: what nobody takes at once is lost. The journal gets the text as it is, as MESSAGE, beside
-// PRIORITY, SYSLOG_IDENTIFIER (the source) and EVENT_ID. The syslog gets "source[process]: text"; it has no place for the
-// number of the event. There a control character other than the tab becomes # and three octal digits, as the daemons
-// write it, and a text of more than 8000 bytes several messages. Priorities are 6 for information, 5 (notice) for
-// success, 4 for a warning, 3 for an error. Lone surrogates become U+FFFD. A source finds daemons that start later or
-// anew. One that reads a stream keeps it: while the former one still holds its end of the connection, that one gets the
-// messages.
+// On Linux writing never waits: an event that the daemon does not accept at once is lost. The journal
+// receives the text as MESSAGE, with PRIORITY, SYSLOG_IDENTIFIER (the source) and EVENT_ID. The syslog
+// receives "source[process]: text", without the event number; control characters other than tab become # and
+// three octal digits, and a text over 8000 bytes becomes several messages. Priorities are 6 for information,
+// 5 for success, 4 for a warning, 3 for an error. Lone surrogates become U+FFFD. A source finds a daemon that
+// starts or restarts later. A stream connection is kept as long as the daemon holds its end.
 //
-// On Windows a text of more than 31,000 units becomes several events, and U+0000 in it becomes U+2400. A source whose
-// name holds a backslash reports its events, but is not entered in the registry, where it would be a key below another.
+// On Windows a text over 31,000 units becomes several events, and U+0000 becomes U+2400. A source whose name
+// contains a backslash reports events but is not registered, since the registry would take the name for a
+// subkey.
 #pragma once
 
 #include <cstdint>
@@ -24,28 +25,28 @@
 
 namespace qz::platform {
 
-enum class TEventType : uint16_t { Success = 0, Error = 1, Warning = 2, Information = 4 };
+enum class TEventType : std::uint16_t { Success = 0, Error = 1, Warning = 2, Information = 4 };
 
-// Any thread, but for one source one call at a time.
+// Any thread; for each source one call at a time.
 class QZ_API IEventLog {
 public:
-    // Makes a source known for good, unless it is: on Windows in the registry, where it names AProgram as the one that
-    // carries the texts of the events. Needs an administrator's rights, and says nothing without them.
+    // Registers a source permanently unless it is registered. On Windows the registry entry names AProgram as
+    // the file with the message texts. Does nothing without administrator rights.
     virtual void EnterSource(std::u16string_view AName, std::u16string_view AProgram) noexcept = 0;
-    // 0 when the system refuses.
-    virtual uintptr_t OpenSource(std::u16string_view AName) noexcept = 0;
-    // 0 is nothing to close.
-    virtual void CloseSource(uintptr_t ASource) noexcept = 0;
-    // ALocalOffset is what is added to UTC now, in seconds, for the syslog, which tells the local time. False when the
-    // event is lost, or part of it.
-    virtual bool Write(uintptr_t ASource, TEventType AType, uint32_t AId, std::u16string_view AText,
-                       int32_t ALocalOffset) noexcept = 0;
+    // 0 if the system refuses.
+    virtual std::uintptr_t OpenSource(std::u16string_view AName) noexcept = 0;
+    // Ignores 0.
+    virtual void CloseSource(std::uintptr_t ASource) noexcept = 0;
+    // ALocalOffset is local time minus UTC in seconds; the syslog shows local time. False if the event, or
+    // part of it, is lost.
+    virtual bool Write(std::uintptr_t ASource, TEventType AType, std::uint32_t AId, std::u16string_view AText,
+                       std::int32_t ALocalOffset) noexcept = 0;
 
 protected:
     ~IEventLog() = default;
 };
 
-// Lives to the end of the program.
+// Exists until the process ends.
 QZ_API IEventLog& SystemEventLog();
 
 } // namespace qz::platform

@@ -3,10 +3,10 @@
 //     class QZ_API TThing { ... };
 //     QZ_API int Count();
 //
-// Everything is compiled with hidden visibility, so on ELF systems a class or function without the mark
-// cannot be reached from outside the shared library. Templates and inline functions need no mark. A PE
-// library exports all of its symbols when it is linked, so there the mark is empty. A class cannot carry both
-// the mark and an attribute in brackets; a function can, the brackets first.
+// The library is compiled with hidden visibility: on ELF systems a class or function without the mark is not
+// visible outside the shared library. Templates and inline functions need no mark. A DLL exports all symbols
+// when it is linked, so the mark is empty on Windows. A class cannot have both the mark and an attribute in
+// brackets; in a function the brackets come first.
 #pragma once
 
 #ifdef __ELF__

@@ -1,16 +1,16 @@
-// A file that is open: reading, writing and sizes at any place of it, beyond 4 GiB too, and what others may do with
-// the file meanwhile.
+// An open file: reading and writing at any position, also beyond 4 GiB, and what other handles may do
+// meanwhile.
 //
 //     TFileHandle File;
-//     TError Error;
-//     if (File.Open(u"data.bin", TFileAccess::Read, TFileCreation::Never, {.Read = true}, Error))
-//         File.Read(Buffer, Done, Error);
+//     if (File.Open(u"data.bin", TFileAccess::Read, TFileCreation::Never, {.Read = true}))
+//         if (const TResult<std::size_t> Got = File.Read(Buffer))
+//             Use(Buffer, *Got);
 //
-// Sharing: Open fails (ETXTBSY, ERROR_SHARING_VIOLATION) when a handle that is open denies what this one wants, or
-// when this one denies what a handle that is open does. Windows keeps to that for every program. Linux keeps to it
-// for regular files among the handles of this library, by locks on bytes far behind any content, in all processes
-// and on all file systems that have locks; where there are none, and while another program has locked the whole file,
-// nothing is denied. A handle is for one thread at a time. Paths are as in Files.h.
+// Sharing: Open fails (ETXTBSY, ERROR_SHARING_VIOLATION) if an open handle denies the wanted access, or has
+// access that this one denies. Windows enforces this for every program. Linux enforces it for regular files
+// among the handles of this library, in all processes, by locks on bytes far beyond any content. Nothing is
+// denied on a file system without locks, nor while another program has locked the whole file. A handle
+// belongs to one thread at a time. Paths are as in Files.h.
 #pragma once
 
 #include <cstddef>
@@ -24,22 +24,30 @@
 
 namespace qz::platform {
 
-enum class TFileAccess : uint8_t { Read = 1, Write = 2, ReadWrite = 3 };
+enum class TFileAccess : std::uint8_t { Read = 1, Write = 2, ReadWrite = 3 };
 
-enum class TFileCreation : uint8_t {
-    Never,       // the file must be there
-    WhenMissing, // made empty when it isn't there
-    Always,      // emptied when it is there, else made
-    Exclusive    // made; the name must be free
+enum class TFileCreation : std::uint8_t {
+    Never,       // the file must exist
+    WhenMissing, // creates an empty file if none exists
+    Always,      // creates the file, or truncates it to 0 bytes
+    Exclusive    // creates the file; fails if it exists
 };
 
-// What others may do while the handle is open. Nothing, unless said otherwise.
+// What other handles may do while this one is open.
 struct TFileSharing {
     bool Read = false;
     bool Write = false;
 };
 
-enum class TFileOrigin : uint8_t { Beginning, Current, End };
+enum class TFileOrigin : std::uint8_t { Beginning, Current, End };
+
+// How much of a write arrived. It tests as true when all of it did.
+struct [[nodiscard]] TWritten {
+    std::size_t Done = 0; // bytes
+    TError Error;
+
+    explicit operator bool() const noexcept { return Error.Code == 0; }
+};
 
 class QZ_API TFileHandle {
 public:
@@ -51,42 +59,42 @@ public:
     }
     ~TFileHandle() { Close(); }
 
-    // Closes what is open and opens APath, at its first byte. A link is followed; a directory is refused. The handle
-    // is not passed on to programs that are started; a process that was forked shares it, and with it what it denies.
-    bool Open(std::u16string_view APath, TFileAccess AAccess, TFileCreation ACreation, TFileSharing ASharing,
-              TError& AError);
+    // Closes the current file and opens APath at its first byte. Follows links; fails for a directory.
+    // Started programs do not inherit the handle. A forked process shares it, and its sharing mode.
+    TResult<> Open(std::u16string_view APath, TFileAccess AAccess, TFileCreation ACreation,
+                   TFileSharing ASharing);
     bool IsOpen() const noexcept { return FHandle != cNone; }
-    // False when the system says at last that something written did not arrive.
+    // False if the system reports here that written data was lost.
     bool Close() noexcept;
 
-    // Reads up to ATarget.size() bytes at the position; ADone is 0 at the end of the file.
-    bool Read(std::span<std::byte> ATarget, size_t& ADone, TError& AError);
-    // Writes all of ASource at the position. On failure ADone tells how much arrived.
-    bool Write(std::span<const std::byte> ASource, size_t& ADone, TError& AError);
-    // Moves the position; APosition is the new one, from the beginning. A place behind the end is allowed.
-    bool Seek(int64_t AOffset, TFileOrigin AOrigin, int64_t& APosition, TError& AError);
-    // Cuts the file or lengthens it by zeros. The position stays.
-    bool SetSize(int64_t ASize, TError& AError);
-    // Has this handle, and those that forked processes share with it, deny nothing from now on. Nothing on Windows.
+    // Reads up to ATarget.size() bytes at the position. Gives the number of bytes, 0 at the end of the file.
+    TResult<std::size_t> Read(std::span<std::byte> ATarget);
+    // Writes all of ASource at the position.
+    TWritten Write(std::span<const std::byte> ASource);
+    // Moves the position and gives the new one, from the beginning. A position after the end is allowed.
+    TResult<std::int64_t> Seek(std::int64_t AOffset, TFileOrigin AOrigin);
+    // Truncates the file or extends it with zeros. The position stays.
+    TResult<> SetSize(std::int64_t ASize);
+    // Ends the denials of this handle and of its copies in forked processes. Does nothing on Windows.
     void DenyNothing() noexcept;
-    // Waits until what was written is on the disk.
-    bool Flush(TError& AError);
+    // Waits until all written data is on the disk.
+    TResult<> Flush();
 
-    // Has each write go to the end of the file as it is then, also when another program or a child process writes there or
-    // cuts the file. On Windows, where sharing keeps others out, this moves the position to the end.
-    bool WriteAtEnd(TError& AError);
-    // As Write, behind WriteAtEnd. The position is not moved where that can be saved.
-    bool Append(std::span<const std::byte> ASource, size_t& ADone, TError& AError);
-    // Whether APath still leads to the open file, which may have been renamed, removed or replaced. True when nobody can tell,
-    // and on Windows, where that cannot happen to a file that is open for writing.
+    // Switches to appending: each write goes to the current end of the file, also while other processes write
+    // or truncate it. On Windows, where sharing keeps others out, moves the position to the end.
+    TResult<> WriteAtEnd();
+    // As Write, after WriteAtEnd. The position may stay where it was.
+    TWritten Append(std::span<const std::byte> ASource);
+    // False if the open file was renamed, removed or replaced, so that APath does not lead to it. True if
+    // that cannot be determined, and on Windows, where it cannot happen to a file that is open for writing.
     bool IsAt(std::u16string_view APath) const;
 
-    // The system's own number of the open file: a descriptor, or a HANDLE.
-    intptr_t Native() const noexcept { return FHandle; }
+    // The file descriptor or HANDLE.
+    std::intptr_t Native() const noexcept { return FHandle; }
 
 private:
-    static constexpr intptr_t cNone = -1;
-    intptr_t FHandle = cNone;
+    static constexpr std::intptr_t cNone = -1;
+    std::intptr_t FHandle = cNone;
 };
 
 } // namespace qz::platform

@@ -1,12 +1,12 @@
-// How large this process may make a file.
+// The maximum file size of this process.
 //
 //     if (Size + Count > FileSizeLimit()) {
 //         const TNoLimitSignal Quiet;
 //         File.Write(...);               // fails with EFBIG; without the object the process would end
 //     }
 //
-// Linux has such a limit (RLIMIT_FSIZE) and ends a process that writes behind it by SIGXFSZ, unless told otherwise. On Windows
-// there is none.
+// Linux has such a limit (RLIMIT_FSIZE): a write beyond it raises SIGXFSZ, which ends the process by default.
+// Windows has none.
 #pragma once
 
 #include <cstdint>
@@ -15,10 +15,10 @@
 
 namespace qz::platform {
 
-// In bytes; the largest number when there is no limit. The limit may change at any time.
-QZ_API uint64_t FileSizeLimit() noexcept;
+// In bytes; the largest number if there is no limit. The limit may change at any time.
+QZ_API std::uint64_t FileSizeLimit() noexcept;
 
-// Keeps the signal of the limit from the calling thread as long as it lives; a signal that arose meanwhile is dropped.
+// Blocks the limit's signal for the calling thread while it exists; discards one that was raised meanwhile.
 class QZ_API TNoLimitSignal {
 public:
     TNoLimitSignal() noexcept;

@@ -1,13 +1,12 @@
 // Whole files, directories and their names.
 //
-//     std::vector<TDirEntry> Entries;
-//     TError Error;
-//     if (!ListDirectory(u"/var/log", Entries, Error)) ...
+//     if (const auto Entries = ListDirectory(u"/var/log"))
+//         for (const TDirEntry& Entry : *Entries)
+//             Show(Entry.Name);
 //
-// Paths are UTF-16. On Linux a byte of a name that isn't valid UTF-8 is carried as a lone surrogate, U+DC00
-// plus the byte, so that each name that a listing gives can be opened again. On Windows any path may be
-// longer than 248 units. A path with a NUL in it is refused (EINVAL, ERROR_INVALID_NAME). Interrupted calls
-// go on. Any thread.
+// Paths are UTF-16. On Linux each byte of a name that is not valid UTF-8 becomes a lone surrogate, U+DC00
+// plus the byte, so that every listed name can be opened. On Windows paths may exceed 248 units. A path that
+// contains a NUL fails (EINVAL, ERROR_INVALID_NAME). Interrupted system calls are repeated. Any thread.
 #pragma once
 
 #include <cstddef>
@@ -24,53 +23,54 @@ namespace qz::platform {
 
 struct TDirEntry {
     std::u16string Name; // without its directory
-    bool IsDirectory;    // a link counts as what it leads to
-    uint64_t Size;       // in bytes, 0 for a directory and for a link that leads nowhere
+    bool IsDirectory;    // of a link: whether its target is one
+    std::uint64_t Size;  // in bytes; 0 for a directory and a broken link
 };
 
-// What may stand between the names of a path, the usual one first, and behind a drive; 0 where there are no drives.
+// The characters that separate the names of a path, the preferred one first; and the one after a drive
+// letter, 0 if there are no drives.
 QZ_API std::u16string_view PathSeparators() noexcept;
 QZ_API char16_t DriveSeparator() noexcept;
 
-// Whether names that differ in the case of letters alone are usually those of one file.
+// Whether file systems usually ignore the case of names.
 QZ_API bool FileNamesIgnoreCase() noexcept;
 
-// Whether APath is there and is, or is not, a directory. A path that can't be asked about isn't there.
+// Whether APath exists and is a file, or a directory. False for a path that cannot be accessed.
 QZ_API bool FileExists(std::u16string_view APath);
 QZ_API bool DirectoryExists(std::u16string_view APath);
 
-// What APath holds, in no particular order, without "." and "..". AOut is replaced, and empty on failure.
-QZ_API bool ListDirectory(std::u16string_view APath, std::vector<TDirEntry>& AOut, TError& AError);
+// The entries of APath, in no particular order, without "." and "..".
+QZ_API TResult<std::vector<TDirEntry>> ListDirectory(std::u16string_view APath);
 
-// The directory for temporary files, without a separator at its end.
+// The directory for temporary files, without a trailing separator.
 QZ_API std::u16string TempDirectory();
 
-// One directory; its parent must be there. Fails where the name is taken.
-QZ_API bool MakeDirectory(std::u16string_view APath, TError& AError);
+// Creates one directory; its parent must exist. Fails if the name exists.
+QZ_API TResult<> MakeDirectory(std::u16string_view APath);
 
-// Removes a file or a link, never a directory. RemoveEmptyDirectory is for those.
-QZ_API bool RemoveFile(std::u16string_view APath, TError& AError);
-QZ_API bool RemoveEmptyDirectory(std::u16string_view APath, TError& AError);
+// Removes a file or a link, never a directory.
+QZ_API TResult<> RemoveFile(std::u16string_view APath);
+QZ_API TResult<> RemoveEmptyDirectory(std::u16string_view APath);
 
-// Gives a file or directory another name on the same file system; what has it open keeps it. Fails where the new name is taken
-// (EEXIST, ERROR_ALREADY_EXISTS), also by somebody who takes it at this moment, as far as the file system can tell.
-QZ_API bool RenameEntry(std::u16string_view APath, std::u16string_view ANewPath, TError& AError);
+// Renames a file or directory within one file system; open handles stay valid. Fails if the new name exists
+// (EEXIST, ERROR_ALREADY_EXISTS). The check is atomic where the file system supports it.
+QZ_API TResult<> RenameEntry(std::u16string_view APath, std::u16string_view ANewPath);
 
-// All bytes of a file, also of one that tells no size, such as those under /proc. AOut is replaced, and empty
-// on failure. Fails where a TFileHandle denies reading (ETXTBSY, ERROR_SHARING_VIOLATION).
-QZ_API bool ReadWholeFile(std::u16string_view APath, std::vector<std::byte>& AOut, TError& AError);
+// All bytes of a file, also of one that reports no size, such as those under /proc. Fails where a TFileHandle
+// denies reading (ETXTBSY, ERROR_SHARING_VIOLATION).
+QZ_API TResult<std::vector<std::byte>> ReadWholeFile(std::u16string_view APath);
 
-// Makes APieces, one behind the other, the whole content of the file. Readers find the old content or the new
-// one, never a part of it: the bytes go to a new file beside it, which then takes its name, its owner, its access
-// rights and, on Linux, the attributes that users gave it. Written in place, and so perhaps in part, are a link, a
-// device or a pipe, a file of several names, one that can't be replaced with its owner and rights kept, one that
-// others have open (on Windows), and one in a directory that takes no new file. A file that the caller may not
-// write, or that a TFileHandle denies to writers, is left alone. On failure the old content is untouched, unless it
-// was being written in place. Not flushed to the disk.
-QZ_API bool WriteWholeFile(std::u16string_view APath, std::span<const std::span<const std::byte>> APieces,
-                           TError& AError);
-inline bool WriteWholeFile(std::u16string_view APath, std::span<const std::byte> ABytes, TError& AError) {
-    return WriteWholeFile(APath, std::span(&ABytes, 1), AError);
+// Replaces the content of the file by APieces, one after the other. Readers see the old or the new content,
+// never a part: the bytes go to a new file in the same directory, which then takes the name, the owner, the
+// access rights and, on Linux, the user's attributes. Some files are written in place, so a failure may leave
+// a part: a link, a device or a pipe, a file with several names, a file whose owner and rights cannot be
+// kept, one that is open elsewhere (on Windows), and one in a directory that accepts no new file. Fails, and
+// changes nothing, for a file that the caller may not write or that a TFileHandle denies to writers. Does not
+// flush to the disk.
+QZ_API TResult<> WriteWholeFile(std::u16string_view APath,
+                                std::span<const std::span<const std::byte>> APieces);
+inline TResult<> WriteWholeFile(std::u16string_view APath, std::span<const std::byte> ABytes) {
+    return WriteWholeFile(APath, std::span(&ABytes, 1));
 }
 
 } // namespace qz::platform

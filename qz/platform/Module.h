@@ -13,11 +13,11 @@
 
 namespace qz::platform {
 
-// The whole path of the running program, empty if the system doesn't tell.
+// The full path of the running program; empty if the system reports none.
 QZ_API std::u16string ExecutablePath();
 
-// The address of AName in the library AModule, which must be loaded already; null if either isn't there. An
-// empty AModule means the program itself, and on Linux everything that is loaded with it.
+// The address of AName in the loaded library AModule; null if either is missing. An empty AModule is the
+// program itself, on Linux with everything loaded with it.
 QZ_API void* FindModuleFunction(std::u16string_view AModule, const char* AName);
 
 } // namespace qz::platform

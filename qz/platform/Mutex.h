@@ -1,4 +1,4 @@
-// A mutual exclusion lock that its owner may take again.
+// A recursive mutual exclusion lock.
 //
 //     TRecursiveMutex Lock;
 //     Lock.Enter();
@@ -12,21 +12,20 @@
 
 namespace qz::platform {
 
-// The system's critical section. Small, never allocates in Enter, and waits in the kernel after a short spin.
+// The system's critical section. Enter never allocates; it spins briefly, then waits in the kernel.
 class QZ_API TRecursiveMutex {
 public:
     TRecursiveMutex() noexcept;
     TRecursiveMutex(const TRecursiveMutex&) = delete;
     TRecursiveMutex& operator=(const TRecursiveMutex&) = delete;
-    // No thread may hold or await the lock.
+    // No thread may hold or wait for the lock.
     ~TRecursiveMutex();
 
-    // Waits until the calling thread owns the lock. Each Enter, and each TryEnter that gave true, needs its
-    // Leave.
+    // Waits until the calling thread owns the lock. Each Enter, and each successful TryEnter, needs a Leave.
     void Enter() noexcept;
-    // As Enter, but gives false at once while another thread owns the lock.
+    // As Enter, but returns false at once if another thread owns the lock.
     bool TryEnter() noexcept;
-    // Only the owner may call this; nothing checks that.
+    // Only for the owner; not checked.
     void Leave() noexcept;
 
 private:

@@ -1,8 +1,8 @@
-// The normal forms of Unicode. ICU makes them on Linux, the system's own library on Windows.
+// Unicode normalization, by ICU on Linux and by the system library on Windows.
 //
-//     std::u16string Out;
-//     TError Error;
-//     if (PrepareNormalizer() == TNormalizer::Ready && NormalizeText(2, Text, Out, Error)) ...
+//     if (PrepareNormalizer() == TNormalizer::Ready)
+//         if (const TResult<std::u16string> Decomposed = NormalizeText(2, Text))
+//             Use(*Decomposed);
 #pragma once
 
 #include <cstdint>
@@ -14,13 +14,14 @@
 
 namespace qz::platform {
 
-enum class TNormalizer : uint8_t { Ready, NoLibrary, NoFunction };
+enum class TNormalizer : std::uint8_t { Ready, NoLibrary, NoFunction };
 
-// Whether text can be normalised here; binds what that needs on the first call and keeps it. Any thread.
+// Whether NormalizeText can work. The first successful call loads the library for the life of the process.
+// Any thread.
 QZ_API TNormalizer PrepareNormalizer();
 
-// AText in a normal form: 1 for C, 2 for D, 5 for KC, 6 for KD. Fails, with AOut empty, for another form, for an
-// empty text and for one with a lone surrogate. PrepareNormalizer must have said Ready. Any thread.
-QZ_API bool NormalizeText(int AForm, std::u16string_view AText, std::u16string& AOut, TError& AError);
+// AText in a normal form: 1 for NFC, 2 for NFD, 5 for NFKC, 6 for NFKD. Fails for another form, for an empty
+// text and for one with a lone surrogate. Call PrepareNormalizer first; it must give Ready. Any thread.
+QZ_API TResult<std::u16string> NormalizeText(int AForm, std::u16string_view AText);
 
 } // namespace qz::platform

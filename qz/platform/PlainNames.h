@@ -1,10 +1,11 @@
-// Takes back the macros of <windows.h> that bear names of this library, for a source that includes both:
+// Undefines the macros of <windows.h> that collide with names of this library. For a source that includes
+// both:
 //
 //     #include <windows.h>
-//     #include <platform/PlainNames.h>
-//     #include <common/uQzClasses.h>
+//     #include <qz/platform/PlainNames.h>
+//     #include <qz/common/uQzClasses.h>
 //
-// Behind it the system's own functions of these names are called with their full names, such as RegisterClassW.
+// After it the system functions are called by their full names, such as RegisterClassW.
 #pragma once
 
 #undef GetObject

@@ -1,12 +1,12 @@
-// The folders in which a system keeps things of a kind, by the numbers that the Windows shell has for them (CSIDL).
+// The folders for documents, settings and the like, by the numbers of the Windows shell (CSIDL).
 //
-//     std::u16string Path;
-//     if (ShellFolder(5, Path)) ... // the user's documents
+//     if (const std::optional<std::u16string> Documents = ShellFolder(5))
+//         Open(*Documents);
 //
-// Linux has the folders of the XDG conventions: those that the user chose for documents, pictures and so on (the file
-// user-dirs.dirs below $XDG_CONFIG_HOME, else the customary names in the home), and the base directories. HOME is the
-// home, without it the one in the database of users. "Shared" is the first of these places that the process may write:
-// the first of $STATE_DIRECTORY, which a service is given, /var/lib, and $XDG_STATE_HOME.
+// Linux maps them to the XDG base directories and the XDG user directories (user-dirs.dirs in
+// $XDG_CONFIG_HOME, else the default names in the home). The home is $HOME, or the one in the user database.
+// "Shared" is the first of these that the process may write: the first entry of $STATE_DIRECTORY, which a
+// service receives; /var/lib; $XDG_STATE_HOME.
 //
 //      0 16  desktop                         5 12  documents                    13  music
 //     14     videos                          21    templates                    39  pictures
@@ -18,22 +18,23 @@
 //     59           $XDG_DATA_HOME/burn
 //     35 46        shared                         25 31 45     shared/Desktop, /Favorites, /Templates
 //     53 54 55     shared/Music, /Pictures, /Videos
-//     22 23 47     /usr/local/share/applications, or as 2 where the process may not write it
-//     24 30        /etc/xdg/autostart, or as 7 where the process may not write it
+//     22 23 47     /usr/local/share/applications, or as 2 if that is not writable
+//     24 30        /etc/xdg/autostart, or as 7 if that is not writable
 //     20 36 37 41 38 42 43 44 56   /usr/share/fonts, /, /usr/lib twice, /opt twice, /opt twice, /usr/share
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include <qz/platform/Export.h>
 
 namespace qz::platform {
 
-// The whole path, without a separator at its end. The folder is made where it is missing, on Linux with access for its
-// owner only unless it lies in a place that is shared; the home is not made, and those that the system brings along
-// (/usr/share/fonts and so on) are told as they are. False for a number that stands for no folder of files, and when the
-// folder is neither there nor can be made. A child of fork() may call it on Linux as long as HOME is set. On Windows
-// an empty path may come out where the shell gives no allocator. Any thread.
-QZ_API bool ShellFolder(int ANumber, std::u16string& APath);
+// The full path, without a trailing separator. Creates a missing folder; on Linux only its owner has access
+// unless it is a shared one. The home and system folders such as /usr/share/fonts are never created. Nothing
+// for a number without a folder in the file system, and if the folder is missing and cannot be created. On
+// Linux a child of fork() may call it while HOME is set. On Windows the path may be empty if the shell
+// provides no allocator. Any thread.
+QZ_API std::optional<std::u16string> ShellFolder(int ANumber);
 
 } // namespace qz::platform

@@ -1,5 +1,5 @@
-// The system's slim reader/writer lock: many readers or one writer, in one word of memory that needs neither
-// construction nor destruction.
+// The system's slim reader/writer lock: many readers or one writer. It is one word and needs no construction
+// or destruction.
 //
 //     TSlimLockWord Word;
 //     const TSlimLockFunctions* Lock = SystemSlimLock();
@@ -12,18 +12,18 @@
 
 namespace qz::platform {
 
-// Null when free. Must not move while it is held.
+// Null if free. Must not move while it is held.
 struct TSlimLockWord {
     void* Ptr = nullptr;
 };
 
 using TSlimLockAcquire = void (*)(TSlimLockWord*);
-using TSlimLockTryAcquire = unsigned char (*)(TSlimLockWord*); // other than 0: the lock is held now
+using TSlimLockTryAcquire = unsigned char (*)(TSlimLockWord*); // not 0: acquired
 using TSlimLockRelease = void (*)(TSlimLockWord*);
 
-// An acquire waits without a limit, a try never waits. The lock isn't re-entrant: a thread that holds it in
-// either form must not take it again. A waiting writer holds new readers back, so that readers can't starve
-// it. Only the thread that acquired may release, in the same form; nothing checks that.
+// An acquire waits without limit; a try never waits. The lock is not recursive in either mode. A waiting
+// writer blocks new readers, so that readers cannot starve it. Only the acquiring thread may release, in the
+// same mode; not checked.
 struct TSlimLockFunctions {
     TSlimLockAcquire AcquireExclusive;
     TSlimLockTryAcquire TryAcquireExclusive;
@@ -33,8 +33,8 @@ struct TSlimLockFunctions {
     TSlimLockRelease ReleaseShared;
 };
 
-// The functions of this system, found once and kept for the life of the process. Never null itself; an entry
-// that the system lacks is null (the tries of an early Windows; no entry on Linux). Any thread.
+// The functions of this system, resolved once per process. Never null; an entry that the system lacks is null
+// (the tries on early Windows; none on Linux). Any thread.
 QZ_API const TSlimLockFunctions* SystemSlimLock() noexcept;
 
 } // namespace qz::platform

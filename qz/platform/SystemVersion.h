@@ -12,30 +12,30 @@
 
 namespace qz::platform {
 
-// The numbers as the system's core tells them: those of the kernel on Linux, where 6.1.25-rt3 gives 6, 1, 25 and "rt3".
+// The version of the kernel. On Linux 6.1.25-rt3 gives 6, 1, 25 and "rt3".
 struct TSystemVersion {
-    uint32_t Major = 0;
-    uint32_t Minor = 0;
-    uint32_t Build = 0;
-    std::u16string Pack; // what was put on it later, such as the name of a service pack
+    std::uint32_t Major = 0;
+    std::uint32_t Minor = 0;
+    std::uint32_t Build = 0;
+    std::u16string Pack; // the service pack, or the suffix of the kernel version
 };
 
 // Any thread.
 QZ_API TSystemVersion SystemVersion();
 
-// What Windows tells a program of itself, which depends on what the program's manifest claims to know.
+// What Windows reports to the program; the version depends on the program's manifest.
 struct TWindowsFacts {
-    bool HasKernel = false;  // the module of the kernel's functions was found
-    bool HasVersion = false; // the fields below are known, up to Metric89
-    uint32_t Major = 0;
-    uint32_t Minor = 0;
-    uint32_t ServicePack = 0;
+    bool HasKernel = false;  // kernel32 was found
+    bool HasVersion = false; // the fields up to Metric89 are valid
+    std::uint32_t Major = 0;
+    std::uint32_t Minor = 0;
+    std::uint32_t ServicePack = 0;
     bool IsWorkstation = false;
-    std::u16string CurrentBuild = {}; // as the registry has them
+    std::u16string CurrentBuild = {}; // from the registry
     std::u16string CurrentVersion = {};
     bool HasLargePages = false;
-    int Metric89 = 0; // of the second release of a server
-    // Functions of the kernel, which tell systems apart that do not tell their version.
+    int Metric89 = 0; // SM_SERVERR2
+    // Whether kernel32 has these functions, which distinguish old versions.
     bool HasOpenThread = false;
     bool HasThreadPriorityBoost = false;
     bool HasIsDebuggerPresent = false;
@@ -44,7 +44,7 @@ struct TWindowsFacts {
     bool HasBeep = false;
 };
 
-// Nothing on another system. Any thread.
+// Nothing on other systems. Any thread.
 QZ_API std::optional<TWindowsFacts> WindowsFacts();
 
 } // namespace qz::platform

@@ -1,10 +1,10 @@
-// The time zone that the system is set to, as plain data: what is added to UTC, and when that changes.
+// The system's time zone as plain data: the offsets from UTC, and when they change.
 //
 //     const std::string Stamp = SystemZoneStamp();
-//     const TSystemZone Zone = ReadSystemZone();       // anew only when the stamp is another
+//     const TSystemZone Zone = ReadSystemZone();       // again only when the stamp changes
 //
-// Some systems list every change there ever was, some know yearly rules; the data holds both. Reading it looks at files
-// and the environment (Linux) or the registry (Windows): keep the result.
+// The data holds a list of changes, yearly rules, or both. Reading it accesses files and the environment
+// (Linux) or the registry (Windows): keep the result.
 #pragma once
 
 #include <cstdint>
@@ -17,47 +17,47 @@
 namespace qz::platform {
 
 struct TZoneKind {
-    int32_t Offset;  // seconds to add to UTC
-    bool IsDaylight; // what the system calls daylight saving time, which may also lie behind standard time
+    std::int32_t Offset; // seconds to add to UTC
+    bool IsDaylight;     // daylight saving time, as the system defines it; may be behind standard time
     std::u16string Name; // "CEST", or a longer name on Windows
 
     friend bool operator==(const TZoneKind&, const TZoneKind&) = default;
 };
 
-// From a moment on, seconds since 1970-01-01 UTC, the kind with that number holds.
+// Kind number Kind applies from this moment on, in seconds since 1970-01-01 UTC.
 struct TZoneChange {
-    int64_t From;
-    uint16_t Kind;
+    std::int64_t From;
+    std::uint16_t Kind;
 
     friend bool operator==(const TZoneChange&, const TZoneChange&) = default;
 };
 
-enum class TZoneDayForm : uint8_t {
-    zdNone,      // there is no such day
+enum class TZoneDayForm : std::uint8_t {
+    zdNone,      // no day
     zdWeekday,   // a weekday of a month: the first to fourth, 5 for the last
     zdDate,      // a day of a month
     zdDayOfYear, // the day of the year, from 0
-    zdJulian     // the day of the year, from 1, where 29 February is not counted and cannot be told
+    zdJulian     // the day of the year from 1, not counting 29 February
 };
 
-// A day of each year and a time in it, which may lie outside that day.
+// A yearly day and a time relative to its start, which may lie outside that day.
 struct TZoneDay {
     TZoneDayForm Form = TZoneDayForm::zdNone;
-    uint8_t Month = 0;   // 1 to 12
-    uint8_t Week = 0;    // 1 to 5
-    uint8_t Weekday = 0; // 0 Sunday to 6 Saturday
-    uint16_t Day = 0;
-    int32_t MSecs = 0;
+    std::uint8_t Month = 0;   // 1 to 12
+    std::uint8_t Week = 0;    // 1 to 5
+    std::uint8_t Weekday = 0; // 0 Sunday to 6 Saturday
+    std::uint16_t Day = 0;
+    std::int32_t MSecs = 0;
 
     friend bool operator==(const TZoneDay&, const TZoneDay&) = default;
 };
 
-// The rule of the years from FirstYear until the next rule. The days are told in the local time that they end. Without
-// either day, standard time holds all the year.
+// The rule for the years from FirstYear until the next rule. Each day is in the local time that ends there.
+// If either day is missing, standard time applies all year.
 struct TZoneRule {
-    int32_t FirstYear;
-    uint16_t Standard; // numbers of kinds
-    uint16_t Daylight;
+    std::int32_t FirstYear;
+    std::uint16_t Standard; // indexes of Kinds
+    std::uint16_t Daylight;
     TZoneDay ToStandard;
     TZoneDay ToDaylight;
 
@@ -67,26 +67,27 @@ struct TZoneRule {
     friend bool operator==(const TZoneRule&, const TZoneRule&) = default;
 };
 
-// The first rule holds for earlier years too.
-constexpr int32_t cAnyYear = std::numeric_limits<int32_t>::min();
+// As FirstYear: the rule has no first year.
+constexpr std::int32_t cAnyYear = std::numeric_limits<std::int32_t>::min();
 
-// The changes hold up to the last of them, and from there on the rules; without changes the rules hold always. Without
-// rules the last kind stays. Offsets are below 26 hours, changes and first years rise, numbers of kinds are valid.
+// The changes apply until the last of them, then the rules. Without changes the rules always apply; without
+// rules the last kind stays. Offsets are below 26 hours, changes and first years ascend, kind indexes are
+// valid.
 struct TSystemZone {
     std::u16string Id; // "Europe/Paris", or the key of the zone on Windows
     std::vector<TZoneKind> Kinds;
-    uint16_t FirstKind = 0; // before the first change
+    std::uint16_t FirstKind = 0; // before the first change
     std::vector<TZoneChange> Changes;
     std::vector<TZoneRule> Rules;
 
     friend bool operator==(const TSystemZone&, const TSystemZone&) = default;
 };
 
-// What the zone is set to now. Without a readable setting it is UTC. Any thread; on Linux the environment must not be
-// changed meanwhile but by SetEnvironment. May raise std::bad_alloc.
+// The current setting; UTC if it cannot be read. Any thread; on Linux only SetEnvironment may change the
+// environment meanwhile. May raise std::bad_alloc.
 QZ_API TSystemZone ReadSystemZone();
 
-// Bytes that change whenever the setting does. As for ReadSystemZone.
+// Bytes that change whenever the setting does. Otherwise as ReadSystemZone.
 QZ_API std::string SystemZoneStamp();
 
 } // namespace qz::platform

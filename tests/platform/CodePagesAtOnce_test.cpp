@@ -12,12 +12,11 @@ namespace qz::platform {
 namespace {
 
 std::u16string RoundTrip(uint32_t APage, std::u16string_view AText) {
-    TError Error;
     std::string Bytes(AText.size() * 2, '\0');
-    Bytes.resize(Utf16ToCodePage(APage, AText, Bytes, TComposing::Plain, Error));
+    Bytes.resize(*Utf16ToCodePage(APage, AText, Bytes, TComposing::Plain));
     std::u16string Result(Bytes.size(), u'\0');
     const auto Source = std::as_bytes(std::span(Bytes));
-    Result.resize(CodePageToUtf16(APage, Source, Result, TDecoding::Strict, Error));
+    Result.resize(*CodePageToUtf16(APage, Source, Result, TDecoding::Strict));
     return Result;
 }
 

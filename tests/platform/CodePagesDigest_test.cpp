@@ -41,9 +41,8 @@ private:
 void AddDecoded(TDigest& ADigest, uint32_t APage, std::string_view ABytes) {
     char16_t Text[4];
     for (const TDecoding Decoding : {TDecoding::Lenient, TDecoding::Strict}) {
-        TError Error;
-        const size_t Length = CodePageToUtf16(APage, std::as_bytes(std::span(ABytes)), Text, Decoding, Error);
-        ADigest.AddAll(std::u16string_view(Text, Length));
+        const auto Length = CodePageToUtf16(APage, std::as_bytes(std::span(ABytes)), Text, Decoding);
+        ADigest.AddAll(std::u16string_view(Text, *Length));
     }
 }
 
@@ -70,9 +69,8 @@ std::string Digest(uint32_t APage, uint32_t AMaxCharSize, std::u16string_view AE
     }
     std::string Bytes(AEveryCharacter.size() * 2, '\0');
     for (const TComposing Composing : {TComposing::Plain, TComposing::Composite}) {
-        TError Error;
         Result.AddAll(
-            std::string_view(Bytes.data(), Utf16ToCodePage(APage, AEveryCharacter, Bytes, Composing, Error)));
+            std::string_view(Bytes.data(), *Utf16ToCodePage(APage, AEveryCharacter, Bytes, Composing)));
     }
     return Result.Text();
 }

@@ -20,24 +20,20 @@ std::span<const std::byte> BytesOf(std::string_view ABytes) {
 
 // Measures, converts with just the room that it takes, and compares the two lengths.
 std::u16string Decoded(uint32_t APage, std::string_view ABytes, TDecoding ADecoding = TDecoding::Lenient) {
-    TError Error{1};
-    const size_t Length = CodePageToUtf16(APage, BytesOf(ABytes), {}, ADecoding, Error);
-    if (Error.Code != 0) {
-        EXPECT_EQ(Length, 0u) << APage;
+    const TResult<size_t> Length = CodePageToUtf16(APage, BytesOf(ABytes), {}, ADecoding);
+    if (!Length)
         return cRefused;
-    }
-    std::u16string Result(Length, u'#');
-    EXPECT_EQ(CodePageToUtf16(APage, BytesOf(ABytes), Result, ADecoding, Error), Length) << APage;
-    EXPECT_EQ(Error.Code, 0) << APage;
+    std::u16string Result(*Length, u'#');
+    const TResult<size_t> Written = CodePageToUtf16(APage, BytesOf(ABytes), Result, ADecoding);
+    EXPECT_TRUE(Written && *Written == *Length) << APage;
     return Result;
 }
 
 std::string Encoded(uint32_t APage, std::u16string_view AText, TComposing AComposing = TComposing::Plain) {
-    TError Error{1};
-    std::string Result(Utf16ToCodePage(APage, AText, {}, AComposing, Error), '#');
-    EXPECT_EQ(Error.Code, 0) << APage;
-    EXPECT_EQ(Utf16ToCodePage(APage, AText, Result, AComposing, Error), Result.size()) << APage;
-    EXPECT_EQ(Error.Code, 0) << APage;
+    const TResult<size_t> Length = Utf16ToCodePage(APage, AText, {}, AComposing);
+    std::string Result(*Length, '#');
+    const TResult<size_t> Written = Utf16ToCodePage(APage, AText, Result, AComposing);
+    EXPECT_TRUE(Length && Written && *Written == *Length) << APage;
     return Result;
 }
 
@@ -138,45 +134,35 @@ TEST(CodePages, EncodesWhatThePageLacksByItsNearest) {
 }
 
 TEST(CodePages, RefusesATargetThatIsTooSmall) {
+    const int cTooSmall = ErrorOfSmallTarget().Code;
     for (const uint32_t Page : {1252u, 932u, 65001u}) {
-        TError Error;
         std::vector<char16_t> Text(3);
         std::vector<char> Bytes(3);
         for (const TDecoding Decoding : {TDecoding::Lenient, TDecoding::Strict}) {
-            EXPECT_EQ(CodePageToUtf16(Page, BytesOf("abcd"), Text, Decoding, Error), 0u) << Page;
-            EXPECT_EQ(Error.Code, CodeOfTooSmallTarget()) << Page;
+            EXPECT_EQ(CodePageToUtf16(Page, BytesOf("abcd"), Text, Decoding).Code(), cTooSmall) << Page;
         }
         for (const TComposing Composing : {TComposing::Plain, TComposing::Composite}) {
-            EXPECT_EQ(Utf16ToCodePage(Page, u"\xFF71\xFF71\xFF71\xFF71", Bytes, Composing, Error), 0u)
-                << Page;
-            EXPECT_EQ(Error.Code, CodeOfTooSmallTarget()) << Page;
+            const auto Result = Utf16ToCodePage(Page, u"\xFF71\xFF71\xFF71\xFF71", Bytes, Composing);
+            EXPECT_EQ(Result.Code(), cTooSmall) << Page;
         }
     }
-    TError Error;
     std::vector<char> Bytes(3);
-    EXPECT_EQ(Utf16ToCodePage(932, u"aテ", Bytes, TComposing::Plain, Error), 3u);
-    EXPECT_EQ(Utf16ToCodePage(1252, u"abe\x301", Bytes, TComposing::Composite, Error), 3u);
-    EXPECT_EQ(Utf16ToCodePage(932, u"テテ", Bytes, TComposing::Plain, Error), 0u);
-    EXPECT_EQ(Error.Code, CodeOfTooSmallTarget());
+    EXPECT_EQ(*Utf16ToCodePage(932, u"aテ", Bytes, TComposing::Plain), 3u);
+    EXPECT_EQ(*Utf16ToCodePage(1252, u"abe\x301", Bytes, TComposing::Composite), 3u);
+    EXPECT_EQ(Utf16ToCodePage(932, u"テテ", Bytes, TComposing::Plain).Code(), cTooSmall);
 }
 
 TEST(CodePages, RefusesUnknownPagesAndTooMuchText) {
     char Byte = 'a';
     for (const uint32_t Page : {1u, 2u, 3u, 1200u, 1201u, 12000u, 12001u, 4711u, 70000u}) {
         for (const size_t Length : {0u, 1u}) {
-            TError Error;
-            EXPECT_EQ(CodePageToUtf16(Page, BytesOf({&Byte, Length}), {}, TDecoding::Lenient, Error), 0u);
-            EXPECT_NE(Error.Code, 0) << Page;
-            Error.Code = 0;
-            EXPECT_EQ(Utf16ToCodePage(Page, std::u16string(Length, u'a'), {}, TComposing::Plain, Error), 0u);
-            EXPECT_NE(Error.Code, 0) << Page;
+            EXPECT_FALSE(CodePageToUtf16(Page, BytesOf({&Byte, Length}), {}, TDecoding::Lenient)) << Page;
+            EXPECT_FALSE(Utf16ToCodePage(Page, std::u16string(Length, u'a'), {}, TComposing::Plain)) << Page;
         }
         EXPECT_EQ(CodePageMaxCharSize(Page), 0u) << Page;
     }
-    TError Error;
     const std::span TooMuch(reinterpret_cast<const std::byte*>(&Byte), size_t{INT_MAX} + 1); // never read
-    EXPECT_EQ(CodePageToUtf16(1252, TooMuch, {}, TDecoding::Lenient, Error), 0u);
-    EXPECT_NE(Error.Code, 0);
+    EXPECT_FALSE(CodePageToUtf16(1252, TooMuch, {}, TDecoding::Lenient));
 }
 
 TEST(CodePages, PageZeroIsTheSystems) {

@@ -16,34 +16,31 @@ class FileHandle : public testing::Test {
 protected:
     bool Open(TFileHandle& AFile, TFileAccess AAccess, TFileSharing ASharing,
               TFileCreation ACreation = TFileCreation::Never) {
-        return AFile.Open(Path, AAccess, ACreation, ASharing, Error);
+        return static_cast<bool>(AFile.Open(Path, AAccess, ACreation, ASharing));
     }
     void Write(TFileHandle& AFile, std::string_view AText) {
-        size_t Done = 0;
-        EXPECT_TRUE(AFile.Write(std::as_bytes(std::span(AText)), Done, Error)) << Error.Code;
-        EXPECT_EQ(AText.size(), Done);
+        const TWritten Written = AFile.Write(std::as_bytes(std::span(AText)));
+        EXPECT_TRUE(Written && Written.Done == AText.size());
     }
     std::string Read(TFileHandle& AFile) {
         std::array<std::byte, 64> Buffer;
-        size_t Done = 0;
-        EXPECT_TRUE(AFile.Read(Buffer, Done, Error)) << Error.Code;
-        return {reinterpret_cast<const char*>(Buffer.data()), Done};
+        const TResult<size_t> Got = AFile.Read(Buffer);
+        EXPECT_TRUE(Got);
+        return {reinterpret_cast<const char*>(Buffer.data()), *Got};
     }
     int64_t Seek(TFileHandle& AFile, int64_t AOffset, TFileOrigin AOrigin = TFileOrigin::Beginning) {
-        int64_t Position = -1;
-        EXPECT_TRUE(AFile.Seek(AOffset, AOrigin, Position, Error)) << Error.Code;
-        return Position;
+        const TResult<int64_t> Position = AFile.Seek(AOffset, AOrigin);
+        EXPECT_TRUE(Position);
+        return *Position;
     }
 
     TTemporaryDirectory Directory;
     std::u16string Path = Directory / u"file";
-    TError Error;
 };
 
 TEST_F(FileHandle, OpensAsItIsToldTo) {
     TFileHandle File;
     EXPECT_FALSE(Open(File, TFileAccess::Read, cAll));
-    EXPECT_NE(0, Error.Code);
     ASSERT_TRUE(Open(File, TFileAccess::Write, cAll, TFileCreation::WhenMissing));
     Write(File, "abcdef");
     ASSERT_TRUE(Open(File, TFileAccess::ReadWrite, cAll, TFileCreation::WhenMissing));
@@ -53,21 +50,20 @@ TEST_F(FileHandle, OpensAsItIsToldTo) {
     Write(File, "XY");
     EXPECT_EQ(0, Seek(File, 0));
     EXPECT_EQ("abXYef", Read(File));
-    EXPECT_TRUE(File.SetSize(3, Error));
+    EXPECT_TRUE(File.SetSize(3));
     EXPECT_EQ(6, Seek(File, 0, TFileOrigin::Current)) << "the position stays";
     EXPECT_EQ(3, Seek(File, 0, TFileOrigin::End));
-    EXPECT_TRUE(File.Flush(Error));
+    EXPECT_TRUE(File.Flush());
     EXPECT_FALSE(Open(File, TFileAccess::Write, cAll, TFileCreation::Exclusive));
     ASSERT_TRUE(Open(File, TFileAccess::Write, cAll, TFileCreation::Always));
     EXPECT_EQ(0, Seek(File, 0, TFileOrigin::End));
     EXPECT_TRUE(File.Close());
-    EXPECT_FALSE(File.Open(Directory.Path(), TFileAccess::Read, TFileCreation::Never, cAll, Error));
-    EXPECT_FALSE(
-        File.Open(std::u16string_view(u"a\0b", 3), TFileAccess::Read, TFileCreation::Never, cAll, Error));
+    EXPECT_FALSE(File.Open(Directory.Path(), TFileAccess::Read, TFileCreation::Never, cAll));
+    EXPECT_FALSE(File.Open(std::u16string_view(u"a\0b", 3), TFileAccess::Read, TFileCreation::Never, cAll));
 }
 
 TEST_F(FileHandle, ASecondHandleIsLetInOnlyWhereBothAgree) {
-    ASSERT_TRUE(WriteWholeFile(Path, cNothing, Error));
+    ASSERT_TRUE(WriteWholeFile(Path, cNothing));
     const TFileAccess Accesses[] = {TFileAccess::Read, TFileAccess::Write, TFileAccess::ReadWrite};
     const TFileSharing Sharings[] = {{}, {.Read = true}, {.Write = true}, cAll};
     const auto Allows = [](TFileSharing ASharing, TFileAccess AAccess) {
@@ -90,27 +86,25 @@ TEST_F(FileHandle, ASecondHandleIsLetInOnlyWhereBothAgree) {
 }
 
 TEST_F(FileHandle, WhoIsRefusedEmptiesNothing) {
-    ASSERT_TRUE(WriteWholeFile(Path, std::as_bytes(std::span("old", 3)), Error));
+    ASSERT_TRUE(WriteWholeFile(Path, std::as_bytes(std::span("old", 3))));
     TFileHandle First, Second;
     ASSERT_TRUE(Open(First, TFileAccess::Read, {.Read = true}));
     EXPECT_FALSE(Open(Second, TFileAccess::Write, cAll, TFileCreation::Always));
-    EXPECT_FALSE(WriteWholeFile(Path, cNothing, Error));
+    EXPECT_FALSE(WriteWholeFile(Path, cNothing));
     EXPECT_EQ("old", Read(First));
     ASSERT_TRUE(Open(First, TFileAccess::Write, {.Write = true}));
-    std::vector<std::byte> Content;
-    EXPECT_FALSE(ReadWholeFile(Path, Content, Error));
+    EXPECT_FALSE(ReadWholeFile(Path));
 }
 
 // Never both of two that exclude each other; and one of them as a rule.
 TEST_F(FileHandle, OfRacingWritersAtMostOneIsLetIn) {
-    ASSERT_TRUE(WriteWholeFile(Path, cNothing, Error));
+    ASSERT_TRUE(WriteWholeFile(Path, cNothing));
     std::atomic<int> Inside{0};
     std::atomic<int> Times{0};
     const auto Work = [&] {
         for (int I = 0; I < 50; ++I) {
             TFileHandle File;
-            TError Reason;
-            if (!File.Open(Path, TFileAccess::ReadWrite, TFileCreation::Never, {.Read = true}, Reason))
+            if (!File.Open(Path, TFileAccess::ReadWrite, TFileCreation::Never, {.Read = true}))
                 continue;
             EXPECT_EQ(1, ++Inside);
             ++Times;
@@ -130,7 +124,7 @@ TEST_F(FileHandle, GoesBeyondFourGigabytes) {
     constexpr int64_t cFar = (int64_t{5} << 30) + 3;
     TFileHandle File;
     ASSERT_TRUE(Open(File, TFileAccess::ReadWrite, {}, TFileCreation::Always));
-    ASSERT_TRUE(File.SetSize(cFar, Error)) << Error.Code;
+    ASSERT_TRUE(File.SetSize(cFar));
     EXPECT_EQ(cFar, Seek(File, 0, TFileOrigin::End));
     Write(File, "end");
     EXPECT_EQ(cFar - 1, Seek(File, cFar - 1));

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -18,30 +19,25 @@ public:
         const std::string Name = "/qz-test-" + std::to_string(CurrentThreadId()) + "-" +
             std::to_string(TickCount64()) + "-" + std::to_string(reinterpret_cast<uintptr_t>(this));
         FPath = TempDirectory() + std::u16string(Name.begin(), Name.end());
-        TError Error;
-        EXPECT_TRUE(MakeDirectory(FPath, Error)) << Error.Code;
+        EXPECT_TRUE(MakeDirectory(FPath));
     }
     TTemporaryDirectory(const TTemporaryDirectory&) = delete;
     TTemporaryDirectory& operator=(const TTemporaryDirectory&) = delete;
-    ~TTemporaryDirectory() {
-        TError Error;
-        EXPECT_TRUE(Remove(FPath, Error)) << Error.Code;
-    }
+    ~TTemporaryDirectory() { EXPECT_TRUE(Remove(FPath)); }
 
     const std::u16string& Path() const { return FPath; }
 
     std::u16string operator/(std::u16string_view AName) const { return (FPath + u'/').append(AName); }
 
 private:
-    static bool Remove(const std::u16string& ADirectory, TError& AError) {
-        std::vector<TDirEntry> Entries;
-        ListDirectory(ADirectory, Entries, AError);
-        for (const TDirEntry& Entry : Entries) {
+    static TResult<> Remove(const std::u16string& ADirectory) {
+        const auto Entries = ListDirectory(ADirectory);
+        for (const TDirEntry& Entry : *Entries) {
             const std::u16string Path = (ADirectory + u'/').append(Entry.Name);
-            if (!RemoveFile(Path, AError) && Entry.IsDirectory)
-                Remove(Path, AError);
+            if (!RemoveFile(Path) && Entry.IsDirectory)
+                std::ignore = Remove(Path);
         }
-        return RemoveEmptyDirectory(ADirectory, AError);
+        return RemoveEmptyDirectory(ADirectory);
     }
 
     std::u16string FPath;

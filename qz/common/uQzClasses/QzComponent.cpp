@@ -55,6 +55,7 @@ void TQzComponent::SetAutoDestroy(bool AValue) {
 }
 
 void TQzComponent::FinishCreate() {
+    Inherited::FinishCreate();
     FRefCount.Decrement();
 }
 

@@ -67,14 +67,14 @@ public:
     // Ends all bindings that Bind made, the links to controls included.
     void ClearBindings();
 
-    // Called by Create behind AfterConstruction: takes back the reference that guards the component until then.
-    void FinishCreate();
     // Raises Exception with SCompRefCountNotZero while references remain; the component then lives on. One whose
     // owner ends meanwhile has no owner any more, and ends with its last reference.
     void BeforeDestruction() override;
-    void DestructionRefused() noexcept override;
 
 protected:
+    // Releases the reference that guards the component during its construction.
+    void FinishCreate() override;
+    void DestructionRefused() noexcept override;
     explicit TQzComponent(TComponent* AOwner);
     ~TQzComponent() override;
 

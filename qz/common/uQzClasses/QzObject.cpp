@@ -52,6 +52,7 @@ std::uint32_t TQzObject::_Release() {
 }
 
 void TQzObject::FinishCreate() {
+    Inherited::FinishCreate();
     FRefCount.Decrement();
 }
 

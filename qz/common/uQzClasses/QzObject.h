@@ -60,14 +60,14 @@ public:
     std::uint32_t _AddRef() override;
     std::uint32_t _Release() override;
 
-    // Called by Create behind AfterConstruction: takes back the reference that guards the object until then.
-    void FinishCreate();
     // Raises Exception with SObjRefCountNotZero while references remain; the object then lives on by its policy.
     void BeforeDestruction() override;
-    bool BeginDestruction() noexcept override;
-    void DestructionRefused() noexcept override;
 
 protected:
+    // Releases the reference that guards the object during its construction.
+    void FinishCreate() override;
+    bool BeginDestruction() noexcept override;
+    void DestructionRefused() noexcept override;
     TQzObject() noexcept = default;
     ~TQzObject() override = default;
 

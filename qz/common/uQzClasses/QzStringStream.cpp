@@ -91,12 +91,9 @@ std::int64_t TQzStringStream::GetCharCnt() const {
         return static_cast<std::int64_t>(FContentSize / 2);
     if (FCodePageMaxCharSize == 1)
         return static_cast<std::int64_t>(FContentSize);
-    platform::TError Error;
-    const std::size_t Count = DecodeCodePage(FCodePage, std::as_bytes(std::span(FBufferStart, FContentSize)),
-                                             {}, platform::TDecoding::Lenient, Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(FCodePage, Error);
-    return static_cast<std::int64_t>(Count);
+    const auto Content = std::as_bytes(std::span(FBufferStart, FContentSize));
+    return static_cast<std::int64_t>(
+        RequireConverted(FCodePage, DecodeCodePage(FCodePage, Content, {}, platform::TDecoding::Lenient)));
 }
 
 void TQzStringStream::SetAString(const AnsiString& AValue) {
@@ -136,14 +133,13 @@ void TQzStringStream::WriteText(std::u16string_view AText) {
     if (FCodePage == cUtf16CodePage)
         return WriteBuffer(AText.data(), static_cast<std::int64_t>(AText.size() * 2));
     std::array<char, 1024> Buffer;
-    platform::TError Error{platform::CodeOfTooSmallTarget()};
-    std::size_t Length = 0;
-    if (AText.size() <= Buffer.size() / 4)
-        Length = EncodeCodePage(FCodePage, AText, Buffer, platform::TComposing::Composite, Error);
-    if (Error.Code == 0)
-        return WriteBuffer(Buffer.data(), static_cast<std::int64_t>(Length));
-    if (Error.Code != platform::CodeOfTooSmallTarget())
-        RaiseCodePageError(FCodePage, Error);
+    if (AText.size() <= Buffer.size() / 4) {
+        const auto Length = EncodeCodePage(FCodePage, AText, Buffer, platform::TComposing::Composite);
+        if (Length)
+            return WriteBuffer(Buffer.data(), static_cast<std::int64_t>(*Length));
+        if (Length.Code() != platform::ErrorOfSmallTarget().Code)
+            RaiseCodePageError(FCodePage, Length.Error());
+    }
     const RawByteString Bytes =
         TQzEncoding::ConvertW(AText.data(), static_cast<std::int32_t>(AText.size()), FCodePage);
     WriteBuffer(Bytes.data(), Bytes.Length());
@@ -153,11 +149,9 @@ void TQzStringStream::WriteChar(char AChar) {
     if (FCodePage == cSystemCodePage)
         return WriteBuffer(&AChar, 1);
     char16_t Units[8]{};
-    platform::TError Error;
-    DecodeCodePage(cSystemCodePage, std::as_bytes(std::span(&AChar, 1)), Units, platform::TDecoding::Lenient,
-                   Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(cSystemCodePage, Error);
+    RequireConverted(cSystemCodePage,
+                     DecodeCodePage(cSystemCodePage, std::as_bytes(std::span(&AChar, 1)), Units,
+                                    platform::TDecoding::Lenient));
     WriteChar(Units[0]);
 }
 

@@ -74,9 +74,8 @@ void TQzStringStream::SaveToFile(const TStringArg& AFileName, std::uint16_t ACod
         std::as_bytes(std::span(Mark)),
         AsItStands ? std::as_bytes(std::span(FBufferStart, FContentSize)) : Converted.Bytes(),
     };
-    platform::TError Error;
-    if (!platform::WriteWholeFile(AFileName, Pieces, Error))
-        throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Error.Code)});
+    if (const platform::TResult<> Written = platform::WriteWholeFile(AFileName, Pieces); !Written)
+        throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Written.Code())});
 }
 
 } // namespace qz

@@ -61,18 +61,18 @@ char16_t TQzStringStream::ReadConverted() {
         return ReadRun(1).View().front();
     const std::size_t Window = std::min<std::size_t>(FCodePageMaxCharSize, Rest());
     char16_t Units[8]{};
-    platform::TError Error;
-    const std::size_t Count = DecodeCodePage(FCodePage, std::as_bytes(std::span(FCurPos, Window)), Units,
-                                             platform::TDecoding::Lenient, Error);
+    const std::size_t Count =
+        RequireConverted(FCodePage,
+                         DecodeCodePage(FCodePage, std::as_bytes(std::span(FCurPos, Window)), Units,
+                                        platform::TDecoding::Lenient));
     std::size_t Step = 1;
-    if (Error.Code == 0 && FCodePageMaxCharSize != 1) {
+    if (FCodePageMaxCharSize != 1) {
         const bool Tears = Count > 1 && IsHighSurrogate(Units[0]) && IsLowSurrogate(Units[1]) &&
             RealCodePage(FCodePage) != cUtf8CodePage;
         const std::size_t Whole = std::min<std::size_t>(Count, Tears ? 2 : 1);
-        Step = EncodeCodePage(FCodePage, {Units, Whole}, {}, platform::TComposing::Composite, Error);
+        Step = RequireConverted(
+            FCodePage, EncodeCodePage(FCodePage, {Units, Whole}, {}, platform::TComposing::Composite));
     }
-    if (Error.Code != 0)
-        RaiseCodePageError(FCodePage, Error);
     FCurPos += std::min(Step, Rest());
     return Units[0];
 }

@@ -201,11 +201,9 @@ void TTextParserKind<Kind>::SkipWhileA(TQzTextParser& AParser, TQzTextParserSkip
     if constexpr (Kind == MBCS) {
         if (Char >= 0x80) {
             char16_t Units[8]{};
-            platform::TError Error;
-            DecodeCodePage(cSystemCodePage, std::as_bytes(std::span(&AChar, 1)), Units,
-                           platform::TDecoding::Lenient, Error);
-            if (Error.Code != 0)
-                RaiseCodePageError(cSystemCodePage, Error);
+            RequireConverted(cSystemCodePage,
+                             DecodeCodePage(cSystemCodePage, std::as_bytes(std::span(&AChar, 1)), Units,
+                                            platform::TDecoding::Lenient));
             return SkipWhileW(AParser, AOp, Units[0]);
         }
     }

@@ -74,11 +74,8 @@ std::unique_ptr<TWideTable> MakeTable(std::uint16_t ACodePage) {
     for (std::size_t I = 0; I < 256; ++I) {
         const auto Byte = static_cast<std::byte>(I);
         char16_t Units[8];
-        platform::TError Error;
-        const std::size_t Count =
-            DecodeCodePage(ACodePage, {&Byte, 1}, Units, platform::TDecoding::Lenient, Error);
-        if (Error.Code != 0)
-            RaiseCodePageError(ACodePage, Error);
+        const std::size_t Count = RequireConverted(
+            ACodePage, DecodeCodePage(ACodePage, {&Byte, 1}, Units, platform::TDecoding::Lenient));
         Table->Units[I] = Count == 1 ? Units[0] : cReplacementChar;
     }
     return Table;

@@ -53,11 +53,10 @@ const UnicodeString& TQzDailyRollingFileAppender::TextOfNow() {
 
 // The text for the file that is there; false when it cannot be found out.
 bool TQzDailyRollingFileAppender::TextOfFile(UnicodeString& AText) {
-    platform::TFileTimes Times;
-    platform::TError Error;
-    if (!platform::ReadFileTimes(FileName(), Times, Error))
+    const platform::TResult<platform::TFileTimes> Times = platform::ReadFileTimes(FileName());
+    if (!Times)
         return false;
-    AText = FormatDateTime(FDatePattern, QzUTCToLocal(QzFileTimeToDateTime(Times.Created)));
+    AText = FormatDateTime(FDatePattern, QzUTCToLocal(QzFileTimeToDateTime(Times->Created)));
     return true;
 }
 

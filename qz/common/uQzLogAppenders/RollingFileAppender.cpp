@@ -67,11 +67,10 @@ bool TQzRollingFileAppender::IsOfFamily(std::u16string_view AName) const {
 std::vector<TQzRollingFileAppender::TMember> TQzRollingFileAppender::Family() {
     const UnicodeString Path = ExtractFilePath(FileName());
     const UnicodeString Live = ExtractFileName(FileName());
-    std::vector<platform::TDirEntry> Entries;
-    platform::TError Error;
-    platform::ListDirectory(Path.IsEmpty() ? u"." : Path.View(), Entries, Error);
+    // A directory that cannot be listed has no members.
+    const auto Entries = platform::ListDirectory(Path.IsEmpty() ? u"." : Path.View());
     std::vector<TMember> Result;
-    for (const platform::TDirEntry& Entry : Entries) {
+    for (const platform::TDirEntry& Entry : *Entries) {
         if (IsOfFamily(Entry.Name))
             Result.push_back(
                 {Entry.Name, !SameFileName(Entry.Name, Live), CreateFileInfo(Entry.Name), false});

@@ -30,11 +30,11 @@ std::atomic<bool> GHasForked{false};
 // Makes the file, if it is not there at this moment. Its day is that of its making even where its name has been used before.
 void MakeFile(const TStringArg& AFileName) {
     platform::TFileHandle File;
-    platform::TError Error;
-    if (!File.Open(AFileName, platform::TFileAccess::ReadWrite, platform::TFileCreation::Exclusive,
-                   {.Read = true}, Error)) {
+    const platform::TResult<> Made = File.Open(AFileName, platform::TFileAccess::ReadWrite,
+                                               platform::TFileCreation::Exclusive, {.Read = true});
+    if (!Made) {
         if (!FileExists(AFileName))
-            throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Error.Code)});
+            throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Made.Code())});
         return;
     }
     File.Close();
@@ -71,11 +71,8 @@ TQzTextFile::TQzTextFile(const TStringArg& AFileName, TCriticalSection* ALock)
       FIsWholePath(IsWholePath(AFileName)),
       FSizeLimit(platform::FileSizeLimit()),
       FLookedAt(platform::CoarseTickCount64()) {
-    platform::TError Error;
-    std::int64_t End = 0; // of a pipe or a device
     FFile.SetAppending();
-    FFile.Handle().Seek(0, platform::TFileOrigin::End, End, Error);
-    FSize = End;
+    FSize = *FFile.Handle().Seek(0, platform::TFileOrigin::End); // 0 for a pipe or a device
     TLineFlusher::Instance().Add(*this);
 }
 
@@ -188,10 +185,8 @@ bool TQzTextFile::HasGone() {
     FSizeLimit = platform::FileSizeLimit();
     if (!FFile.Handle().IsAt(FFile.FileName()))
         return true;
-    platform::TError Error;
-    std::int64_t End = 0;
-    if (FFile.Handle().Seek(0, platform::TFileOrigin::End, End, Error))
-        FSize = End + static_cast<std::int64_t>(FWaiting);
+    if (const auto End = FFile.Handle().Seek(0, platform::TFileOrigin::End))
+        FSize = *End + static_cast<std::int64_t>(FWaiting);
     return false;
 }
 

@@ -11,7 +11,6 @@ namespace {
 
 using platform::TComposing;
 using platform::TDecoding;
-using platform::TError;
 using TSource = std::span<const std::byte>;
 
 // Bytes before the first terminator of a text in that page.
@@ -55,12 +54,11 @@ std::size_t RoomOf(const void* ATarget, std::int32_t ALength) {
     return ATarget == nullptr ? 0 : static_cast<std::size_t>(ALength);
 }
 
-std::int32_t Checked(std::size_t ACount, std::uint16_t ACodePage, TError AError) {
-    if (AError.Code == 0 && ACount > INT32_MAX)
-        AError.Code = platform::CodeOfTooSmallTarget();
-    if (AError.Code != 0)
-        RaiseCodePageError(ACodePage, AError);
-    return static_cast<std::int32_t>(ACount);
+std::int32_t Checked(std::uint16_t ACodePage, const platform::TResult<std::size_t>& ACount) {
+    const std::size_t Count = RequireConverted(ACodePage, ACount);
+    if (Count > INT32_MAX)
+        RaiseCodePageError(ACodePage, platform::ErrorOfSmallTarget());
+    return static_cast<std::int32_t>(Count);
 }
 
 RawByteString Encoded(std::u16string_view AText, std::uint16_t ACodePage) {
@@ -100,10 +98,8 @@ std::int32_t TQzEncoding::ConvertA(const void* ASrc, std::int32_t ALen, std::uin
     }
     if (Source.empty())
         return 0;
-    TError Error;
-    const std::size_t Count =
-        DecodeCodePage(ACodePage, Source, {ADst, RoomOf(ADst, ADstLen)}, TDecoding::Strict, Error);
-    return Checked(Count, ACodePage, Error);
+    return Checked(ACodePage,
+                   DecodeCodePage(ACodePage, Source, {ADst, RoomOf(ADst, ADstLen)}, TDecoding::Strict));
 }
 
 RawByteString TQzEncoding::ConvertW(const UnicodeString& AText, std::uint16_t ACodePage) {
@@ -121,10 +117,8 @@ std::int32_t TQzEncoding::ConvertW(const char16_t* ASrc, std::int32_t ALen, char
         Source = {Source.data(), Source.size() + 1};
     if (Source.empty())
         return 0;
-    TError Error;
-    const std::size_t Count =
-        EncodeCodePage(ACodePage, Source, {ADst, RoomOf(ADst, ADstLen)}, TComposing::Composite, Error);
-    return Checked(Count, ACodePage, Error);
+    return Checked(ACodePage,
+                   EncodeCodePage(ACodePage, Source, {ADst, RoomOf(ADst, ADstLen)}, TComposing::Composite));
 }
 
 RawByteString TQzEncoding::ConvertB(const void* ASrc, std::size_t ASize, std::uint16_t ASrcCodePage,

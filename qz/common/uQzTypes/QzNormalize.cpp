@@ -11,8 +11,6 @@
 namespace qz {
 namespace {
 
-using platform::TError;
-
 void RequireNormalizer() {
     switch (platform::PrepareNormalizer()) {
     case platform::TNormalizer::Ready: return;
@@ -23,26 +21,22 @@ void RequireNormalizer() {
 }
 
 bool IsCompatibleWith(char16_t AUnit, std::u16string_view AText) {
-    std::u16string Plain;
-    TError Error;
-    return platform::NormalizeText(static_cast<int>(NormalizationKD), {&AUnit, 1}, Plain, Error) &&
-        Plain == AText;
+    const auto Plain = platform::NormalizeText(static_cast<int>(NormalizationKD), {&AUnit, 1});
+    return Plain && *Plain == AText;
 }
 
 // What the system's code page gives for a character that no page has.
 char DefaultByte() {
     constexpr char16_t cNothing = 0xFFFF;
     char Bytes[4] = {'?'};
-    TError Error;
-    EncodeCodePage(cSystemCodePage, {&cNothing, 1}, Bytes, platform::TComposing::Plain, Error);
+    std::ignore = EncodeCodePage(cSystemCodePage, {&cNothing, 1}, Bytes, platform::TComposing::Plain);
     return Bytes[0];
 }
 
 // The one byte above 0 that the system's code page has for the unit, exactly or as its best fit.
 std::optional<char16_t> SystemByte(char16_t AUnit) {
     char Byte = '\0';
-    TError Error;
-    if (EncodeCodePage(cSystemCodePage, {&AUnit, 1}, {&Byte, 1}, platform::TComposing::Plain, Error) != 1 ||
+    if (*EncodeCodePage(cSystemCodePage, {&AUnit, 1}, {&Byte, 1}, platform::TComposing::Plain) != 1 ||
         Byte == '\0')
         return std::nullopt;
     // The byte that stands for all that the code page lacks is the best fit of some marks too.
@@ -52,10 +46,10 @@ std::optional<char16_t> SystemByte(char16_t AUnit) {
 }
 
 std::u16string Normalized(std::u16string_view AText, TNorm_Form AForm) {
-    std::u16string Result;
-    TError Error;
-    if (!platform::NormalizeText(static_cast<int>(AForm), AText, Result, Error))
+    platform::TResult<std::u16string> Normal = platform::NormalizeText(static_cast<int>(AForm), AText);
+    if (!Normal)
         throw Exception(u"Failed to normalize the given value");
+    std::u16string Result = std::move(*Normal);
     if (AForm == NormalizationD) {
         for (char16_t& Unit : Result) {
             if (Unit > 127)

@@ -33,10 +33,9 @@ UnicodeString QzGetUserName() {
 }
 
 UnicodeString QzGetUserName(UnicodeString& ADomain) {
-    std::u16string Domain;
-    UnicodeString Name = platform::AccountName(Domain);
-    ADomain = Domain;
-    return Name;
+    const platform::TAccountName Account = platform::AccountName();
+    ADomain = Account.Domain;
+    return Account.Name;
 }
 
 std::uint32_t QzGetCurrentThreadId() noexcept {

@@ -32,11 +32,15 @@ TDateTime DosTime(std::int64_t ATime) {
 }
 
 TDateTime TimeOfFile(const TStringArg& AName, std::int64_t platform::TFileTimes::*AWhich) {
-    platform::TFileTimes Times;
-    platform::TError Error;
-    if (!platform::ReadFileTimes(AName, Times, Error) || Times.IsDirectory)
+    const platform::TResult<platform::TFileTimes> Times = platform::ReadFileTimes(AName);
+    if (!Times || Times->IsDirectory)
         return 0;
-    return DosTime(Times.*AWhich);
+    return DosTime((*Times).*AWhich);
+}
+
+void Check(const platform::TResult<>& AResult) {
+    if (!AResult)
+        RaiseOSError(AResult.Code());
 }
 
 } // namespace
@@ -50,15 +54,11 @@ TDateTime QzGetFileLastModified(const TStringArg& AName) {
 }
 
 void QzSetFileCreated(const TStringArg& AName, TDateTime ADate) {
-    platform::TError Error;
-    if (!platform::SetFileCreated(AName, FileTimeOf(ADate), Error))
-        RaiseOSError(Error.Code);
+    Check(platform::SetFileCreated(AName, FileTimeOf(ADate)));
 }
 
 TDateTime QzFileTimeToDateTime(std::int64_t AFileTime) {
-    platform::TError Error;
-    if (!platform::CheckFileTime(AFileTime, Error))
-        RaiseOSError(Error.Code);
+    Check(platform::CheckFileTime(AFileTime));
     const std::int64_t MSecs = AFileTime / cStepsPerMSec;
     const std::int64_t Day = MSecs / MSecsPerDay + Day1601;
     return JoinDateTime(
@@ -67,9 +67,7 @@ TDateTime QzFileTimeToDateTime(std::int64_t AFileTime) {
 
 std::int64_t QzDateTimeToFileTime(TDateTime ADate) {
     const std::int64_t Result = FileTimeOf(ADate);
-    platform::TError Error;
-    if (!platform::CheckFileTime(Result, Error))
-        RaiseOSError(Error.Code);
+    Check(platform::CheckFileTime(Result));
     return Result;
 }
 

@@ -6,10 +6,10 @@
 namespace qz {
 
 UnicodeString QzGetShellFolder(std::int32_t AFolder) {
-    std::u16string Path;
-    if (!platform::ShellFolder(AFolder, Path))
+    const std::optional<std::u16string> Path = platform::ShellFolder(AFolder);
+    if (!Path)
         throw Exception(u"Invalid pidl");
-    return Path;
+    return *Path;
 }
 
 UnicodeString QzGetMyDocumentsFolder() {

@@ -52,12 +52,13 @@ std::u16string UserName() {
     return detail::FromNative(EffectiveUser());
 }
 
-std::u16string AccountName(std::u16string& ADomain) {
-    std::u16string Name = UserName();
-    ADomain = detail::TakeDomain(Name);
-    if (ADomain.empty())
-        ADomain = ComputerName();
-    return Name;
+TAccountName AccountName() {
+    TAccountName Result;
+    Result.Name = UserName();
+    Result.Domain = detail::TakeDomain(Result.Name);
+    if (Result.Domain.empty())
+        Result.Domain = ComputerName();
+    return Result;
 }
 
 TElevation Elevation() noexcept {

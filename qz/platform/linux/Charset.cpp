@@ -8,10 +8,10 @@ namespace qz::platform::detail {
 
 namespace {
 
-constexpr uint32_t cUtf8Page = 65001;
+constexpr std::uint32_t cUtf8Page = 65001;
 
 struct TPageName {
-    uint32_t Page;
+    std::uint32_t Page;
     const char* Name;
 };
 
@@ -33,8 +33,8 @@ std::string CapitalsAndDigits(std::string_view AName) {
 }
 
 // The number behind APrefix, 0 when AText is anything else.
-uint32_t NumberBehind(std::string_view AText, std::string_view APrefix) {
-    uint32_t Result = 0;
+std::uint32_t NumberBehind(std::string_view AText, std::string_view APrefix) {
+    std::uint32_t Result = 0;
     if (!AText.starts_with(APrefix))
         return 0;
     const char* End = AText.data() + AText.size();
@@ -44,16 +44,16 @@ uint32_t NumberBehind(std::string_view AText, std::string_view APrefix) {
 
 } // namespace
 
-uint32_t CodePageOfCharset(std::string_view AName) {
+std::uint32_t CodePageOfCharset(std::string_view AName) {
     const std::string Name = CapitalsAndDigits(AName);
     for (const TPageName& Known : cLocaleSets) {
         if (Name == Known.Name)
             return Known.Page;
     }
-    if (const uint32_t Part = NumberBehind(Name, "ISO8859"); Part >= 1 && Part <= 16 && Part != 12)
+    if (const std::uint32_t Part = NumberBehind(Name, "ISO8859"); Part >= 1 && Part <= 16 && Part != 12)
         return 28590 + Part;
     for (const char* Prefix : {"CP", "WINDOWS", "IBM"}) {
-        if (const uint32_t Page = NumberBehind(Name, Prefix); Page != 0)
+        if (const std::uint32_t Page = NumberBehind(Name, Prefix); Page != 0)
             return Page;
     }
     return cUtf8Page;

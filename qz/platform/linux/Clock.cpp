@@ -7,17 +7,17 @@ namespace qz::platform {
 namespace {
 
 // From 1601-01-01 to 1970-01-01.
-constexpr int64_t cUnixEpochSeconds = 11'644'473'600;
+constexpr std::int64_t cUnixEpochSeconds = 11'644'473'600;
 
 } // namespace
 
-int64_t UtcNow100ns() noexcept {
+std::int64_t UtcNow100ns() noexcept {
     timespec Now;
     clock_gettime(CLOCK_REALTIME, &Now);
     return (Now.tv_sec + cUnixEpochSeconds) * 10'000'000 + Now.tv_nsec / 100;
 }
 
-int64_t UtcNowSeconds() noexcept {
+std::int64_t UtcNowSeconds() noexcept {
     return time(nullptr) + cUnixEpochSeconds;
 }
 

@@ -14,30 +14,30 @@ constexpr char16_t cNoChar = 0xFFFF;
 // The Count codes from First on mean the characters from Char on, or nothing when Char is cNoChar. A code is a
 // byte, or lead byte * 256 + trail byte.
 struct TCodeRow {
-    uint16_t First;
-    uint16_t Count;
+    std::uint16_t First;
+    std::uint16_t Count;
     char16_t Char;
 };
 
 // The codes or characters from First on belong to the characters of the text, one by one.
 struct TCharText {
-    uint16_t First;
+    std::uint16_t First;
     std::u16string_view Chars;
 };
 
 struct TCodeRange {
-    uint16_t First;
-    uint16_t Last;
+    std::uint16_t First;
+    std::uint16_t Last;
 };
 
 struct TPageData {
-    uint16_t Page;
-    uint16_t Base;                           // the page that this one is made from, 0: Converter
+    std::uint16_t Page;
+    std::uint16_t Base;                      // the page that this one is made from, 0: Converter
     const char* Converter;                   // ICU's name
     std::string_view Leads;                  // first and last lead byte of each range
-    uint8_t Default;                         // encodes what the page lacks
+    std::uint8_t Default;                    // encodes what the page lacks
     char16_t UnicodeDefault;                 // decoded from what means nothing
-    uint16_t FitsLike;                       // a page whose best fits are valid here, too; 0: none
+    std::uint16_t FitsLike;                  // a page whose best fits are valid here, too; 0: none
     std::span<const TCodeRow> Rows;          // what differs from the base ...
     std::span<const TCharText> Texts;        // ... as well
     std::span<const TCharText> Lenient;      // what only lenient decoding takes

@@ -13,9 +13,9 @@ namespace qz::platform::detail {
 namespace {
 
 // Sixteen units at a time, by the vector types of the compilers.
-constexpr size_t cBlock = 16;
-using TBytes [[gnu::vector_size(cBlock)]] = uint8_t;
-using THalf [[gnu::vector_size(cBlock)]] = uint16_t;
+constexpr std::size_t cBlock = 16;
+using TBytes [[gnu::vector_size(cBlock)]] = std::uint8_t;
+using THalf [[gnu::vector_size(cBlock)]] = std::uint16_t;
 
 // In two vectors of the size that every machine has: of larger ones the compilers make poor code.
 struct TUnits {
@@ -24,10 +24,10 @@ struct TUnits {
 };
 
 template <class TBlock> bool IsClear(const TBlock& AMask) noexcept {
-    std::array<uint64_t, sizeof(TBlock) / sizeof(uint64_t)> Words;
+    std::array<std::uint64_t, sizeof(TBlock) / sizeof(std::uint64_t)> Words;
     std::memcpy(Words.data(), &AMask, sizeof(AMask));
-    uint64_t All = 0;
-    for (const uint64_t Word : Words)
+    std::uint64_t All = 0;
+    for (const std::uint64_t Word : Words)
         All |= Word;
     return All == 0;
 }
@@ -35,24 +35,24 @@ template <class TBlock> bool IsClear(const TBlock& AMask) noexcept {
 // Whether the units are in place in every page that has ASCII or, with cLatin, Latin-1 but for 80 to 9F.
 template <bool cLatin> bool IsInPlace(const TBytes& AUnits) noexcept {
     if constexpr (cLatin)
-        return IsClear((AUnits & uint8_t{0xE0}) == uint8_t{0x80});
+        return IsClear((AUnits & std::uint8_t{0xE0}) == std::uint8_t{0x80});
     else
-        return IsClear(AUnits & uint8_t{0x80});
+        return IsClear(AUnits & std::uint8_t{0x80});
 }
 
 template <bool cLatin> bool IsInPlace(const TUnits& AUnits) noexcept {
     const THalf All = AUnits.Low | AUnits.High;
     if constexpr (cLatin) {
-        const auto Controls = ((AUnits.Low & uint16_t{0xE0}) == uint16_t{0x80}) |
-            ((AUnits.High & uint16_t{0xE0}) == uint16_t{0x80});
-        return IsClear((All & uint16_t{0xFF00}) | std::bit_cast<THalf>(Controls));
+        const auto Controls = ((AUnits.Low & std::uint16_t{0xE0}) == std::uint16_t{0x80}) |
+            ((AUnits.High & std::uint16_t{0xE0}) == std::uint16_t{0x80});
+        return IsClear((All & std::uint16_t{0xFF00}) | std::bit_cast<THalf>(Controls));
     } else {
-        return IsClear(All & uint16_t{0xFF80});
+        return IsClear(All & std::uint16_t{0xFF80});
     }
 }
 
 void Store(const TBytes& AUnits, char16_t* ATarget) noexcept {
-    using TWide [[gnu::vector_size(cBlock * 2)]] = uint16_t;
+    using TWide [[gnu::vector_size(cBlock * 2)]] = std::uint16_t;
     const auto Wide = __builtin_convertvector(AUnits, TWide);
     std::memcpy(ATarget, &Wide, sizeof(Wide));
 }
@@ -70,8 +70,8 @@ template <class TByte> void Store(const TUnits& AUnits, TByte* ATarget) noexcept
 
 // Blocks of units that mean themselves, however many there are from ASource on. Gives the units converted.
 template <bool cLatin, class TBlock, class TIn, class TOut>
-size_t ConvertInPlace(const TIn* ASource, size_t ALength, TOut* ATarget) noexcept {
-    size_t Done = 0;
+std::size_t ConvertInPlace(const TIn* ASource, std::size_t ALength, TOut* ATarget) noexcept {
+    std::size_t Done = 0;
     for (; ALength - Done >= cBlock; Done += cBlock) {
         TBlock Units;
         std::memcpy(&Units, ASource + Done, sizeof(Units));
@@ -85,13 +85,14 @@ size_t ConvertInPlace(const TIn* ASource, size_t ALength, TOut* ATarget) noexcep
 // Unit by unit by ATable, but blocks that are in place at once. Where there are few of them they are looked for
 // less often.
 template <bool cLatin, class TBlock, class TIn, class TOut>
-void ConvertBlocks(const TIn* ASource, size_t ALength, TOut* ATarget, const TOut* ATable) noexcept {
-    size_t Done = 0;
-    for (size_t Stretch = cBlock; ALength - Done >= cBlock;) {
-        const size_t InPlace = ConvertInPlace<cLatin, TBlock>(ASource + Done, ALength - Done, ATarget + Done);
+void ConvertBlocks(const TIn* ASource, std::size_t ALength, TOut* ATarget, const TOut* ATable) noexcept {
+    std::size_t Done = 0;
+    for (std::size_t Stretch = cBlock; ALength - Done >= cBlock;) {
+        const std::size_t InPlace =
+            ConvertInPlace<cLatin, TBlock>(ASource + Done, ALength - Done, ATarget + Done);
         Stretch = InPlace != 0 ? cBlock : std::min(Stretch * 2, 8 * cBlock);
         Done += InPlace;
-        for (const size_t End = Done + std::min(Stretch, ALength - Done); Done < End; ++Done)
+        for (const std::size_t End = Done + std::min(Stretch, ALength - Done); Done < End; ++Done)
             ATarget[Done] = ATable[ASource[Done]];
     }
     for (; Done < ALength; ++Done)
@@ -100,38 +101,32 @@ void ConvertBlocks(const TIn* ASource, size_t ALength, TOut* ATarget, const TOut
 
 // The same for any page; one that doesn't have ASCII in place goes by the table alone.
 template <class TBlock, class TIn, class TOut>
-void ConvertSingle(const TCodePage& APage, const TIn* ASource, size_t ALength, TOut* ATarget,
+void ConvertSingle(const TCodePage& APage, const TIn* ASource, std::size_t ALength, TOut* ATarget,
                    const TOut* ATable) noexcept {
     if (APage.HasLatin)
         return ConvertBlocks<true, TBlock>(ASource, ALength, ATarget, ATable);
     if (APage.HasAscii)
         return ConvertBlocks<false, TBlock>(ASource, ALength, ATarget, ATable);
-    for (size_t I = 0; I < ALength; ++I)
+    for (std::size_t I = 0; I < ALength; ++I)
         ATarget[I] = ATable[ASource[I]];
 }
 
-// Whether ALength units go into ATarget, where an empty one only measures. AError tells if they don't.
-bool HasRoom(size_t ALength, size_t ARoom, TError& AError) noexcept {
-    AError.Code = ARoom == 0 || ALength <= ARoom ? 0 : CodeOfTooSmallTarget();
-    return AError.Code == 0;
+// Whether ALength units go into a target of ARoom units, where 0 means that the length is only measured.
+bool HasRoom(std::size_t ALength, std::size_t ARoom) noexcept {
+    return ARoom == 0 || ALength <= ARoom;
 }
 
-size_t Fail(int ACode, TError& AError) noexcept {
-    AError.Code = ACode;
-    return 0;
-}
-
-bool HasRefused(const TCodePage& APage, const uint8_t* ASource, size_t ALength) noexcept {
+bool HasRefused(const TCodePage& APage, const std::uint8_t* ASource, std::size_t ALength) noexcept {
     return APage.Refuses &&
-        std::any_of(ASource, ASource + ALength, [&](uint8_t A) { return APage.Refused[A] != 0; });
+        std::any_of(ASource, ASource + ALength, [&](std::uint8_t A) { return APage.Refused[A] != 0; });
 }
 
-size_t DecodeSingle(const TCodePage& APage, std::span<const uint8_t> ASource, std::span<char16_t> ATarget,
-                    TDecoding ADecoding, TError& AError) noexcept {
+TResult<std::size_t> DecodeSingle(const TCodePage& APage, std::span<const std::uint8_t> ASource,
+                                  std::span<char16_t> ATarget, TDecoding ADecoding) noexcept {
     if (ADecoding == TDecoding::Strict && HasRefused(APage, ASource.data(), ASource.size()))
-        return Fail(EILSEQ, AError);
-    if (!HasRoom(ASource.size(), ATarget.size(), AError))
-        return 0;
+        return ErrorOfInvalidText();
+    if (!HasRoom(ASource.size(), ATarget.size()))
+        return ErrorOfSmallTarget();
     if (!ATarget.empty())
         ConvertSingle<TBytes>(APage, ASource.data(), ASource.size(), ATarget.data(), APage.Single.data());
     return ASource.size();
@@ -140,15 +135,15 @@ size_t DecodeSingle(const TCodePage& APage, std::span<const uint8_t> ASource, st
 // A character of a double-byte page, and how it was found.
 struct TDecoded {
     char16_t Char;
-    uint8_t Length;
+    std::uint8_t Length;
     bool IsKnown;
 };
 
 // The character at ASource, of which there are ALeft bytes. A lead byte without a trail byte or before a zero
 // is one that means nothing; the zero stays. Otherwise the trail byte goes with its lead, whatever it is.
-TDecoded DecodeOne(const TCodePage& APage, const uint8_t* ASource, size_t ALeft) noexcept {
-    const uint8_t Byte = *ASource;
-    const uint8_t Lead = APage.Leads[Byte];
+TDecoded DecodeOne(const TCodePage& APage, const std::uint8_t* ASource, std::size_t ALeft) noexcept {
+    const std::uint8_t Byte = *ASource;
+    const std::uint8_t Lead = APage.Leads[Byte];
     if (Lead == 0)
         return {APage.Single[Byte], 1, APage.Refused[Byte] == 0};
     if (ALeft < 2 || ASource[1] == 0)
@@ -160,12 +155,12 @@ TDecoded DecodeOne(const TCodePage& APage, const uint8_t* ASource, size_t ALeft)
 }
 
 // Fails for what means nothing if ADecoding is strict. Writes if there is a target.
-size_t DecodeDouble(const TCodePage& APage, std::span<const uint8_t> ASource, char16_t* ATarget,
-                    TDecoding ADecoding, TError& AError) noexcept {
-    size_t Length = 0;
-    for (size_t At = 0; At < ASource.size();) {
+TResult<std::size_t> DecodeDouble(const TCodePage& APage, std::span<const std::uint8_t> ASource,
+                                  char16_t* ATarget, TDecoding ADecoding) noexcept {
+    std::size_t Length = 0;
+    for (std::size_t At = 0; At < ASource.size();) {
         if (ATarget != nullptr && APage.HasAscii && ASource[At] < 0x80) {
-            const size_t Done =
+            const std::size_t Done =
                 ConvertInPlace<false, TBytes>(&ASource[At], ASource.size() - At, ATarget + Length);
             At += Done;
             Length += Done;
@@ -174,13 +169,12 @@ size_t DecodeDouble(const TCodePage& APage, std::span<const uint8_t> ASource, ch
         }
         const TDecoded Next = DecodeOne(APage, &ASource[At], ASource.size() - At);
         if (!Next.IsKnown && ADecoding == TDecoding::Strict)
-            return Fail(EILSEQ, AError);
+            return ErrorOfInvalidText();
         if (ATarget != nullptr)
             ATarget[Length] = Next.Char;
         ++Length;
         At += Next.Length;
     }
-    AError.Code = 0;
     return Length;
 }
 
@@ -206,7 +200,7 @@ bool MayCompose(std::u16string_view AText) noexcept {
 // Calls AEmit with the code of each character.
 template <bool cComposes, class TSink, class TTable>
 void ForEachCode(const TTable& ATable, std::u16string_view ASource, const TSink& AEmit) noexcept {
-    for (size_t At = 0; At < ASource.size(); ++At) {
+    for (std::size_t At = 0; At < ASource.size(); ++At) {
         char16_t Char = ASource[At];
         if constexpr (cComposes) {
             if (At + 1 < ASource.size() && MayCompose(ASource[At + 1])) {
@@ -222,8 +216,8 @@ void ForEachCode(const TTable& ATable, std::u16string_view ASource, const TSink&
 
 // Bytes that the codes take; with a target they are written.
 template <bool cComposes, class TTable>
-size_t EncodeEach(const TTable& ATable, std::u16string_view ASource, char* ATarget) noexcept {
-    size_t Length = 0;
+std::size_t EncodeEach(const TTable& ATable, std::u16string_view ASource, char* ATarget) noexcept {
+    std::size_t Length = 0;
     if (ATarget == nullptr) {
         ForEachCode<cComposes>(ATable, ASource, [&](unsigned ACode) { Length += ACode < 0x100 ? 1u : 2u; });
         return Length;
@@ -237,7 +231,7 @@ size_t EncodeEach(const TTable& ATable, std::u16string_view ASource, char* ATarg
 }
 
 // Writes one or two bytes without a branch, though two bytes of the target are always touched.
-size_t PutCode(unsigned ACode, char* ATarget) noexcept {
+std::size_t PutCode(unsigned ACode, char* ATarget) noexcept {
     const bool IsPair = ACode >= 0x100;
     ATarget[0] = static_cast<char>(IsPair ? ACode >> 8 : ACode);
     ATarget[1] = static_cast<char>(ACode);
@@ -245,26 +239,27 @@ size_t PutCode(unsigned ACode, char* ATarget) noexcept {
 }
 
 // The same for text without anything to compose, with blocks of ASCII at once.
-size_t EncodeDouble(const TCodePage& APage, std::u16string_view ASource, char* ATarget) noexcept {
-    const uint16_t* Codes = APage.Codes.data();
+std::size_t EncodeDouble(const TCodePage& APage, std::u16string_view ASource, char* ATarget) noexcept {
+    const std::uint16_t* Codes = APage.Codes.data();
     if (ATarget == nullptr || ASource.empty())
         return EncodeEach<false>(Codes, ASource, ATarget);
-    size_t Length = 0;
+    std::size_t Length = 0;
     // Behind each character but the last there is room for one more byte at least.
-    const size_t Last = ASource.size() - 1;
-    for (size_t At = 0; At < Last;) {
+    const std::size_t Last = ASource.size() - 1;
+    for (std::size_t At = 0; At < Last;) {
         if (APage.HasAscii && ASource[At] < 0x80) {
-            const size_t Done = ConvertInPlace<false, TUnits>(&ASource[At], Last - At, ATarget + Length);
+            const std::size_t Done = ConvertInPlace<false, TUnits>(&ASource[At], Last - At, ATarget + Length);
             At += Done;
             Length += Done;
         }
-        for (const size_t End = std::min(Last, At + cBlock); At < End; ++At)
+        for (const std::size_t End = std::min(Last, At + cBlock); At < End; ++At)
             Length += PutCode(Codes[ASource[At]], ATarget + Length);
     }
     return Length + EncodeEach<false>(Codes, ASource.substr(Last), ATarget + Length);
 }
 
-size_t Encode(const TCodePage& APage, std::u16string_view ASource, char* ATarget, bool AComposes) noexcept {
+std::size_t Encode(const TCodePage& APage, std::u16string_view ASource, char* ATarget,
+                   bool AComposes) noexcept {
     if (!AComposes)
         return EncodeDouble(APage, ASource, ATarget);
     return APage.IsDouble() ? EncodeEach<true>(APage.Codes.data(), ASource, ATarget)
@@ -273,37 +268,40 @@ size_t Encode(const TCodePage& APage, std::u16string_view ASource, char* ATarget
 
 } // namespace
 
-size_t TablesToUtf16(const TCodePage& APage, std::span<const std::byte> ASource, std::span<char16_t> ATarget,
-                     TDecoding ADecoding, TError& AError) noexcept {
-    const std::span Source(reinterpret_cast<const uint8_t*>(ASource.data()), ASource.size());
+TResult<std::size_t> TablesToUtf16(const TCodePage& APage, std::span<const std::byte> ASource,
+                                   std::span<char16_t> ATarget, TDecoding ADecoding) noexcept {
+    const std::span Source(reinterpret_cast<const std::uint8_t*>(ASource.data()), ASource.size());
     if (!APage.IsDouble())
-        return DecodeSingle(APage, Source, ATarget, ADecoding, AError);
+        return DecodeSingle(APage, Source, ATarget, ADecoding);
     // A target as long as the source has room for anything, so that only a shorter one is measured first.
     if (ATarget.size() < Source.size()) {
-        const size_t Length = DecodeDouble(APage, Source, nullptr, ADecoding, AError);
-        if (AError.Code != 0 || ATarget.empty() || !HasRoom(Length, ATarget.size(), AError))
-            return AError.Code == 0 ? Length : 0;
+        const TResult<std::size_t> Length = DecodeDouble(APage, Source, nullptr, ADecoding);
+        if (!Length || ATarget.empty())
+            return Length;
+        if (!HasRoom(*Length, ATarget.size()))
+            return ErrorOfSmallTarget();
     }
-    return DecodeDouble(APage, Source, ATarget.data(), ADecoding, AError);
+    return DecodeDouble(APage, Source, ATarget.data(), ADecoding);
 }
 
-size_t TablesFromUtf16(const TCodePage& APage, std::u16string_view ASource, std::span<char> ATarget,
-                       TComposing AComposing, TError& AError) noexcept {
-    AError.Code = 0;
+TResult<std::size_t> TablesFromUtf16(const TCodePage& APage, std::u16string_view ASource,
+                                     std::span<char> ATarget, TComposing AComposing) noexcept {
     const bool Composes = AComposing == TComposing::Composite && MayCompose(ASource);
-    const size_t MaxSize = APage.IsDouble() ? 2 : 1;
+    const std::size_t MaxSize = APage.IsDouble() ? 2 : 1;
     if (!APage.IsDouble() && !Composes) {
-        if (!HasRoom(ASource.size(), ATarget.size(), AError))
-            return 0;
+        if (!HasRoom(ASource.size(), ATarget.size()))
+            return ErrorOfSmallTarget();
         if (!ATarget.empty())
             ConvertSingle<TUnits>(APage, ASource.data(), ASource.size(),
-                                  reinterpret_cast<uint8_t*>(ATarget.data()), APage.Bytes.data());
+                                  reinterpret_cast<std::uint8_t*>(ATarget.data()), APage.Bytes.data());
         return ASource.size();
     }
     if (ATarget.size() < ASource.size() * MaxSize) {
-        const size_t Length = Encode(APage, ASource, nullptr, Composes);
-        if (ATarget.empty() || !HasRoom(Length, ATarget.size(), AError))
-            return AError.Code == 0 ? Length : 0;
+        const std::size_t Length = Encode(APage, ASource, nullptr, Composes);
+        if (ATarget.empty())
+            return Length;
+        if (!HasRoom(Length, ATarget.size()))
+            return ErrorOfSmallTarget();
     }
     return Encode(APage, ASource, ATarget.data(), Composes);
 }

@@ -7,9 +7,9 @@
 namespace qz::platform::detail {
 
 // As the functions of platform/CodePages.h.
-size_t TablesToUtf16(const TCodePage& APage, std::span<const std::byte> ASource, std::span<char16_t> ATarget,
-                     TDecoding ADecoding, TError& AError) noexcept;
-size_t TablesFromUtf16(const TCodePage& APage, std::u16string_view ASource, std::span<char> ATarget,
-                       TComposing AComposing, TError& AError) noexcept;
+TResult<std::size_t> TablesToUtf16(const TCodePage& APage, std::span<const std::byte> ASource,
+                                   std::span<char16_t> ATarget, TDecoding ADecoding) noexcept;
+TResult<std::size_t> TablesFromUtf16(const TCodePage& APage, std::u16string_view ASource,
+                                     std::span<char> ATarget, TComposing AComposing) noexcept;
 
 } // namespace qz::platform::detail

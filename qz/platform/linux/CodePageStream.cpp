@@ -11,11 +11,11 @@ namespace qz::platform::detail {
 
 namespace {
 
-constexpr uint32_t cUtf8Page = 65001;
+constexpr std::uint32_t cUtf8Page = 65001;
 
 struct TStreamPage {
-    uint32_t Page;
-    uint32_t MaxCharSize; // as Windows counts it
+    std::uint32_t Page;
+    std::uint32_t MaxCharSize; // as Windows counts it
     const char* Converter;
 };
 
@@ -45,7 +45,7 @@ constexpr TStreamPage cPages[] = {
 
 using TConverter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 
-TConverter OpenCodePage(uint32_t APage) {
+TConverter OpenCodePage(std::uint32_t APage) {
     for (const TStreamPage& Known : cPages) {
         if (APage != Known.Page)
             continue;
@@ -58,8 +58,8 @@ TConverter OpenCodePage(uint32_t APage) {
 }
 
 // A converter in its first state, or null. The thread keeps the last one, as making one is dear.
-UConverter* Converter(uint32_t APage) {
-    thread_local uint32_t Page = 0;
+UConverter* Converter(std::uint32_t APage) {
+    thread_local std::uint32_t Page = 0;
     thread_local TConverter Kept(nullptr, ucnv_close);
     if (Kept && Page == APage) {
         ucnv_reset(Kept.get());
@@ -78,14 +78,14 @@ UConverter* Converter(uint32_t APage) {
     return Kept.get();
 }
 
-int ErrorOf(UErrorCode AStatus) {
+TError ErrorOf(UErrorCode AStatus) {
     switch (AStatus) {
-    case U_MEMORY_ALLOCATION_ERROR: return ENOMEM;
-    case U_BUFFER_OVERFLOW_ERROR: return CodeOfTooSmallTarget();
+    case U_MEMORY_ALLOCATION_ERROR: return ErrorOfMemory();
+    case U_BUFFER_OVERFLOW_ERROR: return ErrorOfSmallTarget();
     case U_INVALID_CHAR_FOUND:
     case U_ILLEGAL_CHAR_FOUND:
-    case U_TRUNCATED_CHAR_FOUND: return EILSEQ;
-    default: return EINVAL;
+    case U_TRUNCATED_CHAR_FOUND: return ErrorOfInvalidText();
+    default: return TError(EINVAL);
     }
 }
 
@@ -93,25 +93,26 @@ int ErrorOf(UErrorCode AStatus) {
 // into ATarget goes to a place of no interest: to be counted, or to see whether there is anything at all, as a
 // converter also asks for room when only an escape sequence is left.
 template <class TUnit, class TStep>
-size_t Stream(std::span<TUnit> ATarget, TError& AError, const TStep& AStep) {
+TResult<std::size_t> Stream(std::span<TUnit> ATarget, const TStep& AStep) {
     std::array<TUnit, 1024> Scratch;
     std::span<TUnit> Room = ATarget.empty() ? std::span<TUnit>(Scratch) : ATarget;
-    for (size_t Length = 0;; Room = Scratch) {
+    for (std::size_t Length = 0;; Room = Scratch) {
         UErrorCode Status = U_ZERO_ERROR;
         TUnit* Target = Room.data();
         AStep(&Target, Room.data() + Room.size(), &Status);
-        Length += static_cast<size_t>(Target - Room.data());
+        Length += static_cast<std::size_t>(Target - Room.data());
         if (!ATarget.empty() && Length > ATarget.size())
             Status = U_BUFFER_OVERFLOW_ERROR;
         else if (Status == U_BUFFER_OVERFLOW_ERROR)
             continue;
-        AError.Code = U_SUCCESS(Status) ? 0 : ErrorOf(Status);
-        return AError.Code == 0 ? Length : 0;
+        if (U_FAILURE(Status))
+            return ErrorOf(Status);
+        return Length;
     }
 }
 
 // Whether the page takes part in strict decoding; see TDecoding.
-bool KnowsStrictness(uint32_t APage) {
+bool KnowsStrictness(std::uint32_t APage) {
     switch (APage) {
     case 50220:
     case 50221:
@@ -127,36 +128,35 @@ bool KnowsStrictness(uint32_t APage) {
 
 } // namespace
 
-size_t StreamToUtf16(uint32_t APage, std::span<const std::byte> ASource, std::span<char16_t> ATarget,
-                     TDecoding ADecoding, TError& AError) {
+TResult<std::size_t> StreamToUtf16(std::uint32_t APage, std::span<const std::byte> ASource,
+                                   std::span<char16_t> ATarget, TDecoding ADecoding) {
     UConverter* Page = Converter(APage);
-    AError.Code = Page != nullptr ? 0 : EINVAL;
     if (Page == nullptr)
-        return 0;
+        return TError(EINVAL);
     UErrorCode Ignored = U_ZERO_ERROR;
     const bool Strict = ADecoding == TDecoding::Strict && KnowsStrictness(APage);
     ucnv_setToUCallBack(Page, Strict ? UCNV_TO_U_CALLBACK_STOP : UCNV_TO_U_CALLBACK_SUBSTITUTE, nullptr,
                         nullptr, nullptr, &Ignored);
     const char* Source = reinterpret_cast<const char*>(ASource.data());
     const char* Limit = Source + ASource.size();
-    return Stream(ATarget, AError, [&](char16_t** AOut, const char16_t* AOutLimit, UErrorCode* AStatus) {
+    return Stream(ATarget, [&](char16_t** AOut, const char16_t* AOutLimit, UErrorCode* AStatus) {
         ucnv_toUnicode(Page, AOut, AOutLimit, &Source, Limit, nullptr, true, AStatus);
     });
 }
 
-size_t StreamFromUtf16(uint32_t APage, std::u16string_view ASource, std::span<char> ATarget, TError& AError) {
+TResult<std::size_t> StreamFromUtf16(std::uint32_t APage, std::u16string_view ASource,
+                                     std::span<char> ATarget) {
     UConverter* Page = Converter(APage);
-    AError.Code = Page != nullptr ? 0 : EINVAL;
     if (Page == nullptr)
-        return 0;
+        return TError(EINVAL);
     const char16_t* Source = ASource.data();
     const char16_t* Limit = Source + ASource.size();
-    return Stream(ATarget, AError, [&](char** AOut, const char* AOutLimit, UErrorCode* AStatus) {
+    return Stream(ATarget, [&](char** AOut, const char* AOutLimit, UErrorCode* AStatus) {
         ucnv_fromUnicode(Page, AOut, AOutLimit, &Source, Limit, nullptr, true, AStatus);
     });
 }
 
-uint32_t StreamMaxCharSize(uint32_t APage) {
+std::uint32_t StreamMaxCharSize(std::uint32_t APage) {
     for (const TStreamPage& Known : cPages) {
         if (APage == Known.Page)
             return Converter(APage) != nullptr ? Known.MaxCharSize : 0;

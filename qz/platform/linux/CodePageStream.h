@@ -12,9 +12,10 @@
 namespace qz::platform::detail {
 
 // As the functions of platform/CodePages.h, for a page other than 0.
-size_t StreamToUtf16(uint32_t APage, std::span<const std::byte> ASource, std::span<char16_t> ATarget,
-                     TDecoding ADecoding, TError& AError);
-size_t StreamFromUtf16(uint32_t APage, std::u16string_view ASource, std::span<char> ATarget, TError& AError);
-uint32_t StreamMaxCharSize(uint32_t APage);
+TResult<std::size_t> StreamToUtf16(std::uint32_t APage, std::span<const std::byte> ASource,
+                                   std::span<char16_t> ATarget, TDecoding ADecoding);
+TResult<std::size_t> StreamFromUtf16(std::uint32_t APage, std::u16string_view ASource,
+                                     std::span<char> ATarget);
+std::uint32_t StreamMaxCharSize(std::uint32_t APage);
 
 } // namespace qz::platform::detail

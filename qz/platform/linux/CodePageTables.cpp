@@ -15,7 +15,7 @@ namespace qz::platform::detail {
 
 namespace {
 
-constexpr size_t cCodes = 0x10000;
+constexpr std::size_t cCodes = 0x10000;
 
 // What a code means: an index is a byte, or lead byte * 256 + trail byte.
 using TCodeChars = std::vector<char16_t>;
@@ -24,15 +24,15 @@ using TFits = std::map<char16_t, char16_t>;
 
 using TConverter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 
-const TPageData* FindData(uint32_t APage) noexcept {
+const TPageData* FindData(std::uint32_t APage) noexcept {
     const auto Found = std::ranges::lower_bound(CodePageData, APage, {}, &TPageData::Page);
     return Found != CodePageData.end() && Found->Page == APage ? &*Found : nullptr;
 }
 
-bool IsLead(const TPageData& AData, size_t AByte) {
-    for (size_t I = 0; I + 1 < AData.Leads.size(); I += 2) {
-        const auto First = static_cast<uint8_t>(AData.Leads[I]);
-        if (AByte >= First && AByte <= static_cast<uint8_t>(AData.Leads[I + 1]))
+bool IsLead(const TPageData& AData, std::size_t AByte) {
+    for (std::size_t I = 0; I + 1 < AData.Leads.size(); I += 2) {
+        const auto First = static_cast<std::uint8_t>(AData.Leads[I]);
+        if (AByte >= First && AByte <= static_cast<std::uint8_t>(AData.Leads[I + 1]))
             return true;
     }
     return false;
@@ -40,20 +40,20 @@ bool IsLead(const TPageData& AData, size_t AByte) {
 
 // Calls ASink for each code of the page, lead bytes alone left out.
 template <class TSink> void ForEachCode(const TPageData& AData, const TSink& ASink) {
-    for (size_t Byte = 0; Byte < 256; ++Byte) {
+    for (std::size_t Byte = 0; Byte < 256; ++Byte) {
         if (!IsLead(AData, Byte)) {
             ASink(Byte);
             continue;
         }
-        for (size_t Trail = 0; Trail < 256; ++Trail)
+        for (std::size_t Trail = 0; Trail < 256; ++Trail)
             ASink(Byte * 256 + Trail);
     }
 }
 
-char16_t AskConverter(UConverter* AConverter, const TPageData& AData, size_t ACode) {
+char16_t AskConverter(UConverter* AConverter, const TPageData& AData, std::size_t ACode) {
     std::array<char, 3> Bytes = {static_cast<char>(ACode >> 8), static_cast<char>(ACode)};
-    int32_t First = ACode < 256 ? 1 : 0;
-    int32_t Length = 2 - First;
+    std::int32_t First = ACode < 256 ? 1 : 0;
+    std::int32_t Length = 2 - First;
     // The third set of EUC has three bytes; this page writes two, and tells it by the trail byte.
     if (AData.Page == 20932 && ACode > 255 && (ACode & 0x80) == 0) {
         Bytes = {'\x8F', Bytes[0], static_cast<char>(ACode | 0x80)};
@@ -62,8 +62,8 @@ char16_t AskConverter(UConverter* AConverter, const TPageData& AData, size_t ACo
     }
     std::array<char16_t, 8> Text{};
     UErrorCode Status = U_ZERO_ERROR;
-    const int32_t Count = ucnv_toUChars(AConverter, Text.data(), static_cast<int32_t>(Text.size()),
-                                        &Bytes[static_cast<size_t>(First)], Length, &Status);
+    const std::int32_t Count = ucnv_toUChars(AConverter, Text.data(), static_cast<std::int32_t>(Text.size()),
+                                             &Bytes[static_cast<std::size_t>(First)], Length, &Status);
     return U_SUCCESS(Status) && Count == 1 && Text[0] != 0xFFFD ? Text[0] : cNoChar;
 }
 
@@ -73,13 +73,14 @@ bool AskIcu(const TPageData& AData, TCodeChars& AChars) {
     ucnv_setToUCallBack(Converter.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &Status);
     if (U_FAILURE(Status))
         return false;
-    ForEachCode(AData, [&](size_t ACode) { AChars[ACode] = AskConverter(Converter.get(), AData, ACode); });
+    ForEachCode(AData,
+                [&](std::size_t ACode) { AChars[ACode] = AskConverter(Converter.get(), AData, ACode); });
     return true;
 }
 
 void Change(const TPageData& AData, TCodeChars& AChars) {
     for (const TCodeRow& Row : AData.Rows) {
-        for (size_t I = 0; I < Row.Count; ++I)
+        for (std::size_t I = 0; I < Row.Count; ++I)
             AChars[Row.First + I] = Row.Char == cNoChar ? cNoChar : static_cast<char16_t>(Row.Char + I);
     }
     for (const TCharText& Text : AData.Texts)
@@ -94,7 +95,7 @@ bool Decode(const TPageData& AData, TCodeChars& AChars) {
         const TPageData* Found = FindData(AData.Base);
         if (Found == nullptr || !Decode(*Found, Base))
             return false;
-        ForEachCode(AData, [&](size_t ACode) { AChars[ACode] = Base[ACode]; });
+        ForEachCode(AData, [&](std::size_t ACode) { AChars[ACode] = Base[ACode]; });
     } else if (!AskIcu(AData, AChars)) {
         return false;
     }
@@ -102,7 +103,7 @@ bool Decode(const TPageData& AData, TCodeChars& AChars) {
     return true;
 }
 
-bool IsWithin(std::span<const TCodeRange> ARanges, size_t ACode) {
+bool IsWithin(std::span<const TCodeRange> ARanges, std::size_t ACode) {
     return std::ranges::any_of(ARanges, [=](TCodeRange A) { return ACode >= A.First && ACode <= A.Last; });
 }
 
@@ -111,7 +112,7 @@ void CollectFits(const TPageData& AData, TFits& AFits) {
     if (const TPageData* Like = AData.FitsLike != 0 ? FindData(AData.FitsLike) : nullptr)
         CollectFits(*Like, AFits);
     for (const TCharText& Text : AData.Fits) {
-        for (size_t I = 0; I < Text.Chars.size(); ++I) {
+        for (std::size_t I = 0; I < Text.Chars.size(); ++I) {
             const auto Char = static_cast<char16_t>(Text.First + I);
             if (Text.Chars[I] == cNoChar)
                 AFits.erase(Char);
@@ -122,21 +123,21 @@ void CollectFits(const TPageData& AData, TFits& AFits) {
 }
 
 // The code of each character, the default where there is none.
-std::vector<uint16_t> Encode(const TPageData& AData, const TCodeChars& AChars) {
-    std::vector<uint16_t> Result(cCodes, AData.Default);
+std::vector<std::uint16_t> Encode(const TPageData& AData, const TCodeChars& AChars) {
+    std::vector<std::uint16_t> Result(cCodes, AData.Default);
     std::vector<bool> Known(cCodes);
-    const auto Set = [&](char16_t AChar, size_t ACode) {
+    const auto Set = [&](char16_t AChar, std::size_t ACode) {
         Known[AChar] = true;
-        Result[AChar] = static_cast<uint16_t>(ACode);
+        Result[AChar] = static_cast<std::uint16_t>(ACode);
     };
-    ForEachCode(AData, [&](size_t ACode) {
+    ForEachCode(AData, [&](std::size_t ACode) {
         const char16_t Char = AChars[ACode];
         if (Char != cNoChar && !IsWithin(AData.DecodedOnly, ACode) &&
             (!Known[Char] || IsWithin(AData.Preferred, ACode)))
             Set(Char, ACode);
     });
     for (const TCharText& Text : AData.Lenient) {
-        for (size_t I = 0; I < Text.Chars.size(); ++I) {
+        for (std::size_t I = 0; I < Text.Chars.size(); ++I) {
             if (!IsWithin(AData.DecodedOnly, Text.First + I))
                 Set(Text.Chars[I], Text.First + I);
         }
@@ -152,24 +153,24 @@ std::vector<uint16_t> Encode(const TPageData& AData, const TCodeChars& AChars) {
 }
 
 void FillDecoding(const TPageData& AData, const TCodeChars& AChars, TCodePage& APage) {
-    const auto Known = [&](size_t ACode) {
+    const auto Known = [&](std::size_t ACode) {
         return AChars[ACode] != cNoChar ? AChars[ACode] : APage.UnicodeDefault;
     };
-    for (size_t Byte = 0; Byte < 256; ++Byte) {
+    for (std::size_t Byte = 0; Byte < 256; ++Byte) {
         APage.Single[Byte] = Known(Byte);
         APage.Refused[Byte] = AChars[Byte] == cNoChar ? 1 : 0;
         if (!IsLead(AData, Byte))
             continue;
-        APage.Leads[Byte] = static_cast<uint8_t>(APage.Pairs.size() + 1);
+        APage.Leads[Byte] = static_cast<std::uint8_t>(APage.Pairs.size() + 1);
         TCodeRowChars& Row = APage.Pairs.emplace_back();
-        for (size_t Trail = 0; Trail < 256; ++Trail)
+        for (std::size_t Trail = 0; Trail < 256; ++Trail)
             Row[Trail] = Known(Byte * 256 + Trail);
     }
     for (const TCharText& Text : AData.Lenient)
         std::ranges::copy(Text.Chars, APage.Single.begin() + Text.First);
     APage.Refuses = std::ranges::count(APage.Refused, 1) != 0;
-    const auto InPlace = [&](size_t AFirst, size_t AEnd) {
-        for (size_t Byte = AFirst; Byte < AEnd; ++Byte) {
+    const auto InPlace = [&](std::size_t AFirst, std::size_t AEnd) {
+        for (std::size_t Byte = AFirst; Byte < AEnd; ++Byte) {
             if (APage.Single[Byte] != Byte || APage.Leads[Byte] != 0)
                 return false;
         }
@@ -188,11 +189,11 @@ std::unique_ptr<const TCodePage> Build(const TPageData& AData) {
     Result->Default = AData.Default;
     Result->UnicodeDefault = AData.UnicodeDefault;
     FillDecoding(AData, Chars, *Result);
-    std::vector<uint16_t> Codes = Encode(AData, Chars);
+    std::vector<std::uint16_t> Codes = Encode(AData, Chars);
     if (AData.Leads.empty()) {
         Result->Bytes.resize(cCodes);
         std::ranges::transform(Codes, Result->Bytes.begin(),
-                               [](uint16_t A) { return static_cast<uint8_t>(A); });
+                               [](std::uint16_t A) { return static_cast<std::uint8_t>(A); });
     } else {
         Result->Codes = std::move(Codes);
     }
@@ -202,7 +203,7 @@ std::unique_ptr<const TCodePage> Build(const TPageData& AData) {
 constinit std::mutex Making;
 
 const TCodePage* Keep(std::unique_ptr<const TCodePage> ATables) noexcept {
-    size_t Slot = FirstCodePageSlot(ATables->Page);
+    std::size_t Slot = FirstCodePageSlot(ATables->Page);
     while (CodePageSlots[Slot].load(std::memory_order_relaxed) != nullptr)
         Slot = (Slot + 1) % cCodePageSlots;
     const TCodePage* Result = ATables.release();
@@ -214,28 +215,24 @@ const TCodePage* Keep(std::unique_ptr<const TCodePage> ATables) noexcept {
 
 constinit std::array<std::atomic<const TCodePage*>, cCodePageSlots> CodePageSlots{};
 
-bool HasCodePageTables(uint32_t APage) noexcept {
+bool HasCodePageTables(std::uint32_t APage) noexcept {
     return FindData(APage) != nullptr;
 }
 
-const TCodePage* MakeCodePageTables(uint32_t APage, TError& AError) noexcept {
-    AError.Code = EINVAL;
+TResult<const TCodePage*> MakeCodePageTables(std::uint32_t APage) noexcept {
     const TPageData* Data = FindData(APage);
     if (Data == nullptr)
-        return nullptr;
+        return TError(EINVAL);
     try {
         const std::scoped_lock Lock(Making);
-        const TCodePage* Result = FindCodePageTables(APage);
-        if (Result == nullptr) {
-            if (std::unique_ptr<const TCodePage> Built = Build(*Data))
-                Result = Keep(std::move(Built));
-        }
-        if (Result != nullptr)
-            AError.Code = 0;
-        return Result;
+        if (const TCodePage* Made = FindCodePageTables(APage))
+            return Made;
+        std::unique_ptr<const TCodePage> Built = Build(*Data);
+        if (Built == nullptr)
+            return TError(EINVAL);
+        return Keep(std::move(Built));
     } catch (const std::bad_alloc&) {
-        AError.Code = ENOMEM;
-        return nullptr;
+        return TError(ENOMEM);
     }
 }
 

@@ -17,82 +17,74 @@ namespace qz::platform {
 
 namespace {
 
-constexpr uint32_t cUtf8Page = 65001;
+constexpr std::uint32_t cUtf8Page = 65001;
 
-uint32_t AskSystemCodePage() {
+std::uint32_t AskSystemCodePage() {
     const std::string Name = detail::PosixLocaleName("LC_CTYPE");
     if (const locale_t Locale = newlocale(LC_CTYPE_MASK, Name.c_str(), locale_t{})) {
-        const uint32_t Page = detail::CodePageOfCharset(nl_langinfo_l(CODESET, Locale));
+        const std::uint32_t Page = detail::CodePageOfCharset(nl_langinfo_l(CODESET, Locale));
         freelocale(Locale);
         return Page;
     }
     // Not installed, but its name may tell: "ja_JP.eucJP@modifier".
-    const size_t Dot = Name.find('.');
+    const std::size_t Dot = Name.find('.');
     return Dot == std::string::npos
         ? cUtf8Page
         : detail::CodePageOfCharset(Name.substr(Dot + 1, Name.find('@') - Dot - 1));
 }
 
-uint32_t RealPage(uint32_t APage) {
+std::uint32_t RealPage(std::uint32_t APage) {
     return APage == 0 ? SystemCodePage() : APage;
 }
 
-bool HasGoodLength(size_t ALength, TError& AError) {
-    AError.Code = ALength <= INT_MAX ? 0 : EINVAL;
-    return AError.Code == 0;
-}
-
-// Null for a page that has no tables, without an error, and for one whose tables can't be made.
-const detail::TCodePage* TablesOf(uint32_t APage, TError& AError) {
+// Null for a page that has no tables. Fails where they cannot be made.
+TResult<const detail::TCodePage*> TablesOf(std::uint32_t APage) {
     if (const detail::TCodePage* Tables = detail::FindCodePageTables(APage))
         return Tables;
-    AError.Code = 0;
-    return detail::HasCodePageTables(APage) ? detail::MakeCodePageTables(APage, AError) : nullptr;
+    if (!detail::HasCodePageTables(APage))
+        return nullptr;
+    return detail::MakeCodePageTables(APage);
 }
 
 } // namespace
 
-uint32_t SystemCodePage() {
-    static const uint32_t Page = AskSystemCodePage();
+std::uint32_t SystemCodePage() {
+    static const std::uint32_t Page = AskSystemCodePage();
     return Page;
 }
 
-int CodeOfTooSmallTarget() noexcept {
-    return ENOBUFS;
-}
-
-int CodeOfInvalidText() noexcept {
-    return EILSEQ;
-}
-
-uint32_t CodePageMaxCharSize(uint32_t APage) {
-    TError Error;
-    const uint32_t Page = RealPage(APage);
-    if (const detail::TCodePage* Tables = TablesOf(Page, Error))
-        return Tables->IsDouble() ? 2 : 1;
-    if (Error.Code == ENOMEM)
-        throw std::bad_alloc(); // else the page would count as one that isn't known
+std::uint32_t CodePageMaxCharSize(std::uint32_t APage) {
+    const std::uint32_t Page = RealPage(APage);
+    const TResult<const detail::TCodePage*> Tables = TablesOf(Page);
+    if (*Tables != nullptr)
+        return (*Tables)->IsDouble() ? 2 : 1;
+    if (Tables.Code() == ENOMEM)
+        throw std::bad_alloc(); // else the page would count as an unknown one
     return detail::StreamMaxCharSize(Page);
 }
 
-size_t CodePageToUtf16(uint32_t APage, std::span<const std::byte> ASource, std::span<char16_t> ATarget,
-                       TDecoding ADecoding, TError& AError) {
-    if (!HasGoodLength(ASource.size(), AError))
-        return 0;
-    const uint32_t Page = RealPage(APage);
-    if (const detail::TCodePage* Tables = TablesOf(Page, AError))
-        return detail::TablesToUtf16(*Tables, ASource, ATarget, ADecoding, AError);
-    return AError.Code == 0 ? detail::StreamToUtf16(Page, ASource, ATarget, ADecoding, AError) : 0;
+TResult<std::size_t> CodePageToUtf16(std::uint32_t APage, std::span<const std::byte> ASource,
+                                     std::span<char16_t> ATarget, TDecoding ADecoding) {
+    if (ASource.size() > INT_MAX)
+        return TError(EINVAL);
+    const std::uint32_t Page = RealPage(APage);
+    const TResult<const detail::TCodePage*> Tables = TablesOf(Page);
+    if (!Tables)
+        return Tables.Error();
+    return *Tables != nullptr ? detail::TablesToUtf16(**Tables, ASource, ATarget, ADecoding)
+                              : detail::StreamToUtf16(Page, ASource, ATarget, ADecoding);
 }
 
-size_t Utf16ToCodePage(uint32_t APage, std::u16string_view ASource, std::span<char> ATarget,
-                       TComposing AComposing, TError& AError) {
-    if (!HasGoodLength(ASource.size(), AError))
-        return 0;
-    const uint32_t Page = RealPage(APage);
-    if (const detail::TCodePage* Tables = TablesOf(Page, AError))
-        return detail::TablesFromUtf16(*Tables, ASource, ATarget, AComposing, AError);
-    return AError.Code == 0 ? detail::StreamFromUtf16(Page, ASource, ATarget, AError) : 0;
+TResult<std::size_t> Utf16ToCodePage(std::uint32_t APage, std::u16string_view ASource,
+                                     std::span<char> ATarget, TComposing AComposing) {
+    if (ASource.size() > INT_MAX)
+        return TError(EINVAL);
+    const std::uint32_t Page = RealPage(APage);
+    const TResult<const detail::TCodePage*> Tables = TablesOf(Page);
+    if (!Tables)
+        return Tables.Error();
+    return *Tables != nullptr ? detail::TablesFromUtf16(**Tables, ASource, ATarget, AComposing)
+                              : detail::StreamFromUtf16(Page, ASource, ATarget);
 }
 
 } // namespace qz::platform

@@ -12,12 +12,10 @@ namespace qz::platform {
 
 // Each argument, the name of the program first, is ended by a NUL there.
 std::vector<std::u16string> CommandLineArguments() {
-    std::vector<std::byte> Bytes;
-    TError Error;
+    // Empty where /proc is not mounted.
+    const TResult<std::vector<std::byte>> Bytes = ReadWholeFile(u"/proc/self/cmdline");
     std::vector<std::u16string> Result;
-    if (!ReadWholeFile(u"/proc/self/cmdline", Bytes, Error))
-        return Result;
-    std::string_view Rest(reinterpret_cast<const char*>(Bytes.data()), Bytes.size());
+    std::string_view Rest(reinterpret_cast<const char*>(Bytes->data()), Bytes->size());
     for (bool IsProgram = true; !Rest.empty(); IsProgram = false) {
         const std::string_view Argument = Rest.substr(0, Rest.find('\0'));
         if (!IsProgram)

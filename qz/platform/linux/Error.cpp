@@ -24,4 +24,16 @@ void SetLastError(int ACode) noexcept {
     errno = ACode;
 }
 
+TError ErrorOfMemory() noexcept {
+    return TError(ENOMEM);
+}
+
+TError ErrorOfSmallTarget() noexcept {
+    return TError(ENOBUFS);
+}
+
+TError ErrorOfInvalidText() noexcept {
+    return TError(EILSEQ);
+}
+
 } // namespace qz::platform

@@ -18,16 +18,6 @@ namespace qz::platform {
 
 namespace {
 
-bool Outcome(TError& AError, bool AOk) {
-    AError.Code = AOk ? 0 : errno;
-    return AOk;
-}
-
-bool Fail(TError& AError, int ACode) {
-    AError.Code = ACode;
-    return false;
-}
-
 // A file that is there is emptied only once it is known that nobody is in the way.
 int FlagsOf(TFileAccess AAccess, TFileCreation ACreation) {
     constexpr int cAccess[] = {O_RDONLY, O_WRONLY, O_RDWR};
@@ -50,22 +40,21 @@ int Settle(int AFile, TFileAccess AAccess, TFileCreation ACreation, TFileSharing
 
 } // namespace
 
-bool TFileHandle::Open(std::u16string_view APath, TFileAccess AAccess, TFileCreation ACreation,
-                       TFileSharing ASharing, TError& AError) {
+TResult<> TFileHandle::Open(std::u16string_view APath, TFileAccess AAccess, TFileCreation ACreation,
+                            TFileSharing ASharing) {
     Close();
     const std::optional<std::string> Path = detail::ToNativeArgument(APath);
     if (!Path)
-        return Fail(AError, EINVAL);
+        return TError(EINVAL);
     const int File = detail::OpenNative(Path->c_str(), FlagsOf(AAccess, ACreation));
     if (File < 0)
-        return Outcome(AError, false);
-    AError.Code = Settle(File, AAccess, ACreation, ASharing);
-    if (AError.Code != 0) {
+        return TError(errno);
+    if (const int Code = Settle(File, AAccess, ACreation, ASharing); Code != 0) {
         close(File);
-        return false;
+        return TError(Code);
     }
     FHandle = File;
-    return true;
+    return {};
 }
 
 bool TFileHandle::Close() noexcept {
@@ -77,50 +66,55 @@ bool TFileHandle::Close() noexcept {
 // What these change is the file, so they are not const.
 // NOLINTBEGIN(readability-make-member-function-const)
 
-bool TFileHandle::Read(std::span<std::byte> ATarget, size_t& ADone, TError& AError) {
+TResult<std::size_t> TFileHandle::Read(std::span<std::byte> ATarget) {
     const ssize_t Got = detail::ReadSome(static_cast<int>(FHandle), ATarget);
-    ADone = static_cast<size_t>(std::max<ssize_t>(Got, 0));
-    return Outcome(AError, Got >= 0);
+    if (Got < 0)
+        return TError(errno);
+    return static_cast<std::size_t>(Got);
 }
 
-bool TFileHandle::Write(std::span<const std::byte> ASource, size_t& ADone, TError& AError) {
-    return Outcome(AError, detail::WriteAll(static_cast<int>(FHandle), ASource, ADone));
+TWritten TFileHandle::Write(std::span<const std::byte> ASource) {
+    TWritten Result;
+    const bool Ok = detail::WriteAll(static_cast<int>(FHandle), ASource, Result.Done);
+    Result.Error = ResultOf(Ok).Error();
+    return Result;
 }
 
-bool TFileHandle::Seek(int64_t AOffset, TFileOrigin AOrigin, int64_t& APosition, TError& AError) {
+TResult<std::int64_t> TFileHandle::Seek(std::int64_t AOffset, TFileOrigin AOrigin) {
     constexpr int cOrigins[] = {SEEK_SET, SEEK_CUR, SEEK_END};
     const off_t Position = lseek(static_cast<int>(FHandle), AOffset, cOrigins[static_cast<int>(AOrigin)]);
-    if (Position >= 0)
-        APosition = Position;
-    return Outcome(AError, Position >= 0);
+    if (Position < 0)
+        return TError(errno);
+    return Position;
 }
 
-bool TFileHandle::SetSize(int64_t ASize, TError& AError) {
+TResult<> TFileHandle::SetSize(std::int64_t ASize) {
     int Status = 0;
     do {
         Status = ftruncate(static_cast<int>(FHandle), ASize);
     } while (Status != 0 && errno == EINTR);
-    return Outcome(AError, Status == 0);
+    return ResultOf(Status == 0);
 }
 
-bool TFileHandle::WriteAtEnd(TError& AError) {
+TResult<> TFileHandle::WriteAtEnd() {
     const int Flags = fcntl(static_cast<int>(FHandle), F_GETFL);
-    return Outcome(AError, Flags >= 0 && fcntl(static_cast<int>(FHandle), F_SETFL, Flags | O_APPEND) == 0);
+    return ResultOf(Flags >= 0 && fcntl(static_cast<int>(FHandle), F_SETFL, Flags | O_APPEND) == 0);
 }
 
 // Past the C library's write, which costs more in a program of several threads, as it can be cancelled, and without the lock of
 // the position.
-bool TFileHandle::Append(std::span<const std::byte> ASource, size_t& ADone, TError& AError) {
+TWritten TFileHandle::Append(std::span<const std::byte> ASource) {
     const auto File = static_cast<int>(FHandle);
     const long Written = syscall(SYS_pwrite64, File, ASource.data(), ASource.size(), 0L);
-    ADone = static_cast<size_t>(std::max(Written, 0L));
-    if (ADone == ASource.size()) [[likely]]
-        return true;
-    size_t More = 0; // a pipe has no place to write at
+    TWritten Result{.Done = static_cast<std::size_t>(std::max(Written, 0L)), .Error = {}};
+    if (Result.Done == ASource.size()) [[likely]]
+        return Result;
+    std::size_t More = 0; // a pipe has no place to write at
     const TNoLimitSignal Quiet;
-    const bool Ok = detail::WriteAll(File, ASource.subspan(ADone), More);
-    ADone += More;
-    return Outcome(AError, Ok);
+    const bool Ok = detail::WriteAll(File, ASource.subspan(Result.Done), More);
+    Result.Error = ResultOf(Ok).Error();
+    Result.Done += More;
+    return Result;
 }
 
 void TFileHandle::DenyNothing() noexcept {
@@ -140,10 +134,10 @@ bool TFileHandle::IsAt(std::u16string_view APath) const {
     return Open.st_dev == Named.st_dev && Open.st_ino == Named.st_ino;
 }
 
-bool TFileHandle::Flush(TError& AError) {
+TResult<> TFileHandle::Flush() {
     // A pipe or a device has nothing to wait for.
     const bool Ok = fsync(static_cast<int>(FHandle)) == 0 || errno == EINVAL || errno == EROFS;
-    return Outcome(AError, Ok);
+    return ResultOf(Ok);
 }
 
 // NOLINTEND(readability-make-member-function-const)

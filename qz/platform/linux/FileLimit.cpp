@@ -19,10 +19,10 @@ sigset_t LimitSignal() noexcept {
 
 } // namespace
 
-uint64_t FileSizeLimit() noexcept {
+std::uint64_t FileSizeLimit() noexcept {
     rlimit Limit;
     const bool Known = getrlimit(RLIMIT_FSIZE, &Limit) == 0 && Limit.rlim_cur != RLIM_INFINITY;
-    return Known ? uint64_t{Limit.rlim_cur} : UINT64_MAX;
+    return Known ? std::uint64_t{Limit.rlim_cur} : UINT64_MAX;
 }
 
 TNoLimitSignal::TNoLimitSignal() noexcept {

@@ -18,7 +18,7 @@ namespace {
 constexpr off_t cRangeSize = off_t{1} << 32;
 constexpr off_t cFirstRange = off_t{1} << 62;
 
-enum class TRange : uint8_t { Reads, Writes, DeniesReads, DeniesWrites };
+enum class TRange : std::uint8_t { Reads, Writes, DeniesReads, DeniesWrites };
 
 constexpr off_t StartOf(TRange ARange) {
     return cFirstRange + static_cast<off_t>(ARange) * cRangeSize;

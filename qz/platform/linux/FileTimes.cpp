@@ -21,25 +21,15 @@ namespace qz::platform {
 namespace {
 
 constexpr const char* cAttribute = "user.qzcommon.created";
-constexpr int64_t cStepsPerSecond = 10'000'000;
-constexpr int64_t cUnixEpochSeconds = 11'644'473'600; // 1970-01-01
-constexpr size_t cLongestAttribute = 3 * 20 + 2;
+constexpr std::int64_t cStepsPerSecond = 10'000'000;
+constexpr std::int64_t cUnixEpochSeconds = 11'644'473'600; // 1970-01-01
+constexpr std::size_t cLongestAttribute = 3 * 20 + 2;
 
-bool Outcome(TError& AError, bool AOk) {
-    AError.Code = AOk ? 0 : errno;
-    return AOk;
-}
-
-bool Fail(TError& AError, int ACode) noexcept {
-    AError.Code = ACode;
-    return false;
-}
-
-int64_t StepsOf(const struct statx_timestamp& ATime) {
+std::int64_t StepsOf(const struct statx_timestamp& ATime) {
     // File systems may hold what no date can tell.
-    constexpr int64_t cFarthest = std::numeric_limits<int64_t>::max() / cStepsPerSecond - 1;
-    const int64_t Seconds =
-        std::clamp<int64_t>(ATime.tv_sec, -cFarthest, cFarthest - cUnixEpochSeconds) + cUnixEpochSeconds;
+    constexpr std::int64_t cFarthest = std::numeric_limits<std::int64_t>::max() / cStepsPerSecond - 1;
+    const std::int64_t Seconds =
+        std::clamp<std::int64_t>(ATime.tv_sec, -cFarthest, cFarthest - cUnixEpochSeconds) + cUnixEpochSeconds;
     return Seconds * cStepsPerSecond + ATime.tv_nsec / 100;
 }
 
@@ -54,19 +44,19 @@ bool StatusOf(int AFile, struct statx& AStatus) {
 }
 
 // When the system made the file, 0 where it does not keep that.
-int64_t BirthOf(const struct statx& AStatus) {
+std::int64_t BirthOf(const struct statx& AStatus) {
     const bool IsKept = (AStatus.stx_mask & STATX_BTIME) != 0 && AStatus.stx_btime.tv_sec != 0;
     return IsKept ? StepsOf(AStatus.stx_btime) : 0;
 }
 
 // The numbers of the attribute: the time set, and those that tell the file.
-using TNote = std::array<int64_t, 3>;
+using TNote = std::array<std::int64_t, 3>;
 
 std::optional<TNote> ParseNote(std::string_view AText) {
     TNote Result;
     const char* Place = AText.data();
     const char* const End = Place + AText.size();
-    for (int64_t& Number : Result) {
+    for (std::int64_t& Number : Result) {
         if (&Number != Result.data() && (Place == End || *Place++ != ' '))
             return std::nullopt;
         const auto [Next, Failure] = std::from_chars(Place, End, Number);
@@ -77,24 +67,24 @@ std::optional<TNote> ParseNote(std::string_view AText) {
     return Place == End && Result[0] >= 0 ? std::optional(Result) : std::nullopt;
 }
 
-std::optional<int64_t> NotedTime(const std::string& APath, const struct statx& AStatus) {
+std::optional<std::int64_t> NotedTime(const std::string& APath, const struct statx& AStatus) {
     char Buffer[cLongestAttribute];
     const ssize_t Length = getxattr(APath.c_str(), cAttribute, Buffer, sizeof Buffer);
     if (Length < 0)
         return std::nullopt;
-    const std::optional<TNote> Note = ParseNote({Buffer, static_cast<size_t>(Length)});
+    const std::optional<TNote> Note = ParseNote({Buffer, static_cast<std::size_t>(Length)});
     const bool IsOfThisFile =
-        Note && (*Note)[1] == static_cast<int64_t>(AStatus.stx_ino) && (*Note)[2] == BirthOf(AStatus);
+        Note && (*Note)[1] == static_cast<std::int64_t>(AStatus.stx_ino) && (*Note)[2] == BirthOf(AStatus);
     return IsOfThisFile ? std::optional((*Note)[0]) : std::nullopt;
 }
 
-std::string NoteOf(int64_t ATime, const struct statx& AStatus) {
-    return std::to_string(ATime) + ' ' + std::to_string(static_cast<int64_t>(AStatus.stx_ino)) + ' ' +
+std::string NoteOf(std::int64_t ATime, const struct statx& AStatus) {
+    return std::to_string(ATime) + ' ' + std::to_string(static_cast<std::int64_t>(AStatus.stx_ino)) + ' ' +
         std::to_string(BirthOf(AStatus));
 }
 
 // The system may make another file of the one that is written: an overlay copies what lies in a lower layer.
-bool WriteNote(int AFile, int64_t ATime, std::string& ANote) {
+bool WriteNote(int AFile, std::int64_t ATime, std::string& ANote) {
     constexpr int cTries = 3;
     struct statx Status;
     if (!StatusOf(AFile, Status))
@@ -116,58 +106,58 @@ bool ComesBack(int AFile, const std::string& ANote) {
     if (Length < 0)
         return false;
     errno = EIO;
-    return std::string_view(Buffer, static_cast<size_t>(Length)) == ANote;
+    return std::string_view(Buffer, static_cast<std::size_t>(Length)) == ANote;
 }
 
 } // namespace
 
-bool ReadFileTimes(std::u16string_view APath, TFileTimes& ATimes, TError& AError) {
+TResult<TFileTimes> ReadFileTimes(std::u16string_view APath) {
     const std::optional<std::string> Path = detail::ToNativeArgument(APath);
     struct statx Status;
     if (!Path)
-        return Fail(AError, EINVAL);
+        return TError(EINVAL);
     if (!StatusOf(*Path, Status))
-        return Outcome(AError, false);
-    ATimes.LastWrite = StepsOf(Status.stx_mtime);
-    ATimes.LastAccess = StepsOf(Status.stx_atime);
-    ATimes.IsDirectory = S_ISDIR(Status.stx_mode);
-    if (const std::optional<int64_t> Noted = NotedTime(*Path, Status))
-        ATimes.Created = *Noted;
-    else if (const int64_t Birth = BirthOf(Status))
-        ATimes.Created = Birth;
+        return TError(errno);
+    TFileTimes Times;
+    Times.LastWrite = StepsOf(Status.stx_mtime);
+    Times.LastAccess = StepsOf(Status.stx_atime);
+    Times.IsDirectory = S_ISDIR(Status.stx_mode);
+    if (const std::optional<std::int64_t> Noted = NotedTime(*Path, Status))
+        Times.Created = *Noted;
+    else if (const std::int64_t Birth = BirthOf(Status))
+        Times.Created = Birth;
     else
-        ATimes.Created = std::min(ATimes.LastWrite, StepsOf(Status.stx_ctime));
-    return Outcome(AError, true);
+        Times.Created = std::min(Times.LastWrite, StepsOf(Status.stx_ctime));
+    return Times;
 }
 
-bool SetFileCreated(std::u16string_view APath, int64_t ATime, TError& AError) {
+TResult<> SetFileCreated(std::u16string_view APath, std::int64_t ATime) {
     const std::optional<std::string> Path = detail::ToNativeArgument(APath);
     struct statx Status;
     if (!Path)
-        return Fail(AError, EINVAL);
+        return TError(EINVAL);
     if (!StatusOf(*Path, Status))
-        return Outcome(AError, false);
+        return TError(errno);
     if (S_ISDIR(Status.stx_mode))
-        return Fail(AError, EISDIR);
+        return TError(EISDIR);
     if (!S_ISREG(Status.stx_mode)) // may do anything when it is opened
-        return Fail(AError, EPERM);
-    if (!CheckFileTime(ATime, AError))
-        return false;
+        return TError(EPERM);
+    if (const TResult<> Checked = CheckFileTime(ATime); !Checked)
+        return Checked;
     const int File = detail::OpenNative(Path->c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY);
     if (File < 0)
-        return Outcome(AError, false);
+        return TError(errno);
     std::string Note;
-    Outcome(AError, WriteNote(File, ATime, Note) && ComesBack(File, Note));
+    const TResult<> Result = ResultOf(WriteNote(File, ATime, Note) && ComesBack(File, Note));
     close(File);
-    return AError.Code == 0;
+    return Result;
 }
 
-bool CheckFileTime(int64_t ATime, TError& AError) noexcept {
-    AError.Code = ATime < 0 ? EINVAL : 0;
-    return ATime >= 0;
+TResult<> CheckFileTime(std::int64_t ATime) noexcept {
+    return TError(ATime < 0 ? EINVAL : 0);
 }
 
-std::optional<int64_t> LocalFileTime(int64_t) noexcept {
+std::optional<std::int64_t> LocalFileTime(std::int64_t) noexcept {
     return std::nullopt;
 }
 

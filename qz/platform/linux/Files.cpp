@@ -15,6 +15,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include <qz/platform/detail/ReadAll.h>
 #include <qz/platform/linux/FileSharing.h>
 #include <qz/platform/linux/NativeEnvironment.h>
 #include <qz/platform/linux/NativeFile.h>
@@ -23,16 +24,6 @@
 namespace qz::platform {
 
 namespace {
-
-bool Fail(TError& AError, int ACode) {
-    AError.Code = ACode;
-    return false;
-}
-
-bool Outcome(TError& AError, bool AOk) {
-    AError.Code = AOk ? 0 : errno;
-    return AOk;
-}
 
 class TFile {
 public:
@@ -45,7 +36,7 @@ public:
     bool IsOpen() const noexcept { return FHandle >= 0; }
     int Handle() const noexcept { return FHandle; }
 
-    // False when what was written didn't arrive.
+    // False when what was written did not arrive.
     bool Close() noexcept {
         const int Handle = std::exchange(FHandle, -1);
         // An interrupted close has closed nevertheless.
@@ -64,58 +55,29 @@ std::optional<struct stat> StatusOf(std::u16string_view APath) {
     return Status;
 }
 
-bool MakeRoom(std::vector<std::byte>& AOut, size_t ASize) {
-    try {
-        AOut.resize(ASize);
-    } catch (const std::exception&) {
-        errno = ENOMEM;
-        return false;
-    }
-    return true;
-}
-
-bool ReadAll(int AFile, size_t AExpected, std::vector<std::byte>& AOut) {
-    size_t Length = 0;
-    // One byte more than expected, so that the end shows without another growth.
-    if (!MakeRoom(AOut, AExpected + 1))
-        return false;
-    for (;;) {
-        const ssize_t Got = detail::ReadSome(AFile, std::span(AOut).subspan(Length));
-        if (Got < 0)
-            return false;
-        Length += static_cast<size_t>(Got);
-        if (Got == 0) {
-            AOut.resize(Length);
-            return true;
-        }
-        if (Length == AOut.size() && !MakeRoom(AOut, std::max<size_t>(AOut.size() * 2, 4096)))
-            return false;
-    }
-}
-
 using TPieces = std::span<const std::span<const std::byte>>;
 
 bool WriteAll(int AFile, TPieces APieces) {
-    size_t Done = 0;
+    std::size_t Done = 0;
     return std::ranges::all_of(APieces, [&](auto APiece) { return detail::WriteAll(AFile, APiece, Done); });
 }
 
-bool WriteInPlace(const char* APath, TPieces APieces, TError& AError) {
+TResult<> WriteInPlace(const char* APath, TPieces APieces) {
     // Made only where a link leads to nothing: some systems refuse to make what others own.
     const bool IsThere = access(APath, F_OK) == 0;
     TFile File(APath, O_WRONLY | O_NOCTTY | (IsThere ? 0 : O_CREAT), 0666);
     if (File.IsOpen() && detail::IsDenied(File.Handle(), TFileAccess::Write))
-        return Fail(AError, ETXTBSY);
+        return TError(ETXTBSY);
     struct stat Status;
     const bool Ok = File.IsOpen() && fstat(File.Handle(), &Status) == 0 &&
         (!S_ISREG(Status.st_mode) || ftruncate(File.Handle(), 0) == 0) && WriteAll(File.Handle(), APieces);
-    return Outcome(AError, Ok && File.Close());
+    return ResultOf(Ok && File.Close());
 }
 
 // A name beside APath that no other thread or process uses.
 std::string NameBeside(const std::string& APath) {
     static std::atomic<unsigned> Counter{0};
-    const size_t Slash = APath.rfind('/');
+    const std::size_t Slash = APath.rfind('/');
     const std::string Directory = Slash == std::string::npos ? std::string() : APath.substr(0, Slash + 1);
     return Directory + ".qz" + std::to_string(getpid()) + "-" + std::to_string(++Counter) + ".tmp";
 }
@@ -127,10 +89,12 @@ bool TakeAttribute(int AFile, const std::string& APath, const char* AName) {
     if (Size < 0)
         return errno == ENODATA || errno == ENOTSUP;
     std::vector<std::byte> Value;
-    if (!MakeRoom(Value, static_cast<size_t>(Size)))
+    if (!detail::MakeRoom(Value, static_cast<std::size_t>(Size))) {
+        errno = ENOMEM;
         return false;
+    }
     const ssize_t Got = getxattr(APath.c_str(), AName, Value.data(), Value.size());
-    return Got >= 0 && fsetxattr(AFile, AName, Value.data(), static_cast<size_t>(Got), 0) == 0;
+    return Got >= 0 && fsetxattr(AFile, AName, Value.data(), static_cast<std::size_t>(Got), 0) == 0;
 }
 
 bool TakeAttributes(int AFile, const std::string& APath) {
@@ -138,10 +102,12 @@ bool TakeAttributes(int AFile, const std::string& APath) {
     if (Size <= 0)
         return Size == 0 || errno == ENOTSUP;
     std::vector<std::byte> Bytes;
-    if (!MakeRoom(Bytes, static_cast<size_t>(Size) + 1))
+    if (!detail::MakeRoom(Bytes, static_cast<std::size_t>(Size) + 1)) {
+        errno = ENOMEM;
         return false;
+    }
     char* const Names = reinterpret_cast<char*>(Bytes.data());
-    const ssize_t Got = listxattr(APath.c_str(), Names, static_cast<size_t>(Size));
+    const ssize_t Got = listxattr(APath.c_str(), Names, static_cast<std::size_t>(Size));
     for (const char* Name = Names; Name < Names + Got; Name += std::strlen(Name) + 1) {
         const std::string_view View(Name);
         if ((View == "system.posix_acl_access" || View.starts_with("user.")) &&
@@ -167,7 +133,7 @@ bool TakeRights(int AFile, const std::string& APath, const struct stat& AOld) {
     return Ok;
 }
 
-bool WriteBeside(const std::string& APath, const struct stat* AOld, TPieces APieces, TError& AError) {
+TResult<> WriteBeside(const std::string& APath, const struct stat* AOld, TPieces APieces) {
     std::string Beside;
     std::optional<TFile> File;
     do {
@@ -175,13 +141,13 @@ bool WriteBeside(const std::string& APath, const struct stat* AOld, TPieces APie
         File.emplace(Beside.c_str(), O_WRONLY | O_CREAT | O_EXCL, AOld != nullptr ? 0600 : 0666);
     } while (!File->IsOpen() && errno == EEXIST);
     if (!File->IsOpen())
-        return Outcome(AError, false);
+        return TError(errno);
     const bool Ok = (AOld == nullptr || TakeRights(File->Handle(), APath, *AOld)) &&
         WriteAll(File->Handle(), APieces) && File->Close() && rename(Beside.c_str(), APath.c_str()) == 0;
-    Outcome(AError, Ok);
+    const TResult<> Result = ResultOf(Ok);
     if (!Ok)
         unlink(Beside.c_str());
-    return Ok;
+    return Result;
 }
 
 bool IsWritingDenied(const char* APath) {
@@ -198,7 +164,7 @@ TDirEntry EntryOf(int ADirectory, const dirent& AEntry) {
     struct stat Status;
     const bool Known = fstatat(ADirectory, AEntry.d_name, &Status, 0) == 0;
     const bool IsDirectory = Known ? S_ISDIR(Status.st_mode) : AEntry.d_type == DT_DIR;
-    const uint64_t Size = Known && !IsDirectory ? static_cast<uint64_t>(Status.st_size) : 0;
+    const std::uint64_t Size = Known && !IsDirectory ? static_cast<std::uint64_t>(Status.st_size) : 0;
     return {detail::FromNative(AEntry.d_name), IsDirectory, Size};
 }
 
@@ -214,27 +180,25 @@ bool DirectoryExists(std::u16string_view APath) {
     return Status && S_ISDIR(Status->st_mode);
 }
 
-bool ListDirectory(std::u16string_view APath, std::vector<TDirEntry>& AOut, TError& AError) {
-    AOut.clear();
+TResult<std::vector<TDirEntry>> ListDirectory(std::u16string_view APath) {
     const std::optional<std::string> Path = detail::ToNativeArgument(APath);
     if (!Path)
-        return Fail(AError, EINVAL);
+        return TError(EINVAL);
     const std::unique_ptr<DIR, int (*)(DIR*)> Directory(opendir(Path->c_str()), closedir);
     if (!Directory)
-        return Outcome(AError, false);
+        return TError(errno);
+    std::vector<TDirEntry> Entries;
     for (;;) {
         errno = 0;
         const dirent* Entry = readdir(Directory.get());
         if (Entry == nullptr)
             break;
         if (!IsDots(Entry->d_name))
-            AOut.push_back(EntryOf(dirfd(Directory.get()), *Entry));
+            Entries.push_back(EntryOf(dirfd(Directory.get()), *Entry));
     }
-    if (errno == 0)
-        return Outcome(AError, true);
-    Outcome(AError, false);
-    AOut.clear();
-    return false;
+    if (errno != 0)
+        return TError(errno);
+    return Entries;
 }
 
 std::u16string TempDirectory() {
@@ -244,19 +208,19 @@ std::u16string TempDirectory() {
     return Path.empty() ? u"/tmp" : detail::FromNative(Path);
 }
 
-bool MakeDirectory(std::u16string_view APath, TError& AError) {
+TResult<> MakeDirectory(std::u16string_view APath) {
     const std::optional<std::string> Path = detail::ToNativeArgument(APath);
-    return Path ? Outcome(AError, mkdir(Path->c_str(), 0777) == 0) : Fail(AError, EINVAL);
+    return Path ? ResultOf(mkdir(Path->c_str(), 0777) == 0) : TError(EINVAL);
 }
 
-bool RemoveFile(std::u16string_view APath, TError& AError) {
+TResult<> RemoveFile(std::u16string_view APath) {
     const std::optional<std::string> Path = detail::ToNativeArgument(APath);
-    return Path ? Outcome(AError, unlink(Path->c_str()) == 0) : Fail(AError, EINVAL);
+    return Path ? ResultOf(unlink(Path->c_str()) == 0) : TError(EINVAL);
 }
 
-bool RemoveEmptyDirectory(std::u16string_view APath, TError& AError) {
+TResult<> RemoveEmptyDirectory(std::u16string_view APath) {
     const std::optional<std::string> Path = detail::ToNativeArgument(APath);
-    return Path ? Outcome(AError, rmdir(Path->c_str()) == 0) : Fail(AError, EINVAL);
+    return Path ? ResultOf(rmdir(Path->c_str()) == 0) : TError(EINVAL);
 }
 
 std::u16string_view PathSeparators() noexcept {
@@ -271,58 +235,59 @@ char16_t DriveSeparator() noexcept {
     return 0;
 }
 
-bool RenameEntry(std::u16string_view APath, std::u16string_view ANewPath, TError& AError) {
+TResult<> RenameEntry(std::u16string_view APath, std::u16string_view ANewPath) {
     const std::optional<std::string> Old = detail::ToNativeArgument(APath);
     const std::optional<std::string> New = detail::ToNativeArgument(ANewPath);
     if (!Old || !New)
-        return Fail(AError, EINVAL);
+        return TError(EINVAL);
     if (renameat2(AT_FDCWD, Old->c_str(), AT_FDCWD, New->c_str(), RENAME_NOREPLACE) == 0)
-        return Outcome(AError, true);
+        return {};
     if (errno != EINVAL && errno != ENOSYS)
-        return Outcome(AError, false);
+        return TError(errno);
     struct stat Status; // a file system that knows no such renaming
     if (lstat(New->c_str(), &Status) == 0)
-        return Fail(AError, EEXIST);
-    return Outcome(AError, rename(Old->c_str(), New->c_str()) == 0);
+        return TError(EEXIST);
+    return ResultOf(rename(Old->c_str(), New->c_str()) == 0);
 }
 
-bool ReadWholeFile(std::u16string_view APath, std::vector<std::byte>& AOut, TError& AError) {
-    AOut.clear();
+TResult<std::vector<std::byte>> ReadWholeFile(std::u16string_view APath) {
     const std::optional<std::string> Path = detail::ToNativeArgument(APath);
     if (!Path)
-        return Fail(AError, EINVAL);
+        return TError(EINVAL);
     const TFile File(Path->c_str(), O_RDONLY | O_NOCTTY);
-    if (File.IsOpen() && detail::IsDenied(File.Handle(), TFileAccess::Read))
-        return Fail(AError, ETXTBSY);
     struct stat Status;
-    const bool Ok = File.IsOpen() && fstat(File.Handle(), &Status) == 0 &&
-        ReadAll(File.Handle(), static_cast<size_t>(std::max<off_t>(Status.st_size, 0)), AOut);
-    Outcome(AError, Ok);
-    if (!Ok)
-        AOut.clear();
-    return Ok;
+    if (!File.IsOpen() || fstat(File.Handle(), &Status) != 0)
+        return TError(errno);
+    if (detail::IsDenied(File.Handle(), TFileAccess::Read))
+        return TError(ETXTBSY);
+    const auto Expected = static_cast<std::size_t>(std::max<off_t>(Status.st_size, 0));
+    return detail::ReadAll(Expected, [&](std::span<std::byte> ATarget) -> TResult<std::size_t> {
+        const ssize_t Got = detail::ReadSome(File.Handle(), ATarget);
+        if (Got < 0)
+            return TError(errno);
+        return static_cast<std::size_t>(Got);
+    });
 }
 
-bool WriteWholeFile(std::u16string_view APath, TPieces APieces, TError& AError) {
+TResult<> WriteWholeFile(std::u16string_view APath, TPieces APieces) {
     const std::optional<std::string> Path = detail::ToNativeArgument(APath);
     if (!Path)
-        return Fail(AError, EINVAL);
+        return TError(EINVAL);
     struct stat Old;
     const bool Exists = lstat(Path->c_str(), &Old) == 0;
     if (Exists && S_ISDIR(Old.st_mode))
-        return Fail(AError, EISDIR);
-    // What has more than one name stays one file.
+        return TError(EISDIR);
+    // A file with more than one name stays one file.
     if (Exists && (!S_ISREG(Old.st_mode) || Old.st_nlink > 1))
-        return WriteInPlace(Path->c_str(), APieces, AError);
-    // A new file in its place would get around the write protection of the old one.
+        return WriteInPlace(Path->c_str(), APieces);
+    // A new file under its name would get around the write protection of the old one.
     if (Exists && faccessat(AT_FDCWD, Path->c_str(), W_OK, AT_EACCESS) != 0)
-        return Outcome(AError, false);
+        return TError(errno);
     if (Exists && IsWritingDenied(Path->c_str()))
-        return Fail(AError, ETXTBSY);
-    if (WriteBeside(*Path, Exists ? &Old : nullptr, APieces, AError))
-        return true;
-    const bool Locked = AError.Code == EACCES || AError.Code == EPERM || AError.Code == EROFS;
-    return Exists && Locked && WriteInPlace(Path->c_str(), APieces, AError);
+        return TError(ETXTBSY);
+    const TResult<> Beside = WriteBeside(*Path, Exists ? &Old : nullptr, APieces);
+    const bool IsLocked = Beside.Code() == EACCES || Beside.Code() == EPERM || Beside.Code() == EROFS;
+    return Exists && IsLocked ? WriteInPlace(Path->c_str(), APieces) : Beside;
 }
 
 } // namespace qz::platform

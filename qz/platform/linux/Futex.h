@@ -7,16 +7,16 @@
 namespace qz::platform::detail {
 
 // Groups of waiters on one word; a wake reaches those who share a bit with it.
-constexpr uint32_t cFutexAll = 0xFFFFFFFF;
+constexpr std::uint32_t cFutexAll = 0xFFFFFFFF;
 constexpr int cFutexEveryone = INT_MAX;
 
 // Sleeps while *AWord holds AExpected. Comes back on a wake, on a signal, and at once when the value differs,
 // so the caller looks again. errno keeps its value.
-void FutexWait(const void* AWord, uint32_t AExpected, uint32_t AGroups = cFutexAll) noexcept;
+void FutexWait(const void* AWord, std::uint32_t AExpected, std::uint32_t AGroups = cFutexAll) noexcept;
 
 // Wakes up to ACount of those who sleep on AWord in one of AGroups, and gives their number. Reads nothing at
 // AWord, which may be gone already. errno keeps its value.
-int FutexWake(const void* AWord, int ACount, uint32_t AGroups = cFutexAll) noexcept;
+int FutexWake(const void* AWord, int ACount, std::uint32_t AGroups = cFutexAll) noexcept;
 
 // Tells the processor that this is a short wait for another one.
 inline void SpinPause() noexcept {

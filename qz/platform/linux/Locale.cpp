@@ -24,11 +24,11 @@ template <class TFill> std::u16string Text(const TFill& AFill) {
     std::u16string Result(64, u'\0');
     for (;;) {
         UErrorCode Status = U_ZERO_ERROR;
-        const int32_t Length = AFill(Result.data(), static_cast<int32_t>(Result.size()), &Status);
+        const std::int32_t Length = AFill(Result.data(), static_cast<std::int32_t>(Result.size()), &Status);
         if (U_FAILURE(Status) && Status != U_BUFFER_OVERFLOW_ERROR)
             return {};
-        const bool Fits = static_cast<size_t>(Length) <= Result.size();
-        Result.resize(static_cast<size_t>(Length));
+        const bool Fits = static_cast<std::size_t>(Length) <= Result.size();
+        Result.resize(static_cast<std::size_t>(Length));
         if (Fits)
             return Result;
     }
@@ -41,7 +41,7 @@ TNumberFormat OpenNumbers(UNumberFormatStyle AStyle, const std::string& ALocale)
 }
 
 std::u16string Symbol(const TNumberFormat& AFormat, UNumberFormatSymbol ASymbol) {
-    return Text([&](char16_t* ABuffer, int32_t ASize, UErrorCode* AStatus) {
+    return Text([&](char16_t* ABuffer, std::int32_t ASize, UErrorCode* AStatus) {
         return unum_getSymbol(AFormat.get(), ASymbol, ABuffer, ASize, AStatus);
     });
 }
@@ -61,7 +61,7 @@ void ReadNumbers(const std::string& ALocale, TLocale& AResult) {
 }
 
 std::u16string Amount(const TNumberFormat& AFormat, double AValue) {
-    return Text([&](char16_t* ABuffer, int32_t ASize, UErrorCode* AStatus) {
+    return Text([&](char16_t* ABuffer, std::int32_t ASize, UErrorCode* AStatus) {
         return unum_formatDouble(AFormat.get(), AValue, ABuffer, ASize, nullptr, AStatus);
     });
 }
@@ -71,8 +71,8 @@ void ReadCurrency(const std::string& ALocale, TLocale& AResult) {
     if (!Format)
         return;
     const std::u16string Currency = Symbol(Format, UNUM_CURRENCY_SYMBOL);
-    AResult.CurrencyDecimals =
-        static_cast<uint8_t>(std::clamp(unum_getAttribute(Format.get(), UNUM_MIN_FRACTION_DIGITS), 0, 9));
+    AResult.CurrencyDecimals = static_cast<std::uint8_t>(
+        std::clamp(unum_getAttribute(Format.get(), UNUM_MIN_FRACTION_DIGITS), 0, 9));
     unum_setAttribute(Format.get(), UNUM_FRACTION_DIGITS, 0);
     AResult.CurrencyString = Currency;
     AResult.CurrencyFormat = detail::PositiveCurrencyCode(Amount(Format, 1), Currency);
@@ -91,7 +91,7 @@ void ReadPattern(std::u16string& ATarget, UDateFormatStyle ATime, UDateFormatSty
     const TDateFormat Format = OpenDates(ATime, ADate, ALocale);
     if (!Format)
         return;
-    const std::u16string Pattern = Text([&](char16_t* ABuffer, int32_t ASize, UErrorCode* AStatus) {
+    const std::u16string Pattern = Text([&](char16_t* ABuffer, std::int32_t ASize, UErrorCode* AStatus) {
         return udat_toPattern(Format.get(), 0, ABuffer, ASize, AStatus);
     });
     std::u16string Plain = detail::PlainPattern(Pattern);
@@ -99,13 +99,13 @@ void ReadPattern(std::u16string& ATarget, UDateFormatStyle ATime, UDateFormatSty
         ATarget = std::move(Plain);
 }
 
-template <size_t TCount>
+template <std::size_t TCount>
 void ReadNames(std::array<std::u16string, TCount>& ATarget, const TDateFormat& AFormat,
-               UDateFormatSymbolType AKind, int32_t AFirst) {
-    for (size_t Index = 0; Index < TCount; ++Index) {
-        ATarget[Index] = Text([&](char16_t* ABuffer, int32_t ASize, UErrorCode* AStatus) {
-            return udat_getSymbols(AFormat.get(), AKind, AFirst + static_cast<int32_t>(Index), ABuffer, ASize,
-                                   AStatus);
+               UDateFormatSymbolType AKind, std::int32_t AFirst) {
+    for (std::size_t Index = 0; Index < TCount; ++Index) {
+        ATarget[Index] = Text([&](char16_t* ABuffer, std::int32_t ASize, UErrorCode* AStatus) {
+            return udat_getSymbols(AFormat.get(), AKind, AFirst + static_cast<std::int32_t>(Index), ABuffer,
+                                   ASize, AStatus);
         });
     }
 }

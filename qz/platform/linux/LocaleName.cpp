@@ -30,14 +30,14 @@ std::string PosixLocaleName(const char* ACategory) {
 }
 
 std::string IcuLocaleName(std::string_view APosixName) {
-    const size_t ModifierAt = APosixName.find('@');
+    const std::size_t ModifierAt = APosixName.find('@');
     const std::string_view Modifier =
         ModifierAt == std::string_view::npos ? std::string_view() : APosixName.substr(ModifierAt + 1);
     const std::string_view Plain = APosixName.substr(0, APosixName.find_first_of(".@"));
     if (Plain.empty() || Plain == "C" || Plain == "POSIX")
         return {};
     std::string Result(Plain);
-    const size_t Language = std::min(Plain.find('_'), Plain.size());
+    const std::size_t Language = std::min(Plain.find('_'), Plain.size());
     if (Modifier == "latin")
         Result.insert(Language, "_Latn");
     else if (Modifier == "cyrillic")

@@ -27,26 +27,26 @@ constexpr bool IsMinus(char16_t AUnit) {
     return AUnit == u'-' || AUnit == 0x2212;
 }
 
-std::u16string Repeated(char16_t ALetter, size_t ACount) {
+std::u16string Repeated(char16_t ALetter, std::size_t ACount) {
     return std::u16string(ACount, ALetter);
 }
 
-std::u16string PlainField(char16_t ALetter, size_t ACount) {
+std::u16string PlainField(char16_t ALetter, std::size_t ACount) {
     switch (ALetter) {
-    case u'd': return Repeated(u'd', std::min<size_t>(ACount, 2));
+    case u'd': return Repeated(u'd', std::min<std::size_t>(ACount, 2));
     case u'E':
     case u'c':
     case u'e': return ACount == 4 ? u"dddd" : u"ddd";
     case u'M':
-    case u'L': return Repeated(u'M', std::min<size_t>(ACount, 4));
+    case u'L': return Repeated(u'M', std::min<std::size_t>(ACount, 4));
     case u'y':
     case u'u': return ACount == 2 ? u"yy" : u"yyyy";
     case u'h':
-    case u'K': return Repeated(u'h', std::min<size_t>(ACount, 2));
+    case u'K': return Repeated(u'h', std::min<std::size_t>(ACount, 2));
     case u'H':
-    case u'k': return Repeated(u'H', std::min<size_t>(ACount, 2));
+    case u'k': return Repeated(u'H', std::min<std::size_t>(ACount, 2));
     case u'm':
-    case u's': return Repeated(ALetter, std::min<size_t>(ACount, 2));
+    case u's': return Repeated(ALetter, std::min<std::size_t>(ACount, 2));
     case u'a':
     case u'b':
     case u'B': return u"tt";
@@ -55,8 +55,8 @@ std::u16string PlainField(char16_t ALetter, size_t ACount) {
 }
 
 // The end of the quoted text that begins at AStart, behind its closing quote.
-size_t QuotedEnd(std::u16string_view APattern, size_t AStart) {
-    const size_t Quote = APattern.find(u'\'', AStart + 1);
+std::size_t QuotedEnd(std::u16string_view APattern, std::size_t AStart) {
+    const std::size_t Quote = APattern.find(u'\'', AStart + 1);
     return Quote == std::u16string_view::npos ? APattern.size() : Quote + 1;
 }
 
@@ -76,7 +76,7 @@ void AppendBlank(std::u16string& AText) {
 // "$" for the currency, "n" for the number, "-" for any minus, " " for any blank.
 std::u16string Shape(std::u16string_view AAmount, std::u16string_view ACurrency) {
     std::u16string Result;
-    for (size_t Index = 0; Index < AAmount.size();) {
+    for (std::size_t Index = 0; Index < AAmount.size();) {
         if (!ACurrency.empty() && AAmount.substr(Index).starts_with(ACurrency)) {
             Result += u'$';
             Index += ACurrency.size();
@@ -103,15 +103,15 @@ constexpr std::array<std::u16string_view, 16> cNegative = {
 };
 
 // The negative form with the minus in front, for each positive form.
-constexpr std::array<uint8_t, 4> cMinusInFront = {1, 5, 9, 8};
+constexpr std::array<std::uint8_t, 4> cMinusInFront = {1, 5, 9, 8};
 
 } // namespace
 
 std::u16string PlainPattern(std::u16string_view APattern) {
     std::u16string Result;
-    for (size_t Index = 0; Index < APattern.size();) {
+    for (std::size_t Index = 0; Index < APattern.size();) {
         const char16_t Unit = APattern[Index];
-        size_t End = Index + 1;
+        std::size_t End = Index + 1;
         if (Unit == u'\'') {
             End = QuotedEnd(APattern, Index);
             Result += APattern.substr(Index, End - Index);
@@ -130,7 +130,7 @@ std::u16string PlainPattern(std::u16string_view APattern) {
 
 std::u16string WithLongYear(std::u16string_view APattern) {
     std::u16string Result(APattern);
-    const size_t Year = Result.find(u"yy");
+    const std::size_t Year = Result.find(u"yy");
     if (Year != std::u16string::npos && !std::u16string_view(Result).substr(Year).starts_with(u"yyy"))
         Result.insert(Year, u"yy");
     return Result;
@@ -138,7 +138,7 @@ std::u16string WithLongYear(std::u16string_view APattern) {
 
 std::u16string_view FirstSeparator(std::u16string_view APattern) {
     bool FieldSeen = false;
-    for (size_t Index = 0; Index < APattern.size(); ++Index) {
+    for (std::size_t Index = 0; Index < APattern.size(); ++Index) {
         const char16_t Unit = APattern[Index];
         if (Unit == u'\'')
             Index = QuotedEnd(APattern, Index) - 1;
@@ -150,15 +150,16 @@ std::u16string_view FirstSeparator(std::u16string_view APattern) {
     return {};
 }
 
-uint8_t PositiveCurrencyCode(std::u16string_view AAmount, std::u16string_view ACurrency) {
+std::uint8_t PositiveCurrencyCode(std::u16string_view AAmount, std::u16string_view ACurrency) {
     const auto* Found = std::find(cPositive.begin(), cPositive.end(), Shape(AAmount, ACurrency));
-    return Found == cPositive.end() ? uint8_t{0} : static_cast<uint8_t>(Found - cPositive.begin());
+    return Found == cPositive.end() ? std::uint8_t{0} : static_cast<std::uint8_t>(Found - cPositive.begin());
 }
 
-uint8_t NegativeCurrencyCode(std::u16string_view AAmount, std::u16string_view ACurrency, uint8_t APositive) {
+std::uint8_t NegativeCurrencyCode(std::u16string_view AAmount, std::u16string_view ACurrency,
+                                  std::uint8_t APositive) {
     const auto* Found = std::find(cNegative.begin(), cNegative.end(), Shape(AAmount, ACurrency));
     return Found == cNegative.end() ? cMinusInFront[APositive]
-                                    : static_cast<uint8_t>(Found - cNegative.begin());
+                                    : static_cast<std::uint8_t>(Found - cNegative.begin());
 }
 
 } // namespace qz::platform::detail

@@ -20,7 +20,8 @@ std::u16string_view FirstSeparator(std::u16string_view APattern);
 
 // The positions of an amount of 1, or of -1, as ICU wrote it with the symbol ACurrency. A negative form that
 // has no code gives the nearest to the positive one.
-uint8_t PositiveCurrencyCode(std::u16string_view AAmount, std::u16string_view ACurrency);
-uint8_t NegativeCurrencyCode(std::u16string_view AAmount, std::u16string_view ACurrency, uint8_t APositive);
+std::uint8_t PositiveCurrencyCode(std::u16string_view AAmount, std::u16string_view ACurrency);
+std::uint8_t NegativeCurrencyCode(std::u16string_view AAmount, std::u16string_view ACurrency,
+                                  std::uint8_t APositive);
 
 } // namespace qz::platform::detail

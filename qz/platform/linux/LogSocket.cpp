@@ -49,7 +49,7 @@ int SealedFile(std::string_view AContent) noexcept {
     if (File < 0)
         return -1;
     const TNoLimitSignal Quiet;
-    size_t Done = 0;
+    std::size_t Done = 0;
     if (WriteAll(File, std::as_bytes(std::span(AContent)), Done) &&
         fcntl(File, F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE | F_SEAL_SEAL) == 0)
         return File;
@@ -149,11 +149,11 @@ TSent TLogStream::Connect(const std::string& APath) noexcept {
 }
 
 TSent TLogStream::SendRaw(const std::string& AMessage) const noexcept {
-    const size_t Size = AMessage.size() + 1;
+    const std::size_t Size = AMessage.size() + 1;
     for (;;) {
         const ssize_t Sent = send(FSocket.Handle(), AMessage.c_str(), Size, MSG_DONTWAIT | MSG_NOSIGNAL);
         if (Sent >= 0) // one taken in part is begun anew on another connection
-            return static_cast<size_t>(Sent) == Size ? TSent::Yes : TSent::NoDaemon;
+            return static_cast<std::size_t>(Sent) == Size ? TSent::Yes : TSent::NoDaemon;
         if (errno != EINTR)
             return OutcomeOf(errno);
     }

@@ -15,8 +15,8 @@ std::u16string ExecutablePath() {
         const ssize_t Length = readlink("/proc/self/exe", Path.data(), Path.size());
         if (Length < 0)
             return {};
-        if (static_cast<size_t>(Length) < Path.size())
-            return detail::FromNative(std::string_view(Path).substr(0, static_cast<size_t>(Length)));
+        if (static_cast<std::size_t>(Length) < Path.size())
+            return detail::FromNative(std::string_view(Path).substr(0, static_cast<std::size_t>(Length)));
         Path.resize(Path.size() * 2);
     }
 }

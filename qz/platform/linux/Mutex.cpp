@@ -10,11 +10,11 @@ namespace qz::platform {
 
 namespace {
 
-enum TLockState : uint32_t { lsFree, lsHeld, lsHeldAndAwaited };
+enum TLockState : std::uint32_t { lsFree, lsHeld, lsHeldAndAwaited };
 
 struct TLock {
-    std::atomic<uint32_t> State = lsFree;
-    uint32_t Depth = 0; // the owner's alone
+    std::atomic<std::uint32_t> State = lsFree;
+    std::uint32_t Depth = 0; // the owner's alone
     // Only the owner writes its own mark here, so that a thread that reads its own mark is the owner.
     std::atomic<const void*> Owner = nullptr;
 };
@@ -30,7 +30,7 @@ TLock& LockIn(std::byte* AState) noexcept {
 }
 
 bool TryTake(TLock& ALock) noexcept {
-    uint32_t Expected = lsFree;
+    std::uint32_t Expected = lsFree;
     return ALock.State.compare_exchange_strong(Expected, lsHeld, std::memory_order_acquire,
                                                std::memory_order_relaxed);
 }
@@ -38,7 +38,7 @@ bool TryTake(TLock& ALock) noexcept {
 void Wait(TLock& ALock) noexcept {
     for (int Spin = 0; Spin < cSpins; ++Spin) {
         detail::SpinPause();
-        const uint32_t State = ALock.State.load(std::memory_order_relaxed);
+        const std::uint32_t State = ALock.State.load(std::memory_order_relaxed);
         if (State == lsHeldAndAwaited)
             break;
         if (State == lsFree && TryTake(ALock))
@@ -58,7 +58,7 @@ void Own(TLock& ALock) noexcept {
 
 TRecursiveMutex::TRecursiveMutex() noexcept {
     static_assert(sizeof(TLock) <= sizeof FState && alignof(TLock) <= alignof(TRecursiveMutex));
-    static_assert(sizeof(std::atomic<uint32_t>) == sizeof(uint32_t));
+    static_assert(sizeof(std::atomic<std::uint32_t>) == sizeof(std::uint32_t));
     ::new (static_cast<void*>(FState)) TLock;
 }
 

@@ -13,7 +13,7 @@ namespace qz::platform::detail {
 
 namespace {
 
-constexpr size_t cLargestStep = size_t{1} << 30;
+constexpr std::size_t cLargestStep = std::size_t{1} << 30;
 
 } // namespace
 
@@ -33,16 +33,16 @@ ssize_t ReadSome(int AFile, std::span<std::byte> ATarget) noexcept {
     }
 }
 
-bool WriteAll(int AFile, std::span<const std::byte> ASource, size_t& ADone) noexcept {
+bool WriteAll(int AFile, std::span<const std::byte> ASource, std::size_t& ADone) noexcept {
     ADone = 0;
     std::optional<TNoLimitSignal> Quiet; // behind a write that came to the limit of the file
     while (ADone < ASource.size()) {
         if (ADone > 0 && !Quiet)
             Quiet.emplace();
-        const size_t Step = std::min(ASource.size() - ADone, cLargestStep);
+        const std::size_t Step = std::min(ASource.size() - ADone, cLargestStep);
         const ssize_t Written = write(AFile, ASource.data() + ADone, Step);
         if (Written > 0) {
-            ADone += static_cast<size_t>(Written);
+            ADone += static_cast<std::size_t>(Written);
         } else if (Written == 0) {
             errno = EIO; // a device that takes nothing would hold us here for ever
             return false;

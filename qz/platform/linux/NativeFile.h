@@ -15,6 +15,6 @@ int OpenNative(const char* APath, int AFlags, mode_t AMode = 0666) noexcept;
 ssize_t ReadSome(int AFile, std::span<std::byte> ATarget) noexcept;
 
 // Writes all of ASource; ADone tells how much arrived.
-bool WriteAll(int AFile, std::span<const std::byte> ASource, size_t& ADone) noexcept;
+bool WriteAll(int AFile, std::span<const std::byte> ASource, std::size_t& ADone) noexcept;
 
 } // namespace qz::platform::detail

@@ -9,18 +9,20 @@ bool IsContinuation(unsigned char AByte) {
 }
 
 // How many bytes from APosition on are one valid UTF-8 sequence, 0 when none are.
-size_t SequenceLength(std::string_view ABytes, size_t APosition) {
-    const auto At = [&](size_t AIndex) { return static_cast<unsigned char>(ABytes[APosition + AIndex]); };
-    const size_t Left = ABytes.size() - APosition;
+std::size_t SequenceLength(std::string_view ABytes, std::size_t APosition) {
+    const auto At = [&](std::size_t AIndex) {
+        return static_cast<unsigned char>(ABytes[APosition + AIndex]);
+    };
+    const std::size_t Left = ABytes.size() - APosition;
     const unsigned char Lead = At(0);
     if (Lead < 0x80)
         return 1;
     if (Lead < 0xC2 || Lead > 0xF4)
         return 0;
-    const size_t Length = Lead < 0xE0 ? 2 : Lead < 0xF0 ? 3 : 4;
+    const std::size_t Length = Lead < 0xE0 ? 2 : Lead < 0xF0 ? 3 : 4;
     if (Left < Length)
         return 0;
-    for (size_t Index = 1; Index < Length; ++Index) {
+    for (std::size_t Index = 1; Index < Length; ++Index) {
         if (!IsContinuation(At(Index)))
             return 0;
     }
@@ -34,7 +36,7 @@ size_t SequenceLength(std::string_view ABytes, size_t APosition) {
 char32_t DecodeSequence(std::string_view ASequence) {
     static constexpr unsigned char cLeadMask[] = {0, 0x7F, 0x1F, 0x0F, 0x07};
     char32_t Result = static_cast<unsigned char>(ASequence[0]) & cLeadMask[ASequence.size()];
-    for (size_t Index = 1; Index < ASequence.size(); ++Index)
+    for (std::size_t Index = 1; Index < ASequence.size(); ++Index)
         Result = (Result << 6) | (static_cast<unsigned char>(ASequence[Index]) & 0x3F);
     return Result;
 }
@@ -80,8 +82,8 @@ bool IsLowSurrogate(char16_t AUnit) {
 std::u16string FromNative(std::string_view ABytes) {
     std::u16string Result;
     Result.reserve(ABytes.size());
-    for (size_t Position = 0; Position < ABytes.size();) {
-        const size_t Length = SequenceLength(ABytes, Position);
+    for (std::size_t Position = 0; Position < ABytes.size();) {
+        const std::size_t Length = SequenceLength(ABytes, Position);
         if (Length == 0) {
             Result += static_cast<char16_t>(0xDC00 + static_cast<unsigned char>(ABytes[Position]));
             ++Position;
@@ -96,7 +98,7 @@ std::u16string FromNative(std::string_view ABytes) {
 std::string ToNative(std::u16string_view AText) {
     std::string Result;
     Result.reserve(AText.size());
-    for (size_t Index = 0; Index < AText.size(); ++Index) {
+    for (std::size_t Index = 0; Index < AText.size(); ++Index) {
         const char16_t Unit = AText[Index];
         if (IsHighSurrogate(Unit) && Index + 1 < AText.size() && IsLowSurrogate(AText[Index + 1])) {
             const char16_t Low = AText[++Index];

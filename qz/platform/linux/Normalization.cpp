@@ -22,7 +22,7 @@ const UNormalizer2* NormalizerOf(int AForm, UErrorCode& AStatus) {
 
 // ICU takes lone surrogates as they are; Windows refuses them.
 bool IsWellFormed(std::u16string_view AText) {
-    for (size_t I = 0; I < AText.size(); ++I) {
+    for (std::size_t I = 0; I < AText.size(); ++I) {
         if (!U16_IS_SURROGATE(AText[I]))
             continue;
         if (!U16_IS_LEAD(AText[I]) || I + 1 == AText.size() || !U16_IS_TRAIL(AText[I + 1]))
@@ -38,26 +38,23 @@ TNormalizer PrepareNormalizer() {
     return TNormalizer::Ready;
 }
 
-bool NormalizeText(int AForm, std::u16string_view AText, std::u16string& AOut, TError& AError) {
-    AOut.clear();
+TResult<std::u16string> NormalizeText(int AForm, std::u16string_view AText) {
     UErrorCode Status = U_ZERO_ERROR;
     const UNormalizer2* Normalizer = NormalizerOf(AForm, Status);
-    if (AText.empty() || AText.size() > INT_MAX || U_FAILURE(Status) || !IsWellFormed(AText)) {
-        AError.Code = EINVAL;
-        return false;
-    }
-    const auto Length = static_cast<int32_t>(AText.size());
-    AOut.resize(AText.size() * 2 + 16);
+    if (AText.empty() || AText.size() > INT_MAX || U_FAILURE(Status) || !IsWellFormed(AText))
+        return TError(EINVAL);
+    const auto Length = static_cast<std::int32_t>(AText.size());
+    std::u16string Result(AText.size() * 2 + 16, u'\0');
     for (;;) {
         Status = U_ZERO_ERROR;
-        const int32_t Needed = unorm2_normalize(Normalizer, AText.data(), Length, AOut.data(),
-                                                static_cast<int32_t>(AOut.size()), &Status);
-        AOut.resize(U_SUCCESS(Status) || Status == U_BUFFER_OVERFLOW_ERROR ? static_cast<size_t>(Needed) : 0);
+        const std::int32_t Needed = unorm2_normalize(Normalizer, AText.data(), Length, Result.data(),
+                                                     static_cast<std::int32_t>(Result.size()), &Status);
+        if (U_FAILURE(Status) && Status != U_BUFFER_OVERFLOW_ERROR)
+            return TError(Status == U_MEMORY_ALLOCATION_ERROR ? ENOMEM : EINVAL);
+        Result.resize(static_cast<std::size_t>(Needed));
         if (Status != U_BUFFER_OVERFLOW_ERROR)
-            break;
+            return Result;
     }
-    AError.Code = U_SUCCESS(Status) ? 0 : Status == U_MEMORY_ALLOCATION_ERROR ? ENOMEM : EINVAL;
-    return AError.Code == 0;
 }
 
 } // namespace qz::platform

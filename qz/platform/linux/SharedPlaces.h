@@ -1,6 +1,7 @@
 // The places of the system that the folders of all users lie in.
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace qz::platform::detail {
@@ -12,6 +13,6 @@ struct TSharedPlaces {
 };
 
 // As ShellFolder, for a system with these places.
-bool FindFolder(int ANumber, const TSharedPlaces& APlaces, std::string& APath);
+std::optional<std::string> FindFolder(int ANumber, const TSharedPlaces& APlaces);
 
 } // namespace qz::platform::detail

@@ -134,7 +134,7 @@ TFound PathOf(const TFolder& AFolder, const detail::TSharedPlaces& APlaces) {
 
 // Makes what is missing of the path.
 bool MakePath(const std::string& APath, mode_t AMode) {
-    for (size_t End = APath.find('/', 1);; End = APath.find('/', End + 1)) {
+    for (std::size_t End = APath.find('/', 1);; End = APath.find('/', End + 1)) {
         const std::string Part = APath.substr(0, End);
         if (!IsDirectory(Part) && mkdir(Part.c_str(), AMode) != 0 && errno != EEXIST)
             return false;
@@ -145,26 +145,23 @@ bool MakePath(const std::string& APath, mode_t AMode) {
 
 } // namespace
 
-bool detail::FindFolder(int ANumber, const TSharedPlaces& APlaces, std::string& APath) {
+std::optional<std::string> detail::FindFolder(int ANumber, const TSharedPlaces& APlaces) {
     const auto* const Folder = std::ranges::find(cFolders, ANumber, &TFolder::Number);
     if (Folder == std::end(cFolders))
-        return false;
+        return std::nullopt;
     TFound Found = PathOf(*Folder, APlaces);
     if (Folder->Place != TPlace::System && Folder->Place != TPlace::Chosen)
         Found.Path = Below(std::move(Found.Path), Folder->Name);
-    APath = std::move(Found.Path);
-    if (APath.empty() || Folder->Place == TPlace::System)
-        return !APath.empty();
-    return Folder->Place == TPlace::Home ? IsDirectory(APath) : MakePath(APath, Found.IsOwn ? 0700 : 0755);
+    const bool Ok = Found.Path.empty()    ? false
+        : Folder->Place == TPlace::System ? true
+        : Folder->Place == TPlace::Home   ? IsDirectory(Found.Path)
+                                          : MakePath(Found.Path, Found.IsOwn ? 0700 : 0755);
+    return Ok ? std::optional(std::move(Found.Path)) : std::nullopt;
 }
 
-bool ShellFolder(int ANumber, std::u16string& APath) {
-    APath.clear();
-    std::string Path;
-    if (!detail::FindFolder(ANumber, {}, Path))
-        return false;
-    APath = detail::FromNative(Path);
-    return true;
+std::optional<std::u16string> ShellFolder(int ANumber) {
+    const std::optional<std::string> Path = detail::FindFolder(ANumber, {});
+    return Path ? std::optional(detail::FromNative(*Path)) : std::nullopt;
 }
 
 } // namespace qz::platform

@@ -31,15 +31,15 @@ namespace qz::platform {
 
 namespace {
 
-constexpr uintptr_t cWriter = 1;
-constexpr uintptr_t cWritersFirst = 2;
-constexpr uintptr_t cReadersWait = 4;
-constexpr uintptr_t cReader = 8;
-constexpr uintptr_t cWaitingWriter = uintptr_t{1} << 32;
-constexpr uintptr_t cWaitingWriters = ~(cWaitingWriter - 1);
+constexpr std::uintptr_t cWriter = 1;
+constexpr std::uintptr_t cWritersFirst = 2;
+constexpr std::uintptr_t cReadersWait = 4;
+constexpr std::uintptr_t cReader = 8;
+constexpr std::uintptr_t cWaitingWriter = std::uintptr_t{1} << 32;
+constexpr std::uintptr_t cWaitingWriters = ~(cWaitingWriter - 1);
 
-constexpr uint32_t cReaderGroup = 1;
-constexpr uint32_t cWriterGroup = 2;
+constexpr std::uint32_t cReaderGroup = 1;
+constexpr std::uint32_t cWriterGroup = 2;
 
 // Long enough for a short section to end, far shorter than a sleep in the kernel.
 constexpr int cSpins = 60;
@@ -50,23 +50,23 @@ class TWord {
 public:
     explicit TWord(TSlimLockWord* AWord) noexcept : FWord(AWord->Ptr), FAddress(&AWord->Ptr) {}
 
-    uintptr_t Load() const noexcept {
-        return reinterpret_cast<uintptr_t>(FWord.load(std::memory_order_relaxed));
+    std::uintptr_t Load() const noexcept {
+        return reinterpret_cast<std::uintptr_t>(FWord.load(std::memory_order_relaxed));
     }
 
     // On failure AExpected becomes what the word holds.
-    bool Change(uintptr_t& AExpected, uintptr_t ANew,
+    bool Change(std::uintptr_t& AExpected, std::uintptr_t ANew,
                 std::memory_order AOrder = std::memory_order_relaxed) noexcept {
         void* Expected = reinterpret_cast<void*>(AExpected);
         if (FWord.compare_exchange_weak(Expected, reinterpret_cast<void*>(ANew), AOrder,
                                         std::memory_order_relaxed))
             return true;
-        AExpected = reinterpret_cast<uintptr_t>(Expected);
+        AExpected = reinterpret_cast<std::uintptr_t>(Expected);
         return false;
     }
 
-    void Sleep(uintptr_t AExpected, uint32_t AGroup) const noexcept {
-        detail::FutexWait(LowHalf(), static_cast<uint32_t>(AExpected), AGroup);
+    void Sleep(std::uintptr_t AExpected, std::uint32_t AGroup) const noexcept {
+        detail::FutexWait(LowHalf(), static_cast<std::uint32_t>(AExpected), AGroup);
     }
 
     void WakeWriter() const noexcept { detail::FutexWake(LowHalf(), 1, cWriterGroup); }
@@ -75,7 +75,7 @@ public:
 
 private:
     const void* LowHalf() const noexcept {
-        constexpr size_t cOffset = std::endian::native == std::endian::big ? sizeof(void*) - 4 : 0;
+        constexpr std::size_t cOffset = std::endian::native == std::endian::big ? sizeof(void*) - 4 : 0;
         return static_cast<const char*>(FAddress) + cOffset;
     }
 
@@ -83,17 +83,17 @@ private:
     const void* FAddress;
 };
 
-bool IsFree(uintptr_t AState) {
+bool IsFree(std::uintptr_t AState) {
     return (AState & ~cWaitingWriters & ~(cWritersFirst | cReadersWait)) == 0;
 }
 
-bool AdmitsReader(uintptr_t AState) {
+bool AdmitsReader(std::uintptr_t AState) {
     return (AState & (cWriter | cWritersFirst)) == 0;
 }
 
 unsigned char TryAcquireExclusive(TSlimLockWord* AWord) {
     TWord Word(AWord);
-    uintptr_t State = Word.Load();
+    std::uintptr_t State = Word.Load();
     while (IsFree(State)) {
         if (Word.Change(State, State | cWriter, std::memory_order_acquire))
             return 1;
@@ -108,7 +108,7 @@ void WaitExclusive(TSlimLockWord* AWord) {
         if (TryAcquireExclusive(AWord))
             return;
     }
-    uintptr_t State = Word.Load();
+    std::uintptr_t State = Word.Load();
     while (!Word.Change(State, State + cWaitingWriter)) {}
     State = Word.Load();
     for (;;) {
@@ -124,15 +124,15 @@ void WaitExclusive(TSlimLockWord* AWord) {
 
 void AcquireExclusive(TSlimLockWord* AWord) {
     TWord Word(AWord);
-    uintptr_t State = 0;
+    std::uintptr_t State = 0;
     if (!Word.Change(State, cWriter, std::memory_order_acquire))
         WaitExclusive(AWord);
 }
 
 void ReleaseExclusive(TSlimLockWord* AWord) {
     TWord Word(AWord);
-    uintptr_t State = cWriter;
-    uintptr_t After = 0;
+    std::uintptr_t State = cWriter;
+    std::uintptr_t After = 0;
     while (!Word.Change(State, After, std::memory_order_release)) {
         After = State & cWaitingWriters;
         if (After != 0 && (State & cReadersWait) == 0)
@@ -146,7 +146,7 @@ void ReleaseExclusive(TSlimLockWord* AWord) {
 
 unsigned char TryAcquireShared(TSlimLockWord* AWord) {
     TWord Word(AWord);
-    uintptr_t State = Word.Load();
+    std::uintptr_t State = Word.Load();
     while (AdmitsReader(State)) {
         if (Word.Change(State, State + cReader, std::memory_order_acquire))
             return 1;
@@ -161,7 +161,7 @@ void WaitShared(TSlimLockWord* AWord) {
         if (TryAcquireShared(AWord))
             return;
     }
-    uintptr_t State = Word.Load();
+    std::uintptr_t State = Word.Load();
     for (;;) {
         if (AdmitsReader(State)) {
             if (Word.Change(State, State + cReader, std::memory_order_acquire))
@@ -180,8 +180,8 @@ void AcquireShared(TSlimLockWord* AWord) {
 
 void ReleaseShared(TSlimLockWord* AWord) {
     TWord Word(AWord);
-    uintptr_t State = Word.Load();
-    uintptr_t After = 0;
+    std::uintptr_t State = Word.Load();
+    std::uintptr_t After = 0;
     do {
         After = State - cReader;
         if (IsFree(After))

@@ -18,15 +18,15 @@ namespace detail {
 
 namespace {
 
-constexpr size_t cLongestSyslogText = 8000; // of one message: what the daemons take at least
-constexpr size_t cKeptRoom = 64 * 1024;
+constexpr std::size_t cLongestSyslogText = 8000; // of one message: what the daemons take at least
+constexpr std::size_t cKeptRoom = 64 * 1024;
 
 struct TSource {
     std::string Name; // as it was given
     std::string Tag;  // as the syslog takes it
     TLogDatagrams Datagrams;
     TLogStream Stream;
-    int32_t LocalOffset = 0;
+    std::int32_t LocalOffset = 0;
     // For the message under way, kept for the next one.
     std::string Text;
     std::string Message;
@@ -39,7 +39,7 @@ bool IsControl(unsigned char AByte) {
 // UTF-8, with U+FFFD for lone surrogates.
 std::string Utf8Of(std::u16string_view AText) {
     std::u16string Sound(AText);
-    for (size_t Index = 0; Index < Sound.size(); ++Index) {
+    for (std::size_t Index = 0; Index < Sound.size(); ++Index) {
         if ((Sound[Index] & 0xF800) != 0xD800)
             continue;
         const bool IsPair =
@@ -79,13 +79,13 @@ void AppendField(std::string& AMessage, std::string_view AName, std::string_view
     } else {
         AMessage += '\n';
         for (unsigned Shift = 0; Shift < 64; Shift += 8)
-            AMessage += static_cast<char>(uint64_t{AValue.size()} >> Shift & 0xFF);
+            AMessage += static_cast<char>(std::uint64_t{AValue.size()} >> Shift & 0xFF);
     }
     AMessage += AValue;
     AMessage += '\n';
 }
 
-TSent SendToJournal(TSource& ASource, const std::string& APath, TEventType AType, uint32_t AId) {
+TSent SendToJournal(TSource& ASource, const std::string& APath, TEventType AType, std::uint32_t AId) {
     std::string& Message = ASource.Message;
     const char Priority = PriorityOf(AType);
     Message.clear();
@@ -120,23 +120,23 @@ TSent SendSyslogMessage(TSource& ASource, const std::string& APath) {
     return Result == TSent::NoDaemon ? ASource.Stream.Send(APath, ASource.Message) : Result;
 }
 
-size_t SequenceLength(unsigned char ALead) {
+std::size_t SequenceLength(unsigned char ALead) {
     return ALead < 0xC0 ? 1 : ALead < 0xE0 ? 2 : ALead < 0xF0 ? 3 : 4;
 }
 
 bool SendToSyslog(TSource& ASource, const std::string& APath, TEventType AType) {
     std::string& Message = ASource.Message;
     Message = SyslogHeader(ASource, AType);
-    const size_t HeaderSize = Message.size();
+    const std::size_t HeaderSize = Message.size();
     const std::string_view Text = ASource.Text;
-    for (size_t Index = 0; Index < Text.size();) {
+    for (std::size_t Index = 0; Index < Text.size();) {
         const auto Lead = static_cast<unsigned char>(Text[Index]);
-        const size_t Length = SequenceLength(Lead);
+        const std::size_t Length = SequenceLength(Lead);
         char Escape[8];
         std::string_view Piece = Text.substr(Index, Length);
         if (IsControl(Lead) && Lead != '\t')
             Piece = {Escape,
-                     static_cast<size_t>(std::snprintf(Escape, sizeof Escape, "#%03o", unsigned{Lead}))};
+                     static_cast<std::size_t>(std::snprintf(Escape, sizeof Escape, "#%03o", unsigned{Lead}))};
         if (Message.size() + Piece.size() > HeaderSize + cLongestSyslogText) {
             if (SendSyslogMessage(ASource, APath) != TSent::Yes)
                 return false;
@@ -161,23 +161,23 @@ TSystemLog::TSystemLog(std::string AJournal, std::string ASyslog)
 
 void TSystemLog::EnterSource(std::u16string_view, std::u16string_view) noexcept {}
 
-uintptr_t TSystemLog::OpenSource(std::u16string_view AName) noexcept {
+std::uintptr_t TSystemLog::OpenSource(std::u16string_view AName) noexcept {
     try {
         auto Source = std::make_unique<TSource>();
         Source->Name = Utf8Of(AName);
         Source->Tag = TagOf(Source->Name);
-        return reinterpret_cast<uintptr_t>(Source.release());
+        return reinterpret_cast<std::uintptr_t>(Source.release());
     } catch (const std::exception&) {
         return 0;
     }
 }
 
-void TSystemLog::CloseSource(uintptr_t ASource) noexcept {
+void TSystemLog::CloseSource(std::uintptr_t ASource) noexcept {
     const std::unique_ptr<TSource> Source(reinterpret_cast<TSource*>(ASource));
 }
 
-bool TSystemLog::Write(uintptr_t ASource, TEventType AType, uint32_t AId, std::u16string_view AText,
-                       int32_t ALocalOffset) noexcept {
+bool TSystemLog::Write(std::uintptr_t ASource, TEventType AType, std::uint32_t AId, std::u16string_view AText,
+                       std::int32_t ALocalOffset) noexcept {
     if (ASource == 0)
         return false;
     try {

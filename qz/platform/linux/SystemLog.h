@@ -13,10 +13,10 @@ public:
     TSystemLog(std::string AJournal, std::string ASyslog);
 
     void EnterSource(std::u16string_view AName, std::u16string_view AProgram) noexcept override;
-    uintptr_t OpenSource(std::u16string_view AName) noexcept override;
-    void CloseSource(uintptr_t ASource) noexcept override;
-    bool Write(uintptr_t ASource, TEventType AType, uint32_t AId, std::u16string_view AText,
-               int32_t ALocalOffset) noexcept override;
+    std::uintptr_t OpenSource(std::u16string_view AName) noexcept override;
+    void CloseSource(std::uintptr_t ASource) noexcept override;
+    bool Write(std::uintptr_t ASource, TEventType AType, std::uint32_t AId, std::u16string_view AText,
+               std::int32_t ALocalOffset) noexcept override;
 
 private:
     std::string FJournal;

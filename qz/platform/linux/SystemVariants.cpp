@@ -4,19 +4,16 @@
 
 namespace qz::platform {
 
-bool ReadSystemVariant(const void*, TSystemVariant&, TError& AError) {
-    AError.Code = ENOTSUP;
-    return false;
+TResult<TSystemVariant> ReadSystemVariant(const void*) {
+    return TError(ENOTSUP);
 }
 
-bool WriteSystemVariant(void*, const TSystemVariant&, TError& AError) {
-    AError.Code = ENOTSUP;
-    return false;
+TResult<> WriteSystemVariant(void*, const TSystemVariant&) {
+    return TError(ENOTSUP);
 }
 
-bool ClearSystemVariant(void*, TError& AError) {
-    AError.Code = ENOTSUP;
-    return false;
+TResult<> ClearSystemVariant(void*) {
+    return TError(ENOTSUP);
 }
 
 void* NewSystemText(std::span<const std::byte>) noexcept {
@@ -27,16 +24,14 @@ std::span<const std::byte> SystemTextBytes(const void*) noexcept {
     return {};
 }
 
-bool LockSystemArray(void*, std::uint16_t, TSystemArray&, TError& AError) {
-    AError.Code = ENOTSUP;
-    return false;
+TResult<TSystemArray> LockSystemArray(void*, std::uint16_t) {
+    return TError(ENOTSUP);
 }
 
 void UnlockSystemArray(void*) noexcept {}
 
-void* NewSystemArray(std::uint16_t, std::span<const TSystemBound>, TError& AError) {
-    AError.Code = ENOTSUP;
-    return nullptr;
+TResult<void*> NewSystemArray(std::uint16_t, std::span<const TSystemBound>) {
+    return TError(ENOTSUP);
 }
 
 void FreeSystemArray(void*) noexcept {}

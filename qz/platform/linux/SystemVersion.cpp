@@ -12,10 +12,10 @@ namespace qz::platform {
 namespace {
 
 // The number at the start of the text, 0 without one, and the dot behind it.
-uint32_t TakeNumber(std::string_view& AText) {
-    uint32_t Number = 0;
+std::uint32_t TakeNumber(std::string_view& AText) {
+    std::uint32_t Number = 0;
     const auto [Next, Failure] = std::from_chars(AText.data(), AText.data() + AText.size(), Number);
-    AText.remove_prefix(static_cast<size_t>(Next - AText.data()));
+    AText.remove_prefix(static_cast<std::size_t>(Next - AText.data()));
     if (Failure == std::errc() && AText.starts_with('.'))
         AText.remove_prefix(1);
     return Number;

@@ -14,9 +14,10 @@ namespace qz::platform {
 
 namespace {
 
-constexpr size_t cMaxLength = size_t{1} << 29;
+constexpr std::size_t cMaxLength = std::size_t{1} << 29;
 
-using TCaseMapper = int32_t (*)(UChar*, int32_t, const UChar*, int32_t, const char*, UErrorCode*);
+using TCaseMapper = std::int32_t (*)(UChar*, std::int32_t, const UChar*, std::int32_t, const char*,
+                                     UErrorCode*);
 
 struct TCaseRules {
     std::string Locale;
@@ -50,24 +51,24 @@ bool IsAscii(std::u16string_view AText) {
     return All < 0x80;
 }
 
-int32_t CheckedLength(std::u16string_view AText) {
+std::int32_t CheckedLength(std::u16string_view AText) {
     if (AText.size() > cMaxLength)
         throw std::bad_alloc();
-    return static_cast<int32_t>(AText.size());
+    return static_cast<std::int32_t>(AText.size());
 }
 
 std::u16string MapCase(std::u16string_view AText, TCaseMapper AMapper) {
-    const int32_t Length = CheckedLength(AText);
+    const std::int32_t Length = CheckedLength(AText);
     const char* Locale = CaseRules().Locale.c_str();
     std::u16string Result(AText.size() + AText.size() / 16 + 4, u'\0');
     for (;;) {
         UErrorCode Status = U_ZERO_ERROR;
-        const auto Capacity = static_cast<int32_t>(Result.size());
-        const int32_t Needed = AMapper(Result.data(), Capacity, AText.data(), Length, Locale, &Status);
+        const auto Capacity = static_cast<std::int32_t>(Result.size());
+        const std::int32_t Needed = AMapper(Result.data(), Capacity, AText.data(), Length, Locale, &Status);
         const bool Fits = Needed <= Capacity;
         if (U_FAILURE(Status) && Status != U_BUFFER_OVERFLOW_ERROR)
             throw std::bad_alloc(); // all that is left to go wrong
-        Result.resize(static_cast<size_t>(Needed));
+        Result.resize(static_cast<std::size_t>(Needed));
         if (Fits)
             return Result;
     }
@@ -130,8 +131,8 @@ char16_t LowerChar(char16_t AChar) noexcept {
 int CompareStrings(std::u16string_view A, std::u16string_view B, bool AIgnoreCase) {
     if (A == B)
         return 0;
-    const int32_t LengthA = CheckedLength(A);
-    const int32_t LengthB = CheckedLength(B);
+    const std::int32_t LengthA = CheckedLength(A);
+    const std::int32_t LengthB = CheckedLength(B);
     const UCollator* Rules = Collator(AIgnoreCase);
     if (Rules == nullptr)
         return A.compare(B); // ICU without its data

@@ -15,14 +15,15 @@ namespace qz::platform {
 
 namespace {
 
-constexpr size_t cNameLimit = 15;
+constexpr std::size_t cNameLimit = 15;
 
-constinit thread_local uint32_t GThreadId = 0;
+constinit thread_local std::uint32_t GThreadId = 0;
 
-uint64_t Milliseconds(clockid_t AClock) noexcept {
+std::uint64_t Milliseconds(clockid_t AClock) noexcept {
     timespec Now;
     clock_gettime(AClock, &Now);
-    return static_cast<uint64_t>(Now.tv_sec) * 1000 + static_cast<uint64_t>(Now.tv_nsec) / 1'000'000;
+    return static_cast<std::uint64_t>(Now.tv_sec) * 1000 +
+        static_cast<std::uint64_t>(Now.tv_nsec) / 1'000'000;
 }
 
 // Runs in the child of a fork(), on its only thread.
@@ -30,9 +31,9 @@ void ForgetThreadId() {
     GThreadId = 0;
 }
 
-uint32_t AskThreadId() noexcept {
+std::uint32_t AskThreadId() noexcept {
     static const int Registered = pthread_atfork(nullptr, nullptr, ForgetThreadId);
-    const auto Id = static_cast<uint32_t>(syscall(SYS_gettid));
+    const auto Id = static_cast<std::uint32_t>(syscall(SYS_gettid));
     if (Registered == 0)
         GThreadId = Id;
     return Id;
@@ -40,30 +41,30 @@ uint32_t AskThreadId() noexcept {
 
 } // namespace
 
-uint32_t CurrentThreadId() noexcept {
-    const uint32_t Id = GThreadId;
+std::uint32_t CurrentThreadId() noexcept {
+    const std::uint32_t Id = GThreadId;
     return Id != 0 ? Id : AskThreadId();
 }
 
-uint32_t CurrentProcessId() noexcept {
-    return static_cast<uint32_t>(getpid());
+std::uint32_t CurrentProcessId() noexcept {
+    return static_cast<std::uint32_t>(getpid());
 }
 
-uint32_t TickCount() noexcept {
-    return static_cast<uint32_t>(TickCount64());
+std::uint32_t TickCount() noexcept {
+    return static_cast<std::uint32_t>(TickCount64());
 }
 
-uint64_t TickCount64() noexcept {
+std::uint64_t TickCount64() noexcept {
     return Milliseconds(CLOCK_BOOTTIME);
 }
 
-uint64_t CoarseTickCount64() noexcept {
+std::uint64_t CoarseTickCount64() noexcept {
     return Milliseconds(CLOCK_MONOTONIC_COARSE);
 }
 
 void SetCurrentThreadName(std::string_view AName) {
     AName = AName.substr(0, AName.find('\0'));
-    size_t Length = std::min(AName.size(), cNameLimit);
+    std::size_t Length = std::min(AName.size(), cNameLimit);
     if (Length < AName.size()) {
         // A continuation byte behind the cut means that the cut tears a character.
         while (Length > 0 && (static_cast<unsigned char>(AName[Length]) & 0xC0) == 0x80)
@@ -78,7 +79,7 @@ void YieldThread() noexcept {
     sched_yield();
 }
 
-void SleepMs(uint32_t AMilliseconds) noexcept {
+void SleepMs(std::uint32_t AMilliseconds) noexcept {
     if (AMilliseconds == 0) {
         sched_yield();
         return;
@@ -108,16 +109,16 @@ bool StartServiceThread(void (*ABody)() noexcept) noexcept {
     return Ok && pthread_detach(Thread) == 0;
 }
 
-uint32_t ProcessorCount() noexcept {
+std::uint32_t ProcessorCount() noexcept {
     // The kernel refuses a set that is smaller than its own.
     for (int Limit = 1024; Limit <= 1024 * 1024; Limit *= 4) {
-        const std::unique_ptr<cpu_set_t, void (*)(cpu_set_t*)> Set(CPU_ALLOC(static_cast<size_t>(Limit)),
+        const std::unique_ptr<cpu_set_t, void (*)(cpu_set_t*)> Set(CPU_ALLOC(static_cast<std::size_t>(Limit)),
                                                                    [](cpu_set_t* ASet) { CPU_FREE(ASet); });
-        const size_t Size = CPU_ALLOC_SIZE(static_cast<size_t>(Limit));
+        const std::size_t Size = CPU_ALLOC_SIZE(static_cast<std::size_t>(Limit));
         if (Set && sched_getaffinity(0, Size, Set.get()) == 0)
-            return std::max(static_cast<uint32_t>(CPU_COUNT_S(Size, Set.get())), 1u);
+            return std::max(static_cast<std::uint32_t>(CPU_COUNT_S(Size, Set.get())), 1u);
     }
-    return static_cast<uint32_t>(std::max(sysconf(_SC_NPROCESSORS_ONLN), 1L));
+    return static_cast<std::uint32_t>(std::max(sysconf(_SC_NPROCESSORS_ONLN), 1L));
 }
 
 } // namespace qz::platform

@@ -63,11 +63,11 @@ bool ReadWhole(const std::string& APath, std::vector<std::byte>& AData) {
     struct stat Info;
     ssize_t Got = -1;
     if (fstat(File, &Info) == 0 && S_ISREG(Info.st_mode) && Info.st_size > 0 &&
-        static_cast<size_t>(Info.st_size) <= detail::cLongestZoneFile) {
-        AData.resize(static_cast<size_t>(Info.st_size));
-        size_t Done = 0;
+        static_cast<std::size_t>(Info.st_size) <= detail::cLongestZoneFile) {
+        AData.resize(static_cast<std::size_t>(Info.st_size));
+        std::size_t Done = 0;
         while (Done < AData.size() && (Got = detail::ReadSome(File, std::span(AData).subspan(Done))) > 0)
-            Done += static_cast<size_t>(Got);
+            Done += static_cast<std::size_t>(Got);
         AData.resize(Done);
     }
     close(File);
@@ -78,9 +78,9 @@ bool ReadWhole(const std::string& APath, std::vector<std::byte>& AData) {
 std::string NameBehind(const std::string& APath) {
     std::string Target(PATH_MAX, '\0');
     const ssize_t Size = readlink(APath.c_str(), Target.data(), Target.size());
-    Target.resize(Size > 0 ? static_cast<size_t>(Size) : 0);
+    Target.resize(Size > 0 ? static_cast<std::size_t>(Size) : 0);
     constexpr std::string_view cFolder = "zoneinfo/";
-    const size_t Found = Target.rfind(cFolder);
+    const std::size_t Found = Target.rfind(cFolder);
     return Found == std::string::npos ? std::string() : Target.substr(Found + cFolder.size());
 }
 
@@ -104,10 +104,11 @@ std::string SystemZoneStamp() {
     std::string Result = Now.Value + '\0' + Now.Path + '\0';
     struct stat Info;
     if (!Now.Path.empty() && stat(Now.Path.c_str(), &Info) == 0) {
-        for (const int64_t Each :
-             {static_cast<int64_t>(Info.st_dev), static_cast<int64_t>(Info.st_ino),
-              static_cast<int64_t>(Info.st_size), int64_t{Info.st_mtim.tv_sec}, int64_t{Info.st_mtim.tv_nsec},
-              int64_t{Info.st_ctim.tv_sec}, int64_t{Info.st_ctim.tv_nsec}})
+        for (const std::int64_t Each :
+             {static_cast<std::int64_t>(Info.st_dev), static_cast<std::int64_t>(Info.st_ino),
+              static_cast<std::int64_t>(Info.st_size), std::int64_t{Info.st_mtim.tv_sec},
+              std::int64_t{Info.st_mtim.tv_nsec}, std::int64_t{Info.st_ctim.tv_sec},
+              std::int64_t{Info.st_ctim.tv_nsec}})
             Result.append(reinterpret_cast<const char*>(&Each), sizeof Each);
     }
     return Result;

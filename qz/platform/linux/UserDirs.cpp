@@ -34,7 +34,7 @@ bool IsWhole(std::string_view APath) {
 }
 
 std::string_view SkipBlanks(std::string_view AText) {
-    const size_t First = AText.find_first_not_of(" \t");
+    const std::size_t First = AText.find_first_not_of(" \t");
     return First == std::string_view::npos ? std::string_view() : AText.substr(First);
 }
 
@@ -48,7 +48,7 @@ bool TakePrefix(std::string_view& AText, std::string_view APrefix) {
 // The text up to the closing quote, with its escapes taken; nothing without such a quote.
 std::optional<std::string> Unquoted(std::string_view AText) {
     std::string Result;
-    for (size_t Index = 0; Index < AText.size(); ++Index) {
+    for (std::size_t Index = 0; Index < AText.size(); ++Index) {
         if (AText[Index] == '"')
             return Result;
         if (AText[Index] == '\\' && ++Index == AText.size())
@@ -109,10 +109,9 @@ std::optional<std::string> ParseUserDirectory(std::string_view AText, std::strin
 std::string UserDirectory(std::string_view AKey, std::string_view ADefault) {
     const std::string Home = HomeDirectory();
     const std::string File = Below(BaseDirectory("XDG_CONFIG_HOME", ".config"), "user-dirs.dirs");
-    std::vector<std::byte> Bytes;
-    TError Error;
-    if (!File.empty() && ReadWholeFile(FromNative(File), Bytes, Error)) {
-        const std::string_view Text(reinterpret_cast<const char*>(Bytes.data()), Bytes.size());
+    if (!File.empty()) {
+        const TResult<std::vector<std::byte>> Bytes = ReadWholeFile(FromNative(File)); // empty on failure
+        const std::string_view Text(reinterpret_cast<const char*>(Bytes->data()), Bytes->size());
         if (std::optional<std::string> Chosen = ParseUserDirectory(Text, AKey, Home))
             return *std::move(Chosen);
     }

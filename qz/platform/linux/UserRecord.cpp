@@ -8,7 +8,7 @@
 namespace qz::platform::detail {
 
 TUserRecord UserRecord(uid_t AId) {
-    constexpr size_t cLargestRecord = size_t{1} << 20;
+    constexpr std::size_t cLargestRecord = std::size_t{1} << 20;
     std::vector<char> Buffer(1024);
     passwd Record;
     passwd* Found = nullptr;
@@ -26,10 +26,10 @@ TUserRecord UserRecord(uid_t AId) {
 
 std::u16string TakeDomain(std::u16string& AName) {
     std::u16string Domain;
-    if (const size_t Slash = AName.find(u'\\'); Slash != std::u16string::npos) {
+    if (const std::size_t Slash = AName.find(u'\\'); Slash != std::u16string::npos) {
         Domain = AName.substr(0, Slash);
         AName.erase(0, Slash + 1);
-    } else if (const size_t At = AName.rfind(u'@'); At != std::u16string::npos) {
+    } else if (const std::size_t At = AName.rfind(u'@'); At != std::u16string::npos) {
         Domain = AName.substr(At + 1);
         AName.resize(At);
     }

@@ -10,8 +10,9 @@ namespace qz::platform::detail {
 
 namespace {
 
-constexpr int32_t cLowestOffset = -89'999; // the bounds of the format's description, about 25 and 26 hours
-constexpr int32_t cHighestOffset = 93'599;
+constexpr std::int32_t cLowestOffset =
+    -89'999; // the bounds of the format's description, about 25 and 26 hours
+constexpr std::int32_t cHighestOffset = 93'599;
 
 // Takes from the front of the data. Behind its end everything is 0, and the reader remembers.
 class TReader {
@@ -19,25 +20,25 @@ public:
     explicit TReader(std::span<const std::byte> AData) noexcept : FData(AData) {}
 
     bool HasFailed() const noexcept { return FHasFailed; }
-    std::span<const std::byte> Take(uint64_t ASize) noexcept {
+    std::span<const std::byte> Take(std::uint64_t ASize) noexcept {
         if (ASize > FData.size()) {
             FHasFailed = true;
             FData = {};
             return {};
         }
-        const auto Result = FData.first(static_cast<size_t>(ASize));
+        const auto Result = FData.first(static_cast<std::size_t>(ASize));
         FData = FData.subspan(Result.size());
         return Result;
     }
     // A signed number in the order of the network.
-    int64_t Number(size_t ASize) noexcept {
+    std::int64_t Number(std::size_t ASize) noexcept {
         const auto Bytes = Take(ASize);
         if (Bytes.empty())
             return 0;
-        uint64_t Result = (std::to_integer<uint64_t>(Bytes[0]) & 0x80) != 0 ? ~uint64_t{0} : 0;
+        std::uint64_t Result = (std::to_integer<std::uint64_t>(Bytes[0]) & 0x80) != 0 ? ~std::uint64_t{0} : 0;
         for (const std::byte Each : Bytes)
-            Result = Result << 8 | std::to_integer<uint64_t>(Each);
-        return static_cast<int64_t>(Result);
+            Result = Result << 8 | std::to_integer<std::uint64_t>(Each);
+        return static_cast<std::int64_t>(Result);
     }
     std::string_view Rest() const noexcept {
         return {reinterpret_cast<const char*>(FData.data()), FData.size()};
@@ -51,7 +52,7 @@ private:
 struct THeader {
     bool IsValid;
     char Version;
-    uint32_t UtCount, StandardCount, LeapCount, TimeCount, TypeCount, NameSize;
+    std::uint32_t UtCount, StandardCount, LeapCount, TimeCount, TypeCount, NameSize;
 };
 
 THeader ReadHeader(TReader& AReader) noexcept {
@@ -61,29 +62,29 @@ THeader ReadHeader(TReader& AReader) noexcept {
     if (!Result.IsValid)
         return Result;
     Result.Version = std::to_integer<char>(Start[4]);
-    for (uint32_t* Count : {&Result.UtCount, &Result.StandardCount, &Result.LeapCount, &Result.TimeCount,
-                            &Result.TypeCount, &Result.NameSize})
-        *Count = static_cast<uint32_t>(AReader.Number(4));
+    for (std::uint32_t* Count : {&Result.UtCount, &Result.StandardCount, &Result.LeapCount, &Result.TimeCount,
+                                 &Result.TypeCount, &Result.NameSize})
+        *Count = static_cast<std::uint32_t>(AReader.Number(4));
     Result.IsValid = !AReader.HasFailed();
     return Result;
 }
 
-uint64_t SizeOfMarks(const THeader& AHeader, size_t ATimeSize) noexcept {
-    return uint64_t{AHeader.LeapCount} * (ATimeSize + 4) + AHeader.StandardCount + AHeader.UtCount;
+std::uint64_t SizeOfMarks(const THeader& AHeader, std::size_t ATimeSize) noexcept {
+    return std::uint64_t{AHeader.LeapCount} * (ATimeSize + 4) + AHeader.StandardCount + AHeader.UtCount;
 }
 
-uint64_t SizeOfBlock(const THeader& AHeader, size_t ATimeSize) noexcept {
-    return uint64_t{AHeader.TimeCount} * (ATimeSize + 1) + uint64_t{AHeader.TypeCount} * 6 +
+std::uint64_t SizeOfBlock(const THeader& AHeader, std::size_t ATimeSize) noexcept {
+    return std::uint64_t{AHeader.TimeCount} * (ATimeSize + 1) + std::uint64_t{AHeader.TypeCount} * 6 +
         AHeader.NameSize + SizeOfMarks(AHeader, ATimeSize);
 }
 
-bool ReadChanges(TReader AData, const THeader& AHeader, size_t ATimeSize, TSystemZone& AZone) {
+bool ReadChanges(TReader AData, const THeader& AHeader, std::size_t ATimeSize, TSystemZone& AZone) {
     TReader Numbers = AData;
-    Numbers.Take(uint64_t{AHeader.TimeCount} * ATimeSize);
+    Numbers.Take(std::uint64_t{AHeader.TimeCount} * ATimeSize);
     AZone.Changes.reserve(AHeader.TimeCount);
-    for (uint32_t Index = 0; Index < AHeader.TimeCount; ++Index) {
-        const int64_t From = AData.Number(ATimeSize);
-        const auto Kind = static_cast<uint16_t>(Numbers.Number(1) & 0xFF);
+    for (std::uint32_t Index = 0; Index < AHeader.TimeCount; ++Index) {
+        const std::int64_t From = AData.Number(ATimeSize);
+        const auto Kind = static_cast<std::uint16_t>(Numbers.Number(1) & 0xFF);
         if (Kind >= AHeader.TypeCount || (!AZone.Changes.empty() && From <= AZone.Changes.back().From))
             return false;
         AZone.Changes.push_back({From, Kind});
@@ -93,18 +94,19 @@ bool ReadChanges(TReader AData, const THeader& AHeader, size_t ATimeSize, TSyste
 
 bool ReadKinds(TReader AData, const THeader& AHeader, TSystemZone& AZone) {
     TReader Names = AData;
-    Names.Take(uint64_t{AHeader.TypeCount} * 6);
+    Names.Take(std::uint64_t{AHeader.TypeCount} * 6);
     const std::string_view All = Names.Rest().substr(0, AHeader.NameSize);
-    for (uint32_t Index = 0; Index < AHeader.TypeCount; ++Index) {
-        const int64_t Offset = AData.Number(4);
-        const int64_t IsDaylight = AData.Number(1);
-        const auto Start = static_cast<size_t>(AData.Number(1) & 0xFF);
-        const size_t End = All.find('\0', Start);
-        if (Offset < cLowestOffset || Offset > cHighestOffset || (IsDaylight & ~int64_t{1}) != 0 ||
+    for (std::uint32_t Index = 0; Index < AHeader.TypeCount; ++Index) {
+        const std::int64_t Offset = AData.Number(4);
+        const std::int64_t IsDaylight = AData.Number(1);
+        const auto Start = static_cast<std::size_t>(AData.Number(1) & 0xFF);
+        const std::size_t End = All.find('\0', Start);
+        if (Offset < cLowestOffset || Offset > cHighestOffset || (IsDaylight & ~std::int64_t{1}) != 0 ||
             End == std::string_view::npos)
             return false;
         const std::string_view Name = All.substr(Start, End - Start);
-        AZone.Kinds.push_back({static_cast<int32_t>(Offset), IsDaylight != 0, {Name.begin(), Name.end()}});
+        AZone.Kinds.push_back(
+            {static_cast<std::int32_t>(Offset), IsDaylight != 0, {Name.begin(), Name.end()}});
     }
     return true;
 }
@@ -113,26 +115,26 @@ bool ReadKinds(TReader AData, const THeader& AHeader, TSystemZone& AZone) {
 bool ReadFooter(std::string_view AText, TSystemZone& AZone) {
     if (AText.empty() || AText.front() != '\n')
         return false;
-    const size_t End = AText.find('\n', 1);
+    const std::size_t End = AText.find('\n', 1);
     if (End == std::string_view::npos)
         return false;
     const std::string_view Rule = AText.substr(1, End - 1);
     return Rule.empty() || ReadZoneText(Rule, AZone);
 }
 
-bool ReadBlock(TReader& AReader, const THeader& AHeader, size_t ATimeSize, TSystemZone& AZone) {
-    constexpr uint32_t cMostKinds = 256;
+bool ReadBlock(TReader& AReader, const THeader& AHeader, std::size_t ATimeSize, TSystemZone& AZone) {
+    constexpr std::uint32_t cMostKinds = 256;
     const auto Block = AReader.Take(SizeOfBlock(AHeader, ATimeSize));
     if (AReader.HasFailed() || AHeader.TypeCount == 0 || AHeader.TypeCount > cMostKinds)
         return false;
-    const auto Kinds = Block.subspan(size_t{AHeader.TimeCount} * (ATimeSize + 1));
+    const auto Kinds = Block.subspan(std::size_t{AHeader.TimeCount} * (ATimeSize + 1));
     if (!ReadChanges(TReader(Block), AHeader, ATimeSize, AZone) || !ReadKinds(TReader(Kinds), AHeader, AZone))
         return false;
     // Before the first change there was standard time.
     const auto First = std::find_if(AZone.Kinds.begin(), AZone.Kinds.end(),
                                     [](const TZoneKind& AKind) { return !AKind.IsDaylight; });
-    AZone.FirstKind =
-        First == AZone.Kinds.end() ? uint16_t{0} : static_cast<uint16_t>(First - AZone.Kinds.begin());
+    AZone.FirstKind = First == AZone.Kinds.end() ? std::uint16_t{0}
+                                                 : static_cast<std::uint16_t>(First - AZone.Kinds.begin());
     return true;
 }
 

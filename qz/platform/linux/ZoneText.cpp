@@ -7,8 +7,8 @@ namespace qz::platform::detail {
 
 namespace {
 
-constexpr int32_t cHour = 3600;
-constexpr int32_t cMostRuleHours = 167; // a week
+constexpr std::int32_t cHour = 3600;
+constexpr std::int32_t cMostRuleHours = 167; // a week
 
 bool IsDigit(char AChar) {
     return AChar >= '0' && AChar <= '9';
@@ -32,38 +32,38 @@ public:
     }
     std::optional<std::u16string> Name();
     // Seconds east of UTC; the text counts them west.
-    std::optional<int32_t> Offset();
+    std::optional<std::int32_t> Offset();
     std::optional<TZoneDay> Day();
 
 private:
-    std::optional<int32_t> Number() noexcept;
+    std::optional<std::int32_t> Number() noexcept;
     // -1 for another one.
-    int32_t NumberOf(int32_t ALeast, int32_t AMost) noexcept {
-        const int32_t Result = Number().value_or(-1);
+    std::int32_t NumberOf(std::int32_t ALeast, std::int32_t AMost) noexcept {
+        const std::int32_t Result = Number().value_or(-1);
         return Result >= ALeast && Result <= AMost ? Result : -1;
     }
     // Hours, and minutes and seconds if they are there.
-    std::optional<int32_t> Seconds(int32_t AMostHours) noexcept;
+    std::optional<std::int32_t> Seconds(std::int32_t AMostHours) noexcept;
     bool DayItself(TZoneDay& ADay) noexcept;
 
     std::string_view FRest;
 };
 
-std::optional<int32_t> TReader::Number() noexcept {
+std::optional<std::int32_t> TReader::Number() noexcept {
     if (FRest.empty() || !IsDigit(FRest.front()))
         return std::nullopt;
-    int32_t Result = 0;
+    std::int32_t Result = 0;
     for (; !FRest.empty() && IsDigit(FRest.front()); FRest.remove_prefix(1))
         Result = std::min(Result * 10 + (FRest.front() - '0'), 9999);
     return Result;
 }
 
-std::optional<int32_t> TReader::Seconds(int32_t AMostHours) noexcept {
+std::optional<std::int32_t> TReader::Seconds(std::int32_t AMostHours) noexcept {
     const auto Hours = Number();
     if (!Hours)
         return std::nullopt;
-    int32_t Result = std::min(*Hours, AMostHours) * cHour;
-    for (const int32_t Unit : {60, 1}) {
+    std::int32_t Result = std::min(*Hours, AMostHours) * cHour;
+    for (const std::int32_t Unit : {60, 1}) {
         if (!Skip(':'))
             break;
         const auto Part = Number();
@@ -75,7 +75,7 @@ std::optional<int32_t> TReader::Seconds(int32_t AMostHours) noexcept {
 }
 
 std::optional<std::u16string> TReader::Name() {
-    constexpr size_t cLeast = 3;
+    constexpr std::size_t cLeast = 3;
     const bool IsQuoted = Skip('<');
     const auto Belongs = [IsQuoted](char AChar) {
         return IsLetter(AChar) || (IsQuoted && (IsDigit(AChar) || AChar == '+' || AChar == '-'));
@@ -88,7 +88,7 @@ std::optional<std::u16string> TReader::Name() {
     return Result;
 }
 
-std::optional<int32_t> TReader::Offset() {
+std::optional<std::int32_t> TReader::Offset() {
     const bool IsEast = Skip('-');
     if (!IsEast)
         Skip('+');
@@ -100,23 +100,23 @@ std::optional<int32_t> TReader::Offset() {
 
 bool TReader::DayItself(TZoneDay& ADay) noexcept {
     if (Skip('M')) {
-        const int32_t Month = NumberOf(1, 12);
-        const int32_t Week = Skip('.') ? NumberOf(1, 5) : -1;
-        const int32_t Weekday = Skip('.') ? NumberOf(0, 6) : -1;
+        const std::int32_t Month = NumberOf(1, 12);
+        const std::int32_t Week = Skip('.') ? NumberOf(1, 5) : -1;
+        const std::int32_t Weekday = Skip('.') ? NumberOf(0, 6) : -1;
         if (Month < 0 || Week < 0 || Weekday < 0)
             return false;
         ADay.Form = TZoneDayForm::zdWeekday;
-        ADay.Month = static_cast<uint8_t>(Month);
-        ADay.Week = static_cast<uint8_t>(Week);
-        ADay.Weekday = static_cast<uint8_t>(Weekday);
+        ADay.Month = static_cast<std::uint8_t>(Month);
+        ADay.Week = static_cast<std::uint8_t>(Week);
+        ADay.Weekday = static_cast<std::uint8_t>(Weekday);
         return true;
     }
     const bool IsJulian = Skip('J');
-    const int32_t Day = NumberOf(IsJulian ? 1 : 0, 365);
+    const std::int32_t Day = NumberOf(IsJulian ? 1 : 0, 365);
     if (Day < 0)
         return false;
     ADay.Form = IsJulian ? TZoneDayForm::zdJulian : TZoneDayForm::zdDayOfYear;
-    ADay.Day = static_cast<uint16_t>(Day);
+    ADay.Day = static_cast<std::uint16_t>(Day);
     return true;
 }
 
@@ -124,7 +124,7 @@ std::optional<TZoneDay> TReader::Day() {
     TZoneDay Result;
     if (!DayItself(Result))
         return std::nullopt;
-    int32_t Time = 2 * cHour;
+    std::int32_t Time = 2 * cHour;
     if (Skip('/')) {
         const bool IsNegative = Skip('-');
         const auto Given = Seconds(cMostRuleHours);
@@ -138,7 +138,7 @@ std::optional<TZoneDay> TReader::Day() {
     return Result;
 }
 
-constexpr TZoneDay UsualDay(uint8_t AMonth, uint8_t AWeek) noexcept {
+constexpr TZoneDay UsualDay(std::uint8_t AMonth, std::uint8_t AWeek) noexcept {
     return {.Form = TZoneDayForm::zdWeekday, .Month = AMonth, .Week = AWeek, .MSecs = 2 * cHour * 1000};
 }
 
@@ -160,9 +160,9 @@ bool ReadDays(TReader& AReader, TZoneRule& ARule) {
     return true;
 }
 
-uint16_t NumberOf(const TZoneKind& AKind, std::vector<TZoneKind>& AKinds) {
+std::uint16_t NumberOf(const TZoneKind& AKind, std::vector<TZoneKind>& AKinds) {
     const auto Found = std::find(AKinds.begin(), AKinds.end(), AKind);
-    const auto Result = static_cast<uint16_t>(Found - AKinds.begin());
+    const auto Result = static_cast<std::uint16_t>(Found - AKinds.begin());
     if (Found == AKinds.end())
         AKinds.push_back(AKind);
     return Result;

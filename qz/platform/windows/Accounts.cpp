@@ -62,8 +62,7 @@ std::u16string UserName() {
     return std::u16string(detail::FromWide(detail::Wide(Name)));
 }
 
-std::u16string AccountName(std::u16string& ADomain) {
-    ADomain.clear();
+TAccountName AccountName() {
     const TToken Token;
     alignas(TOKEN_USER) std::byte User[sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE];
     DWORD Size = 0;
@@ -77,8 +76,8 @@ std::u16string AccountName(std::u16string& ADomain) {
     if (LookupAccountSidW(nullptr, reinterpret_cast<const TOKEN_USER*>(User)->User.Sid, detail::Wide(Name),
                           &NameLength, detail::Wide(Domain), &DomainLength, &Kind) == 0)
         return {};
-    ADomain = detail::FromWide(detail::Wide(Domain));
-    return std::u16string(detail::FromWide(detail::Wide(Name)));
+    return {std::u16string(detail::FromWide(detail::Wide(Name))),
+            std::u16string(detail::FromWide(detail::Wide(Domain)))};
 }
 
 TElevation Elevation() noexcept {

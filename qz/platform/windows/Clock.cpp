@@ -8,8 +8,8 @@ namespace qz::platform {
 
 namespace {
 
-int64_t Joined(const FILETIME& ATime) {
-    return static_cast<int64_t>((uint64_t{ATime.dwHighDateTime} << 32) | ATime.dwLowDateTime);
+std::int64_t Joined(const FILETIME& ATime) {
+    return static_cast<std::int64_t>((std::uint64_t{ATime.dwHighDateTime} << 32) | ATime.dwLowDateTime);
 }
 
 using TAskTime = void(WINAPI*)(FILETIME*);
@@ -23,14 +23,14 @@ TAskTime FindClock() {
 
 } // namespace
 
-int64_t UtcNow100ns() noexcept {
+std::int64_t UtcNow100ns() noexcept {
     static const TAskTime AskTime = FindClock();
     FILETIME Now;
     AskTime(&Now);
     return Joined(Now);
 }
 
-int64_t UtcNowSeconds() noexcept {
+std::int64_t UtcNowSeconds() noexcept {
     FILETIME Now;
     GetSystemTimeAsFileTime(&Now);
     return Joined(Now) / 10'000'000;

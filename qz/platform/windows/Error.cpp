@@ -56,4 +56,16 @@ void SetLastError(int ACode) noexcept {
     ::SetLastError(static_cast<DWORD>(ACode));
 }
 
+TError ErrorOfMemory() noexcept {
+    return TError(ERROR_NOT_ENOUGH_MEMORY);
+}
+
+TError ErrorOfSmallTarget() noexcept {
+    return TError(ERROR_INSUFFICIENT_BUFFER);
+}
+
+TError ErrorOfInvalidText() noexcept {
+    return TError(ERROR_NO_UNICODE_TRANSLATION);
+}
+
 } // namespace qz::platform

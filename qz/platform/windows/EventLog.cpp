@@ -12,7 +12,7 @@ namespace qz::platform {
 
 namespace {
 
-constexpr size_t cLongestText = 31'000; // units of one event; the system takes 31,839
+constexpr std::size_t cLongestText = 31'000; // units of one event; the system takes 31,839
 constexpr DWORD cAllTypes = EVENTLOG_ERROR_TYPE | EVENTLOG_WARNING_TYPE | EVENTLOG_INFORMATION_TYPE;
 
 class TKey {
@@ -46,10 +46,10 @@ std::u16string_view PieceOf(std::u16string_view AText) noexcept {
 class TWindowsLog final : public IEventLog {
 public:
     void EnterSource(std::u16string_view AName, std::u16string_view AProgram) noexcept override;
-    uintptr_t OpenSource(std::u16string_view AName) noexcept override;
-    void CloseSource(uintptr_t ASource) noexcept override;
-    bool Write(uintptr_t ASource, TEventType AType, uint32_t AId, std::u16string_view AText,
-               int32_t ALocalOffset) noexcept override;
+    std::uintptr_t OpenSource(std::u16string_view AName) noexcept override;
+    void CloseSource(std::uintptr_t ASource) noexcept override;
+    bool Write(std::uintptr_t ASource, TEventType AType, std::uint32_t AId, std::u16string_view AText,
+               std::int32_t ALocalOffset) noexcept override;
 };
 
 void TWindowsLog::EnterSource(std::u16string_view AName, std::u16string_view AProgram) noexcept {
@@ -69,22 +69,22 @@ void TWindowsLog::EnterSource(std::u16string_view AName, std::u16string_view APr
     }
 }
 
-uintptr_t TWindowsLog::OpenSource(std::u16string_view AName) noexcept {
+std::uintptr_t TWindowsLog::OpenSource(std::u16string_view AName) noexcept {
     try {
-        return reinterpret_cast<uintptr_t>(
+        return reinterpret_cast<std::uintptr_t>(
             RegisterEventSourceW(nullptr, detail::Wide(std::u16string(AName))));
     } catch (const std::exception&) {
         return 0;
     }
 }
 
-void TWindowsLog::CloseSource(uintptr_t ASource) noexcept {
+void TWindowsLog::CloseSource(std::uintptr_t ASource) noexcept {
     if (ASource != 0)
         DeregisterEventSource(reinterpret_cast<HANDLE>(ASource));
 }
 
-bool TWindowsLog::Write(uintptr_t ASource, TEventType AType, uint32_t AId, std::u16string_view AText,
-                        int32_t) noexcept {
+bool TWindowsLog::Write(std::uintptr_t ASource, TEventType AType, std::uint32_t AId,
+                        std::u16string_view AText, std::int32_t) noexcept {
     if (ASource == 0)
         return false;
     try {

@@ -2,7 +2,7 @@
 
 namespace qz::platform {
 
-uint64_t FileSizeLimit() noexcept {
+std::uint64_t FileSizeLimit() noexcept {
     return UINT64_MAX;
 }
 

@@ -12,21 +12,11 @@ namespace qz::platform {
 
 namespace {
 
-bool Outcome(TError& AError, bool AOk) {
-    AError.Code = AOk ? 0 : LastError();
-    return AOk;
+std::int64_t StepsOf(FILETIME ATime) {
+    return static_cast<std::int64_t>((std::uint64_t{ATime.dwHighDateTime} << 32) | ATime.dwLowDateTime);
 }
 
-bool Fail(TError& AError, DWORD ACode) noexcept {
-    AError.Code = static_cast<int>(ACode);
-    return false;
-}
-
-int64_t StepsOf(FILETIME ATime) {
-    return static_cast<int64_t>((uint64_t{ATime.dwHighDateTime} << 32) | ATime.dwLowDateTime);
-}
-
-FILETIME NativeTime(int64_t ATime) {
+FILETIME NativeTime(std::int64_t ATime) {
     return {.dwLowDateTime = static_cast<DWORD>(ATime & 0xFFFFFFFF),
             .dwHighDateTime = static_cast<DWORD>(ATime >> 32)};
 }
@@ -41,43 +31,44 @@ bool IsPattern(std::u16string_view APath) noexcept {
 
 } // namespace
 
-bool ReadFileTimes(std::u16string_view APath, TFileTimes& ATimes, TError& AError) {
+TResult<TFileTimes> ReadFileTimes(std::u16string_view APath) {
     const std::optional<std::u16string> Path = detail::SystemPath(APath);
     if (!Path || IsPattern(APath))
-        return Fail(AError, ERROR_INVALID_NAME);
+        return TError(ERROR_INVALID_NAME);
     WIN32_FIND_DATAW Data;
     HANDLE Search = FindFirstFileW(detail::Wide(*Path), &Data);
     if (Search == INVALID_HANDLE_VALUE)
-        return Outcome(AError, false);
+        return TError(GetLastError());
     FindClose(Search);
-    ATimes.Created = StepsOf(Data.ftCreationTime);
-    ATimes.LastWrite = StepsOf(Data.ftLastWriteTime);
-    ATimes.LastAccess = StepsOf(Data.ftLastAccessTime);
-    ATimes.IsDirectory = (Data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    return Outcome(AError, true);
+    TFileTimes Times;
+    Times.Created = StepsOf(Data.ftCreationTime);
+    Times.LastWrite = StepsOf(Data.ftLastWriteTime);
+    Times.LastAccess = StepsOf(Data.ftLastAccessTime);
+    Times.IsDirectory = (Data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return Times;
 }
 
-bool SetFileCreated(std::u16string_view APath, int64_t ATime, TError& AError) {
+TResult<> SetFileCreated(std::u16string_view APath, std::int64_t ATime) {
     const std::optional<std::u16string> Path = detail::SystemPath(APath);
     if (!Path)
-        return Fail(AError, ERROR_INVALID_NAME);
+        return TError(ERROR_INVALID_NAME);
     HANDLE File = CreateFileW(detail::Wide(*Path), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE,
                               nullptr, OPEN_EXISTING, 0, nullptr);
     if (File == INVALID_HANDLE_VALUE)
-        return Outcome(AError, false);
+        return TError(GetLastError());
     const FILETIME Created = NativeTime(ATime);
-    const bool Ok =
-        CheckFileTime(ATime, AError) && Outcome(AError, SetFileTime(File, &Created, nullptr, nullptr) != 0);
+    TResult<> Result = CheckFileTime(ATime);
+    if (Result)
+        Result = ResultOf(SetFileTime(File, &Created, nullptr, nullptr) != 0);
     CloseHandle(File);
-    return Ok;
+    return Result;
 }
 
-bool CheckFileTime(int64_t ATime, TError& AError) noexcept {
-    AError.Code = ATime < 0 ? ERROR_INVALID_PARAMETER : 0;
-    return ATime >= 0;
+TResult<> CheckFileTime(std::int64_t ATime) noexcept {
+    return TError(ATime < 0 ? ERROR_INVALID_PARAMETER : 0);
 }
 
-std::optional<int64_t> LocalFileTime(int64_t ATime) noexcept {
+std::optional<std::int64_t> LocalFileTime(std::int64_t ATime) noexcept {
     const FILETIME Time = NativeTime(ATime);
     FILETIME Local;
     if (ATime < 0 || FileTimeToLocalFileTime(&Time, &Local) == 0)

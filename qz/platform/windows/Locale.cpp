@@ -13,7 +13,7 @@ void ReadText(std::u16string& ATarget, LCTYPE AKind) {
     const int Size = GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, AKind, nullptr, 0);
     if (Size <= 0)
         return;
-    std::u16string Result(static_cast<size_t>(Size), u'\0');
+    std::u16string Result(static_cast<std::size_t>(Size), u'\0');
     if (GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, AKind, detail::Wide(Result.data()), Size) != Size)
         return;
     Result.pop_back(); // the NUL
@@ -27,12 +27,12 @@ void ReadUnit(char16_t& ATarget, LCTYPE AKind) {
         ATarget = Text.front();
 }
 
-void ReadNumber(uint8_t& ATarget, LCTYPE AKind, DWORD AMaximum) {
+void ReadNumber(std::uint8_t& ATarget, LCTYPE AKind, DWORD AMaximum) {
     DWORD Number = 0;
     if (GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, AKind | LOCALE_RETURN_NUMBER,
                         reinterpret_cast<wchar_t*>(&Number), sizeof Number / sizeof(wchar_t)) > 0 &&
         Number <= AMaximum)
-        ATarget = static_cast<uint8_t>(Number);
+        ATarget = static_cast<std::uint8_t>(Number);
 }
 
 void ReadNames(TLocale& AResult) {

@@ -6,8 +6,8 @@
 
 namespace qz::platform::detail {
 
-bool WriteAll(void* AFile, std::span<const std::byte> ASource, size_t& ADone) noexcept {
-    constexpr size_t cLargestStep = size_t{1} << 30;
+bool WriteAll(void* AFile, std::span<const std::byte> ASource, std::size_t& ADone) noexcept {
+    constexpr std::size_t cLargestStep = std::size_t{1} << 30;
     ADone = 0;
     while (ADone < ASource.size()) {
         const auto Step = static_cast<DWORD>(std::min(ASource.size() - ADone, cLargestStep));

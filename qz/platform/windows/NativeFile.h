@@ -7,6 +7,6 @@
 namespace qz::platform::detail {
 
 // Writes all of ASource; ADone tells how much arrived. Leaves the last error on failure.
-bool WriteAll(void* AFile, std::span<const std::byte> ASource, size_t& ADone) noexcept;
+bool WriteAll(void* AFile, std::span<const std::byte> ASource, std::size_t& ADone) noexcept;
 
 } // namespace qz::platform::detail

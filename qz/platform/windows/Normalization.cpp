@@ -33,30 +33,25 @@ TNormalizer PrepareNormalizer() {
     return TNormalizer::Ready;
 }
 
-bool NormalizeText(int AForm, std::u16string_view AText, std::u16string& AOut, TError& AError) {
+TResult<std::u16string> NormalizeText(int AForm, std::u16string_view AText) {
     const TNormalizeString Normalize = NormalizeStringFound.load(std::memory_order_acquire);
-    AOut.clear();
-    if (Normalize == nullptr || AText.empty() || AText.size() > INT_MAX) {
-        AError.Code = ERROR_INVALID_PARAMETER;
-        return false;
-    }
+    if (Normalize == nullptr || AText.empty() || AText.size() > INT_MAX)
+        return TError(ERROR_INVALID_PARAMETER);
     const wchar_t* Source = detail::Wide(AText.data());
     const auto Length = static_cast<int>(AText.size());
+    std::u16string Result;
     // The first answer is an estimate; when it was too small, the second is the negative of a better one.
     int Needed = Normalize(AForm, Source, Length, nullptr, 0);
     while (Needed > 0) {
-        AOut.resize(static_cast<size_t>(Needed));
-        const int Done = Normalize(AForm, Source, Length, detail::Wide(AOut.data()), Needed);
+        Result.resize(static_cast<std::size_t>(Needed));
+        const int Done = Normalize(AForm, Source, Length, detail::Wide(Result.data()), Needed);
         if (Done > 0) {
-            AOut.resize(static_cast<size_t>(Done));
-            AError.Code = 0;
-            return true;
+            Result.resize(static_cast<std::size_t>(Done));
+            return Result;
         }
         Needed = GetLastError() == ERROR_INSUFFICIENT_BUFFER && -Done > Needed ? -Done : 0;
     }
-    AError.Code = LastError() != 0 ? LastError() : ERROR_NO_UNICODE_TRANSLATION;
-    AOut.clear();
-    return false;
+    return LastError() != 0 ? TError(LastError()) : ErrorOfInvalidText();
 }
 
 } // namespace qz::platform

@@ -8,25 +8,20 @@
 
 namespace qz::platform {
 
-bool ShellFolder(int ANumber, std::u16string& APath) {
-    APath.clear();
+std::optional<std::u16string> ShellFolder(int ANumber) {
     char16_t Path[MAX_PATH + 1] = {};
-    if (SHGetSpecialFolderPathW(nullptr, detail::Wide(Path), ANumber, TRUE) != 0) {
-        APath = Path;
-        return true;
-    }
+    if (SHGetSpecialFolderPathW(nullptr, detail::Wide(Path), ANumber, TRUE) != 0)
+        return Path;
     IMalloc* Allocator = nullptr;
     if (SHGetMalloc(&Allocator) != NOERROR)
-        return true;
+        return u"";
     LPITEMIDLIST List = nullptr;
     const bool Ok = SHGetSpecialFolderLocation(nullptr, ANumber, &List) == NOERROR &&
         SHGetPathFromIDListW(List, detail::Wide(Path)) != 0;
-    if (Ok)
-        APath = Path;
     if (List != nullptr)
         Allocator->Free(List);
     Allocator->Release();
-    return Ok;
+    return Ok ? std::optional<std::u16string>(Path) : std::nullopt;
 }
 
 } // namespace qz::platform

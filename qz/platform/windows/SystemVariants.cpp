@@ -14,12 +14,11 @@ static_assert(sizeof(VARIANT) == cSystemVariantSize);
 
 constexpr int cMaxHops = 8; // from reference to reference
 
-bool Succeed(HRESULT AResult, TError& AError) noexcept {
-    AError.Code = SUCCEEDED(AResult) ? 0 : static_cast<int>(AResult);
-    return AError.Code == 0;
+TResult<> ResultOf(HRESULT AResult) noexcept {
+    return TError(SUCCEEDED(AResult) ? S_OK : AResult);
 }
 
-size_t NumberSize(VARTYPE ACode) noexcept {
+std::size_t NumberSize(VARTYPE ACode) noexcept {
     switch (ACode) {
     case VT_I1:
     case VT_UI1: return 1;
@@ -40,43 +39,41 @@ size_t NumberSize(VARTYPE ACode) noexcept {
 }
 
 // The content of a code whose value lies at APlace.
-void ReadPlace(VARTYPE ACode, const void* APlace, TSystemVariant& AContent) noexcept {
-    AContent = {.Code = ACode};
+TSystemVariant ReadPlace(VARTYPE ACode, const void* APlace) noexcept {
+    TSystemVariant Result{.Code = ACode};
     if (ACode == VT_DECIMAL) {
         const auto& Decimal = *static_cast<const DECIMAL*>(APlace);
-        AContent.Scale = Decimal.scale;
-        AContent.Sign = Decimal.sign;
-        AContent.High = Decimal.Hi32;
-        AContent.Bits = Decimal.Lo64;
+        Result.Scale = Decimal.scale;
+        Result.Sign = Decimal.sign;
+        Result.High = Decimal.Hi32;
+        Result.Bits = Decimal.Lo64;
     } else {
-        std::memcpy(&AContent.Bits, APlace, NumberSize(ACode));
+        std::memcpy(&Result.Bits, APlace, NumberSize(ACode));
     }
+    return Result;
 }
 
 } // namespace
 
-bool ReadSystemVariant(const void* AVariant, TSystemVariant& AContent, TError& AError) {
+TResult<TSystemVariant> ReadSystemVariant(const void* AVariant) {
     const auto* Variant = static_cast<const VARIANT*>(AVariant);
     for (int I = 0; I < cMaxHops; ++I) {
         const VARTYPE Code = V_VT(Variant);
         if ((Code & VT_BYREF) == 0) {
             const void* Place = Code == VT_DECIMAL ? static_cast<const void*>(Variant) : &V_I8(Variant);
-            ReadPlace(Code, Place, AContent);
-            return Succeed(S_OK, AError);
+            return ReadPlace(Code, Place);
         }
         const void* Place = V_BYREF(Variant);
         if (Place == nullptr)
             break;
-        if (Code != (VT_BYREF | VT_VARIANT)) {
-            ReadPlace(static_cast<VARTYPE>(Code & ~VT_BYREF), Place, AContent);
-            return Succeed(S_OK, AError);
-        }
+        if (Code != (VT_BYREF | VT_VARIANT))
+            return ReadPlace(static_cast<VARTYPE>(Code & ~VT_BYREF), Place);
         Variant = static_cast<const VARIANT*>(Place);
     }
-    return Succeed(E_INVALIDARG, AError);
+    return TError(E_INVALIDARG);
 }
 
-bool WriteSystemVariant(void* AVariant, const TSystemVariant& AContent, TError& AError) {
+TResult<> WriteSystemVariant(void* AVariant, const TSystemVariant& AContent) {
     VARIANT Variant;
     VariantInit(&Variant);
     if (AContent.Code == VT_DECIMAL) {
@@ -90,11 +87,11 @@ bool WriteSystemVariant(void* AVariant, const TSystemVariant& AContent, TError& 
     }
     V_VT(&Variant) = AContent.Code;
     std::memcpy(AVariant, &Variant, sizeof(Variant));
-    return Succeed(S_OK, AError);
+    return {};
 }
 
-bool ClearSystemVariant(void* AVariant, TError& AError) {
-    return Succeed(VariantClear(static_cast<VARIANT*>(AVariant)), AError);
+TResult<> ClearSystemVariant(void* AVariant) {
+    return ResultOf(VariantClear(static_cast<VARIANT*>(AVariant)));
 }
 
 void* NewSystemText(std::span<const std::byte> ABytes) noexcept {
@@ -109,45 +106,46 @@ std::span<const std::byte> SystemTextBytes(const void* AText) noexcept {
     return {static_cast<const std::byte*>(AText), SysStringByteLen(Text)};
 }
 
-bool LockSystemArray(void* AArray, std::uint16_t AElements, TSystemArray& AContent, TError& AError) {
+TResult<TSystemArray> LockSystemArray(void* AArray, std::uint16_t AElements) {
     auto* Array = static_cast<SAFEARRAY*>(AArray);
     if (Array == nullptr)
-        return Succeed(E_INVALIDARG, AError);
+        return TError(E_INVALIDARG);
     VARTYPE Elements = AElements;
     if (VARTYPE Told = VT_EMPTY; SUCCEEDED(SafeArrayGetVartype(Array, &Told)) && Told != VT_EMPTY)
         Elements = Told;
-    AContent = {.Elements = Elements, .ElementSize = SafeArrayGetElemsize(Array)};
-    AContent.Bounds.resize(SafeArrayGetDim(Array));
-    AContent.Count = 1;
+    TSystemArray Result{.Elements = Elements, .ElementSize = SafeArrayGetElemsize(Array)};
+    Result.Bounds.resize(SafeArrayGetDim(Array));
+    Result.Count = 1;
     // The bounds are kept last to first.
-    for (size_t I = 0; I < AContent.Bounds.size(); ++I) {
-        const SAFEARRAYBOUND& Bound = Array->rgsabound[AContent.Bounds.size() - 1 - I];
-        AContent.Bounds[I] = {static_cast<std::int32_t>(Bound.lLbound),
-                              static_cast<std::uint32_t>(Bound.cElements)};
-        AContent.Count *= Bound.cElements;
+    for (std::size_t I = 0; I < Result.Bounds.size(); ++I) {
+        const SAFEARRAYBOUND& Bound = Array->rgsabound[Result.Bounds.size() - 1 - I];
+        Result.Bounds[I] = {static_cast<std::int32_t>(Bound.lLbound),
+                            static_cast<std::uint32_t>(Bound.cElements)};
+        Result.Count *= Bound.cElements;
     }
     void* Data = nullptr;
-    if (!Succeed(SafeArrayAccessData(Array, &Data), AError))
-        return false;
-    AContent.Data = static_cast<std::byte*>(Data);
-    if (Data == nullptr && AContent.Count != 0) {
+    if (const TResult<> Locked = ResultOf(SafeArrayAccessData(Array, &Data)); !Locked)
+        return Locked.Error();
+    Result.Data = static_cast<std::byte*>(Data);
+    if (Data == nullptr && Result.Count != 0) {
         SafeArrayUnaccessData(Array);
-        return Succeed(E_INVALIDARG, AError);
+        return TError(E_INVALIDARG);
     }
-    return true;
+    return Result;
 }
 
 void UnlockSystemArray(void* AArray) noexcept {
     SafeArrayUnaccessData(static_cast<SAFEARRAY*>(AArray));
 }
 
-void* NewSystemArray(std::uint16_t AElements, std::span<const TSystemBound> ABounds, TError& AError) {
+TResult<void*> NewSystemArray(std::uint16_t AElements, std::span<const TSystemBound> ABounds) {
     std::vector<SAFEARRAYBOUND> Bounds;
     for (const TSystemBound& Bound : ABounds)
         Bounds.push_back({.cElements = Bound.Count, .lLbound = Bound.Low});
     SAFEARRAY* Array = SafeArrayCreate(AElements, static_cast<UINT>(Bounds.size()), Bounds.data());
-    Succeed(Array != nullptr ? S_OK : E_OUTOFMEMORY, AError);
-    return Array;
+    if (Array == nullptr)
+        return TError(E_OUTOFMEMORY);
+    return static_cast<void*>(Array);
 }
 
 void FreeSystemArray(void* AArray) noexcept {

@@ -10,7 +10,7 @@ namespace qz::platform {
 
 namespace {
 
-constexpr size_t cMaxLength = size_t{1} << 29;
+constexpr std::size_t cMaxLength = std::size_t{1} << 29;
 
 int CheckedLength(std::u16string_view AText) {
     if (AText.size() > cMaxLength)

@@ -51,31 +51,31 @@ void Describe(const std::string& AName) {
         reinterpret_cast<TSetThreadDescription>(FindModuleFunction(u"kernel32.dll", "SetThreadDescription"));
     if (SetDescription == nullptr)
         return;
-    const auto Size = static_cast<int>(std::min<size_t>(AName.size() + 1, 1 << 16));
-    std::wstring Text(static_cast<size_t>(Size), L'\0');
+    const auto Size = static_cast<int>(std::min<std::size_t>(AName.size() + 1, 1 << 16));
+    std::wstring Text(static_cast<std::size_t>(Size), L'\0');
     MultiByteToWideChar(CP_UTF8, 0, AName.c_str(), Size, Text.data(), Size);
     SetDescription(GetCurrentThread(), Text.c_str());
 }
 
 } // namespace
 
-uint32_t CurrentThreadId() noexcept {
+std::uint32_t CurrentThreadId() noexcept {
     return GetCurrentThreadId();
 }
 
-uint32_t CurrentProcessId() noexcept {
+std::uint32_t CurrentProcessId() noexcept {
     return GetCurrentProcessId();
 }
 
-uint32_t TickCount() noexcept {
-    return static_cast<uint32_t>(GetTickCount64());
+std::uint32_t TickCount() noexcept {
+    return static_cast<std::uint32_t>(GetTickCount64());
 }
 
-uint64_t TickCount64() noexcept {
+std::uint64_t TickCount64() noexcept {
     return GetTickCount64();
 }
 
-uint64_t CoarseTickCount64() noexcept {
+std::uint64_t CoarseTickCount64() noexcept {
     return GetTickCount64();
 }
 
@@ -89,7 +89,7 @@ void YieldThread() noexcept {
     SwitchToThread();
 }
 
-void SleepMs(uint32_t AMilliseconds) noexcept {
+void SleepMs(std::uint32_t AMilliseconds) noexcept {
     // The greatest number would mean for ever.
     Sleep(std::min<DWORD>(AMilliseconds, INFINITE - 1));
 }
@@ -106,12 +106,12 @@ bool StartServiceThread(void (*ABody)() noexcept) noexcept {
     return Thread != nullptr && CloseHandle(Thread) != 0;
 }
 
-uint32_t ProcessorCount() noexcept {
+std::uint32_t ProcessorCount() noexcept {
     DWORD_PTR Process = 0;
     DWORD_PTR System = 0;
     // 0 when the process runs in several groups of processors.
     if (GetProcessAffinityMask(GetCurrentProcess(), &Process, &System) != 0 && Process != 0)
-        return static_cast<uint32_t>(std::popcount(Process));
+        return static_cast<std::uint32_t>(std::popcount(Process));
     return std::max<DWORD>(GetActiveProcessorCount(ALL_PROCESSOR_GROUPS), 1);
 }
 

@@ -45,15 +45,15 @@ TZoneDay DayOf(const SYSTEMTIME& ADay) {
     TZoneDay Result;
     if (ADay.wMonth < 1 || ADay.wMonth > 12)
         return Result;
-    Result.Month = static_cast<uint8_t>(ADay.wMonth);
+    Result.Month = static_cast<std::uint8_t>(ADay.wMonth);
     const int Hour = std::min<int>(ADay.wHour, 24); // of a damaged registry
     const int Minute = std::min<int>(ADay.wMinute, 59);
     const int Second = std::min<int>(ADay.wSecond, 59);
     Result.MSecs = ((Hour * 60 + Minute) * 60 + Second) * 1000 + std::min<int>(ADay.wMilliseconds, 999);
     if (ADay.wYear == 0) {
         Result.Form = TZoneDayForm::zdWeekday;
-        Result.Week = static_cast<uint8_t>(ADay.wDay);
-        Result.Weekday = static_cast<uint8_t>(ADay.wDayOfWeek);
+        Result.Week = static_cast<std::uint8_t>(ADay.wDay);
+        Result.Weekday = static_cast<std::uint8_t>(ADay.wDayOfWeek);
     } else { // of one year only, as which the rule is taken
         Result.Form = TZoneDayForm::zdDate;
         Result.Day = ADay.wDay;
@@ -61,29 +61,30 @@ TZoneDay DayOf(const SYSTEMTIME& ADay) {
     return Result;
 }
 
-constexpr int64_t cMostMinutes = 26 * 60 - 1;
+constexpr std::int64_t cMostMinutes = 26 * 60 - 1;
 
-uint16_t NumberOf(int64_t ABias, bool AIsDaylight, const WCHAR* AName, std::vector<TZoneKind>& AKinds) {
-    const int64_t Minutes = std::clamp<int64_t>(ABias, -cMostMinutes, cMostMinutes);
-    const TZoneKind Kind{static_cast<int32_t>(-Minutes * 60), AIsDaylight,
+std::uint16_t NumberOf(std::int64_t ABias, bool AIsDaylight, const WCHAR* AName,
+                       std::vector<TZoneKind>& AKinds) {
+    const std::int64_t Minutes = std::clamp<std::int64_t>(ABias, -cMostMinutes, cMostMinutes);
+    const TZoneKind Kind{static_cast<std::int32_t>(-Minutes * 60), AIsDaylight,
                          std::u16string(detail::FromWide(AName))};
-    size_t Result = 0;
+    std::size_t Result = 0;
     while (Result < AKinds.size() && AKinds[Result] != Kind)
         ++Result;
     if (Result == AKinds.size())
         AKinds.push_back(Kind);
-    return static_cast<uint16_t>(Result);
+    return static_cast<std::uint16_t>(Result);
 }
 
 void AddYear(DWORD AYear, const TIME_ZONE_INFORMATION& AInfo, TSystemZone& AZone) {
-    TZoneRule Rule{.FirstYear = static_cast<int32_t>(AYear),
-                   .Standard = NumberOf(int64_t{AInfo.Bias} + AInfo.StandardBias, false, AInfo.StandardName,
-                                        AZone.Kinds),
+    TZoneRule Rule{.FirstYear = static_cast<std::int32_t>(AYear),
+                   .Standard = NumberOf(std::int64_t{AInfo.Bias} + AInfo.StandardBias, false,
+                                        AInfo.StandardName, AZone.Kinds),
                    .Daylight = 0,
                    .ToStandard = DayOf(AInfo.StandardDate),
                    .ToDaylight = DayOf(AInfo.DaylightDate)};
     Rule.Daylight = Rule.HasDaylight()
-        ? NumberOf(int64_t{AInfo.Bias} + AInfo.DaylightBias, true, AInfo.DaylightName, AZone.Kinds)
+        ? NumberOf(std::int64_t{AInfo.Bias} + AInfo.DaylightBias, true, AInfo.DaylightName, AZone.Kinds)
         : Rule.Standard;
     if (!AZone.Rules.empty()) {
         TZoneRule Before = AZone.Rules.back();

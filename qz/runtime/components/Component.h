@@ -95,8 +95,6 @@ public:
     // Marks this component and all it owns with csDestroying.
     void Destroying() noexcept;
     void BeforeDestruction() override;
-    bool BeginDestruction() noexcept override;
-    void DestructionRefused() noexcept override;
 
     // Made at the first call.
     TObservers& Observers();
@@ -110,6 +108,8 @@ protected:
     // descendant adds is gone by then, so others may compare the address and read the name, not more.
     ~TComponent() override;
 
+    bool BeginDestruction() noexcept override;
+    void DestructionRefused() noexcept override;
     TPersistent* GetOwner() const override { return FOwner; }
     // True from the beginning of Free on.
     bool IsEnding() const noexcept { return FEnding; }

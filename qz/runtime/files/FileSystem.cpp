@@ -20,8 +20,7 @@ bool MakeDirectories(std::u16string_view AName) {
     const bool IsDrive = !Parent.empty() && Parent.back() == platform::DriveSeparator();
     if (!Parent.empty() && !IsDrive && !MakeDirectories(Parent))
         return false;
-    platform::TError Error;
-    return platform::MakeDirectory(AName, Error) || platform::DirectoryExists(AName);
+    return platform::MakeDirectory(AName) || platform::DirectoryExists(AName);
 }
 
 } // namespace
@@ -35,13 +34,11 @@ bool DirectoryExists(const TStringArg& ADirectory) {
 }
 
 bool DeleteFile(const TStringArg& AFileName) {
-    platform::TError Error;
-    return platform::RemoveFile(AFileName, Error);
+    return static_cast<bool>(platform::RemoveFile(AFileName));
 }
 
 bool RenameFile(const TStringArg& AFileName, const TStringArg& ANewName) {
-    platform::TError Error;
-    return platform::RenameEntry(AFileName, ANewName, Error);
+    return static_cast<bool>(platform::RenameEntry(AFileName, ANewName));
 }
 
 bool ForceDirectories(const TStringArg& ADirectory) {

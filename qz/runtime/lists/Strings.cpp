@@ -315,13 +315,12 @@ void TStrings::Split(TView AText, char16_t ADelimiter, char16_t AQuote, bool ASt
 }
 
 void TStrings::LoadFromFile(const TStringArg& AFileName, const TEncoding& AEncoding) {
-    std::vector<std::byte> Bytes;
-    platform::TError Error;
-    if (!platform::ReadWholeFile(AFileName, Bytes, Error))
-        throw EFOpenError(SFOpenError, {AFileName.View(), SysErrorMessage(Error.Code)});
+    const platform::TResult<std::vector<std::byte>> Bytes = platform::ReadWholeFile(AFileName);
+    if (!Bytes)
+        throw EFOpenError(SFOpenError, {AFileName.View(), SysErrorMessage(Bytes.Code())});
     std::size_t Mark = 0;
-    const TEncoding Encoding = TEncoding::Detect(Bytes, AEncoding, Mark);
-    SetText(Encoding.GetString(std::span(Bytes).subspan(Mark)));
+    const TEncoding Encoding = TEncoding::Detect(*Bytes, AEncoding, Mark);
+    SetText(Encoding.GetString(std::span(*Bytes).subspan(Mark)));
 }
 
 void TStrings::SaveToFile(const TStringArg& AFileName) const {
@@ -336,9 +335,8 @@ void TStrings::Save(const TStringArg& AFileName, const TBytes& AMark, const TEnc
     const TBytes Content = AEncoding.GetBytes(Text());
     const std::span<const std::byte> Pieces[] = {std::as_bytes(std::span(AMark)),
                                                  std::as_bytes(std::span(Content))};
-    platform::TError Error;
-    if (!platform::WriteWholeFile(AFileName, Pieces, Error))
-        throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Error.Code)});
+    if (const platform::TResult<> Written = platform::WriteWholeFile(AFileName, Pieces); !Written)
+        throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Written.Code())});
 }
 
 } // namespace qz

@@ -28,6 +28,7 @@ std::uint32_t TInterfacedObject::_Release() {
 }
 
 void TInterfacedObject::FinishCreate() {
+    Inherited::FinishCreate();
     FRefCount.Decrement();
 }
 

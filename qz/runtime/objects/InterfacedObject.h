@@ -85,14 +85,14 @@ public:
 
     int RefCount() const noexcept { return FRefCount.Value(); }
 
-    // Called by Create behind AfterConstruction: takes back the reference that guards the object until then.
-    void FinishCreate();
     // Raises EInvalidPointer when references remain; the object is then not ended.
     void BeforeDestruction() override;
-    bool BeginDestruction() noexcept override;
-    void DestructionRefused() noexcept override;
 
 protected:
+    // Releases the reference that guards the object during its construction.
+    void FinishCreate() override;
+    bool BeginDestruction() noexcept override;
+    void DestructionRefused() noexcept override;
     TInterfacedObject() noexcept = default;
     ~TInterfacedObject() override = default;
 

@@ -58,9 +58,9 @@ public:
     // The same, counted for the caller: AObject receives the interface or null.
     bool GetInterface(const TGUID& AIid, void** AObject);
 
-    // Ends an object that was made with Create or new: runs BeforeDestruction, then the destructor. When
-    // BeforeDestruction raises, the object stays, hears DestructionRefused, and the exception goes on. Raises
-    // EInvalidOperation for an object of the counted families whose end has begun already.
+    // Destroys an object that was made with Create or new: runs BeforeDestruction, then the destructor. When
+    // BeforeDestruction raises, the object stays and the exception goes on. Raises EInvalidOperation for an object of
+    // the counted families that is being destroyed already.
     void Free();
 
     // Runs once when the object is complete; run by Create. References to an object of a counted family that come
@@ -68,14 +68,20 @@ public:
     virtual void AfterConstruction() {}
     // Runs before the destructor when the object is ended by Free or its last reference.
     virtual void BeforeDestruction() {}
-    // Runs first when the object is to be ended; false refuses because it is being ended already.
-    virtual bool BeginDestruction() noexcept { return true; }
-    // Runs when BeforeDestruction of this class or a descendant raised, so that the object will live on.
-    virtual void DestructionRefused() noexcept {}
 
 protected:
+    // For the object families. Create calls FinishCreate after AfterConstruction; an override calls Inherited first.
+    virtual void FinishCreate() {}
+    // Free calls it first. False if the object is being destroyed already.
+    virtual bool BeginDestruction() noexcept { return true; }
+    // Free calls it when BeforeDestruction raised: the object lives on.
+    virtual void DestructionRefused() noexcept {}
+
     TObject(const TObject&) noexcept = default;
     TObject& operator=(const TObject&) noexcept = default;
+
+private:
+    template <class T> friend struct detail::TMaker;
 };
 
 // Ends the object of a pointer, if any, and clears the pointer first, so that nobody meets a dead object through it.
@@ -133,8 +139,7 @@ private:
     template <class TNew> static T* Finish(TNew* AObject) {
         try {
             AObject->AfterConstruction();
-            if constexpr (requires { AObject->FinishCreate(); })
-                AObject->FinishCreate();
+            static_cast<TObject*>(AObject)->FinishCreate();
         } catch (...) {
             delete AObject;
             throw;

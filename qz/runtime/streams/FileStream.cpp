@@ -1,6 +1,8 @@
 #include <qz/runtime/streams/FileStream.h>
 
 #include <algorithm>
+#include <tuple>
+#include <vector>
 
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
@@ -14,6 +16,7 @@ using platform::TFileCreation;
 using platform::TFileSharing;
 
 constexpr TTextConstant cCannotWrite = u"Cannot write to file \"%s\". %s";
+constexpr TTextConstant cCannotSeek = u"Cannot seek in file \"%s\". %s";
 
 TFileSharing SharingOf(std::uint16_t AMode) {
     switch (AMode & 0x00F0u) {
@@ -43,82 +46,74 @@ constinit const TClassRec TFileStream::ClassRec =
 
 TFileStream::TFileStream(const TStringArg& AFileName, std::uint16_t AMode) : FFileName(AFileName.View()) {
     const bool Creates = (AMode & fmCreate) == fmCreate;
-    TError Error;
-    if (FHandle.Open(FFileName, AccessOf(AMode), Creates ? TFileCreation::Always : TFileCreation::Never,
-                     SharingOf(AMode), Error))
+    const platform::TResult<> Opened = FHandle.Open(
+        FFileName, AccessOf(AMode), Creates ? TFileCreation::Always : TFileCreation::Never, SharingOf(AMode));
+    if (Opened)
         return;
     if (Creates)
-        Raise<EFCreateError>(SFCreateError, FFileName, Error);
-    Raise<EFOpenError>(SFOpenError, FFileName, Error);
+        Raise<EFCreateError>(SFCreateError, FFileName, Opened.Error());
+    Raise<EFOpenError>(SFOpenError, FFileName, Opened.Error());
 }
 
 std::int32_t TFileStream::Read(void* ABuffer, std::int32_t ACount) {
     const auto Count = static_cast<std::size_t>(std::max(ACount, 0));
-    std::size_t Done = 0;
-    TError Error;
-    if (!FHandle.Read({static_cast<std::byte*>(ABuffer), Count}, Done, Error))
-        Raise<EReadError>(u"Cannot read from file \"%s\". %s", FFileName, Error);
-    return static_cast<std::int32_t>(Done);
+    const platform::TResult<std::size_t> Got = FHandle.Read({static_cast<std::byte*>(ABuffer), Count});
+    if (!Got)
+        Raise<EReadError>(u"Cannot read from file \"%s\". %s", FFileName, Got.Error());
+    return static_cast<std::int32_t>(*Got);
 }
 
 std::int32_t TFileStream::Write(const void* ABuffer, std::int32_t ACount) {
     const auto Count = static_cast<std::size_t>(std::max(ACount, 0));
-    std::size_t Done = 0;
-    TError Error;
-    if (!FHandle.Write({static_cast<const std::byte*>(ABuffer), Count}, Done, Error) && Done == 0)
-        Raise<EWriteError>(cCannotWrite, FFileName, Error);
-    return static_cast<std::int32_t>(Done);
+    const platform::TWritten Written = FHandle.Write({static_cast<const std::byte*>(ABuffer), Count});
+    if (!Written && Written.Done == 0)
+        Raise<EWriteError>(cCannotWrite, FFileName, Written.Error);
+    return static_cast<std::int32_t>(Written.Done);
 }
 
 void TFileStream::SetAppending() {
-    TError Error;
-    if (!FHandle.WriteAtEnd(Error))
-        Raise<EStreamError>(u"Cannot seek in file \"%s\". %s", FFileName, Error);
+    if (const platform::TResult<> Result = FHandle.WriteAtEnd(); !Result)
+        Raise<EStreamError>(cCannotSeek, FFileName, Result.Error());
 }
 
 void TFileStream::AppendWhole(std::span<const std::byte> ABytes) {
-    std::size_t Done = 0;
-    TError Error;
-    if (FHandle.Append(ABytes, Done, Error)) [[likely]]
+    const platform::TWritten Written = FHandle.Append(ABytes);
+    if (Written) [[likely]]
         return;
-    if (Done != 0)
-        TakeBack(ABytes.first(Done));
-    Raise<EWriteError>(cCannotWrite, FFileName, Error);
+    if (Written.Done != 0)
+        TakeBack(ABytes.first(Written.Done));
+    Raise<EWriteError>(cCannotWrite, FFileName, Written.Error);
 }
 
 // Unless somebody else has written behind it.
 void TFileStream::TakeBack(std::span<const std::byte> ABytes) {
     std::vector<std::byte> Found(ABytes.size());
     const auto Count = static_cast<std::int64_t>(ABytes.size());
-    std::int64_t Size = 0;
-    std::int64_t Place = 0;
-    std::size_t Done = 0;
-    TError Error;
-    if (FHandle.Seek(0, platform::TFileOrigin::End, Size, Error) && Size >= Count &&
-        FHandle.Seek(Size - Count, platform::TFileOrigin::Beginning, Place, Error) &&
-        FHandle.Read(Found, Done, Error) && Done == Found.size() && std::ranges::equal(Found, ABytes))
-        FHandle.SetSize(Place, Error);
-    FHandle.Seek(0, platform::TFileOrigin::End, Place, Error);
+    const platform::TResult<std::int64_t> Size = FHandle.Seek(0, platform::TFileOrigin::End);
+    if (Size && *Size >= Count && FHandle.Seek(*Size - Count, platform::TFileOrigin::Beginning)) {
+        const platform::TResult<std::size_t> Got = FHandle.Read(Found);
+        if (Got && *Got == Found.size() && std::ranges::equal(Found, ABytes))
+            std::ignore = FHandle.SetSize(*Size - Count);
+    }
+    std::ignore = FHandle.Seek(0, platform::TFileOrigin::End);
 }
 
 std::int64_t TFileStream::Seek(std::int64_t AOffset, TSeekOrigin AOrigin) {
-    std::int64_t Position = 0;
-    TError Error;
-    if (!FHandle.Seek(AOffset, static_cast<platform::TFileOrigin>(AOrigin), Position, Error))
-        Raise<EStreamError>(u"Cannot seek in file \"%s\". %s", FFileName, Error);
-    return Position;
+    const platform::TResult<std::int64_t> Position =
+        FHandle.Seek(AOffset, static_cast<platform::TFileOrigin>(AOrigin));
+    if (!Position)
+        Raise<EStreamError>(cCannotSeek, FFileName, Position.Error());
+    return *Position;
 }
 
 void TFileStream::SetSize(std::int64_t ANewSize) {
-    TError Error;
-    if (!FHandle.SetSize(ANewSize, Error))
-        Raise<EStreamError>(u"Cannot change the size of file \"%s\". %s", FFileName, Error);
+    if (const platform::TResult<> Result = FHandle.SetSize(ANewSize); !Result)
+        Raise<EStreamError>(u"Cannot change the size of file \"%s\". %s", FFileName, Result.Error());
 }
 
 void TFileStream::FlushToDisk() {
-    TError Error;
-    if (!FHandle.Flush(Error))
-        Raise<EStreamError>(u"Cannot flush file \"%s\". %s", FFileName, Error);
+    if (const platform::TResult<> Result = FHandle.Flush(); !Result)
+        Raise<EStreamError>(u"Cannot flush file \"%s\". %s", FFileName, Result.Error());
 }
 
 } // namespace qz

@@ -42,9 +42,8 @@ void TCustomMemoryStream::SaveToStream(TStream& AStream) const {
 }
 
 void TCustomMemoryStream::SaveToFile(const TStringArg& AFileName) const {
-    platform::TError Error;
-    if (!platform::WriteWholeFile(AFileName, Content(), Error))
-        throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Error.Code)});
+    if (const platform::TResult<> Written = platform::WriteWholeFile(AFileName, Content()); !Written)
+        throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Written.Code())});
 }
 
 TMemoryStream::~TMemoryStream() {

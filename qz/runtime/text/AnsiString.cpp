@@ -33,13 +33,10 @@ TByteText TByteText::Encode(std::u16string_view AText, std::uint16_t ACodePage,
                             platform::TComposing AComposing) {
     if (AText.empty())
         return {};
-    platform::TError Error;
-    const std::size_t Length = EncodeCodePage(ACodePage, AText, {}, AComposing, Error);
+    const std::size_t Length = RequireConverted(ACodePage, EncodeCodePage(ACodePage, AText, {}, AComposing));
     TByteText Result = ForOverwrite(Length, ACodePage);
     if (Length != 0)
-        EncodeCodePage(ACodePage, AText, {Result.FData, Length}, AComposing, Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(ACodePage, Error);
+        RequireConverted(ACodePage, EncodeCodePage(ACodePage, AText, {Result.FData, Length}, AComposing));
     return Result;
 }
 

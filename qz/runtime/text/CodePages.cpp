@@ -15,7 +15,7 @@ namespace {
 
 using platform::TComposing;
 using platform::TDecoding;
-using platform::TError;
+using TCount = platform::TResult<std::size_t>;
 using TSource = std::span<const std::byte>;
 
 std::atomic<std::uint16_t> SystemPage{0}; // 0 while nobody has asked
@@ -43,46 +43,33 @@ std::endian OrderOf(std::uint16_t APage) noexcept {
     return APage == cUtf32SwappedCodePage ? std::endian::big : std::endian::little;
 }
 
-std::size_t Refuse(TError& AError, int ACode) noexcept {
-    AError.Code = ACode;
-    return 0;
-}
-
-// Whether ALength units are asked for rather than written; otherwise whether they fit.
-bool IsMeasuring(std::size_t ALength, std::size_t ARoom, TError& AError) noexcept {
-    AError.Code = ARoom != 0 && ARoom < ALength ? platform::CodeOfTooSmallTarget() : 0;
-    return ARoom < ALength;
-}
-
-// Writes by AWrite what has ALength units, if it fits; gives the number written or asked for.
+// Writes by AWrite what has ALength units, if there is a target. Gives the number of units.
 template <class TUnit, class TWrite>
-std::size_t Deliver(std::size_t ALength, std::span<TUnit> ATarget, TError& AError, const TWrite& AWrite) {
-    if (!IsMeasuring(ALength, ATarget.size(), AError) && ALength != 0)
+TCount Deliver(std::size_t ALength, std::span<TUnit> ATarget, const TWrite& AWrite) {
+    if (!ATarget.empty() && ATarget.size() < ALength)
+        return platform::ErrorOfSmallTarget();
+    if (!ATarget.empty() && ALength != 0)
         AWrite(ATarget.data());
-    return AError.Code == 0 ? ALength : 0;
+    return ALength;
 }
 
-std::size_t DecodeUtf8(TSource ASource, std::span<char16_t> ATarget, TError& AError) {
-    AError.Code = 0;
+TCount DecodeUtf8(TSource ASource, std::span<char16_t> ATarget) {
     const std::string_view Text = Chars(ASource);
     // A byte never gives more than a unit: with that much room there is nothing to measure.
     if (ATarget.size() >= Text.size())
         return static_cast<std::size_t>(Utf8ToUtf16(Text, ATarget.data()) - ATarget.data());
-    return Deliver(Utf8ToUtf16Length(Text), ATarget, AError,
-                   [&](char16_t* ADest) { Utf8ToUtf16(Text, ADest); });
+    return Deliver(Utf8ToUtf16Length(Text), ATarget, [&](char16_t* ADest) { Utf8ToUtf16(Text, ADest); });
 }
 
-std::size_t EncodeUtf8(std::u16string_view ASource, std::span<char> ATarget, TError& AError) {
-    AError.Code = 0;
+TCount EncodeUtf8(std::u16string_view ASource, std::span<char> ATarget) {
     if (ATarget.size() / 3 >= ASource.size())
         return static_cast<std::size_t>(Utf16ToUtf8(ASource, ATarget.data()) - ATarget.data());
-    return Deliver(Utf16ToUtf8Length(ASource), ATarget, AError,
-                   [&](char* ADest) { Utf16ToUtf8(ASource, ADest); });
+    return Deliver(Utf16ToUtf8Length(ASource), ATarget, [&](char* ADest) { Utf16ToUtf8(ASource, ADest); });
 }
 
-std::size_t DecodeUtf16(TSource ASource, bool ASwapped, std::span<char16_t> ATarget, TError& AError) {
+TCount DecodeUtf16(TSource ASource, bool ASwapped, std::span<char16_t> ATarget) {
     const std::size_t Units = ASource.size() / 2;
-    return Deliver(Units, ATarget, AError, [&](char16_t* ADest) {
+    return Deliver(Units, ATarget, [&](char16_t* ADest) {
         if (ASwapped)
             SwapUnits(ASource.data(), Units, ADest);
         else
@@ -90,8 +77,8 @@ std::size_t DecodeUtf16(TSource ASource, bool ASwapped, std::span<char16_t> ATar
     });
 }
 
-std::size_t EncodeUtf16(std::u16string_view ASource, bool ASwapped, std::span<char> ATarget, TError& AError) {
-    return Deliver(ASource.size() * 2, ATarget, AError, [&](char* ADest) {
+TCount EncodeUtf16(std::u16string_view ASource, bool ASwapped, std::span<char> ATarget) {
+    return Deliver(ASource.size() * 2, ATarget, [&](char* ADest) {
         if (ASwapped)
             SwapUnits(ASource.data(), ASource.size(), ADest);
         else
@@ -99,58 +86,57 @@ std::size_t EncodeUtf16(std::u16string_view ASource, bool ASwapped, std::span<ch
     });
 }
 
-std::size_t DecodeUtf32(TSource ASource, std::endian AOrder, std::span<char16_t> ATarget, TDecoding ADecoding,
-                        TError& AError) {
+TCount DecodeUtf32(TSource ASource, std::endian AOrder, std::span<char16_t> ATarget, TDecoding ADecoding) {
     if (ADecoding == TDecoding::Strict && !IsValidUtf32(ASource, AOrder))
-        return Refuse(AError, platform::CodeOfInvalidText());
-    return Deliver(Utf32ToUtf16Length(ASource, AOrder), ATarget, AError,
+        return platform::ErrorOfInvalidText();
+    return Deliver(Utf32ToUtf16Length(ASource, AOrder), ATarget,
                    [&](char16_t* ADest) { Utf32ToUtf16(ASource, AOrder, ADest); });
 }
 
-std::size_t EncodeUtf32(std::u16string_view ASource, std::endian AOrder, std::span<char> ATarget,
-                        TError& AError) {
-    return Deliver(Utf16ToUtf32Length(ASource) * 4, ATarget, AError,
+TCount EncodeUtf32(std::u16string_view ASource, std::endian AOrder, std::span<char> ATarget) {
+    return Deliver(Utf16ToUtf32Length(ASource) * 4, ATarget,
                    [&](char* ADest) { Utf16ToUtf32(ASource, AOrder, reinterpret_cast<std::byte*>(ADest)); });
 }
 
-// What is left to convert when the first ADone units are done; AStep converts it into what is left of the target.
+// Has AStep convert into the rest of the target, after the first ADone units are done.
 template <class TUnit, class TStep>
-std::size_t FinishBySystem(std::size_t ADone, std::span<TUnit> ATarget, TError& AError, const TStep& AStep) {
+TCount FinishBySystem(std::size_t ADone, std::span<TUnit> ATarget, const TStep& AStep) {
     // An empty rest of the target would ask for the length.
     if (!ATarget.empty() && ATarget.size() <= ADone)
-        return Refuse(AError, platform::CodeOfTooSmallTarget());
-    const std::size_t Rest = AStep(ATarget.empty() ? ATarget : ATarget.subspan(ADone));
-    return AError.Code == 0 ? ADone + Rest : 0;
+        return platform::ErrorOfSmallTarget();
+    const TCount Rest = AStep(ATarget.empty() ? ATarget : ATarget.subspan(ADone));
+    if (!Rest)
+        return Rest;
+    return ADone + *Rest;
 }
 
-// Latin-1 and ASCII: bytes and units are the same as far as both are below a bound; the system does what goes beyond.
-std::size_t DecodeNarrow(std::uint16_t APage, TSource ASource, std::span<char16_t> ATarget,
-                         TDecoding ADecoding, TError& AError) {
+// Latin-1 and ASCII: bytes and units are the same up to a bound; the system converts what lies above it.
+TCount DecodeNarrow(std::uint16_t APage, TSource ASource, std::span<char16_t> ATarget, TDecoding ADecoding) {
     const std::string_view Text = Chars(ASource);
     const std::size_t Plain = APage == cLatin1CodePage ? Text.size() : AsciiPrefix(Text);
     const auto Widen = [&](char16_t* ADest) { WidenBytes(Text.substr(0, Plain), ADest); };
     if (Plain == Text.size())
-        return Deliver(Plain, ATarget, AError, Widen);
+        return Deliver(Plain, ATarget, Widen);
     if (ATarget.size() > Plain)
         Widen(ATarget.data());
-    return FinishBySystem(Plain, ATarget, AError, [&](std::span<char16_t> ARest) {
-        return platform::CodePageToUtf16(APage, ASource.subspan(Plain), ARest, ADecoding, AError);
+    return FinishBySystem(Plain, ATarget, [&](std::span<char16_t> ARest) {
+        return platform::CodePageToUtf16(APage, ASource.subspan(Plain), ARest, ADecoding);
     });
 }
 
-std::size_t EncodeNarrow(std::uint16_t APage, std::u16string_view ASource, std::span<char> ATarget,
-                         TComposing AComposing, TError& AError) {
+TCount EncodeNarrow(std::uint16_t APage, std::u16string_view ASource, std::span<char> ATarget,
+                    TComposing AComposing) {
     std::size_t Plain = APage == cLatin1CodePage ? Latin1Prefix(ASource) : AsciiPrefix(ASource);
     const auto Narrow = [&](char* ADest) { NarrowUnits(ASource.substr(0, Plain), ADest); };
     if (Plain == ASource.size())
-        return Deliver(Plain, ATarget, AError, Narrow);
+        return Deliver(Plain, ATarget, Narrow);
     // The next unit may be a mark that joins the last plain one.
     if (AComposing == TComposing::Composite && Plain != 0)
         --Plain;
     if (ATarget.size() > Plain)
         Narrow(ATarget.data());
-    return FinishBySystem(Plain, ATarget, AError, [&](std::span<char> ARest) {
-        return platform::Utf16ToCodePage(APage, ASource.substr(Plain), ARest, AComposing, AError);
+    return FinishBySystem(Plain, ATarget, [&](std::span<char> ARest) {
+        return platform::Utf16ToCodePage(APage, ASource.substr(Plain), ARest, AComposing);
     });
 }
 
@@ -176,56 +162,51 @@ void SetDefaultSystemCodePage(std::uint16_t ACodePage) {
         ACodePage == cUtf32CodePage || ACodePage == cUtf32SwappedCodePage;
     if (IsWide || ACodePage == cSystemCodePage || ACodePage == cNoCodePage)
         throw EArgumentException(u"The code page %d cannot be the system's", {ACodePage});
-    TError Error;
     const char Sample = 'A';
-    DecodeCodePage(ACodePage, std::as_bytes(std::span(&Sample, 1)), {}, TDecoding::Lenient, Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(ACodePage, Error);
+    RequireConverted(ACodePage,
+                     DecodeCodePage(ACodePage, std::as_bytes(std::span(&Sample, 1)), {}, TDecoding::Lenient));
     SystemPage.store(ACodePage, std::memory_order_relaxed);
 }
 
-std::size_t DecodeCodePage(std::uint16_t ACodePage, TSource ASource, std::span<char16_t> ATarget,
-                           TDecoding ADecoding, TError& AError) {
+TCount DecodeCodePage(std::uint16_t ACodePage, TSource ASource, std::span<char16_t> ATarget,
+                      TDecoding ADecoding) {
     const std::uint16_t Page = RealCodePage(ACodePage);
     switch (Page) {
-    case cUtf8CodePage: return DecodeUtf8(ASource, ATarget, AError);
-    case cUtf16CodePage: return DecodeUtf16(ASource, false, ATarget, AError);
-    case cUtf16SwappedCodePage: return DecodeUtf16(ASource, true, ATarget, AError);
+    case cUtf8CodePage: return DecodeUtf8(ASource, ATarget);
+    case cUtf16CodePage: return DecodeUtf16(ASource, false, ATarget);
+    case cUtf16SwappedCodePage: return DecodeUtf16(ASource, true, ATarget);
     case cUtf32CodePage:
-    case cUtf32SwappedCodePage: return DecodeUtf32(ASource, OrderOf(Page), ATarget, ADecoding, AError);
+    case cUtf32SwappedCodePage: return DecodeUtf32(ASource, OrderOf(Page), ATarget, ADecoding);
     case cAsciiCodePage:
-    case cLatin1CodePage: return DecodeNarrow(Page, ASource, ATarget, ADecoding, AError);
-    default: return platform::CodePageToUtf16(Page, ASource, ATarget, ADecoding, AError);
+    case cLatin1CodePage: return DecodeNarrow(Page, ASource, ATarget, ADecoding);
+    default: return platform::CodePageToUtf16(Page, ASource, ATarget, ADecoding);
     }
 }
 
-std::size_t EncodeCodePage(std::uint16_t ACodePage, std::u16string_view ASource, std::span<char> ATarget,
-                           TComposing AComposing, TError& AError) {
+TCount EncodeCodePage(std::uint16_t ACodePage, std::u16string_view ASource, std::span<char> ATarget,
+                      TComposing AComposing) {
     const std::uint16_t Page = RealCodePage(ACodePage);
     switch (Page) {
-    case cUtf8CodePage: return EncodeUtf8(ASource, ATarget, AError);
-    case cUtf16CodePage: return EncodeUtf16(ASource, false, ATarget, AError);
-    case cUtf16SwappedCodePage: return EncodeUtf16(ASource, true, ATarget, AError);
+    case cUtf8CodePage: return EncodeUtf8(ASource, ATarget);
+    case cUtf16CodePage: return EncodeUtf16(ASource, false, ATarget);
+    case cUtf16SwappedCodePage: return EncodeUtf16(ASource, true, ATarget);
     case cUtf32CodePage:
-    case cUtf32SwappedCodePage: return EncodeUtf32(ASource, OrderOf(Page), ATarget, AError);
+    case cUtf32SwappedCodePage: return EncodeUtf32(ASource, OrderOf(Page), ATarget);
     case cAsciiCodePage:
-    case cLatin1CodePage: return EncodeNarrow(Page, ASource, ATarget, AComposing, AError);
-    default: return platform::Utf16ToCodePage(Page, ASource, ATarget, AComposing, AError);
+    case cLatin1CodePage: return EncodeNarrow(Page, ASource, ATarget, AComposing);
+    default: return platform::Utf16ToCodePage(Page, ASource, ATarget, AComposing);
     }
 }
 
 UnicodeString CodePageToUnicode(std::uint16_t ACodePage, TSource ASource) {
     if (ASource.empty())
         return {};
-    TError Error;
-    const std::size_t Length = DecodeCodePage(ACodePage, ASource, {}, TDecoding::Lenient, Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(ACodePage, Error);
+    const std::size_t Length =
+        RequireConverted(ACodePage, DecodeCodePage(ACodePage, ASource, {}, TDecoding::Lenient));
     UnicodeString Result = UnicodeString::ForOverwrite(Length);
     if (Length != 0)
-        DecodeCodePage(ACodePage, ASource, {Result.UniqueData(), Length}, TDecoding::Lenient, Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(ACodePage, Error);
+        RequireConverted(
+            ACodePage, DecodeCodePage(ACodePage, ASource, {Result.UniqueData(), Length}, TDecoding::Lenient));
     return Result;
 }
 
@@ -240,7 +221,7 @@ std::uint16_t CodePageOfMark(std::string_view ABytes) noexcept {
     return Mark == std::end(cMarks) ? std::uint16_t{0} : Mark->CodePage;
 }
 
-void RaiseCodePageError(std::uint16_t ACodePage, TError AError) {
+void RaiseCodePageError(std::uint16_t ACodePage, platform::TError AError) {
     RaiseOSError(AError.Code, Format(u"Code page: %d", {RealCodePage(ACodePage)}));
 }
 

@@ -2,8 +2,8 @@
 // by.
 //
 //     UnicodeString Wide = CodePageToUnicode(1252, Bytes);
-//     platform::TError Error;
-//     std::size_t Length = EncodeCodePage(65001, u"Zoë", Buffer, platform::TComposing::Plain, Error);
+//     std::size_t Length =
+//         RequireConverted(65001, EncodeCodePage(65001, u"Zoë", Buffer, platform::TComposing::Plain));
 //
 // Code page 0 is the system's, 1200 and 1201 are UTF-16 (lowest, highest byte first), 12000 and 12001 UTF-32 in the same
 // orders, 65001 is UTF-8. These, Latin-1 and ASCII are converted here, alike on all systems; every other page is
@@ -40,16 +40,17 @@ QZ_API std::uint16_t RealCodePage(std::uint16_t ACodePage) noexcept;
 // the system cannot convert the page, and EArgumentException for a page of 16 or 32 bits.
 QZ_API void SetDefaultSystemCodePage(std::uint16_t ACodePage);
 
-// Bytes to UTF-16: the number of units written to ATarget, or, with an empty ATarget, that it takes. No source gives 0.
-// On failure 0, AError tells why and ATarget holds anything. Strict refuses what means nothing in the page, but not in
-// UTF-8, which is always lenient, and not in UTF-16, whose units are taken as they are.
-QZ_API std::size_t DecodeCodePage(std::uint16_t ACodePage, std::span<const std::byte> ASource,
-                                  std::span<char16_t> ATarget, platform::TDecoding ADecoding,
-                                  platform::TError& AError);
+// Bytes to UTF-16. Gives the number of units written to ATarget, or with an empty ATarget the number it needs. No
+// source gives 0. On failure ATarget holds anything. Strict refuses bytes that mean nothing in the page. UTF-8 is always
+// lenient, and UTF-16 takes its units as they are.
+QZ_API platform::TResult<std::size_t> DecodeCodePage(std::uint16_t ACodePage,
+                                                     std::span<const std::byte> ASource,
+                                                     std::span<char16_t> ATarget,
+                                                     platform::TDecoding ADecoding);
 // UTF-16 to bytes, in the same way.
-QZ_API std::size_t EncodeCodePage(std::uint16_t ACodePage, std::u16string_view ASource,
-                                  std::span<char> ATarget, platform::TComposing AComposing,
-                                  platform::TError& AError);
+QZ_API platform::TResult<std::size_t> EncodeCodePage(std::uint16_t ACodePage, std::u16string_view ASource,
+                                                     std::span<char> ATarget,
+                                                     platform::TComposing AComposing);
 
 // The mark that opens a text in the page: of UTF-8, UTF-16 and UTF-32; empty for any other.
 QZ_API std::string_view ByteOrderMark(std::uint16_t ACodePage) noexcept;
@@ -61,5 +62,12 @@ QZ_API UnicodeString CodePageToUnicode(std::uint16_t ACodePage, std::span<const 
 
 // Raises EOSError for a failed conversion: the system's reason and "Code page: 12345".
 [[noreturn]] QZ_API void RaiseCodePageError(std::uint16_t ACodePage, platform::TError AError);
+// The count of a conversion; raises as RaiseCodePageError where it failed.
+inline std::size_t RequireConverted(std::uint16_t ACodePage,
+                                    const platform::TResult<std::size_t>& AConverted) {
+    if (!AConverted) [[unlikely]]
+        RaiseCodePageError(ACodePage, AConverted.Error());
+    return *AConverted;
+}
 
 } // namespace qz

@@ -10,7 +10,6 @@ namespace {
 
 using platform::TComposing;
 using platform::TDecoding;
-using platform::TError;
 
 std::span<char> Chars(const TBytes& ABytes) {
     return {reinterpret_cast<char*>(ABytes.data()), ABytes.Length()};
@@ -30,28 +29,18 @@ TBytes TEncoding::GetPreamble() const {
 }
 
 std::size_t TEncoding::GetByteCount(const TStringArg& AText) const {
-    TError Error;
-    const std::size_t Count = EncodeCodePage(FCodePage, AText.View(), {}, TComposing::Plain, Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(FCodePage, Error);
-    return Count;
+    return RequireConverted(FCodePage, EncodeCodePage(FCodePage, AText.View(), {}, TComposing::Plain));
 }
 
 std::size_t TEncoding::GetCharCount(std::span<const std::byte> ABytes) const {
-    TError Error;
-    const std::size_t Count = DecodeCodePage(FCodePage, ABytes, {}, TDecoding::Lenient, Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(FCodePage, Error);
-    return Count;
+    return RequireConverted(FCodePage, DecodeCodePage(FCodePage, ABytes, {}, TDecoding::Lenient));
 }
 
 TBytes TEncoding::GetBytes(const TStringArg& AText) const {
     TBytes Result(GetByteCount(AText));
-    TError Error;
     if (!Result.IsEmpty())
-        EncodeCodePage(FCodePage, AText.View(), Chars(Result), TComposing::Plain, Error);
-    if (Error.Code != 0)
-        RaiseCodePageError(FCodePage, Error);
+        RequireConverted(FCodePage,
+                         EncodeCodePage(FCodePage, AText.View(), Chars(Result), TComposing::Plain));
     return Result;
 }
 

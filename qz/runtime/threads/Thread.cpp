@@ -42,6 +42,7 @@ TThread::~TThread() {
 }
 
 void TThread::FinishCreate() {
+    Inherited::FinishCreate();
     if (!FSuspended) {
         FSuspended = true;
         Start();

@@ -54,8 +54,6 @@ public:
 
     // Asks the thread to end and waits for it. Raises EThread on the thread itself while it runs.
     void BeforeDestruction() override;
-    // Called by Create when the object is complete: starts the thread unless it was made suspended.
-    void FinishCreate();
 
     // Has AProc run on the main thread at its next CheckSynchronize, in the order of the calls; also when the main
     // thread itself calls. AThread, which may be null, is the thread that the work belongs to: it is dropped when
@@ -84,6 +82,8 @@ protected:
 
     // The work. Must end by returning or by an exception, not by pthread_exit or a cancellation.
     virtual void Execute() = 0;
+    // Starts the thread unless it was made suspended.
+    void FinishCreate() override;
 
 private:
     void Run() noexcept;

@@ -6,6 +6,8 @@
 #include <limits>
 #include <memory>
 #include <new>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include <qz/platform/SystemVariants.h>
@@ -37,9 +39,15 @@ struct TUnlockArray {
 using TArrayPtr = std::unique_ptr<void, TFreeArray>;
 using TArrayLock = std::unique_ptr<void, TUnlockArray>;
 
-void Check(bool ADone, platform::TError AError) {
-    if (!ADone)
-        RaiseOSError(AError.Code);
+void Check(const platform::TResult<>& AResult) {
+    if (!AResult)
+        RaiseOSError(AResult.Code());
+}
+
+template <class T> T Require(platform::TResult<T> AResult) {
+    if (!AResult)
+        RaiseOSError(AResult.Code());
+    return std::move(*AResult);
 }
 
 // A variant of the system's, which is empty at first.
@@ -48,17 +56,12 @@ public:
     TSystemValue() { Write({}); }
     TSystemValue(const TSystemValue&) = delete;
     TSystemValue& operator=(const TSystemValue&) = delete;
-    ~TSystemValue() {
-        platform::TError Ignored;
-        platform::ClearSystemVariant(FRoom.data(), Ignored);
-    }
+    ~TSystemValue() { std::ignore = platform::ClearSystemVariant(FRoom.data()); }
     void Write(const TSystemVariant& AContent) {
-        platform::TError Error;
-        Check(platform::WriteSystemVariant(FRoom.data(), AContent, Error), Error);
+        Check(platform::WriteSystemVariant(FRoom.data(), AContent));
     }
     void MoveTo(tagVARIANT* ATarget) {
-        platform::TError Error;
-        Check(platform::ClearSystemVariant(ATarget, Error), Error);
+        Check(platform::ClearSystemVariant(ATarget));
         std::memcpy(static_cast<void*>(ATarget), FRoom.data(), FRoom.size());
         FRoom = {};
     }
@@ -158,12 +161,10 @@ TSystemVariant ContentOf(const Variant& AValue, int ADepth) {
 // One element of an array of the system's, whose elements are empty yet.
 void WriteElement(std::byte* APlace, const Variant& AValue, TVarType AElements, int ADepth) {
     const TSystemVariant Content = ContentOf(AValue, ADepth);
-    if (AElements == varVariant) {
-        platform::TError Error;
-        Check(platform::WriteSystemVariant(APlace, Content, Error), Error);
-    } else {
+    if (AElements == varVariant)
+        Check(platform::WriteSystemVariant(APlace, Content));
+    else
         std::memcpy(APlace, &Content.Bits, sizeof(Content.Bits));
-    }
 }
 
 void* NewArray(const Variant& AArray, int ADepth) {
@@ -172,12 +173,9 @@ void* NewArray(const Variant& AArray, int ADepth) {
     std::vector<TSystemBound> Bounds;
     for (const detail::TVariantBound& Bound : Items.Bounds())
         Bounds.push_back({Bound.Low, static_cast<std::uint32_t>(Bound.Count)});
-    platform::TError Error;
     const TVarType Code = CodeFor(Items.Elements);
-    TArrayPtr Result(platform::NewSystemArray(Code, Bounds, Error));
-    Check(Result != nullptr, Error);
-    TSystemArray Target;
-    Check(platform::LockSystemArray(Result.get(), Code, Target, Error), Error);
+    TArrayPtr Result(Require(platform::NewSystemArray(Code, Bounds)));
+    const TSystemArray Target = Require(platform::LockSystemArray(Result.get(), Code));
     const TArrayLock Lock(Result.get());
     if (Code == varVariant || IsText(Code) || IsInterface(Code)) {
         for (std::size_t I = 0; I < Items.Count; ++I)
@@ -222,12 +220,10 @@ Variant ElementFrom(const std::byte* APlace, TVarType ACode, int ADepth) {
         std::memcpy(&Decimal, APlace, sizeof(Decimal));
         return Checked(Decimal);
     }
-    platform::TError Error;
-    TSystemVariant Content{.Code = ACode};
     if (ACode == varVariant)
-        Check(platform::ReadSystemVariant(APlace, Content, Error), Error);
-    else
-        std::memcpy(&Content.Bits, APlace, sizeof(Content.Bits));
+        return ValueOf(Require(platform::ReadSystemVariant(APlace)), ADepth);
+    TSystemVariant Content{.Code = ACode};
+    std::memcpy(&Content.Bits, APlace, sizeof(Content.Bits));
     return ValueOf(Content, ADepth);
 }
 
@@ -248,9 +244,7 @@ std::size_t SystemSize(TVarType AType) noexcept {
 
 Variant ArrayFrom(void* AArray, TVarType ACode, int ADepth) {
     CheckDepth(ADepth);
-    platform::TError Error;
-    TSystemArray Source;
-    Check(platform::LockSystemArray(AArray, ACode, Source, Error), Error);
+    const TSystemArray Source = Require(platform::LockSystemArray(AArray, ACode));
     const TArrayLock Lock(AArray);
     std::vector<detail::TVariantBound> Bounds;
     for (const TSystemBound& Bound : Source.Bounds)
@@ -279,10 +273,7 @@ void VariantToSystem(const Variant& AValue, tagVARIANT* ATarget) {
 }
 
 Variant VariantFromSystem(const tagVARIANT* ASource) {
-    platform::TError Error;
-    TSystemVariant Content;
-    Check(platform::ReadSystemVariant(ASource, Content, Error), Error);
-    return ValueOf(Content, 1);
+    return ValueOf(Require(platform::ReadSystemVariant(ASource)), 1);
 }
 
 } // namespace qz

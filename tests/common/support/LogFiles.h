@@ -40,26 +40,22 @@ public:
     UnicodeString Path(const UnicodeString& AFile) const { return FDirectory / AFile.View(); }
     // The content with "|" for each end of a line; "-" when there is no such file.
     std::string Text(const UnicodeString& AFile = u"app.log") const {
-        std::vector<std::byte> Bytes;
-        platform::TError Error;
-        if (!platform::ReadWholeFile(Path(AFile), Bytes, Error))
+        const auto Bytes = platform::ReadWholeFile(Path(AFile));
+        if (!Bytes)
             return "-";
-        std::string Result(reinterpret_cast<const char*>(Bytes.data()), Bytes.size());
+        std::string Result(reinterpret_cast<const char*>(Bytes->data()), Bytes->size());
         for (std::size_t End; (End = Result.find("\r\n")) != std::string::npos;)
             Result.replace(End, 2, "|");
         return Result;
     }
     void Put(const UnicodeString& AFile, std::string_view AText) const {
-        platform::TError Error;
-        EXPECT_TRUE(platform::WriteWholeFile(Path(AFile), std::as_bytes(std::span(AText)), Error));
+        EXPECT_TRUE(platform::WriteWholeFile(Path(AFile), std::as_bytes(std::span(AText))));
     }
     // The names in order, each with a blank behind it.
     std::string Names() const {
-        std::vector<platform::TDirEntry> Entries;
-        platform::TError Error;
-        platform::ListDirectory(FDirectory.Path(), Entries, Error);
+        const auto Entries = platform::ListDirectory(FDirectory.Path());
         std::vector<std::string> Names;
-        for (const platform::TDirEntry& Entry : Entries)
+        for (const platform::TDirEntry& Entry : *Entries)
             Names.push_back(Utf16ToUtf8(Entry.Name));
         std::sort(Names.begin(), Names.end());
         std::string Result;

@@ -235,8 +235,7 @@ TEST(FileAppender, WhatCannotBeOpenedIsTriedAgain) {
     Logger().Info("lost");
     EXPECT_EQ(Dropped + 1, QzDroppedLogMessages());
     EXPECT_THROW(File->Initialize(), EFCreateError);
-    platform::TError Error;
-    ASSERT_TRUE(platform::RemoveEmptyDirectory(Files.Path(u"app.log"), Error));
+    ASSERT_TRUE(platform::RemoveEmptyDirectory(Files.Path(u"app.log")));
     Logger().Info("kept");
     EXPECT_EQ("head|kept|", Files.Text());
 }

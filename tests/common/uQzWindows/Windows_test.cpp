@@ -26,8 +26,7 @@ constexpr std::int64_t c1970 = 116'444'736'000'000'000;
 
 std::u16string MakeFile(const platform::TTemporaryDirectory& ADirectory) {
     const std::u16string Path = ADirectory / u"file";
-    platform::TError Error;
-    EXPECT_TRUE(platform::WriteWholeFile(Path, std::span<const std::byte>(), Error)) << Error.Code;
+    EXPECT_TRUE(platform::WriteWholeFile(Path, std::span<const std::byte>()));
     return Path;
 }
 
@@ -160,10 +159,9 @@ TEST(FileTimes, CreationIsSetInUtc) {
     EXPECT_THROW(QzSetFileCreated(Directory / u"none", Date), EOSError);
     if (platform::FindModuleFunction(u"ntdll.dll", "wine_get_version") != nullptr)
         return; // it keeps no such time
-    platform::TFileTimes Times{};
-    platform::TError Error;
-    ASSERT_TRUE(platform::ReadFileTimes(Path, Times, Error));
-    EXPECT_EQ(Parts(Date), Parts(QzFileTimeToDateTime(Times.Created)));
+    const auto Times = platform::ReadFileTimes(Path);
+    ASSERT_TRUE(Times);
+    EXPECT_EQ(Parts(QzFileTimeToDateTime(Times->Created)), Parts(Date));
 }
 
 TEST(FileNames, LoseWhatNoSystemTakes) {

@@ -27,8 +27,7 @@ TEST(Charset, HasACodePageThatConverts) {
     for (const TCase& Case : Cases) {
         EXPECT_EQ(detail::CodePageOfCharset(Case.Name), Case.Page) << Case.Name;
         char Byte = '\0';
-        TError Error;
-        EXPECT_EQ(1u, Utf16ToCodePage(Case.Page, u"x", {&Byte, 1}, TComposing::Plain, Error)) << Case.Name;
+        EXPECT_EQ(*Utf16ToCodePage(Case.Page, u"x", {&Byte, 1}, TComposing::Plain), 1u) << Case.Name;
         EXPECT_EQ('x', Byte) << Case.Name;
     }
 }

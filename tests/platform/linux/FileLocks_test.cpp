@@ -15,18 +15,17 @@ namespace {
 class FileLocks : public testing::Test {
 protected:
     void Write(std::u16string_view APath, std::string_view AText) {
-        EXPECT_TRUE(WriteWholeFile(APath, std::as_bytes(std::span(AText)), Error)) << Error.Code;
+        EXPECT_TRUE(WriteWholeFile(APath, std::as_bytes(std::span(AText))));
     }
     std::string Read(std::u16string_view APath) {
-        std::vector<std::byte> Bytes;
-        EXPECT_TRUE(ReadWholeFile(APath, Bytes, Error)) << Error.Code;
-        return {reinterpret_cast<const char*>(Bytes.data()), Bytes.size()};
+        const auto Bytes = ReadWholeFile(APath);
+        EXPECT_TRUE(Bytes);
+        return {reinterpret_cast<const char*>(Bytes->data()), Bytes->size()};
     }
     static std::string Native(std::u16string_view APath) { return {APath.begin(), APath.end()}; }
 
     TTemporaryDirectory Directory;
     std::u16string Path = Directory / u"file";
-    TError Error;
 };
 
 // A lock of another program on the whole file covers the bytes of ours, too.
@@ -39,8 +38,8 @@ TEST_F(FileLocks, ForeignLocksNeitherHangNorDeny) {
         ASSERT_EQ(0, fcntl(Foreign, F_OFD_SETLK, &Whole));
         for (const TFileAccess Access : {TFileAccess::Read, TFileAccess::Write, TFileAccess::ReadWrite}) {
             TFileHandle First, Second;
-            EXPECT_TRUE(First.Open(Path, Access, TFileCreation::Never, {true, true}, Error)) << Error.Code;
-            EXPECT_TRUE(Second.Open(Path, Access, TFileCreation::Never, {true, true}, Error)) << Error.Code;
+            EXPECT_TRUE(First.Open(Path, Access, TFileCreation::Never, {true, true}));
+            EXPECT_TRUE(Second.Open(Path, Access, TFileCreation::Never, {true, true}));
         }
         EXPECT_EQ("old", Read(Path));
         Write(Path, "old");
@@ -54,9 +53,8 @@ TEST_F(FileLocks, ALinkLeadsToADeniedFileAndIsDeniedToo) {
     ASSERT_EQ(0, symlink("file", Native(Link).c_str()));
     {
         TFileHandle Handle;
-        ASSERT_TRUE(Handle.Open(Path, TFileAccess::Read, TFileCreation::Never, {.Read = true}, Error));
-        EXPECT_FALSE(WriteWholeFile(Link, std::span<const std::byte>(), Error));
-        EXPECT_EQ(ETXTBSY, Error.Code);
+        ASSERT_TRUE(Handle.Open(Path, TFileAccess::Read, TFileCreation::Never, {.Read = true}));
+        EXPECT_EQ(WriteWholeFile(Link, std::span<const std::byte>()).Code(), ETXTBSY);
         EXPECT_EQ("old", Read(Path));
     }
     Write(Link, "new");

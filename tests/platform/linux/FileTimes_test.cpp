@@ -21,10 +21,9 @@ constexpr int64_t cSummer = 133'642'656'000'000'000; // 2024-07-01 00:00:00 UTC
 constexpr const char* cAttribute = "user.qzcommon.created";
 
 int64_t CreatedOf(std::u16string_view APath) {
-    TFileTimes Times{};
-    TError Error;
-    EXPECT_TRUE(ReadFileTimes(APath, Times, Error)) << Error.Code;
-    return Times.Created;
+    const TResult<TFileTimes> Times = ReadFileTimes(APath);
+    EXPECT_TRUE(Times);
+    return Times->Created;
 }
 
 std::string AttributeOf(const std::string& APath) {
@@ -34,8 +33,7 @@ std::string AttributeOf(const std::string& APath) {
 }
 
 void Make(std::u16string_view APath) {
-    TError Error;
-    ASSERT_TRUE(WriteWholeFile(APath, std::span<const std::byte>(), Error)) << Error.Code;
+    ASSERT_TRUE(WriteWholeFile(APath, std::span<const std::byte>()));
 }
 
 TEST(FileTimesLinux, TimeThatWasSetStaysWithTheFileAndNoOther) {
@@ -43,13 +41,12 @@ TEST(FileTimesLinux, TimeThatWasSetStaysWithTheFileAndNoOther) {
     const std::u16string First = Directory / u"first";
     const std::u16string Second = Directory / u"second";
     const std::string Name = detail::ToNative(Second);
-    TError Error;
     const int64_t Before = UtcNow100ns() - 500'000; // times of files lag behind by a tick
     Make(First);
     EXPECT_LE(Before, CreatedOf(First));
     EXPECT_LE(CreatedOf(First), UtcNow100ns());
 
-    ASSERT_TRUE(SetFileCreated(First, cSummer + 7, Error)) << Error.Code;
+    ASSERT_TRUE(SetFileCreated(First, cSummer + 7));
     EXPECT_EQ(cSummer + 7, CreatedOf(First));
     ASSERT_EQ(0, rename(detail::ToNative(First).c_str(), Name.c_str()));
     ASSERT_EQ(0, chmod(Name.c_str(), 0600));
@@ -88,20 +85,15 @@ TEST(FileTimesLinux, RefusalsAreTold) {
     const TTemporaryDirectory Directory;
     const std::u16string File = Directory / u"file";
     Make(File);
-    TError Error;
     const std::pair<std::u16string, int> Cases[] = {{Directory.Path(), EISDIR},
                                                     {Directory / u"none", ENOENT},
                                                     {u"/proc/self/comm", EOPNOTSUPP},
                                                     {std::u16string(u"a\0b", 3), EINVAL}};
     for (const auto& [Path, Code] : Cases) {
-        EXPECT_FALSE(SetFileCreated(Path, cSummer, Error));
-        EXPECT_EQ(Code, Error.Code) << Code;
+        EXPECT_EQ(SetFileCreated(Path, cSummer).Code(), Code) << Code;
     }
-    EXPECT_FALSE(SetFileCreated(File, -1, Error));
-    EXPECT_EQ(EINVAL, Error.Code);
-    TFileTimes Times{};
-    EXPECT_FALSE(ReadFileTimes(Directory / u"none", Times, Error));
-    EXPECT_EQ(ENOENT, Error.Code);
+    EXPECT_EQ(SetFileCreated(File, -1).Code(), EINVAL);
+    EXPECT_EQ(ReadFileTimes(Directory / u"none").Code(), ENOENT);
 }
 
 // It could not be read back.
@@ -115,11 +107,9 @@ TEST(FileTimesLinux, TimeThatNobodyCouldReadIsRefused) {
         ASSERT_EQ(0, chown(Name.c_str(), 65534, 65534));
         ASSERT_EQ(0, seteuid(65534));
     }
-    TError Error;
     for (const mode_t Mode : {0200U, 0400U}) {
         EXPECT_EQ(0, chmod(Name.c_str(), Mode));
-        EXPECT_FALSE(SetFileCreated(File, cSummer, Error));
-        EXPECT_EQ(EACCES, Error.Code);
+        EXPECT_EQ(SetFileCreated(File, cSummer).Code(), EACCES);
     }
     if (IsRoot) {
         ASSERT_EQ(0, seteuid(0));
@@ -134,11 +124,10 @@ TEST(FileTimesLinux, TimesBeyondAllDatesAreTheNearest) {
     for (const int64_t Seconds : {std::numeric_limits<int64_t>::max(), std::numeric_limits<int64_t>::min()}) {
         const timespec Set[] = {{Seconds, 0}, {Seconds, 0}};
         ASSERT_EQ(0, futimens(File, Set));
-        TFileTimes Times{};
-        TError Error;
-        ASSERT_TRUE(ReadFileTimes(detail::FromNative(Name), Times, Error));
-        EXPECT_EQ(Seconds > 0, Times.LastWrite > 9'000'000'000'000'000'000) << Times.LastWrite;
-        EXPECT_EQ(Seconds < 0, Times.LastWrite < -9'000'000'000'000'000'000) << Times.LastWrite;
+        const TResult<TFileTimes> Times = ReadFileTimes(detail::FromNative(Name));
+        ASSERT_TRUE(Times);
+        EXPECT_EQ(Seconds > 0, Times->LastWrite > 9'000'000'000'000'000'000) << Times->LastWrite;
+        EXPECT_EQ(Seconds < 0, Times->LastWrite < -9'000'000'000'000'000'000) << Times->LastWrite;
     }
     close(File);
 }

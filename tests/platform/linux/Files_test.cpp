@@ -22,10 +22,9 @@ const std::vector<std::byte> cOld(10, std::byte{'o'});
 const std::vector<std::byte> cNew(2000, std::byte{'n'});
 
 std::vector<std::byte> ContentOf(std::u16string_view APath) {
-    std::vector<std::byte> Result;
-    TError Error;
-    EXPECT_TRUE(ReadWholeFile(APath, Result, Error)) << Error.Code;
-    return Result;
+    const auto Result = ReadWholeFile(APath);
+    EXPECT_TRUE(Result);
+    return *Result;
 }
 
 TEST(NativeText, ConvertsBothWays) {
@@ -64,9 +63,7 @@ TEST(FilesLinux, NamesThatAreNotUtf8Survive) {
     ASSERT_GE(File, 0);
     ASSERT_EQ(write(File, "abc", 3), 3);
     close(File);
-    std::vector<TDirEntry> Entries;
-    TError Error;
-    ASSERT_TRUE(ListDirectory(Directory.Path(), Entries, Error));
+    const std::vector<TDirEntry> Entries = *ListDirectory(Directory.Path());
     ASSERT_EQ(Entries.size(), 1u);
     EXPECT_EQ(Entries[0].Name, u"x\xDCE4\xDCFF.txt");
     EXPECT_EQ(ContentOf(Directory / Entries[0].Name).size(), 3u);
@@ -77,18 +74,17 @@ TEST(FilesLinux, ReplacingKeepsRightsAndFollowsLinks) {
     const std::u16string Path = Directory / u"file";
     const std::u16string Link = Directory / u"link";
     const std::string Native = detail::ToNative(Path);
-    TError Error;
-    ASSERT_TRUE(WriteWholeFile(Path, cOld, Error));
+    ASSERT_TRUE(WriteWholeFile(Path, cOld));
     ASSERT_EQ(chmod(Native.c_str(), 0751), 0);
     ASSERT_EQ(symlink("file", detail::ToNative(Link).c_str()), 0);
 
-    ASSERT_TRUE(WriteWholeFile(Path, cNew, Error)) << Error.Code;
+    ASSERT_TRUE(WriteWholeFile(Path, cNew));
     struct stat Status;
     ASSERT_EQ(stat(Native.c_str(), &Status), 0);
     EXPECT_EQ(Status.st_mode & 07777, 0751u);
     const ino_t Kept = Status.st_ino;
 
-    ASSERT_TRUE(WriteWholeFile(Link, cOld, Error)) << Error.Code;
+    ASSERT_TRUE(WriteWholeFile(Link, cOld));
     ASSERT_EQ(stat(Native.c_str(), &Status), 0);
     EXPECT_EQ(Status.st_ino, Kept);
     EXPECT_EQ(ContentOf(Path), cOld);
@@ -97,12 +93,10 @@ TEST(FilesLinux, ReplacingKeepsRightsAndFollowsLinks) {
 }
 
 TEST(FilesLinux, ReadsAndWritesWhatHasNoSize) {
-    TError Error;
     EXPECT_GT(ContentOf(u"/proc/self/status").size(), 100u);
-    EXPECT_TRUE(WriteWholeFile(u"/dev/null", cNew, Error));
+    EXPECT_TRUE(WriteWholeFile(u"/dev/null", cNew));
     EXPECT_TRUE(FileExists(u"/dev/null"));
-    EXPECT_FALSE(WriteWholeFile(u"/dev/full", cNew, Error));
-    EXPECT_EQ(Error.Code, ENOSPC);
+    EXPECT_EQ(WriteWholeFile(u"/dev/full", cNew).Code(), ENOSPC);
 }
 
 // Runs ATest in a process of its own, whose limits and rights it may spoil; 0 is success.
@@ -118,20 +112,17 @@ template <class TTest> int InChild(const TTest& ATest) {
 TEST(FilesLinux, FailedWriteLeavesTheOldContent) {
     const TTemporaryDirectory Directory;
     const std::u16string Path = Directory / u"file";
-    TError Error;
-    ASSERT_TRUE(WriteWholeFile(Path, cOld, Error));
+    ASSERT_TRUE(WriteWholeFile(Path, cOld));
     const int Result = InChild([&] {
         const rlimit Limit = {1000, 1000};
         std::signal(SIGXFSZ, SIG_IGN);
         if (setrlimit(RLIMIT_FSIZE, &Limit) != 0)
             return 1;
-        TError ChildError;
-        return !WriteWholeFile(Path, cNew, ChildError) && ChildError.Code == EFBIG ? 0 : 2;
+        return WriteWholeFile(Path, cNew).Code() == EFBIG ? 0 : 2;
     });
     EXPECT_EQ(Result, 0);
     EXPECT_EQ(ContentOf(Path), cOld);
-    std::vector<TDirEntry> Entries;
-    EXPECT_TRUE(ListDirectory(Directory.Path(), Entries, Error) && Entries.size() == 1);
+    EXPECT_EQ(ListDirectory(Directory.Path())->size(), 1u);
 }
 
 // Root may do anything, so that the child becomes somebody else, who owns the directory and the locked file
@@ -143,9 +134,8 @@ TEST(FilesLinux, RightsAreRespected) {
     const std::u16string Open = Directory / u"open";
     const std::string Native = detail::ToNative(Directory.Path());
     const bool AsRoot = geteuid() == 0;
-    TError Error;
-    ASSERT_TRUE(WriteWholeFile(Locked, cOld, Error));
-    ASSERT_TRUE(WriteWholeFile(Open, cOld, Error));
+    ASSERT_TRUE(WriteWholeFile(Locked, cOld));
+    ASSERT_TRUE(WriteWholeFile(Open, cOld));
     ASSERT_EQ(chmod(detail::ToNative(Locked).c_str(), 0444), 0);
     ASSERT_EQ(chmod(detail::ToNative(Open).c_str(), 0666), 0);
     if (AsRoot) {
@@ -157,13 +147,12 @@ TEST(FilesLinux, RightsAreRespected) {
             (setresgid(cNobody, cNobody, cNobody) != 0 || setresuid(cNobody, cNobody, cNobody) != 0))
             return 1;
         // The directory would take a new file in place of the locked one.
-        TError ChildError;
-        if (WriteWholeFile(Locked, cNew, ChildError) || ChildError.Code != EACCES)
+        if (WriteWholeFile(Locked, cNew).Code() != EACCES)
             return 2;
         // It takes none now, but the open file may be written where it is.
         if (chmod(Native.c_str(), 0555) != 0)
             return 3;
-        return WriteWholeFile(Open, cNew, ChildError) ? 0 : 4;
+        return WriteWholeFile(Open, cNew) ? 0 : 4;
     });
     ASSERT_EQ(chmod(Native.c_str(), 0700), 0);
     EXPECT_EQ(Result, 0);

@@ -58,10 +58,7 @@ protected:
 
     std::u16string Home() const { return Directory / u"home"; }
 
-    static std::u16string Folder(int ANumber) {
-        std::u16string Path;
-        return ShellFolder(ANumber, Path) ? Path : u"?";
-    }
+    static std::u16string Folder(int ANumber) { return ShellFolder(ANumber).value_or(u"?"); }
     static unsigned ModeOf(const std::u16string& APath) {
         struct stat Status {};
         return stat(detail::ToNative(APath).c_str(), &Status) == 0 ? Status.st_mode & 0777 : 0;
@@ -85,8 +82,7 @@ TEST_F(ShellFoldersLinux, FoldersOfTheUserAreMadeForHimAlone) {
     EXPECT_EQ(Home() + u"/cfg", Folder(26));
     EXPECT_EQ(Home() + u"/.local/share", Folder(28));
     const std::string Chosen = "XDG_DOCUMENTS_DIR=\"$HOME/Papers\"\n";
-    TError Error;
-    ASSERT_TRUE(WriteWholeFile(Home() + u"/cfg/user-dirs.dirs", std::as_bytes(std::span(Chosen)), Error));
+    ASSERT_TRUE(WriteWholeFile(Home() + u"/cfg/user-dirs.dirs", std::as_bytes(std::span(Chosen))));
     EXPECT_EQ(Home() + u"/Papers", Folder(5));
     EXPECT_EQ(Home() + u"/Music", Folder(13));
 }
@@ -105,10 +101,9 @@ TEST_F(ShellFoldersLinux, SharedFoldersLieWhereTheProcessMayWrite) {
                                   {22, "/d/applications", "/.local/share/applications"},
                                   {23, "/d/applications", "/.local/share/applications"},
                                   {24, "/c/autostart", "/.config/autostart"}}) {
-            std::string Path;
-            ASSERT_TRUE(detail::FindFolder(Case.Number, Places, Path));
-            EXPECT_EQ(AreThere ? Base + Case.Shared : Base + "/home" + Case.Own, Path);
-            EXPECT_EQ(AreThere ? 0755u : 0700u, ModeOf(detail::FromNative(Path))) << Path;
+            const std::string Path = detail::FindFolder(Case.Number, Places).value_or("?");
+            EXPECT_EQ(Path, AreThere ? Base + Case.Shared : Base + "/home" + Case.Own);
+            EXPECT_EQ(ModeOf(detail::FromNative(Path)), AreThere ? 0755u : 0700u) << Path;
         }
         for (const std::string& Place : {Places.State, Places.Data, Places.Config})
             std::filesystem::create_directory(Place);
@@ -120,9 +115,7 @@ TEST_F(ShellFoldersLinux, SharedFoldersLieWhereTheProcessMayWrite) {
     EXPECT_EQ(Directory.Path() + u"/Music", Folder(53));
     std::filesystem::remove_all(Base + "/Music");
     Variables.Set(u"STATE_DIRECTORY", u"/nowhere");
-    std::string Path;
-    EXPECT_TRUE(detail::FindFolder(46, Places, Path));
-    EXPECT_EQ(Base + "/home/.local/state", Path);
+    EXPECT_EQ(detail::FindFolder(46, Places).value_or("?"), Base + "/home/.local/state");
 }
 
 TEST_F(ShellFoldersLinux, FoldersOfTheSystemAreToldAsTheyAre) {
@@ -141,9 +134,8 @@ TEST_F(ShellFoldersLinux, WhatCannotBeHadIsRefused) {
         EXPECT_EQ(u"?", Folder(Number)) << Number;
     EXPECT_EQ(u"?", Folder(40));
     EXPECT_FALSE(DirectoryExists(Home()));
-    TError Error;
     const std::u16string Blocked = Directory / u"file";
-    ASSERT_TRUE(WriteWholeFile(Blocked, std::span<const std::byte>(), Error));
+    ASSERT_TRUE(WriteWholeFile(Blocked, std::span<const std::byte>()));
     Variables.Set(u"HOME", Blocked);
     EXPECT_EQ(u"?", Folder(5));
 }

@@ -42,32 +42,25 @@ TEST(FilesWindows, FileInUseKeepsItsContent) {
     const std::u16string Path = Directory / u"file";
     const std::vector<std::byte> Old(10, std::byte{'o'});
     const std::vector<std::byte> New(20, std::byte{'n'});
-    TError Error;
-    ASSERT_TRUE(WriteWholeFile(Path, Old, Error));
+    ASSERT_TRUE(WriteWholeFile(Path, Old));
     std::FILE* User = _wfsopen(detail::Wide(Path), L"rb", _SH_DENYWR);
     ASSERT_NE(User, nullptr);
-    EXPECT_FALSE(WriteWholeFile(Path, New, Error));
-    EXPECT_EQ(Error.Code, cSharingViolation);
+    EXPECT_EQ(WriteWholeFile(Path, New).Code(), cSharingViolation);
     std::fclose(User);
 
     ASSERT_EQ(_wchmod(detail::Wide(Path), _S_IREAD), 0);
-    EXPECT_FALSE(WriteWholeFile(Path, New, Error));
-    EXPECT_EQ(Error.Code, cAccessDenied);
+    EXPECT_EQ(WriteWholeFile(Path, New).Code(), cAccessDenied);
     ASSERT_EQ(_wchmod(detail::Wide(Path), _S_IREAD | _S_IWRITE), 0);
 
-    std::vector<std::byte> Content;
-    std::vector<TDirEntry> Entries;
-    EXPECT_TRUE(ReadWholeFile(Path, Content, Error) && Content == Old);
-    EXPECT_TRUE(ListDirectory(Directory.Path(), Entries, Error) && Entries.size() == 1);
+    EXPECT_EQ(*ReadWholeFile(Path), Old);
+    EXPECT_EQ(ListDirectory(Directory.Path())->size(), 1u);
 }
 
 TEST(FilesWindows, DevicesAreWrittenInPlace) {
     const std::vector<std::byte> Bytes(5000);
-    std::vector<std::byte> Content(1);
-    TError Error;
-    EXPECT_TRUE(WriteWholeFile(u"NUL", Bytes, Error)) << Error.Code;
-    EXPECT_TRUE(ReadWholeFile(u"NUL", Content, Error)) << Error.Code;
-    EXPECT_TRUE(Content.empty());
+    EXPECT_TRUE(WriteWholeFile(u"NUL", Bytes));
+    const auto Content = ReadWholeFile(u"NUL");
+    EXPECT_TRUE(Content && Content->empty());
 }
 
 } // namespace

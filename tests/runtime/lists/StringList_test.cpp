@@ -298,16 +298,15 @@ TEST(StringList, FilesAreUtf8) {
     TStringList List;
     Fill(List, {u"Zo\u00EB", u"", u"\U0001F600"});
     List.SaveToFile(Path);
-    std::vector<std::byte> Bytes;
-    platform::TError Error;
-    ASSERT_TRUE(platform::ReadWholeFile(Path, Bytes, Error));
-    EXPECT_EQ(std::string_view(reinterpret_cast<const char*>(Bytes.data()), Bytes.size()),
+    const auto Bytes = platform::ReadWholeFile(Path);
+    ASSERT_TRUE(Bytes);
+    EXPECT_EQ(std::string_view(reinterpret_cast<const char*>(Bytes->data()), Bytes->size()),
               "Zo\xC3\xAB\r\n\r\n\xF0\x9F\x98\x80\r\n");
     TStringList Read;
     Read.LoadFromFile(Path);
     EXPECT_TRUE(Read.Equals(List));
     constexpr std::string_view cMarked = "\xEF\xBB\xBFx\ny";
-    ASSERT_TRUE(platform::WriteWholeFile(Path, std::as_bytes(std::span(cMarked)), Error));
+    ASSERT_TRUE(platform::WriteWholeFile(Path, std::as_bytes(std::span(cMarked))));
     Read.LoadFromFile(Path);
     EXPECT_EQ(LinesOf(Read), (TLines{u"x", u"y"}));
     for (const std::uint16_t Page : std::initializer_list<std::uint16_t>{1200, 1201, 12000, 65001}) {

@@ -14,8 +14,7 @@ namespace {
 TEST(FileTimesLinux, CreationIsLocalTimeOfItsMoment) {
     const platform::TTemporaryDirectory Directory;
     const std::u16string Path = Directory / u"file";
-    platform::TError Error;
-    ASSERT_TRUE(platform::WriteWholeFile(Path, std::span<const std::byte>(), Error));
+    ASSERT_TRUE(platform::WriteWholeFile(Path, std::span<const std::byte>()));
     const TZoneOfTheEnvironment Zone(u"CET-1CEST,M3.5.0,M10.5.0/3");
     const auto At = [](int AMonth, int ADay, int AHour, int AMinute, int ASecond, int AMSec = 0) {
         return EncodeDateTime(2024, AMonth, ADay, AHour, AMinute, ASecond, AMSec);

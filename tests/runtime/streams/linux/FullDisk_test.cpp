@@ -53,10 +53,7 @@ TEST(FullDisk, ASavedFileIsTheOldOneOrTheNewOne) {
     Saved.LoadFromFile(Name);
     EXPECT_EQ("old", std::string(static_cast<const char*>(Saved.Memory()), 3));
     EXPECT_THROW(Stream.SaveToFile(u"/dev/full"), EFCreateError);
-    std::vector<platform::TDirEntry> Entries;
-    platform::TError Error;
-    platform::ListDirectory(Directory.Path(), Entries, Error);
-    EXPECT_EQ(1u, Entries.size()) << "nothing is left beside it";
+    EXPECT_EQ(platform::ListDirectory(Directory.Path())->size(), 1u) << "nothing is left beside it";
 }
 
 } // namespace
