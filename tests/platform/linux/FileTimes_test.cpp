@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <limits>
+#include <set>
 
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -60,16 +61,8 @@ TEST(FileTimesLinux, TimeThatWasSetStaysWithTheFileAndNoOther) {
               setxattr(detail::ToNative(First).c_str(), cAttribute, Attribute.data(), Attribute.size(), 0));
     EXPECT_EQ(Own, CreatedOf(First));
 
-    const std::string Bad[] = {"",
-                               "x",
-                               "1",
-                               "1 2",
-                               Attribute + ' ',
-                               Attribute + '0',
-                               '-' + Attribute,
-                               ' ' + Attribute,
-                               "99999999999999999999" + Attribute,
-                               std::string(200, '1')};
+    const std::set<std::string> Bad({"", "x", "1", "1 2", Attribute + ' ', Attribute + '0', '-' + Attribute,
+                                     ' ' + Attribute, "9999999999" + Attribute, std::string(200, '1')});
     const int64_t Born = [&] {
         removexattr(Name.c_str(), cAttribute);
         return CreatedOf(Second);

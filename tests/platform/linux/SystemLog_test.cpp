@@ -126,12 +126,8 @@ TEST_F(SystemLogLinux, JournalGetsFieldsOfBytes) {
         EXPECT_EQ(Message(Head + Rest + '=', "Straße \xF0\x9F\x98\x80"), Journal.Take());
     }
     const std::string Head = "PRIORITY=6\n" + Rest;
-    EXPECT_TRUE(Write(u"a\0\xD800"
-                      u"b\xDC80"s));
-    EXPECT_EQ(Message(Head + '=',
-                      "a\0\xEF\xBF\xBD"
-                      "b\xEF\xBF\xBD"s),
-              Journal.Take());
+    EXPECT_TRUE(Write(u"a\0\xD800z\xDC80"s));
+    EXPECT_EQ(Message(Head + '=', "a\0\xEF\xBF\xBDz\xEF\xBF\xBD"s), Journal.Take());
     EXPECT_TRUE(Write(u"x\nEVENT_ID=9\n"));
     EXPECT_EQ(Message(Head, "\n\x0D\0\0\0\0\0\0\0x\nEVENT_ID=9\n"s), Journal.Take());
     EXPECT_EQ("-", Journal.Take());

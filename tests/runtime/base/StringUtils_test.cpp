@@ -37,10 +37,8 @@ TEST(StringUtils, Trimming) {
 
 TEST(StringUtils, PositionsCountFromOne) {
     struct {
-        std::u16string_view Piece;
-        std::u16string_view Text;
-        int Offset;
-        int Expected;
+        std::u16string_view Piece, Text;
+        int Offset, Expected;
     } const Cases[] = {
         {u"=", u"a=b", 1, 2}, {u"a", u"a=b", 1, 1},  {u"b", u"a=b", 3, 3},  {u"a", u"a=b", 2, 0},
         {u"", u"abc", 1, 0},  {u"a", u"", 1, 0},     {u"a", u"a", 0, 0},    {u"a", u"a", -1, 0},
@@ -53,8 +51,7 @@ TEST(StringUtils, PositionsCountFromOne) {
 
 TEST(StringUtils, PiecesAreCutToTheText) {
     struct {
-        int Index;
-        int Count;
+        int Index, Count;
         const char16_t* Copied;
         const char16_t* Left;
     } const Cases[] = {

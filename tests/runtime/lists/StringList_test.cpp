@@ -75,8 +75,7 @@ TEST(StringList, CommaTextReadsWhatPeopleWrite) {
 TEST(StringList, DelimitedTextFollowsItsSettings) {
     const TLines Lines = {u"a b", u"", u"c;d", u"it's", u" "};
     const struct {
-        char16_t Delimiter;
-        char16_t Quote;
+        char16_t Delimiter, Quote;
         bool Strict;
         const char16_t* Text;
     } Cases[] = {
