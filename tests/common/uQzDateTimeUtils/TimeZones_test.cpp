@@ -61,7 +61,7 @@ TEST(TimeZones, EachNameFindsItsBias) {
             EXPECT_EQ(Zone.Bias, Row.Bias) << UnicodeString(Name);
         }
     }
-    EXPECT_EQ(263U, Seen.size());
+    EXPECT_EQ(Seen.size(), 263U);
 }
 
 TEST(LocalZone, DatesOfARule) {

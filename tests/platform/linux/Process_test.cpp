@@ -55,7 +55,7 @@ TEST(EnvironmentLinux, ChildOfForkCanAsk) {
         }
         waitpid(Child, &Status, 0);
     }
-    EXPECT_EQ(0, Status);
+    EXPECT_EQ(Status, 0);
     Stop = true;
     Asks.join();
 }

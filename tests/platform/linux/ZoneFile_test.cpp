@@ -139,7 +139,7 @@ TEST(SystemZone, OddSettingsAreUtc) {
     const auto Old = GetEnvironment(u"TZ");
     const auto Folder = std::filesystem::temp_directory_path() / ("qz_zones_" + std::to_string(getpid()));
     std::filesystem::create_directory(Folder);
-    ASSERT_EQ(0, mkfifo((Folder / "pipe").c_str(), 0600)); // nobody ever writes to it
+    ASSERT_EQ(mkfifo((Folder / "pipe").c_str(), 0600), 0); // nobody ever writes to it
     std::ofstream(Folder / "long").seekp(2 << 20).put('x');
     std::ofstream(Folder / "empty").flush();
     std::ofstream(Folder / "noise") << "TZif2 and so on";

@@ -5,6 +5,7 @@
 #include <qz/runtime/components/Bindings.h>
 #include <qz/runtime/components/DescribeComponent.h>
 #include <qz/runtime/components/LinkControlToProperty.h>
+#include <qz/runtime/reflection/Properties.h>
 #include <qz/runtime/values/BasicTypes.h>
 #include <qz/runtime/values/Currency.h>
 
@@ -208,38 +209,30 @@ TEST_F(Bindings, EndOfABoundComponentEndsTheBinding) {
 }
 
 TEST_F(Bindings, ValuesConvertOrAreRefused) {
-    FB->FBig = 0xFFFFFFFFFFFFFFFF;
-    FA->FSingle = 1.5F;
-    FA->SetText(u"clgreen");
     const auto Move = [](TModel* From, const char16_t* Input, TModel* To, const char16_t* Output) {
         TBindings::RemoveBinding(Bind(From, UnicodeString(u"src.") + Input, To,
                                       UnicodeString(u"dst.") + Output, {TBindings::coEvaluate}));
     };
-    Move(FA.get(), u"Text", FB.get(), u"Color");
-    EXPECT_EQ(FB->FColor, TColor::clGreen);
-    Move(FB.get(), u"Color", FB.get(), u"Utf8");
-    EXPECT_EQ(FB->FUtf8.View(), "clGreen");
-    Move(FB.get(), u"Utf8", FB.get(), u"Wide");
-    EXPECT_EQ(FB->FWide, u"clGreen");
-    Move(FB.get(), u"Color", FB.get(), u"Number");
-    EXPECT_EQ(FB->Number(), 1);
-    Move(FB.get(), u"Color", FB.get(), u"Flag");
-    EXPECT_TRUE(FB->FFlag);
-    Move(FB.get(), u"Flag", FA.get(), u"Text");
-    EXPECT_EQ(FA->Text(), "True");
-    Move(FB.get(), u"Big", FA.get(), u"Text");
-    EXPECT_EQ(FA->Text(), "18446744073709551615");
+    FB->FBig = 0xFFFFFFFFFFFFFFFF;
+    FA->FSingle = 1.5F;
+    FA->SetText(u"clgreen");
+    for (const auto& Case : Rows(
+             u"A Text => B Color => clGreen", u"B Color => B Utf8 => clGreen", u"B Utf8 => B Wide => clGreen",
+             u"B Color => B Number => 1", u"B Color => B Flag => True", u"B Flag => A Text => True",
+             u"B Big => A Text => 18446744073709551615", u"A Text => A Big => 18446744073709551615",
+             u"A Single => B Float => 1.5", u"B Float => B Text => 1.5")) {
+        TModel* From = Case[0][0] == u'A' ? FA.get() : FB.get();
+        TModel* To = Case[1][0] == u'A' ? FA.get() : FB.get();
+        Move(From, Case[0].c_str() + 2, To, Case[1].c_str() + 2);
+        EXPECT_EQ(VarToStr(GetPropValue(*To, Case[1].View().substr(2))), Case[2])
+            << Case[0] << " to " << Case[1];
+    }
     Move(FB.get(), u"Big", FA.get(), u"Float");
     EXPECT_EQ(FA->Float(), 18446744073709551616.0);
     FA->FBig = (1ull << 63) + 1025; // rounded once
     Move(FA.get(), u"Big", FA.get(), u"Float");
     EXPECT_EQ(FA->Float(), static_cast<double>(FA->FBig));
-    Move(FA.get(), u"Text", FA.get(), u"Big");
-    EXPECT_EQ(FA->FBig, FB->FBig);
-    Move(FA.get(), u"Single", FB.get(), u"Float");
-    EXPECT_EQ(FB->Float(), 1.5);
-    Move(FB.get(), u"Float", FB.get(), u"Text");
-    EXPECT_EQ(FB->Text(), "1.5");
+    FA->FBig = FB->FBig;
     FB->SetFloat(0.4);
     Move(FB.get(), u"Float", FA.get(), u"Flag");
     EXPECT_TRUE(FA->FFlag);

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/Lines.h"
 #include "tests/support/Message.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TemporaryDirectory.h"
 #include "tests/support/Trace.h"
 #include <qz/runtime/base/StringUtils.h>
@@ -51,24 +53,12 @@ TEST(StringList, CommaTextIsWrittenAndRead) {
 }
 
 TEST(StringList, CommaTextReadsWhatPeopleWrite) {
-    const struct {
-        const char16_t* Text;
-        TLines Lines;
-    } Cases[] = {
-        {u" a , b ", {u"a", u"b"}},
-        {u"a b,c", {u"a", u"b", u"c"}},
-        {u"\"a b\"c", {u"a b", u"c"}},
-        {u"\"open", {u"open"}},
-        {u"\"", {u""}},
-        {u",,", {u"", u"", u""}},
-        {u"a\"b", {u"a\"b"}},
-        {u"  ", {}},
-        {u"a, ", {u"a"}},
-    };
-    for (const auto& Case : Cases) {
+    for (const auto& Case :
+         Rows(u" a , b  => a|b|", u"a b,c => a|b|c|", u"\"a b\"c => a b|c|", u"\"open => open|", u"\" => |",
+              u",, => |||", u"a\"b => a\"b|", u"   => ", u"a,  => a|")) {
         TStringList List;
-        List.SetCommaText(Case.Text);
-        EXPECT_EQ(LinesOf(List), Case.Lines) << UnicodeString(Case.Text);
+        List.SetCommaText(Case[0]);
+        EXPECT_EQ(Lines(List), Case[1]) << Case[0];
     }
 }
 

@@ -48,7 +48,7 @@ TEST(DateTime, EveryDayFollowsTheOneBefore) {
                 if (InMonth > 1)
                     Day += InMonth;
             }
-    EXPECT_EQ(Day, static_cast<int>(MaxDateTime) + 1);
+    EXPECT_EQ(static_cast<int>(MaxDateTime) + 1, Day);
 }
 
 TEST(DateTime, EveryMilliSecondSurvivesOnBothSidesOfDayZero) {

@@ -173,7 +173,7 @@ TEST(TimeZoneLinux, RuleTextsAreTakenAsTheCLibraryTakesThem) {
           // Not readable, and so UTC.
           "ABC", "AB5", "<+3>-3", "nosuch", "", ":", "::Europe/Paris", "/etc/passwd", "Europe", "/dev/zero",
           "ABC:5", "ABC 5"})
-        EXPECT_EQ("", CheckZone(Text, cFrom, cTo).Wrong) << Text;
+        EXPECT_EQ(CheckZone(Text, cFrom, cTo).Wrong, "") << Text;
 }
 
 TEST(TimeZoneLinux, FarYearsFollowTheRule) {
@@ -182,7 +182,7 @@ TEST(TimeZoneLinux, FarYearsFollowTheRule) {
          {"America/New_York", "NZST-12NZDT,M9.5.0,M4.1.0/3", "Europe/Dublin", "EST5EDT,J60,J300"}) {
         for (const std::int64_t Year : {2038, 2399, 2437, 2438, 2439, 2500, 4000, 9998}) {
             const std::int64_t From = (DayNumber(Year, 1, 1) - 25569) * 86400;
-            EXPECT_EQ("", CheckZone(Zone, From, From + std::int64_t{366} * 86400).Wrong)
+            EXPECT_EQ(CheckZone(Zone, From, From + std::int64_t{366} * 86400).Wrong, "")
                 << Zone << ' ' << Year;
         }
     }
@@ -269,8 +269,8 @@ TEST(TimeZoneLinux, ARefreshIsNotUndoneByOtherThreads) {
     IsOver = true;
     for (std::thread& Each : Others)
         Each.join();
-    EXPECT_EQ(0, Undone);
-    EXPECT_EQ(0, Wrong);
+    EXPECT_EQ(Undone, 0);
+    EXPECT_EQ(Wrong, 0);
 }
 
 TEST(TimeZoneLinux, ChildrenOfAForkCanLook) {
@@ -288,7 +288,7 @@ TEST(TimeZoneLinux, ChildrenOfAForkCanLook) {
         }
         int Status = -1;
         waitpid(Child, &Status, 0);
-        ASSERT_EQ(0, Status);
+        ASSERT_EQ(Status, 0);
     }
     IsOver = true;
     Other.join();
