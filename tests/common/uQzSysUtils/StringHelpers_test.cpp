@@ -84,32 +84,22 @@ TEST(StringToList, SplitsAndJoins) {
 }
 
 TEST(CharCase, ConvertsByModeInBothWidths) {
-    const struct {
-        TQzCharCase Case;
-        const char* Text;
-        const char* Delimiters;
-        const char* Result;
-    } cCases[] = {
-        {rcNormal, "hElLo", "", "hElLo"},
-        {rcUpperCase, "hé-x", "-", "HÉ-X"},
-        {rcLowerCase, "HÉ-X", "-", "hé-x"},
-        {rcTitleCase, "hello WORLD", " ", "Hello world"},
-        {rcUpperCamelCase, "hello wORLD-x", " -", "Hello World-X"},
-        {rcLowerCamelCase, "Hello  wORLD", " ", "hello  World"},
-        {rcUpperCamelCase, "ab CD", "", "Ab cd"},
-        {rcUpperCamelCase, "xAxb", "X", "Xaxb"},
-        {rcUpperCamelCase, "xaxb", "x", "xAxB"},
-        {rcUpperCamelCase, "éa éB", " ", "Éa Éb"},
-        {rcUpperCaseFirstLetter, "éLLO", "", "ÉLLO"},
-        {rcLowerCaseFirstLetter, "ÉLLO", "", "éLLO"},
-        {rcTitleCase, "", "", ""},
+    const auto Check = [](TQzCharCase ACase, const auto*... ARows) {
+        for (const auto& Case : Rows(ARows...)) { // text, delimiters, result
+            EXPECT_EQ(QzCharCase(Case[0], ACase, Case[1]), Case[2]) << Case[0];
+            EXPECT_EQ(QzCharCase(AnsiString(Case[0]), ACase, AnsiString(Case[1])).ToUnicode(),
+                      AnsiString(Case[2]).ToUnicode());
+        }
     };
-    for (const auto& Case : cCases) {
-        EXPECT_EQ(QzCharCase(WideString(Case.Text), Case.Case, Case.Delimiters), Case.Result) << Case.Text;
-        const AnsiString Narrow{UnicodeString(Case.Text)};
-        EXPECT_EQ(QzCharCase(Narrow, Case.Case, AnsiString(UnicodeString(Case.Delimiters))).ToUnicode(),
-                  AnsiString(UnicodeString(Case.Result)).ToUnicode());
-    }
+    Check(rcNormal, u"hElLo =>  => hElLo");
+    Check(rcUpperCase, u"hé-x => - => HÉ-X");
+    Check(rcLowerCase, u"HÉ-X => - => hé-x");
+    Check(rcTitleCase, u"hello WORLD =>   => Hello world", u" =>  => ");
+    Check(rcUpperCamelCase, u"hello wORLD-x =>  - => Hello World-X", u"ab CD =>  => Ab cd",
+          u"xAxb => X => Xaxb", u"xaxb => x => xAxB", u"éa éB =>   => Éa Éb");
+    Check(rcLowerCamelCase, u"Hello  wORLD =>   => hello  World");
+    Check(rcUpperCaseFirstLetter, u"éLLO =>  => ÉLLO");
+    Check(rcLowerCaseFirstLetter, u"ÉLLO =>  => éLLO");
     EXPECT_EQ(QzCharCase(u"\xD800 \xDC00z", rcUpperCamelCase, u" "), u"\xD800 \xDC00z");
     EXPECT_EQ(QzCharCase(u"a\U0001F601b\U0001F600c", rcUpperCamelCase, u"\U0001F600"),
               u"A\U0001F601b\U0001F600C");
@@ -246,34 +236,20 @@ TEST(Compare, TextsAndChoices) {
 }
 
 TEST(Compare, VariantsByValueAndType) {
-    const struct {
-        Variant Left, Right;
-        bool Equal, Same;
-    } cCases[] = {
-        {1, 1, true, true},
-        {1, 1.0, true, false},
-        {1, u"1", true, false},
-        {-1, true, true, false},
-        {-1, UINT64_MAX, false, false},
-        {INT64_MIN, 0x8000000000000000U, false, false},
-        {0.5F, 0.5, true, false},
-        {u"a", u"A", false, false},
-        {u"é", AnsiString(UnicodeString(u"é")), true, false},
-        {Variant(), 0, true, false},
-        {Variant(), u"", true, false},
-        {Variant(), u"a", false, false},
-        {Variant::Null(), Variant::Null(), true, true},
-        {Variant::Null(), Variant(), false, false},
-        {u"true", true, true, false},
-        {NAN, NAN, false, false},
-        {UINT64_MAX, 18446744073709551616.0, true, false},
+    const auto Check = [](bool AEqual, bool ASame, const auto&... AValues) {
+        const Variant Values[] = {Variant(AValues)...}; // by pairs
+        for (std::size_t I = 0; I < std::size(Values); I += 2) {
+            SCOPED_TRACE(VarToStr(Values[I]) + u" and " + VarToStr(Values[I + 1]));
+            EXPECT_EQ(Values[I] == Values[I + 1], AEqual);
+            EXPECT_EQ(Values[I + 1] == Values[I], AEqual);
+            EXPECT_EQ(QzSameVar(Values[I], Values[I + 1]), ASame);
+        }
     };
-    for (const auto& Case : cCases) {
-        EXPECT_EQ(Case.Left == Case.Right, Case.Equal)
-            << VarToStr(Case.Left) << " and " << VarToStr(Case.Right);
-        EXPECT_EQ(Case.Right == Case.Left, Case.Equal);
-        EXPECT_EQ(QzSameVar(Case.Left, Case.Right), Case.Same);
-    }
+    Check(true, true, 1, 1, Variant::Null(), Variant::Null());
+    Check(true, false, 1, 1.0, 1, u"1", -1, true, 0.5F, 0.5, u"é", AnsiString(UnicodeString(u"é")), Variant(),
+          0, Variant(), u"", u"true", true, UINT64_MAX, 18446744073709551616.0);
+    Check(false, false, -1, UINT64_MAX, INT64_MIN, 0x8000000000000000U, u"a", u"A", Variant(), u"a",
+          Variant::Null(), Variant(), NAN, NAN);
     EXPECT_THROW(static_cast<void>(Variant(1) == Variant(u"one")), EVariantTypeCastError);
     EXPECT_THROW(static_cast<void>(Variant(true) == Variant(u"one")), EVariantTypeCastError);
     EXPECT_THROW(static_cast<void>(QzSameVar(VarArrayOf({}), VarArrayOf({}))), EVariantInvalidOpError);

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Rows.h"
 #include <qz/runtime/lists/StringList.h>
 #include <qz/runtime/objects/InterfacedObject.h>
 #include <qz/runtime/text/FloatText.h>
@@ -47,7 +48,7 @@ struct TRow {
         Numbers; // integer, int64, uint64, real, bool, currency, decimal; one for all where they are the same
 };
 
-std::vector<TRow> Rows() {
+std::vector<TRow> Samples() {
     const TSysDecimal Third(333, true, 3);
     return {
         {{}, varEmpty, u"", u"0"},
@@ -99,7 +100,7 @@ std::vector<TRow> Rows() {
 }
 
 TEST_F(VariantConvert, EachTypeToEachValue) {
-    for (const TRow& Row : Rows()) {
+    for (const TRow& Row : Samples()) {
         const Variant& V = Row.Value;
         SCOPED_TRACE(testing::Message() << VarType(V) << " " << UnicodeString(Row.Text));
         EXPECT_EQ(VarType(V), Row.Type);
@@ -125,7 +126,7 @@ TEST_F(VariantConvert, AsTypeGivesTheTypeOrRaises) {
     constexpr TVarType cTypes[] = {varSmallint, varInteger,  varSingle,  varDouble,  varCurrency, varDate,
                                    varOleStr,   varError,    varBoolean, varDecimal, varByte,     varWord,
                                    varShortInt, varLongWord, varInt64,   varUInt64,  varString,   varUString};
-    for (const TRow& Row : Rows()) {
+    for (const TRow& Row : Samples()) {
         for (const TVarType Type : cTypes) {
             const UnicodeString Result =
                 Outcome([&] { return IntToStr(VarType(VarAsType(Row.Value, Type))); });
@@ -166,70 +167,46 @@ TEST_F(VariantConvert, Kinds) {
 TEST_F(VariantConvert, Order) {
     TInterfacedObject* const Object = TInterfacedObject::Create();
     const Ref<IInterface> Interface = Object;
-    const struct {
-        Variant Left, Right;
-        TVariantRelationship Relation;
-    } cCases[] = {
-        {32768, 32767, vrGreaterThan},
-        {-1, UINT64_MAX, vrLessThan},
-        {INT64_MIN, 9223372036854775808U, vrLessThan},
-        {true, 0, vrLessThan},
-        {u"a", u"B", vrGreaterThan},
-        {AnsiString("abc"), WideString(u"abc"), vrEqual},
-        {Variant(), 1, vrLessThan},
-        {Variant(), u"a", vrLessThan},
-        {Variant::Null(), 1, vrNotEqual},
-        {std::nan(""), 1, vrNotEqual},
-        {Currency(0.1), u"0.1", vrEqual},
-        {Currency(0.1), 0.1, vrEqual},
-        {Currency::FromUnits(INT64_MAX), INT64_MAX, vrLessThan},
-        {9007199254740993, u"9007199254740992", vrGreaterThan},
-        {TSysDecimal(150, false, 2), TSysDecimal(15, false, 1), vrEqual},
-        {TSysDecimal(151, true, 2), TSysDecimal(15, true, 1), vrLessThan},
-        {TDateTime(2.5), u"01/01/1900 12:00:00", vrEqual},
-        {TDateTime(2.5), 2.25, vrGreaterThan},
-        {Variant::Error(5), Variant::Error(5), vrEqual},
-        {Interface, Variant::Dispatch(Interface), vrEqual},
-        {Interface, Ref<IInterface>(), vrNotEqual},
-        {Object, Object, vrEqual},
-        {Object, u"text", vrNotEqual},
+    const auto Check = [](TVariantRelationship ARelation, const auto&... AValues) {
+        const Variant Values[] = {Variant(AValues)...}; // by pairs
+        for (std::size_t I = 0; I < std::size(Values); I += 2) {
+            SCOPED_TRACE(testing::Message()
+                         << "relation " << static_cast<int>(ARelation) << ", pair " << I / 2);
+            EXPECT_EQ(VarCompareValue(Values[I], Values[I + 1]), ARelation);
+            EXPECT_EQ(Values[I] == Values[I + 1], ARelation == vrEqual);
+            EXPECT_EQ(Values[I + 1] > Values[I], ARelation == vrLessThan);
+            EXPECT_EQ(Values[I + 1] < Values[I], ARelation == vrGreaterThan);
+        }
     };
-    for (std::size_t I = 0; I < std::size(cCases); ++I) {
-        const auto& [Left, Right, Relation] = cCases[I];
-        EXPECT_EQ(VarCompareValue(Left, Right), Relation) << I;
-        EXPECT_EQ(Left == Right, Relation == vrEqual) << I;
-        EXPECT_EQ(Right > Left, Relation == vrLessThan) << I;
-        EXPECT_EQ(Right < Left, Relation == vrGreaterThan) << I;
-    }
+    Check(vrGreaterThan, 32768, 32767, u"a", u"B", 9007199254740993, u"9007199254740992", TDateTime(2.5),
+          2.25);
+    Check(vrLessThan, -1, UINT64_MAX, INT64_MIN, 9223372036854775808U, true, 0, Variant(), 1, Variant(), u"a",
+          Currency::FromUnits(INT64_MAX), INT64_MAX, TSysDecimal(151, true, 2), TSysDecimal(15, true, 1));
+    Check(vrEqual, AnsiString("abc"), WideString(u"abc"), Currency(0.1), u"0.1", Currency(0.1), 0.1,
+          TSysDecimal(150, false, 2), TSysDecimal(15, false, 1), TDateTime(2.5), u"01/01/1900 12:00:00",
+          Variant::Error(5), Variant::Error(5), Interface, Variant::Dispatch(Interface), Object, Object);
+    Check(vrNotEqual, Variant::Null(), 1, std::nan(""), 1, Interface, Ref<IInterface>(), Object, u"text");
     EXPECT_THROW(static_cast<void>(Variant(1) < Variant(u"one")), EVariantTypeCastError);
     EXPECT_THROW(static_cast<void>(VarArrayOf({1}) < Variant(1)), EVariantInvalidOpError);
 }
 
 TEST(SysDecimal, TextAndRounding) {
     const TFormatSettings& Neutral = TFormatSettings::Neutral();
-    const std::pair<const char16_t*, const char16_t*> cTexts[] = {
-        {u" -1.50 ", u"-1.50"},
-        {u"79228162514264337593543950335", u"79228162514264337593543950335"},
-        {u"79228162514264337593543950336", nullptr},
-        {u"0.0000000000000000000000000001", u"0.0000000000000000000000000001"},
-        {u"0.00000000000000000000000000005", u"0.0000000000000000000000000000"},
-        {u"0.000000000000000000000000000051", u"0.0000000000000000000000000001"},
-        {u"7.92281625142643375935439503359", u"7.922816251426433759354395034"},
-        {u"7922816251426433759354395033.59", u"7922816251426433759354395034"},
-        {u".5", u"0.5"},
-        {u"-0", u"0"},
-        {u".", nullptr},
-        {u"1.2.3", nullptr},
-        {u"1e3", nullptr},
-        {u"", nullptr},
-    };
-    for (const auto& [Text, Expected] : cTexts) {
+    for (const auto& Case :
+         Rows(u" -1.50  => -1.50", u"79228162514264337593543950335 => 79228162514264337593543950335",
+              u"0.0000000000000000000000000001 => 0.0000000000000000000000000001",
+              u"0.00000000000000000000000000005 => 0.0000000000000000000000000000",
+              u"0.000000000000000000000000000051 => 0.0000000000000000000000000001",
+              u"7.92281625142643375935439503359 => 7.922816251426433759354395034",
+              u"7922816251426433759354395033.59 => 7922816251426433759354395034", u".5 => 0.5", u"-0 => 0")) {
         TSysDecimal Value;
-        ASSERT_EQ(TryStrToDecimal(Text, Value, Neutral), Expected != nullptr) << UnicodeString(Text);
-        if (Expected != nullptr) {
-            EXPECT_EQ(DecimalToStr(Value, Neutral), Expected);
-            EXPECT_EQ(Value.ToDouble(), StrToFloat(Expected, Neutral));
-        }
+        ASSERT_TRUE(TryStrToDecimal(Case[0], Value, Neutral)) << Case[0];
+        EXPECT_EQ(DecimalToStr(Value, Neutral), Case[1]);
+        EXPECT_EQ(Value.ToDouble(), StrToFloat(Case[1], Neutral));
+    }
+    for (const char16_t* Bad : {u"79228162514264337593543950336", u".", u"1.2.3", u"1e3", u""}) {
+        TSysDecimal Value;
+        EXPECT_FALSE(TryStrToDecimal(Bad, Value, Neutral)) << ToUtf8(Bad);
     }
 }
 
