@@ -49,6 +49,18 @@ TEST(StringUtils, PositionsCountFromOne) {
             << ToUtf8(Case.Piece) << Case.Offset;
 }
 
+// Periodic pieces behind their own beginnings, so that a search has to fall back to the right place.
+TEST(StringUtils, LongPiecesAreFoundWhereThePlainSearchFindsThem) {
+    for (std::size_t Seed = 0; Seed < 256; ++Seed) {
+        std::u16string Piece;
+        while (Piece.size() < 80)
+            Piece += (Seed >> Piece.size() % 7 & 1) != 0 || Piece.size() == Seed % 80 ? u'a' : u'b';
+        const std::u16string Text =
+            Piece.substr(0, 79 - Seed % 20) + Piece.substr(0, Seed % 77) + Piece + u"b";
+        EXPECT_EQ(Pos(Piece, Text), static_cast<int>(Text.find(Piece)) + 1) << Seed;
+    }
+}
+
 TEST(StringUtils, PiecesAreCutToTheText) {
     struct {
         int Index, Count;
