@@ -1,18 +1,12 @@
 // Any date and any number are refused by EConvertError or give what fits the date they came from.
 #include <cmath>
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
 
+#include "fuzz/Fuzz.h"
 #include <qz/common/uQzDateTimeUtils.h>
 #include <qz/runtime/objects/Exceptions.h>
 
 namespace {
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 // Runs what may refuse its input.
 template <class TCall> void Try(TCall ACall) {

@@ -1,8 +1,7 @@
 // Any bytes in any code page become text, in as many units as was said, and the text becomes bytes in any other, which
 // say the same from then on.
-#include <cstdint>
-#include <cstdlib>
 
+#include "fuzz/Fuzz.h"
 #include <qz/common/uQzTypes.h>
 #include <qz/runtime/objects/Exceptions.h>
 
@@ -12,11 +11,6 @@ constexpr std::uint16_t cPages[] = {0,     37,    437,   850,   866,   874,   93
                                     950,   1200,  1201,  1250,  1251,  1252,  1255,  1256,  1258,
                                     1361,  10000, 12000, 12001, 20127, 20866, 20932, 28591, 28598,
                                     28605, 50220, 50225, 51949, 52936, 54936, 57002, 65000, 65001};
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 // The text in that page and back; nothing when the system cannot convert the page.
 void TryPage(const qz::UnicodeString& AText, std::uint16_t APage) {

@@ -1,22 +1,12 @@
 // Any pattern writes any date; any text is read or refused; what is read survives being written and read.
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
 
+#include "fuzz/Fuzz.h"
 #include <qz/runtime/time/DateTimeText.h>
-
-namespace {
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {
     const qz::TFormatSettings& Neutral = qz::TFormatSettings::Neutral();
-    const qz::UnicodeString Text = std::string_view(reinterpret_cast<const char*>(AData), ASize);
+    const qz::UnicodeString Text = TextOf(AData, ASize);
     qz::TDateTime Value;
     if (qz::TryStrToDateTime(Text, Value, Neutral)) {
         qz::TDateTime Same;

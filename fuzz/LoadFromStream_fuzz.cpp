@@ -1,20 +1,14 @@
 // Any file loads into a stream of any code page, by its mark or as it is labelled; and what is saved with a mark is loaded
 // as the same text again.
-#include <cstdint>
-#include <cstdlib>
 #include <initializer_list>
 
+#include "fuzz/Fuzz.h"
 #include <qz/common/uQzClasses/QzStringStream.h>
 #include <qz/runtime/objects/Exceptions.h>
 
 namespace {
 
 constexpr std::uint16_t cPages[] = {0, 932, 1200, 1201, 1252, 12000, 12001, 54936, 65001};
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 void TrySaved(const qz::TQzStringStream& AStream) {
     for (const std::uint16_t Page : std::initializer_list<std::uint16_t>{1200, 1201, 12000, 12001, 65001}) {

@@ -1,19 +1,13 @@
 // Text that is read as a number is written so that it reads back as the same one; any pattern writes any number.
 #include <cmath>
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
 
+#include "fuzz/Fuzz.h"
 #include <qz/runtime/text/FloatPattern.h>
 #include <qz/runtime/text/FloatText.h>
 #include <qz/runtime/text/NumberText.h>
 
 namespace {
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 void CheckFloat(double AValue) {
     const qz::TFormatSettings& Neutral = qz::TFormatSettings::Neutral();
@@ -30,7 +24,7 @@ void CheckFloat(double AValue) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {
-    const qz::UnicodeString Text = std::string_view(reinterpret_cast<const char*>(AData), ASize);
+    const qz::UnicodeString Text = TextOf(AData, ASize);
     std::int64_t Integer;
     std::int64_t SameInteger;
     if (qz::TryStrToInt64(Text, Integer))

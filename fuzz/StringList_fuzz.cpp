@@ -1,16 +1,10 @@
 // Whatever text comes: reading it ends, and lines that are written are read back as they were.
-#include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
+#include "fuzz/Fuzz.h"
 #include <qz/runtime/lists/StringList.h>
 
 namespace {
-
-void Check(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 // The lines of AList, written and read again by the same settings.
 void CheckDelimited(const qz::TStringList& AList, char16_t ADelimiter, bool AStrict) {
@@ -21,13 +15,13 @@ void CheckDelimited(const qz::TStringList& AList, char16_t ADelimiter, bool AStr
         List->SetStrictDelimiter(AStrict);
     }
     Copy.SetDelimitedText(Source.DelimitedText());
-    Check(Copy.Equals(Source));
+    Require(Copy.Equals(Source));
 }
 
 void CheckLines(const qz::TStringList& AList) {
     qz::TStringList Copy;
     Copy.SetCommaText(AList.CommaText());
-    Check(Copy.Equals(AList));
+    Require(Copy.Equals(AList));
     for (const char16_t Delimiter : {u';', u' ', u'\t', u'\0', u'x'})
         for (const bool Strict : {false, true})
             CheckDelimited(AList, Delimiter, Strict);
@@ -36,13 +30,13 @@ void CheckLines(const qz::TStringList& AList) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {
-    const qz::UnicodeString Text(std::string_view(reinterpret_cast<const char*>(AData), ASize));
+    const qz::UnicodeString Text(TextOf(AData, ASize));
     qz::TStringList Lines, Items, Strict;
     Lines.SetText(Text);
     CheckLines(Lines);
     qz::TStringList Again;
     Again.SetText(Lines.Text());
-    Check(Again.Equals(Lines));
+    Require(Again.Equals(Lines));
     Items.SetCommaText(Text);
     CheckLines(Items);
     Strict.SetStrictDelimiter(true);

@@ -1,7 +1,6 @@
 // A parser over a stream in small chunks answers any sequence of operations as one over memory does.
-#include <cstdint>
-#include <cstdlib>
 
+#include "fuzz/Fuzz.h"
 #include "tests/common/support/ParserSteps.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {

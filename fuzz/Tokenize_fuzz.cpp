@@ -1,15 +1,9 @@
 // Tokens and delimiters make up the text again, and both ways to take a text apart agree on one delimiter.
-#include <cstdint>
-#include <cstdlib>
 
+#include "fuzz/Fuzz.h"
 #include <qz/common/uQzSysUtils/Tokenize.h>
 
 namespace {
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 // No token is empty or holds a delimiter, each delimiter is one, and the parts have the length of the whole.
 void CheckCharacters(const qz::UnicodeString& AText, const qz::UnicodeString& ADelimiters) {
@@ -45,7 +39,7 @@ void CheckDelimiter(const qz::UnicodeString& AText, const qz::UnicodeString& ADe
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {
     // The first line is the delimiters, the expression or the delimiter, the rest the text.
-    const qz::UnicodeString Whole(std::string_view(reinterpret_cast<const char*>(AData), ASize));
+    const qz::UnicodeString Whole(TextOf(AData, ASize));
     const std::size_t End = std::min(Whole.View().find(u'\n'), Whole.size());
     const qz::UnicodeString First(Whole.View().substr(0, End));
     const qz::UnicodeString Text(Whole.View().substr(std::min(End + 1, Whole.size())));

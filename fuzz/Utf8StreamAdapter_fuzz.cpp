@@ -1,22 +1,16 @@
 // Reading by the adapter gives the same text in whatever pieces it is asked for, or the same error at the same place;
 // text without surrogates that it writes is read back.
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <vector>
 
+#include "fuzz/Fuzz.h"
 #include <qz/common/uQzClasses/QzStringStream.h>
 #include <qz/common/uQzClasses/Utf8StreamAdapter.h>
 #include <qz/runtime/base/Utf.h>
 #include <qz/runtime/objects/Exceptions.h>
 
 namespace {
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 struct TOutcome {
     std::u16string Text;

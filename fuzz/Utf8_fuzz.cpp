@@ -1,21 +1,15 @@
 // Any bytes become well-formed text, which survives the way to UTF-8 or UTF-32 and back, on every path with the same
 // result.
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <vector>
 
+#include "fuzz/Fuzz.h"
 #include <qz/runtime/base/UnicodeString.h>
 #include <qz/runtime/base/UtfForms.h>
 #include <qz/runtime/base/detail/UtfPaths.h>
 
 namespace {
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 // Each path gives what the chosen one does, and well-formed text comes back as it was.
 void TryWide(const qz::detail::TUtfPath& APath, std::u16string_view AWide) {
@@ -55,7 +49,7 @@ void TryNarrow(const qz::detail::TUtfPath& APath, std::string_view ANarrow) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {
-    const std::string_view Bytes(reinterpret_cast<const char*>(AData), ASize);
+    const std::string_view Bytes = TextOf(AData, ASize);
     const std::u16string Wide = qz::Utf8ToUtf16(Bytes);
     Require(Wide.size() == qz::Utf8ToUtf16Length(Bytes) && Wide.size() <= ASize);
     Require(qz::UnicodeString(Bytes) == Wide);

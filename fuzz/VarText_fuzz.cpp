@@ -1,21 +1,15 @@
 // A text in a variant, of any kind of string: without the word to raise, no conversion raises, and each agrees with the one
 // that may.
 #include <cmath>
-#include <cstdint>
-#include <cstdlib>
 #include <type_traits>
 
+#include "fuzz/Fuzz.h"
 #include <qz/common/uQzTypes/VarTolerant.h>
 #include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/values/VariantArray.h>
 #include <qz/runtime/values/VariantConvert.h>
 
 namespace {
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 // Equal, or both no number.
 template <class T> bool IsSame(T ALeft, T ARight) {
@@ -64,7 +58,7 @@ void CheckText(const qz::Variant& AText) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {
-    const std::string_view Bytes(reinterpret_cast<const char*>(AData), ASize);
+    const std::string_view Bytes = TextOf(AData, ASize);
     CheckText(qz::UnicodeString(Bytes));
     CheckText(qz::AnsiString(Bytes));
     CheckText(qz::WideString(qz::UnicodeString(Bytes)));

@@ -1,7 +1,5 @@
 // Any logger, message and value in strict XML make a document that another's parser takes, and takes for what went in. The
 // layout is the same on all systems; the parser is at hand on this one.
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <utility>
@@ -9,17 +7,13 @@
 
 #include <expat.h>
 
+#include "fuzz/Fuzz.h"
 #include <qz/common/uQzLogLayouts.h>
 #include <qz/runtime/base/Utf.h>
 
 namespace {
 
 using TElements = std::vector<std::pair<std::string, std::string>>;
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 // Names and texts of all elements, in the order of their starts.
 class TReader {

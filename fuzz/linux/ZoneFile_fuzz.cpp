@@ -1,7 +1,6 @@
 // Any bytes as a compiled zone or a rule text are refused, or make a table that takes each local time back to its moment.
-#include <cstdint>
-#include <cstdlib>
 
+#include "fuzz/Fuzz.h"
 #include <qz/platform/linux/ZoneFile.h>
 #include <qz/platform/linux/ZoneText.h>
 #include <qz/runtime/time/detail/ZoneTable.h>
@@ -9,11 +8,6 @@
 namespace {
 
 using qz::detail::cMSecsPerDay;
-
-void Require(bool ACondition) {
-    if (!ACondition)
-        std::abort();
-}
 
 void CheckAt(const qz::detail::TZoneTable& ATable, std::int64_t AUtc) {
     const qz::detail::TZonePeriod& Period = ATable.AtUtc(AUtc);

@@ -124,6 +124,7 @@ TEST(CodePages, EncodesWhatThePageLacksByItsNearest) {
         {1251, u"и\x306", "\xE8?", "\xE9"},
         {1258, u"ê\x301", "\xEA\xEC", "?"},
         {932, u"か\x3099z", "\x82\xA9?z", "\x82\xAAz"},
+        {932, u"は\x309Az", "\x82\xCD?z", "\x82\xCFz"},
         {949, u"\x1100\x1161", "\xA4\xA1\xA4\xBF", "\xA4\xA1\xA4\xBF"}, // syllables are not made
         {65001, u"e\x301", "e\xCC\x81", "e\xCC\x81"},
     };

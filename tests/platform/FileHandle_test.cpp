@@ -44,19 +44,19 @@ TEST_F(FileHandle, OpensAsItIsToldTo) {
     ASSERT_TRUE(Open(File, TFileAccess::Write, cAll, TFileCreation::WhenMissing));
     Write(File, "abcdef");
     ASSERT_TRUE(Open(File, TFileAccess::ReadWrite, cAll, TFileCreation::WhenMissing));
-    EXPECT_EQ("abcdef", Read(File));
-    EXPECT_EQ("", Read(File));
-    EXPECT_EQ(2, Seek(File, -4, TFileOrigin::End));
+    EXPECT_EQ(Read(File), "abcdef");
+    EXPECT_EQ(Read(File), "");
+    EXPECT_EQ(Seek(File, -4, TFileOrigin::End), 2);
     Write(File, "XY");
-    EXPECT_EQ(0, Seek(File, 0));
-    EXPECT_EQ("abXYef", Read(File));
+    EXPECT_EQ(Seek(File, 0), 0);
+    EXPECT_EQ(Read(File), "abXYef");
     EXPECT_TRUE(File.SetSize(3));
-    EXPECT_EQ(6, Seek(File, 0, TFileOrigin::Current)) << "the position stays";
-    EXPECT_EQ(3, Seek(File, 0, TFileOrigin::End));
+    EXPECT_EQ(Seek(File, 0, TFileOrigin::Current), 6) << "the position stays";
+    EXPECT_EQ(Seek(File, 0, TFileOrigin::End), 3);
     EXPECT_TRUE(File.Flush());
     EXPECT_FALSE(Open(File, TFileAccess::Write, cAll, TFileCreation::Exclusive));
     ASSERT_TRUE(Open(File, TFileAccess::Write, cAll, TFileCreation::Always));
-    EXPECT_EQ(0, Seek(File, 0, TFileOrigin::End));
+    EXPECT_EQ(Seek(File, 0, TFileOrigin::End), 0);
     EXPECT_TRUE(File.Close());
     EXPECT_FALSE(File.Open(Directory.Path(), TFileAccess::Read, TFileCreation::Never, cAll));
     EXPECT_FALSE(File.Open(std::u16string_view(u"a\0b", 3), TFileAccess::Read, TFileCreation::Never, cAll));
@@ -77,7 +77,7 @@ TEST_F(FileHandle, ASecondHandleIsLetInOnlyWhereBothAgree) {
                     TFileHandle First, Second;
                     ASSERT_TRUE(Open(First, FirstAccess, FirstSharing));
                     const bool Expected = Allows(FirstSharing, Access) && Allows(Sharing, FirstAccess);
-                    EXPECT_EQ(Expected, Open(Second, Access, Sharing))
+                    EXPECT_EQ(Open(Second, Access, Sharing), Expected)
                         << int(FirstAccess) << FirstSharing.Read << FirstSharing.Write << ' ' << int(Access)
                         << Sharing.Read << Sharing.Write;
                     First.Close();
@@ -91,7 +91,7 @@ TEST_F(FileHandle, WhoIsRefusedEmptiesNothing) {
     ASSERT_TRUE(Open(First, TFileAccess::Read, {.Read = true}));
     EXPECT_FALSE(Open(Second, TFileAccess::Write, cAll, TFileCreation::Always));
     EXPECT_FALSE(WriteWholeFile(Path, cNothing));
-    EXPECT_EQ("old", Read(First));
+    EXPECT_EQ(Read(First), "old");
     ASSERT_TRUE(Open(First, TFileAccess::Write, {.Write = true}));
     EXPECT_FALSE(ReadWholeFile(Path));
 }
@@ -106,7 +106,7 @@ TEST_F(FileHandle, OfRacingWritersAtMostOneIsLetIn) {
             TFileHandle File;
             if (!File.Open(Path, TFileAccess::ReadWrite, TFileCreation::Never, {.Read = true}))
                 continue;
-            EXPECT_EQ(1, ++Inside);
+            EXPECT_EQ(++Inside, 1);
             ++Times;
             std::this_thread::yield();
             --Inside;
@@ -125,7 +125,7 @@ TEST_F(FileHandle, GoesBeyondFourGigabytes) {
     TFileHandle File;
     ASSERT_TRUE(Open(File, TFileAccess::ReadWrite, {}, TFileCreation::Always));
     ASSERT_TRUE(File.SetSize(cFar));
-    EXPECT_EQ(cFar, Seek(File, 0, TFileOrigin::End));
+    EXPECT_EQ(Seek(File, 0, TFileOrigin::End), cFar);
     Write(File, "end");
     EXPECT_EQ(cFar - 1, Seek(File, cFar - 1));
     EXPECT_EQ(std::string("\0end", 4), Read(File));

@@ -14,9 +14,7 @@ constexpr bool cOnWindows = QZ_TESTS_ON_WINDOWS != 0;
 // What no user's language changes.
 TEST(Text, MapsCaseOfWholeTexts) {
     struct TCase {
-        std::u16string Text;
-        std::u16string Upper;
-        std::u16string Lower;
+        std::u16string Text, Upper, Lower;
     };
     const TCase Cases[] = {
         {u"", u"", u""},
@@ -36,8 +34,7 @@ TEST(Text, MapsCaseOfWholeTexts) {
 
 TEST(Text, MapsUnitsOneToOne) {
     struct TCase {
-        char16_t Upper;
-        char16_t Lower;
+        char16_t Upper, Lower;
     };
     for (const TCase& Case : {TCase{u'A', u'a'}, {u'Z', u'z'}, {u'Ä', u'ä'}, {u'Ÿ', u'ÿ'}, {u'Σ', u'σ'}}) {
         EXPECT_EQ(UpperChar(Case.Lower), Case.Upper);

@@ -15,4 +15,15 @@ template <class TStep> UnicodeString Message(const TStep& AStep) {
     return {};
 }
 
+// Class and message of what the step raises, "EClass: message"; "nothing" when it raises nothing.
+template <class TStep> UnicodeString Raised(const TStep& AStep) {
+    UnicodeString Result = u"nothing";
+    try {
+        AStep();
+    } catch (...) {
+        HandleException([&](Exception& E) { Result = UnicodeString(E.ClassName()) + u": " + E.Message(); });
+    }
+    return Result;
+}
+
 } // namespace qz

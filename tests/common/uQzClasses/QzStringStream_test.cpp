@@ -32,70 +32,50 @@ protected:
 
 TEST_F(QzStringStream, KeepsEachTextInItsCodePage) {
     const std::pair<int, std::string> Cases[] = {
-        {0,
-         "\xE4"
-         "b"s},
-        {1252,
-         "\xE4"
-         "b"s},
-        {65001,
-         "\xC3\xA4"
-         "b"s},
-        {1200, "\xE4\0b\0"s},
-        {1201, "\0\xE4\0b"s},
-        {12001, "\0\0\0\xE4\0\0\0b"s},
+        {0, "\xE4z"s},        {1252, "\xE4z"s},     {65001, "\xC3\xA4z"s},
+        {1200, "\xE4\0z\0"s}, {1201, "\0\xE4\0z"s}, {12001, "\0\0\0\xE4\0\0\0z"s},
     };
     for (const auto& [CodePage, Expected] : Cases) {
         TQzStringStream Stream(static_cast<std::uint16_t>(CodePage), 16);
-        const std::function<void()> Steps[] = {[&] { Stream.SetWString(u"äb"); },
-                                               [&] {
-                                                   Stream.SetAString(Ansi("\xE4"
-                                                                          "b"));
-                                               },
-                                               [&] { Stream.SetAsUTF8(UTF8String("äb")); },
-                                               [&] { Stream.SetValue(u"äb"); },
-                                               [&] { Stream.SetValue(WideString(UnicodeString(u"äb"))); },
-                                               [&] {
-                                                   Stream.SetValue(Ansi("\xE4"
-                                                                        "b"));
-                                               }};
+        const std::function<void()> Steps[] = {[&] { Stream.SetWString(u"äz"); },
+                                               [&] { Stream.SetAString(Ansi("\xE4z")); },
+                                               [&] { Stream.SetAsUTF8(UTF8String("äz")); },
+                                               [&] { Stream.SetValue(u"äz"); },
+                                               [&] { Stream.SetValue(WideString(UnicodeString(u"äz"))); },
+                                               [&] { Stream.SetValue(Ansi("\xE4z")); }};
         for (const auto& Step : Steps) {
             Stream.SetWString(u"longer than before");
             Step();
-            EXPECT_EQ(Expected, Content(Stream)) << CodePage;
-            EXPECT_EQ(0, Stream.Position());
+            EXPECT_EQ(Content(Stream), Expected) << CodePage;
+            EXPECT_EQ(Stream.Position(), 0);
         }
         Stream.SetPosition(1);
-        EXPECT_EQ(u"äb", Stream.WString());
-        EXPECT_EQ("\xE4"
-                  "b",
-                  std::string(Stream.AString().View()));
-        EXPECT_EQ(UTF8String("äb"), Stream.AsUTF8());
-        EXPECT_EQ("\x84"
-                  "b",
-                  std::string(Stream.StringData(850).View()));
-        EXPECT_EQ(2, Stream.CharCnt());
-        EXPECT_EQ(varUString, VarType(Stream.Value()));
-        EXPECT_EQ(1, Stream.Position());
-        EXPECT_EQ(u"Unsupported type 3!", Message([&] { Stream.SetValue(7); }));
-        EXPECT_EQ(Expected, Content(Stream));
+        EXPECT_EQ(Stream.WString(), u"äz");
+        EXPECT_EQ(std::string(Stream.AString().View()), "\xE4z");
+        EXPECT_EQ(Stream.AsUTF8(), UTF8String("äz"));
+        EXPECT_EQ(std::string(Stream.StringData(850).View()), "\x84z");
+        EXPECT_EQ(Stream.CharCnt(), 2);
+        EXPECT_EQ(VarType(Stream.Value()), varUString);
+        EXPECT_EQ(Stream.Position(), 1);
+        EXPECT_EQ(Message([&] { Stream.SetValue(7); }), u"Unsupported type 3!");
+        EXPECT_EQ(Content(Stream), Expected);
     }
 }
 
 TEST_F(QzStringStream, TakesTextsAsTheyStandWhenMade) {
-    EXPECT_EQ("a\0\x42\x30"s, Content(TQzStringStream(u"a\u3042")));
-    EXPECT_EQ("\xE3\x81\x82", Content(TQzStringStream(UTF8String("\xE3\x81\x82"))));
+    EXPECT_EQ(Content(TQzStringStream(u"a\u3042")), "a\0\x42\x30"s);
+    EXPECT_EQ(Content(TQzStringStream(UTF8String("\xE3\x81\x82"))), "\xE3\x81\x82");
     TQzStringStream Labelled(1200, 16);
     Labelled.SetValue(AnsiString("\x84", 850));
-    EXPECT_EQ(u"\u201E", Labelled.WString()) << "an 8-bit variant is in code page 0";
+    EXPECT_EQ(Labelled.WString(), u"\u201E") << "an 8-bit variant is in code page 0";
     TQzStringStream Bytes(Ansi("\xE4"), 850);
-    EXPECT_EQ(u"\u00F5", Bytes.WString());
-    EXPECT_EQ(0, Bytes.Position());
-    EXPECT_EQ(2, QzCodePageMaxCharSize(1200));
-    EXPECT_EQ(4, QzCodePageMaxCharSize(12001));
-    EXPECT_EQ(2, QzCodePageMaxCharSize(932));
-    EXPECT_EQ(1, QzCodePageMaxCharSize(0));
-    EXPECT_EQ(1, QzCodePageMaxCharSize(4711));
+    EXPECT_EQ(Bytes.WString(), u"\u00F5");
+    EXPECT_EQ(Bytes.Position(), 0);
+    EXPECT_EQ(QzCodePageMaxCharSize(1200), 2);
+    EXPECT_EQ(QzCodePageMaxCharSize(12001), 4);
+    EXPECT_EQ(QzCodePageMaxCharSize(932), 2);
+    EXPECT_EQ(QzCodePageMaxCharSize(0), 1);
+    EXPECT_EQ(QzCodePageMaxCharSize(4711), 1);
 }
 
 TEST_F(QzStringStream, WritesAtThePositionAndAddsTowardsTheEnd) {
@@ -105,10 +85,10 @@ TEST_F(QzStringStream, WritesAtThePositionAndAddsTowardsTheEnd) {
     Stream.Write(Ansi("\xE4"));
     Stream.WriteChar(u'x');
     Stream.WriteChar('\xE4');
-    EXPECT_EQ("01äxä789", Content(Stream));
+    EXPECT_EQ(Content(Stream), "01äxä789");
     Stream.SetPosition(0);
     Stream.Add(u"A");
-    EXPECT_EQ(10, Stream.Position());
+    EXPECT_EQ(Stream.Position(), 10);
     Stream.SetPosition(0);
     Stream.Add(RawByteString("B"), 65001);
     Stream.SetPosition(1);
@@ -122,60 +102,55 @@ TEST_F(QzStringStream, WritesAtThePositionAndAddsTowardsTheEnd) {
     Stream.Write(u"");
     Stream.Write(Ansi(""));
     Stream.WriteEOF();
-    EXPECT_EQ('\0', Content(Stream).back());
+    EXPECT_EQ(Content(Stream).back(), '\0');
     TQzStringStream Wide(1200, 16);
     Wide.Write(Ansi("\x80"));
     Wide.WriteEOF();
-    EXPECT_EQ("\xAC\x20\0\0"s, Content(Wide));
+    EXPECT_EQ(Content(Wide), "\xAC\x20\0\0"s);
 }
 
 TEST_F(QzStringStream, AddsAnotherStreamAndTakesItOver) {
     TQzStringStream Other(0, 16);
-    Other.SetAString(Ansi("\x80"
-                          "b"));
+    Other.SetAString(Ansi("\x80z"));
     Other.SetPosition(1);
     TQzStringStream Stream(65001, 16);
     Stream.Add(Other);
-    EXPECT_EQ("€b", Content(Stream));
+    EXPECT_EQ(Content(Stream), "€z");
     Other.Add(Stream);
-    EXPECT_EQ("\x80\x80"
-              "b",
-              Content(Other));
+    EXPECT_EQ(Content(Other), "\x80\x80z");
     Stream.Assign(Other);
-    EXPECT_EQ("\x80\x80"
-              "b",
-              Content(Stream));
-    EXPECT_EQ(0, Stream.FCodePage);
-    EXPECT_EQ(1, Stream.FCodePageMaxCharSize);
-    EXPECT_EQ(3, Stream.Position());
+    EXPECT_EQ(Content(Stream), "\x80\x80z");
+    EXPECT_EQ(Stream.FCodePage, 0);
+    EXPECT_EQ(Stream.FCodePageMaxCharSize, 1);
+    EXPECT_EQ(Stream.Position(), 3);
     Stream.Assign(Stream);
-    EXPECT_EQ(3, Stream.Size());
+    EXPECT_EQ(Stream.Size(), 3);
 }
 
 TEST_F(QzStringStream, ChangesItsCodePageWithOrWithoutItsContent) {
     TQzStringStream Stream(0, 16);
     Stream.ChangeCodePage(1200, false);
     Stream.SetWString(u"ä€");
-    EXPECT_EQ(u"The current codepage cannot be changed without updating the content!",
-              Message([&] { Stream.ChangeCodePage(1252, false); }));
-    EXPECT_EQ(1200, Stream.FCodePage);
+    EXPECT_EQ(Message([&] { Stream.ChangeCodePage(1252, false); }),
+              u"The current codepage cannot be changed without updating the content!");
+    EXPECT_EQ(Stream.FCodePage, 1200);
     Stream.ChangeCodePage(1252, true);
-    EXPECT_EQ("\xE4\x80", Content(Stream));
-    EXPECT_EQ(2, Stream.Position());
+    EXPECT_EQ(Content(Stream), "\xE4\x80");
+    EXPECT_EQ(Stream.Position(), 2);
     Stream.ChangeCodePage(850, false);
-    EXPECT_EQ(u"\u00F5\u00C7", Stream.WString());
-    EXPECT_NE(u"", Message([&] { Stream.ChangeCodePage(1200, false); }));
+    EXPECT_EQ(Stream.WString(), u"\u00F5\u00C7");
+    EXPECT_NE(Message([&] { Stream.ChangeCodePage(1200, false); }), u"");
     EXPECT_THROW(Stream.ChangeCodePage(4711, true), EOSError);
-    EXPECT_EQ("\xE4\x80", Content(Stream));
-    EXPECT_EQ(850, Stream.FCodePage);
+    EXPECT_EQ(Content(Stream), "\xE4\x80");
+    EXPECT_EQ(Stream.FCodePage, 850);
     char Block[] = "abc";
     TQzStringStream Wrapped(Block, 3, 1252);
     Wrapped.ChangeCodePage(850, false);
-    EXPECT_EQ(u"Updating the content is not allowed (the stream is probably using a wrapped buffer)!",
-              Message([&] { Wrapped.ChangeCodePage(65001, true); }));
+    EXPECT_EQ(Message([&] { Wrapped.ChangeCodePage(65001, true); }),
+              u"Updating the content is not allowed (the stream is probably using a wrapped buffer)!");
     Wrapped.Write(u"xyz");
-    EXPECT_STREQ("xyz", Block);
-    EXPECT_EQ(u"It is not possible to resize the buffer!", Message([&] { Wrapped.WriteChar(u'!'); }));
+    EXPECT_STREQ(Block, "xyz");
+    EXPECT_EQ(Message([&] { Wrapped.WriteChar(u'!'); }), u"It is not possible to resize the buffer!");
 }
 
 TEST_F(QzStringStream, ReadsCharactersOneByOne) {
@@ -188,8 +163,8 @@ TEST_F(QzStringStream, ReadsCharactersOneByOne) {
         while (Stream.Position() < Stream.Size())
             Read += Stream.ReadChar();
         EXPECT_EQ(Stored, Read) << CodePage;
-        EXPECT_EQ(u'\0', Stream.ReadWChar());
-        EXPECT_EQ('\0', Stream.ReadAChar());
+        EXPECT_EQ(Stream.ReadWChar(), u'\0');
+        EXPECT_EQ(Stream.ReadAChar(), '\0');
         Stream.SetPosition(0);
         std::string Narrow;
         while (Stream.Position() < Stream.Size())
@@ -202,8 +177,8 @@ TEST_F(QzStringStream, ReadsCharactersOneByOne) {
                 Read += Stream.ReadWString(Count);
             EXPECT_EQ(Stored, Read) << CodePage << ' ' << Count;
         }
-        EXPECT_EQ(u"", Stream.ReadString(5));
-        EXPECT_EQ(u"", Stream.ReadString(-1));
+        EXPECT_EQ(Stream.ReadString(5), u"");
+        EXPECT_EQ(Stream.ReadString(-1), u"");
     }
 }
 
@@ -214,40 +189,33 @@ TEST_F(QzStringStream, ReadsBothHalvesOfAPairInUtf8) {
         UnicodeString All;
         while (Whole.Position() < Whole.Size())
             All += Whole.ReadWChar();
-        EXPECT_EQ(u"a\U0001F600b\U0001F601", All) << CodePage;
+        EXPECT_EQ(All, u"a\U0001F600b\U0001F601") << CodePage;
     }
     TQzStringStream Wide(12000, 16);
     Wide.SetWString(u"a\U0001F600b");
-    EXPECT_EQ(u"a\xD83D", Wide.ReadWString(2)) << "the second unit is passed with the first";
-    EXPECT_EQ(u"b", Wide.ReadWString(2));
-    TQzStringStream Stream(UTF8String("a\U0001F600b\U0001F601"));
-    UnicodeString Read;
-    while (Stream.Position() < Stream.Size())
-        Read += Stream.ReadWChar();
-    EXPECT_EQ(u"a\U0001F600b\U0001F601", Read);
-    Stream.SetPosition(0);
-    EXPECT_EQ(u"a\xD83D", Stream.ReadString(2));
-    EXPECT_EQ(u"\xDE00"
-              u"b",
-              Stream.ReadString(2));
-    EXPECT_EQ(u"\U0001F601", Stream.ReadString(9));
+    EXPECT_EQ(Wide.ReadWString(2), u"a\xD83D") << "the second unit is passed with the first";
+    EXPECT_EQ(Wide.ReadWString(2), u"b");
+    TQzStringStream Stream(UTF8String("a\U0001F600z\U0001F601"));
+    EXPECT_EQ(Stream.ReadString(2), u"a\xD83D");
+    EXPECT_EQ(Stream.ReadString(2), u"\xDE00z");
+    EXPECT_EQ(Stream.ReadString(9), u"\U0001F601");
     TQzStringStream Torn(RawByteString("\xC3"), 65001);
-    EXPECT_EQ(u'\uFFFD', Torn.ReadChar());
-    EXPECT_EQ(1, Torn.Position()) << "never behind the end";
+    EXPECT_EQ(Torn.ReadChar(), u'\uFFFD');
+    EXPECT_EQ(Torn.Position(), 1) << "never behind the end";
 }
 
 TEST_F(QzStringStream, ReadsRunsInTheSystemsCodePage) {
     TQzStringStream Plain(Ansi("\x80xyz"), 0);
-    EXPECT_EQ("\x80x", std::string(Plain.ReadAString(2).View()));
-    EXPECT_EQ('y', Plain.ReadAChar());
-    EXPECT_EQ("z", std::string(Plain.ReadAString(9).View()));
-    EXPECT_EQ("", std::string(Plain.ReadAString(9).View()));
+    EXPECT_EQ(std::string(Plain.ReadAString(2).View()), "\x80x");
+    EXPECT_EQ(Plain.ReadAChar(), 'y');
+    EXPECT_EQ(std::string(Plain.ReadAString(9).View()), "z");
+    EXPECT_EQ(std::string(Plain.ReadAString(9).View()), "");
     TQzStringStream Wide(u"€x\u0416");
-    EXPECT_EQ("\x80x", std::string(Wide.ReadAString(2).View()));
-    EXPECT_EQ('?', Wide.ReadAChar());
+    EXPECT_EQ(std::string(Wide.ReadAString(2).View()), "\x80x");
+    EXPECT_EQ(Wide.ReadAChar(), '?');
     TQzStringStream Half(RawByteString("a\0b"s), 1200);
-    EXPECT_EQ(u"a", Half.ReadWString(9));
-    EXPECT_EQ(u'\0', Half.ReadWChar());
+    EXPECT_EQ(Half.ReadWString(9), u"a");
+    EXPECT_EQ(Half.ReadWChar(), u'\0');
 }
 
 class QzStringStreamFiles : public QzStringStream {
@@ -268,20 +236,20 @@ protected:
 
 TEST_F(QzStringStreamFiles, SavesInAnyCodePageWithItsMark) {
     TQzStringStream Stream(Ansi("\xE4"), 0);
-    EXPECT_EQ("\xE4", Saved(Stream, 0, true));
-    EXPECT_EQ("\xEF\xBB\xBFä", Saved(Stream, 65001, true));
-    EXPECT_EQ("ä", Saved(Stream, 65001, false));
-    EXPECT_EQ("\xFF\xFE\xE4\0"s, Saved(Stream, 1200, true));
-    EXPECT_EQ("\xFE\xFF\0\xE4"s, Saved(Stream, 1201, true));
-    EXPECT_EQ("\xFF\xFE\0\0\xE4\0\0\0"s, Saved(Stream, 12000, true));
-    EXPECT_EQ("\0\0\xFE\xFF\0\0\0\xE4"s, Saved(Stream, 12001, true));
-    EXPECT_EQ("\x84", Saved(Stream, 850, true));
-    EXPECT_EQ("\xE4\0"s, Saved(TQzStringStream(u"ä"), 1200, false));
+    EXPECT_EQ(Saved(Stream, 0, true), "\xE4");
+    EXPECT_EQ(Saved(Stream, 65001, true), "\xEF\xBB\xBFä");
+    EXPECT_EQ(Saved(Stream, 65001, false), "ä");
+    EXPECT_EQ(Saved(Stream, 1200, true), "\xFF\xFE\xE4\0"s);
+    EXPECT_EQ(Saved(Stream, 1201, true), "\xFE\xFF\0\xE4"s);
+    EXPECT_EQ(Saved(Stream, 12000, true), "\xFF\xFE\0\0\xE4\0\0\0"s);
+    EXPECT_EQ(Saved(Stream, 12001, true), "\0\0\xFE\xFF\0\0\0\xE4"s);
+    EXPECT_EQ(Saved(Stream, 850, true), "\x84");
+    EXPECT_EQ(Saved(TQzStringStream(u"ä"), 1200, false), "\xE4\0"s);
     const TQzStringStream Utf8(RawByteString("\xFF"), 65001);
-    EXPECT_EQ("\xEF\xBF\xBD", Saved(Utf8, 65001, false)) << "it goes through UTF-16";
+    EXPECT_EQ(Saved(Utf8, 65001, false), "\xEF\xBF\xBD") << "it goes through UTF-16";
     EXPECT_THROW(Stream.SaveToFile(Name, 4711, true), EOSError);
     EXPECT_THROW(Stream.SaveToFile(Directory.Path()), EFCreateError);
-    EXPECT_EQ("\xE4", Content(Stream));
+    EXPECT_EQ(Content(Stream), "\xE4");
 }
 
 TEST_F(QzStringStreamFiles, LoadsByMarkOrByCodePageAndAppends) {
@@ -290,13 +258,13 @@ TEST_F(QzStringStreamFiles, LoadsByMarkOrByCodePageAndAppends) {
     TQzStringStream Stream(0, 16);
     Stream.LoadFromFile(Name, -1);
     Stream.LoadFromFile(Name, 65001);
-    EXPECT_EQ("\xE4\xE4", Content(Stream));
+    EXPECT_EQ(Content(Stream), "\xE4\xE4");
     for (const int CodePage : {1252, 0})
-        EXPECT_EQ(u"The specified encoding does not match the BOM of the stream!",
-                  Message([&] { Stream.LoadFromFile(Name, CodePage); }));
+        EXPECT_EQ(Message([&] { Stream.LoadFromFile(Name, CodePage); }),
+                  u"The specified encoding does not match the BOM of the stream!");
     EXPECT_EQ(u"File " + Name + u"x not found.", Message([&] { Stream.LoadFromFile(Name + u"x", -1); }));
     EXPECT_THROW(Stream.LoadFromFile(Name + u"x", -1), EFOpenError);
-    EXPECT_EQ("\xE4\xE4", Content(Stream));
+    EXPECT_EQ(Content(Stream), "\xE4\xE4");
 }
 
 struct TLoadCase {
@@ -327,9 +295,9 @@ TEST_F(QzStringStreamFiles, LoadsStreamsAsTheyAreLabelled) {
         Source.SetPosition(7);
         TQzStringStream Stream(static_cast<std::uint16_t>(Case.StreamPage), 16);
         Stream.LoadFromStream(&Source, false, false, Case.Detect, Case.CodePage);
-        EXPECT_EQ(Case.Text, Stream.WString()) << Case.Bytes;
+        EXPECT_EQ(Stream.WString(), Case.Text) << Case.Bytes;
         Source.SetPosition(7);
-        EXPECT_EQ(Case.Text, QzStreamToWideString(&Source, false, false, Case.Detect, Case.CodePage))
+        EXPECT_EQ(QzStreamToWideString(&Source, false, false, Case.Detect, Case.CodePage), Case.Text)
             << Case.Bytes;
     }
 }
@@ -343,15 +311,15 @@ TEST_F(QzStringStreamFiles, EndsAStreamThatItIsGivenInAnyCase) {
     };
     TQzStringStream Stream(0, 16);
     Stream.LoadFromStream(Fresh(), true, true, true, -1);
-    EXPECT_EQ(1, Ends);
+    EXPECT_EQ(Ends, 1);
     EXPECT_THROW(Stream.LoadFromStream(Fresh(), true, true, true, 1252), Exception);
-    EXPECT_EQ(u"x", QzStreamToWideString(Fresh(), true, true, true, -1));
-    EXPECT_EQ(u"The specified encoding is not supported!",
-              Message([&] { QzStreamToAnsiString(Fresh(), true, true, true, -1, 1200); }));
-    EXPECT_EQ("x", std::string(QzStreamToAnsiString(Fresh(), true, true, true, -1, 1252).View()));
-    EXPECT_EQ(5, Ends);
+    EXPECT_EQ(QzStreamToWideString(Fresh(), true, true, true, -1), u"x");
+    EXPECT_EQ(Message([&] { QzStreamToAnsiString(Fresh(), true, true, true, -1, 1200); }),
+              u"The specified encoding is not supported!");
+    EXPECT_EQ(std::string(QzStreamToAnsiString(Fresh(), true, true, true, -1, 1252).View()), "x");
+    EXPECT_EQ(Ends, 5);
     EXPECT_THROW(QzStreamToWideString(nullptr, true, true, true, -1), EAssertionFailed);
-    EXPECT_EQ("x", Content(Stream));
+    EXPECT_EQ(Content(Stream), "x");
 }
 
 TEST_F(QzStringStreamFiles, LoadsAsAWholeOrNotAtAll) {
@@ -360,29 +328,29 @@ TEST_F(QzStringStreamFiles, LoadsAsAWholeOrNotAtAll) {
     TQzMemoryStream Source(16);
     Source.WriteBuffer("abcdefghijk", 11);
     EXPECT_THROW(Wrapped.LoadFromStream(&Source, false, true, false, 0), Exception);
-    EXPECT_STREQ("0123456789", Block);
+    EXPECT_STREQ(Block, "0123456789");
     Source.SetSize(10);
     Wrapped.LoadFromStream(&Source, false, true, false, 0);
-    EXPECT_STREQ("abcdefghij", Block);
-    EXPECT_EQ(10, Source.Position());
+    EXPECT_STREQ(Block, "abcdefghij");
+    EXPECT_EQ(Source.Position(), 10);
     EXPECT_THROW(QzStreamToWideString(&Source, false, true, false, 65536 + 850),
                  EArgumentOutOfRangeException);
     TQzStringStream Unknown(4711, 16);
     EXPECT_THROW(Unknown.SetWString(u"x"), EOSError);
-    EXPECT_EQ(0, Unknown.Size());
+    EXPECT_EQ(Unknown.Size(), 0);
 }
 
 TEST_F(QzStringStream, StreamsGiveTextByTheirMark) {
     TQzMemoryStream Source(16);
     Source.WriteBuffer("\xFF\xFE\xAC\x20", 4);
-    EXPECT_EQ(u"€", QzStreamToWideString(&Source, false, true, true, -1));
-    EXPECT_EQ(u"€", QzStreamToString(&Source, false, true, true, 1200));
-    EXPECT_EQ("\x80", std::string(QzStreamToAnsiString(&Source, false, true, true, -1, 1252).View()));
+    EXPECT_EQ(QzStreamToWideString(&Source, false, true, true, -1), u"€");
+    EXPECT_EQ(QzStreamToString(&Source, false, true, true, 1200), u"€");
+    EXPECT_EQ(std::string(QzStreamToAnsiString(&Source, false, true, true, -1, 1252).View()), "\x80");
     const RawByteString Same = QzStreamToAnsiString(&Source, false, true, false, 1252, 1252);
-    EXPECT_EQ("\xFF\xFE\xAC\x20", std::string(Same.View()));
-    EXPECT_EQ(1252, Same.CodePage());
+    EXPECT_EQ(std::string(Same.View()), "\xFF\xFE\xAC\x20");
+    EXPECT_EQ(Same.CodePage(), 1252);
     EXPECT_THROW(QzStreamToString(&Source, false, true, true, 0), Exception);
-    EXPECT_EQ(2, Source.Position()) << "behind the mark";
+    EXPECT_EQ(Source.Position(), 2) << "behind the mark";
 }
 
 } // namespace

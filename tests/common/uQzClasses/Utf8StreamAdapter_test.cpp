@@ -65,9 +65,7 @@ TEST(Utf8StreamAdapter, SaysWhatIsWrongWithTheBytes) {
         std::int64_t Position;
     };
     const TCase Cases[] = {
-        {"ab\x80"
-         "cd",
-         Invalid, 3},
+        {"ab\x80z", Invalid, 3},
         {"\xBF", Invalid, 1},
         {"a\xC3", Invalid + u"\r\nThere are 1 or 2 bytes missing!", 2},
         {"a\xE2", Invalid + u"\r\nThere are 1 or 2 bytes missing!", 2},
@@ -77,33 +75,33 @@ TEST(Utf8StreamAdapter, SaysWhatIsWrongWithTheBytes) {
         const auto Source = StreamOf(Case.Bytes);
         TQzUTF8StreamAdapter Adapter(Source.get(), false);
         char16_t Units[16];
-        EXPECT_EQ(Case.Text, Message([&] { Adapter.Read(Units, sizeof Units); }));
-        EXPECT_EQ(Case.Position, Source->Position());
+        EXPECT_EQ(Message([&] { Adapter.Read(Units, sizeof Units); }), Case.Text);
+        EXPECT_EQ(Source->Position(), Case.Position);
         Source->SetPosition(0);
         TQzMemoryStream Target(16);
-        EXPECT_EQ(Case.Text, Message([&] { QzUTF8DecodeStream(*Source, Target); }));
+        EXPECT_EQ(Message([&] { QzUTF8DecodeStream(*Source, Target); }), Case.Text);
         Source->SetPosition(0);
-        EXPECT_EQ(Case.Text, Message([&] { QzUTF8Decode(*Source); }));
+        EXPECT_EQ(Message([&] { QzUTF8Decode(*Source); }), Case.Text);
     }
 }
 
 TEST(Utf8StreamAdapter, WritesAMarkOnceAndTellsWhetherAllWasTaken) {
     TSmallStream Target(10);
     TQzUTF8StreamAdapter Adapter(&Target, false);
-    EXPECT_EQ(5, Adapter.Write(u"ä€x", 5)) << "two units";
-    EXPECT_EQ("\xEF\xBB\xBFä€", Content(Target));
-    EXPECT_EQ(14, Adapter.Seek(-2, soCurrent));
+    EXPECT_EQ(Adapter.Write(u"ä€x", 5), 5) << "two units";
+    EXPECT_EQ(Content(Target), "\xEF\xBB\xBFä€");
+    EXPECT_EQ(Adapter.Seek(-2, soCurrent), 14);
     Target.SetPosition(8);
-    EXPECT_EQ(0, Adapter.Write(u"abc", 6));
+    EXPECT_EQ(Adapter.Write(u"abc", 6), 0);
     TSmallStream Full(2);
     TQzUTF8StreamAdapter First(&Full, false);
-    EXPECT_EQ(0, First.Write(u"a", 2));
+    EXPECT_EQ(First.Write(u"a", 2), 0);
     EXPECT_TRUE(First.FWriteUTF8Prefix);
     TQzMemoryStream Plain(16);
     TQzUTF8StreamAdapter(&Plain, false, false).Write(u"\U0001F600", 4);
-    EXPECT_EQ("\U0001F600", Content(Plain));
+    EXPECT_EQ(Content(Plain), "\U0001F600");
     const std::u16string Long(9999, u'\u20AC');
-    EXPECT_EQ(19998, TQzUTF8StreamAdapter(&Plain, false, false).Write(Long.data(), 19998));
+    EXPECT_EQ(TQzUTF8StreamAdapter(&Plain, false, false).Write(Long.data(), 19998), 19998);
     EXPECT_EQ(4 + 3 * 9999, Plain.Size());
 }
 
@@ -113,9 +111,9 @@ TEST(Utf8StreamAdapter, EndsAStreamThatItOwns) {
         TWatchedStream Kept(Ends);
         TStream* Stream = Owns ? TWatchedStream::Create(Ends).release() : &Kept;
         TQzUTF8StreamAdapter Adapter(Stream, Owns);
-        EXPECT_EQ(0, Adapter.Size());
+        EXPECT_EQ(Adapter.Size(), 0);
     }
-    EXPECT_EQ(3, Ends) << "both that were kept, and the one that was owned";
+    EXPECT_EQ(Ends, 3) << "both that were kept, and the one that was owned";
 }
 
 // Texts across the borders of the steps in which they are converted.
@@ -140,8 +138,8 @@ TEST(StreamText, RecodesBetweenUtf8AndUtf16) {
             EXPECT_EQ(Text.substr(1), QzUTF8Decode(Narrow));
         }
     }
-    EXPECT_EQ(u"The sourcestream does not contain unicode data!",
-              Message([&] { QzUTF8Decode(*StreamOf("\xFF\xFEx\0"s)); }));
+    EXPECT_EQ(Message([&] { QzUTF8Decode(*StreamOf("\xFF\xFEx\0"s)); }),
+              u"The sourcestream does not contain unicode data!");
     EXPECT_THROW(QzUTF8Decode(*StreamOf("a\0b\0"s)), EConvertError);
 }
 

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "tests/support/Lines.h"
+#include "tests/support/Rows.h"
 #include <qz/common/uQzSysUtils.h>
 #include <qz/runtime/time/DateTime.h>
 
@@ -51,23 +52,12 @@ TEST(Tokenize, AppendsByTheRulesOfTheList) {
 }
 
 TEST(Tokenize, ByExpressionKeepsEmptyTokens) {
-    const struct {
-        std::u16string_view Text, Expression, Tokens;
-    } cCases[] = {
-        {u"a,,b,", u",", u"a||b||"},
-        {u"abc", u",", u"abc|"},
-        {u"", u",", u"|"},
-        {u"  a \t b  c ", u"", u"a|\t|b|c|"},
-        {u"a1b22", u"\\d+", u"a|b||"},
-        {u"ab", u"(?=b)", u"a|b|"},
-        {u"", u"", u""},
-        {u"aXb", u"x", u"a|b|"},
-    };
-    for (const auto& Case : cCases) {
+    for (const auto& Case :
+         Rows(u"a,,b, => , => a||b||", u"abc => , => abc|", u" => , => |", u"  a \t b  c  =>  => a|\t|b|c|",
+              u"a1b22 => \\d+ => a|b||", u"ab => (?=b) => a|b|", u" =>  => ", u"aXb => x => a|b|")) {
         TStringList List;
-        QzTokenize(List, Case.Text, Case.Expression, {roIgnoreCase});
-        EXPECT_EQ(Lines(List), Case.Tokens)
-            << UnicodeString(Case.Text) << " by " << UnicodeString(Case.Expression);
+        QzTokenize(List, Case[0], Case[1], {roIgnoreCase});
+        EXPECT_EQ(Lines(List), Case[2]) << Case[0] << " by " << Case[1];
     }
     TStringList List;
     EXPECT_THROW(QzTokenize(List, u"a", u"("), ERegularExpressionError);
@@ -94,59 +84,34 @@ TEST(StringToList, SplitsAndJoins) {
 }
 
 TEST(CharCase, ConvertsByModeInBothWidths) {
-    const struct {
-        TQzCharCase Case;
-        const char* Text;
-        const char* Delimiters;
-        const char* Result;
-    } cCases[] = {
-        {rcNormal, "hElLo", "", "hElLo"},
-        {rcUpperCase, "hé-x", "-", "HÉ-X"},
-        {rcLowerCase, "HÉ-X", "-", "hé-x"},
-        {rcTitleCase, "hello WORLD", " ", "Hello world"},
-        {rcUpperCamelCase, "hello wORLD-x", " -", "Hello World-X"},
-        {rcLowerCamelCase, "Hello  wORLD", " ", "hello  World"},
-        {rcUpperCamelCase, "ab CD", "", "Ab cd"},
-        {rcUpperCamelCase, "xAxb", "X", "Xaxb"},
-        {rcUpperCamelCase, "xaxb", "x", "xAxB"},
-        {rcUpperCamelCase, "éa éB", " ", "Éa Éb"},
-        {rcUpperCaseFirstLetter, "éLLO", "", "ÉLLO"},
-        {rcLowerCaseFirstLetter, "ÉLLO", "", "éLLO"},
-        {rcTitleCase, "", "", ""},
+    const auto Check = [](TQzCharCase ACase, const auto*... ARows) {
+        for (const auto& Case : Rows(ARows...)) { // text, delimiters, result
+            EXPECT_EQ(QzCharCase(Case[0], ACase, Case[1]), Case[2]) << Case[0];
+            EXPECT_EQ(QzCharCase(AnsiString(Case[0]), ACase, AnsiString(Case[1])).ToUnicode(),
+                      AnsiString(Case[2]).ToUnicode());
+        }
     };
-    for (const auto& Case : cCases) {
-        EXPECT_EQ(QzCharCase(WideString(Case.Text), Case.Case, Case.Delimiters), Case.Result) << Case.Text;
-        const AnsiString Narrow{UnicodeString(Case.Text)};
-        EXPECT_EQ(QzCharCase(Narrow, Case.Case, AnsiString(UnicodeString(Case.Delimiters))).ToUnicode(),
-                  AnsiString(UnicodeString(Case.Result)).ToUnicode());
-    }
+    Check(rcNormal, u"hElLo =>  => hElLo");
+    Check(rcUpperCase, u"hé-x => - => HÉ-X");
+    Check(rcLowerCase, u"HÉ-X => - => hé-x");
+    Check(rcTitleCase, u"hello WORLD =>   => Hello world", u" =>  => ");
+    Check(rcUpperCamelCase, u"hello wORLD-x =>  - => Hello World-X", u"ab CD =>  => Ab cd",
+          u"xAxb => X => Xaxb", u"xaxb => x => xAxB", u"éa éB =>   => Éa Éb");
+    Check(rcLowerCamelCase, u"Hello  wORLD =>   => hello  World");
+    Check(rcUpperCaseFirstLetter, u"éLLO =>  => ÉLLO");
+    Check(rcLowerCaseFirstLetter, u"ÉLLO =>  => éLLO");
     EXPECT_EQ(QzCharCase(u"\xD800 \xDC00z", rcUpperCamelCase, u" "), u"\xD800 \xDC00z");
+    EXPECT_EQ(QzCharCase(u"a\U0001F601b\U0001F600c", rcUpperCamelCase, u"\U0001F600"),
+              u"A\U0001F601b\U0001F600C");
 }
 
 TEST(StringIncrement, CountsTheNumberAtTheEnd) {
-    const struct {
-        const char16_t* Text;
-        int Step;
-        const char16_t* Result;
-    } cCases[] = {
-        {u"9", 1, u"10"},
-        {u"007", -1, u"006"},
-        {u"A1", -5, u"A-4"},
-        {u"AB99", 1, u"AB100"},
-        {u"AB0099", 1, u"AB0100"},
-        {u"A100", -105, u"A0-5"},
-        {u" 1x9", 2, u" 1x11"},
-        {u"-5", 1, u"-6"},
-        {u"9999999999", 1, u"10000000000"},
-        {u"9223372036854775806", 1, u"9223372036854775807"},
-        {u"\xD800"
-         u"1",
-         1,
-         u"\xD800"
-         u"2"},
-    };
-    for (const auto& Case : cCases)
-        EXPECT_EQ(QzStringIncrement(Case.Text, Case.Step), Case.Result);
+    for (const auto& Case :
+         Rows(u"9 => 1 => 10", u"007 => -1 => 006", u"A1 => -5 => A-4", u"AB99 => 1 => AB100",
+              u"AB0099 => 1 => AB0100", u"A100 => -105 => A0-5", u" 1x9 => 2 =>  1x11", u"-5 => 1 => -6",
+              u"9999999999 => 1 => 10000000000", u"9223372036854775806 => 1 => 9223372036854775807",
+              u"\xD800z1 => 1 => \xD800z2"))
+        EXPECT_EQ(QzStringIncrement(Case[0], StrToInt(Case[1])), Case[2]) << Case[0];
     for (const char16_t* Text : {u"A", u"1 ", u"x\uFF11", u"9223372036854775807", u"99999999999999999999"})
         EXPECT_THROW(QzStringIncrement(Text, 1), EConvertError) << UnicodeString(Text);
     std::uint16_t Year = 0, Month = 0, Day = 0;
@@ -225,37 +190,22 @@ TEST(Strings, SetsAndSearches) {
     EXPECT_TRUE(QzIsUppercase(u"AÄä1") && QzIsUppercase(u"") && !QzIsUppercase(u"Az"));
 }
 
-// What lies before the point takes digits from what lies behind: 1.005 shows less than a half.
+// Digits before the point take digits from the fraction: 1.005 shows less than a half.
 TEST(Round, HalvesGoAwayFromZero) {
-    const double cHuge = 1e300;
+    constexpr double cInf = INFINITY;
     const struct {
         double Value;
         int Digits;
         double Result;
-    } cCases[] = {
-        {2.5, 0, 3},
-        {-2.5, 0, -3},
-        {1.25, 1, 1.3},
-        {1.24, 1, 1.2},
-        {0.49999999999999994, 0, 1},
-        {0.4999, 0, 0},
-        {-0.5, 0, -1},
-        {2.675, 2, 2.67},
-        {1.005, 2, 1},
-        {-1.005, 2, -1},
-        {0.999, 2, 1},
-        {cHuge, 2, cHuge},
-        {0.1, 400, 0.1},
-        {1250, -2, 1300},
-        {-1249, -2, -1200},
-        {3, -400, 0},
-        {INFINITY, 2, INFINITY},
-        {-INFINITY, -1, -INFINITY},
-    };
+    } cCases[] = {{2.5, 0, 3},       {-2.5, 0, -3},     {1.25, 1, 1.3},   {1.24, 1, 1.2},     {0.4999, 0, 0},
+                  {-0.5, 0, -1},     {2.675, 2, 2.67},  {1.005, 2, 1},    {-1.005, 2, -1},    {0.999, 2, 1},
+                  {1e300, 2, 1e300}, {0.1, 400, 0.1},   {1250, -2, 1300}, {-1249, -2, -1200}, {3, -400, 0},
+                  {cInf, 2, cInf},   {-cInf, -1, -cInf}};
     for (const auto& Case : cCases) {
         EXPECT_EQ(QzRound(Case.Value, Case.Digits), Case.Result) << Case.Value << ", " << Case.Digits;
         EXPECT_EQ(QzRound(Extended(Case.Value), Case.Digits).Value, Case.Result);
     }
+    EXPECT_EQ(QzRound(0.49999999999999994, 0), 1);
     EXPECT_TRUE(std::isnan(QzRound(NAN, 2)));
 }
 
@@ -286,34 +236,20 @@ TEST(Compare, TextsAndChoices) {
 }
 
 TEST(Compare, VariantsByValueAndType) {
-    const struct {
-        Variant Left, Right;
-        bool Equal, Same;
-    } cCases[] = {
-        {1, 1, true, true},
-        {1, 1.0, true, false},
-        {1, u"1", true, false},
-        {-1, true, true, false},
-        {-1, UINT64_MAX, false, false},
-        {INT64_MIN, 0x8000000000000000U, false, false},
-        {0.5F, 0.5, true, false},
-        {u"a", u"A", false, false},
-        {u"é", AnsiString(UnicodeString(u"é")), true, false},
-        {Variant(), 0, true, false},
-        {Variant(), u"", true, false},
-        {Variant(), u"a", false, false},
-        {Variant::Null(), Variant::Null(), true, true},
-        {Variant::Null(), Variant(), false, false},
-        {u"true", true, true, false},
-        {NAN, NAN, false, false},
-        {UINT64_MAX, 18446744073709551616.0, true, false},
+    const auto Check = [](bool AEqual, bool ASame, const auto&... AValues) {
+        const Variant Values[] = {Variant(AValues)...}; // by pairs
+        for (std::size_t I = 0; I < std::size(Values); I += 2) {
+            SCOPED_TRACE(VarToStr(Values[I]) + u" and " + VarToStr(Values[I + 1]));
+            EXPECT_EQ(Values[I] == Values[I + 1], AEqual);
+            EXPECT_EQ(Values[I + 1] == Values[I], AEqual);
+            EXPECT_EQ(QzSameVar(Values[I], Values[I + 1]), ASame);
+        }
     };
-    for (const auto& Case : cCases) {
-        EXPECT_EQ(Case.Left == Case.Right, Case.Equal)
-            << VarToStr(Case.Left) << " and " << VarToStr(Case.Right);
-        EXPECT_EQ(Case.Right == Case.Left, Case.Equal);
-        EXPECT_EQ(QzSameVar(Case.Left, Case.Right), Case.Same);
-    }
+    Check(true, true, 1, 1, Variant::Null(), Variant::Null());
+    Check(true, false, 1, 1.0, 1, u"1", -1, true, 0.5F, 0.5, u"é", AnsiString(UnicodeString(u"é")), Variant(),
+          0, Variant(), u"", u"true", true, UINT64_MAX, 18446744073709551616.0);
+    Check(false, false, -1, UINT64_MAX, INT64_MIN, 0x8000000000000000U, u"a", u"A", Variant(), u"a",
+          Variant::Null(), Variant(), NAN, NAN);
     EXPECT_THROW(static_cast<void>(Variant(1) == Variant(u"one")), EVariantTypeCastError);
     EXPECT_THROW(static_cast<void>(Variant(true) == Variant(u"one")), EVariantTypeCastError);
     EXPECT_THROW(static_cast<void>(QzSameVar(VarArrayOf({}), VarArrayOf({}))), EVariantInvalidOpError);
@@ -340,12 +276,6 @@ TEST(Compare, ArraysElementByElementOfTheFirst) {
     };
     for (std::size_t I = 0; I < std::size(cCases); ++I)
         EXPECT_EQ(QzSameArray(cCases[I].Left, cCases[I].Right), cCases[I].Same) << I;
-}
-
-TEST(CharCase, TakesAPairForOneDelimiter) {
-    EXPECT_EQ(u"A\U0001F601b\U0001F600C",
-              QzCharCase(WideString(UnicodeString(u"a\U0001F601b\U0001F600c")), rcUpperCamelCase,
-                         WideString(UnicodeString(u"\U0001F600"))));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "tests/support/Message.h"
 #include <qz/common/uQzTypes/NamedTypes.h>
 #include <qz/common/uQzTypes/QzTypes.h>
+#include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/text/NumberText.h>
 #include <qz/runtime/values/VariantArray.h>
 
@@ -37,11 +38,11 @@ TEST(QzTypes, SchemaTypesOfKindsAndCodes) {
         {{u"string", xsdString}, {TQzTypes::VarSchemaType(u"x", &Type), Type}},
     };
     for (const auto& [Expected, Actual] : Cases) {
-        EXPECT_EQ(Expected.Name, Actual.Name);
-        EXPECT_EQ(Expected.Type, Actual.Type) << Expected.Name;
+        EXPECT_EQ(Actual.Name, Expected.Name);
+        EXPECT_EQ(Actual.Type, Expected.Type) << Expected.Name;
     }
-    EXPECT_EQ(u"ArrayOfInt", TQzTypes::ToSchemaType(varArray + 3));
-    EXPECT_EQ(u"int", TQzTypes::ToSchemaType(rtkLongInt, nullptr));
+    EXPECT_EQ(TQzTypes::ToSchemaType(varArray + 3), u"ArrayOfInt");
+    EXPECT_EQ(TQzTypes::ToSchemaType(rtkLongInt, nullptr), u"int");
 }
 
 TEST(QzTypes, RefusesWhatHasNoCounterpart) {
@@ -53,16 +54,16 @@ TEST(QzTypes, RefusesWhatHasNoCounterpart) {
         EXPECT_EQ(
             u"The given TVarType \"" + IntToStr(Shown) + u"\" could not be converted to a valid SchemaType!",
             Message([&, Number = Code] { TQzTypes::ToSchemaType(static_cast<TVarType>(Number), &Type); }));
-    EXPECT_EQ(xsdDuration, Type);
+    EXPECT_EQ(Type, xsdDuration);
     for (const TQzTypeKind Kind : {rtkRecord, rtkPointer, rtkMethod, rtkProcedure, rtkException, rtkClassRef})
-        EXPECT_EQ(u"The given datatype cannot be converted to a Variant Type!",
-                  Message([&] { TQzTypes::ToVarType(Kind); }));
-    EXPECT_EQ(u"The type 22 cannot be converted to a TQzTypeKind!",
-              Message([] { TQzTypes::ToTypeKind(static_cast<TTypeKind>(22)); }));
+        EXPECT_EQ(Message([&] { TQzTypes::ToVarType(Kind); }),
+                  u"The given datatype cannot be converted to a Variant Type!");
+    EXPECT_EQ(Message([] { TQzTypes::ToTypeKind(static_cast<TTypeKind>(22)); }),
+              u"The type 22 cannot be converted to a TQzTypeKind!");
     EXPECT_THROW(TQzTypes::ToMainTypeKind(static_cast<TTypeKind>(255)), EAssertionFailed);
-    EXPECT_EQ(u"The format yaml is not supported!!", Message([] { GetDataSerializationFormat(u"yaml"); }));
-    EXPECT_EQ(XML, GetDataSerializationFormat(u"xml"));
-    EXPECT_EQ(CUSTOM2, GetDataSerializationFormat(u"Custom2"));
+    EXPECT_EQ(Message([] { GetDataSerializationFormat(u"yaml"); }), u"The format yaml is not supported!!");
+    EXPECT_EQ(GetDataSerializationFormat(u"xml"), XML);
+    EXPECT_EQ(GetDataSerializationFormat(u"Custom2"), CUSTOM2);
 }
 
 // A kind keeps its main kind on the way over the code of its variants, with the exceptions that are listed.
@@ -72,7 +73,7 @@ TEST(QzTypes, KindsAndCodesAgree) {
         const TQzMainTypeKind Expected = Kind == rtkSet ? mtkDateTime
             : Kind == rtkVariant                        ? mtkUnknown
                                                         : TQzTypes::ToMainTypeKind(Kind);
-        EXPECT_EQ(Expected, TQzTypes::ToMainTypeKind(TQzTypes::ToVarType(Kind))) << I;
+        EXPECT_EQ(TQzTypes::ToMainTypeKind(TQzTypes::ToVarType(Kind)), Expected) << I;
     }
     // Both ways from a code to the main kind, which disagree where the fine kind is coarser or finer.
     const std::map<int, TQzMainTypeKind> Disagree = {{12, mtkOther}, {257, mtkOther}, {273, mtkUnknown}};
@@ -83,9 +84,9 @@ TEST(QzTypes, KindsAndCodesAgree) {
                   TQzTypes::ToMainTypeKind(TQzTypes::ToTypeKind(Type)))
             << Code;
     }
-    EXPECT_EQ(mtkArray, TQzTypes::VarMainTypeKind(VarArrayOf({1})));
-    EXPECT_EQ(rtkDynArray, TQzTypes::VarTypeKind(VarArrayOf({1})));
-    EXPECT_EQ(rtkWString, TQzTypes::VarTypeKind(u"x"));
+    EXPECT_EQ(TQzTypes::VarMainTypeKind(VarArrayOf({1})), mtkArray);
+    EXPECT_EQ(TQzTypes::VarTypeKind(VarArrayOf({1})), rtkDynArray);
+    EXPECT_EQ(TQzTypes::VarTypeKind(u"x"), rtkWString);
     static_assert(TQzTypes::ToMainTypeKind(12) == mtkUnknown && TQzTypes::ToTypeKind(12) == rtkVariant);
     static_assert(TQzTypes::ToVarType(tkFloat) == varCurrency &&
                   TQzTypes::ToVarType(tkUString) == varUString);
@@ -93,23 +94,80 @@ TEST(QzTypes, KindsAndCodesAgree) {
     static_assert(TQzTypes::IsSimpleTypeKind(rtkVariant) && !TQzTypes::IsSimpleTypeKind(mtkOther));
 }
 
+// Integers of one width differ by "unsigned" alone; XML Schema 1.1 Part 2 orders them by their widths.
+TEST(QzTypes, IntegersPairUpByWidth) {
+    const std::pair<TQzTypeKind, TQzTypeKind> Pairs[] = {
+        {rtkShortInt, rtkByte}, {rtkSmallInt, rtkWord}, {rtkLongInt, rtkLongWord}, {rtkInt64, rtkUInt64}};
+    UnicodeString Signed;
+    for (const auto& [Kind, Unsigned] : Pairs) {
+        const UnicodeString Name = TQzTypes::ToSchemaType(Kind);
+        EXPECT_TRUE(SameText(TQzTypes::ToSchemaType(Unsigned), u"unsigned" + Name)) << Name;
+        Signed += Name + u' ';
+    }
+    EXPECT_EQ(Signed, u"byte short int long ");
+}
+
+// The kinds stand in groups; those that a variant can hold exactly come back from its code, with their schema type.
+TEST(QzTypes, GroupsAndExactKinds) {
+    const auto Group = [](TQzTypeKind AKind) {
+        return AKind == rtkEnumeration || AKind == rtkSet || (AKind >= rtkByte && AKind <= rtkInt64)
+            ? mtkInteger
+            : AKind >= rtkSingle && AKind <= rtkExtended ? mtkFloat
+            : AKind >= rtkChar && AKind <= rtkWString    ? mtkString
+            : AKind == rtkBoolean                        ? mtkBoolean
+            : AKind >= rtkDate && AKind <= rtkDatetime   ? mtkDateTime
+            : AKind == rtkArray || AKind == rtkDynArray  ? mtkArray
+            : AKind == rtkRecord || AKind == rtkClass    ? mtkStructure
+            : AKind == rtkUnknown                        ? mtkUnknown
+                                                         : mtkOther;
+    };
+    for (int I = 0; I <= static_cast<int>(rtkClassRef); ++I)
+        EXPECT_EQ(TQzTypes::ToMainTypeKind(static_cast<TQzTypeKind>(I)), Group(static_cast<TQzTypeKind>(I)))
+            << I;
+    for (int I = 0; I <= static_cast<int>(tkProcedure); ++I) {
+        const auto Kind = static_cast<TTypeKind>(I);
+        EXPECT_EQ(TQzTypes::ToMainTypeKind(Kind), Group(TQzTypes::ToTypeKind(Kind))) << I;
+    }
+    for (const TQzTypeKind Kind :
+         {rtkByte, rtkWord, rtkLongWord, rtkUInt64, rtkShortInt, rtkSmallInt, rtkLongInt, rtkInt64, rtkSingle,
+          rtkDouble, rtkExtended, rtkString, rtkWString, rtkBoolean, rtkDatetime}) {
+        const TVarType Code = TQzTypes::ToVarType(Kind);
+        EXPECT_EQ(TQzTypes::ToTypeKind(Code), Kind);
+        if (Kind != rtkByte && Kind != rtkExtended) { // which documents spell in their own way
+            EXPECT_EQ(TQzTypes::ToSchemaType(Code), TQzTypes::ToSchemaType(Kind)) << Code;
+        }
+    }
+    // The kind of a type is named after it, as is that of its values.
+    const std::pair<TQzTypeKind, PTypeInfo> Types[] = {
+        {rtkLongInt, TypeInfo<int>()},          {rtkInt64, TypeInfo<std::int64_t>()},
+        {rtkExtended, TypeInfo<double>()},      {rtkChar, TypeInfo<char>()},
+        {rtkWChar, TypeInfo<char16_t>()},       {rtkWString, TypeInfo<UnicodeString>()},
+        {rtkAString, TypeInfo<AnsiString>()},   {rtkWString, TypeInfo<WideString>()},
+        {rtkVariant, TypeInfo<Variant>()},      {rtkClass, TypeInfo<TObject>()},
+        {rtkInterface, TypeInfo<IInterface>()}, {rtkDynArray, TypeInfo<TBytes>()},
+        {rtkRecord, TypeInfo<TGUID>()},         {rtkClassRef, TypeInfo<TClass>()},
+        {rtkEnumeration, TypeInfo<bool>()}};
+    for (const auto& [Kind, Type] : Types)
+        EXPECT_EQ(TQzTypes::ToTypeKind(Type->Kind), Kind) << UnicodeString(Type->Name);
+}
+
 TEST(QzTypes, SubRangesHoldTheirBounds) {
     TQzSimpleTypeKind Kind;
-    EXPECT_EQ(rtkByte, Kind);
+    EXPECT_EQ(Kind, rtkByte);
     Kind = rtkVariant;
-    EXPECT_EQ(u"The value 25 is not in the range 1 to 24", Message([&] { Kind = rtkArray; }));
-    EXPECT_EQ(rtkVariant, Kind);
+    EXPECT_EQ(Message([&] { Kind = rtkArray; }), u"The value 25 is not in the range 1 to 24");
+    EXPECT_EQ(Kind, rtkVariant);
     static_assert(TQzSchemaSimplexType::cCount == 19 && TQzSchemaIntegerType::cCount == 8 &&
                   TQzSchemaDateTimeType::cCount == 3 && TQzOtherTypeKind::cCount == 6 &&
                   TQzVariantTypeKind::cHigh == rtkInterface && TQzJSONSimpleDataType::cCount == 4);
 }
 
 TEST(QzTypes, TextTypesAreTypesOfTheirOwn) {
-    EXPECT_EQ(tkUString, TypeInfo<QzXMLString>()->Kind);
+    EXPECT_EQ(TypeInfo<QzXMLString>()->Kind, tkUString);
     EXPECT_NE(TypeInfo<QzXMLString>(), TypeInfo<QzJSONString>());
-    EXPECT_EQ(u"uQzTypes.QzJSONString", TypeInfo<QzJSONString>()->QualifiedName());
+    EXPECT_EQ(TypeInfo<QzJSONString>()->QualifiedName(), u"uQzTypes.QzJSONString");
     EXPECT_EQ(TypeInfo<Variant>(), TypeInfo<TVariantDynArray>()->ElementType());
-    EXPECT_EQ(u"rtkClassRef", UnicodeString(TypeInfo<TQzTypeKind>()->Items.back().Name));
+    EXPECT_EQ(UnicodeString(TypeInfo<TQzTypeKind>()->Items.back().Name), u"rtkClassRef");
 }
 
 } // namespace

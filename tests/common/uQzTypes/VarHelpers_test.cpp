@@ -20,30 +20,14 @@ namespace {
 
 // One variant of each type. Values are their codes modulo 100, so that a result tells by itself what it came from.
 std::vector<Variant> Samples() {
-    return {Variant(),
-            Variant::Null(),
-            Variant(std::int16_t{2}),
-            Variant(3),
-            Variant(4.0F),
-            Variant(5.0),
-            Variant(Currency(6)),
-            Variant(TDateTime(7)),
-            Variant(WideString(u"8")),
-            Variant::Dispatch(nullptr),
-            Variant::Error(10),
-            Variant(true),
-            Variant(Ref<IInterface>()),
-            VarAsType(14, varDecimal),
-            Variant(std::int8_t{16}),
-            Variant(std::uint8_t{17}),
-            Variant(std::uint16_t{18}),
-            Variant(std::uint32_t{19}),
-            Variant(std::int64_t{20}),
-            Variant(std::uint64_t{21}),
-            Variant(static_cast<TObject*>(nullptr)),
-            Variant(AnsiString("56")),
-            Variant(u"58"),
-            VarArrayOf({92})};
+    std::vector<Variant> Result;
+    const auto Add = [&Result](const auto&... AValues) { (Result.emplace_back(AValues), ...); };
+    Add(Variant(), Variant::Null(), std::int16_t(2), 3, 4.0F, 5.0, Currency(6), TDateTime(7),
+        WideString(u"8"), Variant::Dispatch(nullptr), Variant::Error(10), true, Ref<IInterface>(),
+        VarAsType(14, varDecimal), std::int8_t(16), std::uint8_t(17), std::uint16_t(18), std::uint32_t(19),
+        std::int64_t(20), std::uint64_t(21), static_cast<TObject*>(nullptr), AnsiString("56"), u"58",
+        VarArrayOf({92}));
+    return Result;
 }
 
 UnicodeString Show(std::integral auto AValue) {
@@ -99,7 +83,7 @@ void CheckSample(const TRow& ARow, const Variant& ASample, bool AIsStrict) {
     const UnicodeString Raised = Message([&] { Actual = ARow.Call(ASample, true); });
     EXPECT_EQ(Raises ? u"The given value is not a valid " + ARow.Message + u" value!" : u"", Raised)
         << ARow.Name << " of type " << Code;
-    EXPECT_EQ(Expected, Actual) << ARow.Name << " of type " << Code;
+    EXPECT_EQ(Actual, Expected) << ARow.Name << " of type " << Code;
     if (!AIsStrict) {
         EXPECT_EQ(Raises ? Default : Expected, ARow.Call(ASample, false)) << ARow.Name << " of type " << Code;
     }
@@ -185,44 +169,44 @@ TEST(VarTolerant, ConvertsWhatCanBeConverted) {
 }
 
 TEST(VarStrict, CutsNumbersAndBoundsSmallintAboveAlone) {
-    EXPECT_EQ(25536, QzVarSmallint(-40000, 0));
-    EXPECT_EQ(-25536, QzVarSmallint(std::uint16_t{40000}, 0));
-    EXPECT_EQ(32767, QzVarSmallint(32767, 0));
+    EXPECT_EQ(QzVarSmallint(-40000, 0), 25536);
+    EXPECT_EQ(QzVarSmallint(std::uint16_t{40000}, 0), -25536);
+    EXPECT_EQ(QzVarSmallint(32767, 0), 32767);
     EXPECT_THROW(QzVarSmallint(32768, 0), EConvertError);
-    EXPECT_EQ(-1, QzVarShortint(std::uint8_t{255}, 0));
-    EXPECT_EQ(255, QzVarByte(std::int8_t{-1}, 0));
-    EXPECT_EQ(4, QzVarByte({}, 260));
-    EXPECT_EQ(65535, QzVarWord(std::int16_t{-1}, 0));
-    EXPECT_EQ(4294967295U, QzVarLongword(4294967295U, 0));
-    EXPECT_EQ(4294967295, QzVarInt64(4294967295U, 0));
+    EXPECT_EQ(QzVarShortint(std::uint8_t{255}, 0), -1);
+    EXPECT_EQ(QzVarByte(std::int8_t{-1}, 0), 255);
+    EXPECT_EQ(QzVarByte({}, 260), 4);
+    EXPECT_EQ(QzVarWord(std::int16_t{-1}, 0), 65535);
+    EXPECT_EQ(QzVarLongword(4294967295U, 0), 4294967295U);
+    EXPECT_EQ(QzVarInt64(4294967295U, 0), 4294967295);
     EXPECT_THROW(QzVarInt(4294967295U, 0), EVariantOverflowError);
     EXPECT_TRUE(QzVarBool(256, false));
     EXPECT_TRUE(QzVarBool(u"Yes", false));
     EXPECT_TRUE(QzVarBool(AnsiString("1"), false));
     EXPECT_FALSE(QzVarBool(u"", true));
-    EXPECT_EQ(u"", QzVarStr(u"", u"x"));
+    EXPECT_EQ(QzVarStr(u"", u"x"), u"");
 }
 
 TEST(VarTolerant, CutsNumbersAndReadsTexts) {
-    EXPECT_EQ(-25, QzVarToShortint(std::int16_t{999}, 0, true));
-    EXPECT_EQ(-1, QzVarToSmallint(u"$FFFF", 0, true));
-    EXPECT_EQ(255, QzVarToByte(u"-1", 0, true));
-    EXPECT_EQ(5000000000, QzVarToInt64(u"5000000000", 0, true));
-    EXPECT_EQ(7U, QzVarToLongword(u"4294967295", 7, false));
+    EXPECT_EQ(QzVarToShortint(std::int16_t{999}, 0, true), -25);
+    EXPECT_EQ(QzVarToSmallint(u"$FFFF", 0, true), -1);
+    EXPECT_EQ(QzVarToByte(u"-1", 0, true), 255);
+    EXPECT_EQ(QzVarToInt64(u"5000000000", 0, true), 5000000000);
+    EXPECT_EQ(QzVarToLongword(u"4294967295", 7, false), 7U);
     EXPECT_FALSE(QzVarToBool(256, true, true));
     EXPECT_TRUE(QzVarToBool(511, false, true));
-    EXPECT_EQ(7, QzVarToLongInt(u"abc", 7, false));
-    EXPECT_EQ(7, QzVarToInt(5000000000, 7, false));
+    EXPECT_EQ(QzVarToLongInt(u"abc", 7, false), 7);
+    EXPECT_EQ(QzVarToInt(5000000000, 7, false), 7);
     EXPECT_THROW(QzVarToInt(5000000000, 7, true), EVariantOverflowError);
-    EXPECT_EQ(7, QzVarToByte(u"", 263, false));
+    EXPECT_EQ(QzVarToByte(u"", 263, false), 7);
     EXPECT_TRUE(std::isinf(QzVarToSingle(1e300, 0, true)));
     EXPECT_TRUE(QzVarToBool(4294967297, true, false)); // the default: it has no 32 bits
     EXPECT_FALSE(QzVarToBool(4294967297, false, false));
-    EXPECT_EQ(1.5F, QzVarToSingle(u"1,5", 0, true));
-    EXPECT_EQ(1.5, QzVarToDouble(AnsiString("1,5"), 0, true));
-    EXPECT_EQ(7.0, QzVarToExtended(u"1,5", 7, false));
-    EXPECT_EQ(u"1.5", QzVarToStr(VarAsType(u"1.50", varDecimal), u"", true));
-    EXPECT_EQ(u"x", QzVarToStr(std::numeric_limits<std::uint64_t>::max(), u"x", false));
+    EXPECT_EQ(QzVarToSingle(u"1,5", 0, true), 1.5F);
+    EXPECT_EQ(QzVarToDouble(AnsiString("1,5"), 0, true), 1.5);
+    EXPECT_EQ(QzVarToExtended(u"1,5", 7, false), 7.0);
+    EXPECT_EQ(QzVarToStr(VarAsType(u"1.50", varDecimal), u"", true), u"1.5");
+    EXPECT_EQ(QzVarToStr(std::numeric_limits<std::uint64_t>::max(), u"x", false), u"x");
     const std::pair<UnicodeString, UnicodeString> Errors[] = {
         {u"'abc' is not a valid integer value", Message([] { QzVarToLongInt(u"abc", 7, true); })},
         {u"'5000000000' is not a valid integer value",
@@ -232,43 +216,43 @@ TEST(VarTolerant, CutsNumbersAndReadsTexts) {
         {u"'tomorrow' is not a valid date and time", Message([] { QzVarToDate(u"tomorrow", 7, true); })},
     };
     for (const auto& [Expected, Actual] : Errors)
-        EXPECT_EQ(Expected, Actual);
+        EXPECT_EQ(Actual, Expected);
 }
 
 TEST(VarTolerant, ReadsIsoDatesWhateverTheSettings) {
     const TDateTime Day = EncodeDate(2016, 2, 29);
-    EXPECT_EQ(Day, QzVarToDate(u"2016-02-29", 0, true));
+    EXPECT_EQ(QzVarToDate(u"2016-02-29", 0, true), Day);
     EXPECT_EQ(Day + 0.5, QzVarToDate(AnsiString("2016-02-29 12:00"), 0, true));
-    EXPECT_EQ(Day, QzVarToDate(DateTimeToStr(Day), 0, true));
-    EXPECT_EQ(5.0, QzVarToDate(u"2016-02-30", 5, false));
-    EXPECT_EQ(5.0, QzVarToDate(u"016-02-29", 5, false));
-    EXPECT_EQ(5.0, QzVarToDate(u"2016-02/29", 5, false));
+    EXPECT_EQ(QzVarToDate(DateTimeToStr(Day), 0, true), Day);
+    EXPECT_EQ(QzVarToDate(u"2016-02-30", 5, false), 5.0);
+    EXPECT_EQ(QzVarToDate(u"016-02-29", 5, false), 5.0);
+    EXPECT_EQ(QzVarToDate(u"2016-02/29", 5, false), 5.0);
     const TFormatSettings Before = DefaultFormatSettings();
     TFormatSettings Other = Before;
     Other.DateSeparator = u'-';
     Other.ShortDateFormat = u"dd-mm-yyyy";
     SetDefaultFormatSettings(Other);
-    EXPECT_EQ(Day, QzVarToDate(u"2016-02-29", 0, true));
-    EXPECT_EQ(Day, QzVarToDate(u"29-02-2016", 0, true));
+    EXPECT_EQ(QzVarToDate(u"2016-02-29", 0, true), Day);
+    EXPECT_EQ(QzVarToDate(u"29-02-2016", 0, true), Day);
     SetDefaultFormatSettings(Before);
 }
 
 TEST(VarTolerant, WritesArraysLineByLine) {
-    EXPECT_EQ(u"1\r\n2\r\n", QzVarToStr(VarArrayOf({1, 2}), u"", true));
+    EXPECT_EQ(QzVarToStr(VarArrayOf({1, 2}), u"", true), u"1\r\n2\r\n");
     EXPECT_EQ(
-        u"1\r\na\r\nb\r\n\r\n\r\n-\r\nTrue\r\n",
-        QzVarToStr(VarArrayOf({1, VarArrayOf({u"a", u"b"}), VarArrayOf({}), Variant(), true}), u"-", true));
+        QzVarToStr(VarArrayOf({1, VarArrayOf({u"a", u"b"}), VarArrayOf({}), Variant(), true}), u"-", true),
+        u"1\r\na\r\nb\r\n\r\n\r\n-\r\nTrue\r\n");
     Variant Odd = VarArrayCreate({-5, -4}, varInteger);
-    EXPECT_EQ(u"0\r\n0\r\n", QzVarToStr(Odd, u"", true));
+    EXPECT_EQ(QzVarToStr(Odd, u"", true), u"0\r\n0\r\n");
     const Variant Table = VarArrayCreate({0, 1, 0, 1}, varInteger);
-    EXPECT_EQ(u"-", QzVarToStr(Table, u"-", false));
-    EXPECT_EQ(u"The given array is not a to-string convertable value!",
-              Message([&] { QzVarToStr(Table, u"", true); }));
+    EXPECT_EQ(QzVarToStr(Table, u"-", false), u"-");
+    EXPECT_EQ(Message([&] { QzVarToStr(Table, u"", true); }),
+              u"The given array is not a to-string convertable value!");
     const Variant Mixed = VarArrayOf({1, Table, Variant(Ref<IInterface>()), 2});
-    EXPECT_EQ(u"1\r\n-\r\n-\r\n2\r\n", QzVarToStr(Mixed, u"-", false));
+    EXPECT_EQ(QzVarToStr(Mixed, u"-", false), u"1\r\n-\r\n-\r\n2\r\n");
     EXPECT_THROW(QzVarToStr(Mixed, u"-", true), EConvertError);
     constexpr int cMost = std::numeric_limits<int>::max();
-    EXPECT_EQ(u"0\r\n0\r\n", QzVarToStr(VarArrayCreate({cMost - 1, cMost}, varInteger), u"", true));
+    EXPECT_EQ(QzVarToStr(VarArrayCreate({cMost - 1, cMost}, varInteger), u"", true), u"0\r\n0\r\n");
     Variant Deep = 1;
     for (int I = 0; I < 50000; ++I)
         Deep = VarArrayOf({Deep});
@@ -276,35 +260,22 @@ TEST(VarTolerant, WritesArraysLineByLine) {
 }
 
 TEST(VarQueries, EmptyCountedAndNullable) {
-    const std::pair<Variant, bool> Cases[] = {{0, true},
-                                              {0.0, true},
-                                              {TDateTime(0), true},
-                                              {u"   ", true},
-                                              {AnsiString(" \t"), true},
-                                              {false, false},
-                                              {true, false},
-                                              {1, false},
-                                              {u" x", false},
-                                              {Variant(), true},
-                                              {Variant::Null(), true},
-                                              {Variant::Error(0), false},
-                                              {Currency(0), true},
-                                              {-0.0, true},
-                                              {std::nan(""), false},
-                                              {VarArrayOf({}), true},
-                                              {VarArrayOf({1}), false},
-                                              {VarArrayCreate({-3, -1}, varByte), true},
-                                              {Variant(static_cast<TObject*>(nullptr)), false}};
-    for (const auto& [Value, Expected] : Cases)
-        EXPECT_EQ(Expected, QzVarIsEmpty(Value)) << VarType(Value);
-    EXPECT_EQ(3, QzVarArrayCount(VarArrayOf({1, 2, 3})));
-    EXPECT_EQ(11, QzVarArrayCount(VarArrayCreate({9, 10}, varByte)));
-    EXPECT_EQ(0, QzVarArrayCount(VarArrayCreate({-3, -1}, varByte)));
-    EXPECT_EQ(0, QzVarArrayCount(u"x"));
-    EXPECT_EQ(0, QzVarArrayCount(Variant::Null()));
-    EXPECT_EQ(nbYes, QzNullableBool(true));
-    EXPECT_EQ(nbNo, QzNullableBool(false));
-    EXPECT_EQ(nbNull, QzNullableBool(1));
+    const auto Check = [](bool AExpected, const auto&... AValues) {
+        for (const Variant& Value : {Variant(AValues)...})
+            EXPECT_EQ(QzVarIsEmpty(Value), AExpected) << VarType(Value);
+    };
+    Check(true, 0, 0.0, -0.0, TDateTime(0), u"   ", AnsiString(" \t"), Variant(), Variant::Null(),
+          Currency(0), VarArrayOf({}), VarArrayCreate({-3, -1}, varByte));
+    Check(false, false, true, 1, u" x", Variant::Error(0), std::nan(""), VarArrayOf({1}),
+          static_cast<TObject*>(nullptr));
+    EXPECT_EQ(QzVarArrayCount(VarArrayOf({1, 2, 3})), 3);
+    EXPECT_EQ(QzVarArrayCount(VarArrayCreate({9, 10}, varByte)), 11);
+    EXPECT_EQ(QzVarArrayCount(VarArrayCreate({-3, -1}, varByte)), 0);
+    EXPECT_EQ(QzVarArrayCount(u"x"), 0);
+    EXPECT_EQ(QzVarArrayCount(Variant::Null()), 0);
+    EXPECT_EQ(QzNullableBool(true), nbYes);
+    EXPECT_EQ(QzNullableBool(false), nbNo);
+    EXPECT_EQ(QzNullableBool(1), nbNull);
 }
 
 TEST(TextValues, BooleansAndFloats) {
@@ -312,11 +283,11 @@ TEST(TextValues, BooleansAndFloats) {
         EXPECT_TRUE(QzStrToBool(Yes));
     for (const char16_t* No : {u"", u"no", u"0", u" 1", u"-1", u"J"})
         EXPECT_FALSE(QzStrToBool(No));
-    EXPECT_EQ(u"shut", QzBoolToStr(false, u"open", u"shut"));
-    EXPECT_EQ(1.5, QzStrToFloat(u"1.5"));
-    EXPECT_EQ(1.5, QzStrToFloat(u"1,5"));
-    EXPECT_EQ(-2.0, QzStrToFloatDef(u"1.5.2", -2));
-    EXPECT_EQ(u"'1;5' is not a valid floating point value", Message([] { QzStrToFloat(u"1;5"); }));
+    EXPECT_EQ(QzBoolToStr(false, u"open", u"shut"), u"shut");
+    EXPECT_EQ(QzStrToFloat(u"1.5"), 1.5);
+    EXPECT_EQ(QzStrToFloat(u"1,5"), 1.5);
+    EXPECT_EQ(QzStrToFloatDef(u"1.5.2", -2), -2.0);
+    EXPECT_EQ(Message([] { QzStrToFloat(u"1;5"); }), u"'1;5' is not a valid floating point value");
 }
 
 // The other separator is that of the system, whatever the process has.
@@ -328,37 +299,37 @@ TEST(TextValues, TheSecondTryGoesByTheSystem) {
     const bool HasPoint = TFormatSettings::Create().DecimalSeparator == u'.';
     EXPECT_EQ(HasPoint ? 1.5 : 7, QzStrToFloatDef(u"1,5", 7));
     EXPECT_EQ(HasPoint ? 7 : 1.5, QzStrToFloatDef(u"1.5", 7));
-    EXPECT_EQ(1.5, QzStrToFloat(u"1;5"));
+    EXPECT_EQ(QzStrToFloat(u"1;5"), 1.5);
     SetDefaultFormatSettings(Before);
 }
 
 TEST(RawStrings, ConvertByTheSystemsCodePage) {
     const TSystemPage Page(1252);
     char* const Narrow = QzStrNewA(WideString(u"\u20AC"));
-    EXPECT_STREQ("\x80", Narrow);
+    EXPECT_STREQ(Narrow, "\x80");
     QzStrDispose(Narrow);
     char16_t* const Wide = QzStrNewW(AnsiString("\x80"));
-    EXPECT_EQ(UnicodeString(u"\u20AC"), Wide);
+    EXPECT_EQ(Wide, UnicodeString(u"\u20AC"));
     QzStrDispose(Wide);
-    EXPECT_EQ("\x80", QzVarStrA(u"\u20AC", {}).View());
+    EXPECT_EQ(QzVarStrA(u"\u20AC", {}).View(), "\x80");
 }
 
 TEST(RawStrings, AreCopiesThatEndWithATerminator) {
-    EXPECT_EQ(nullptr, QzStrNew(WideString()));
-    EXPECT_EQ(nullptr, QzStrNewW(AnsiString()));
+    EXPECT_EQ(QzStrNew(WideString()), nullptr);
+    EXPECT_EQ(QzStrNewW(AnsiString()), nullptr);
     QzStrDispose(static_cast<char*>(nullptr));
     QzStrDispose(static_cast<char16_t*>(nullptr));
     char16_t* const Wide = QzStrNew(WideString(std::u16string_view(u"a\0b", 3)));
     EXPECT_EQ(std::u16string_view(u"a\0b", 4), std::u16string_view(Wide, 4));
     QzStrDispose(Wide);
     char* const Empty = QzStrNew(AnsiString());
-    EXPECT_STREQ("", Empty);
+    EXPECT_STREQ(Empty, "");
     QzStrDispose(Empty);
     char* const Narrow = QzStrNewA(AnsiString(std::string_view("a\0b", 3)));
-    EXPECT_STREQ("a", Narrow);
+    EXPECT_STREQ(Narrow, "a");
     QzStrDispose(Narrow);
     char* const Converted = QzStrNewA(WideString(u"abc"));
-    EXPECT_STREQ("abc", Converted);
+    EXPECT_STREQ(Converted, "abc");
     QzStrDispose(Converted);
 }
 

@@ -67,20 +67,20 @@ TEST(WindowsVersion, NumberFollowsTheFacts) {
                                   .CurrentVersion = Case.Version,
                                   .HasLargePages = true,
                                   .HasOpenThread = true};
-        EXPECT_EQ(Case.Expected, detail::VersionNumber(Facts)) << Case.Major << '.' << Case.Minor;
+        EXPECT_EQ(detail::VersionNumber(Facts), Case.Expected) << Case.Major << '.' << Case.Minor;
     }
     TWindowsFacts Server{
         .HasKernel = true, .HasVersion = true, .Major = 5, .Minor = 2, .HasLargePages = true, .Metric89 = 1};
-    EXPECT_EQ(523, detail::VersionNumber(Server));
+    EXPECT_EQ(detail::VersionNumber(Server), 523);
     Server.HasLargePages = false;
-    EXPECT_EQ(521, detail::VersionNumber(Server));
+    EXPECT_EQ(detail::VersionNumber(Server), 521);
 }
 
 TEST(WindowsVersion, FunctionsTellWhereTheVersionIsSilent) {
     TWindowsFacts Facts{};
-    EXPECT_EQ(u"Failed to load Kernel32.dll!", Message([&] { detail::VersionNumber(Facts); }));
+    EXPECT_EQ(Message([&] { detail::VersionNumber(Facts); }), u"Failed to load Kernel32.dll!");
     Facts.HasKernel = true;
-    EXPECT_EQ(u"Failed to determine the version of the OS!", Message([&] { detail::VersionNumber(Facts); }));
+    EXPECT_EQ(Message([&] { detail::VersionNumber(Facts); }), u"Failed to determine the version of the OS!");
     const std::pair<bool TWindowsFacts::*, int> Cases[] = {{&TWindowsFacts::HasBeep, 3},
                                                            {&TWindowsFacts::HasConnectNamedPipe, 14},
                                                            {&TWindowsFacts::HasDiskFreeSpaceEx, 5},
@@ -89,7 +89,7 @@ TEST(WindowsVersion, FunctionsTellWhereTheVersionIsSilent) {
                                                            {&TWindowsFacts::HasOpenThread, 11}};
     for (const auto& [Function, Expected] : Cases) {
         Facts.*Function = true;
-        EXPECT_EQ(Expected, detail::VersionNumber(Facts));
+        EXPECT_EQ(detail::VersionNumber(Facts), Expected);
     }
     EXPECT_GE(QzGetWindowsVersion(), 601);
 }
@@ -109,7 +109,7 @@ TEST(ShellFolders, AreThereAndUnknownOnesAreRefused) {
     for (const int Number : {5, 26, 28, 35, 40, 46})
         EXPECT_TRUE(platform::DirectoryExists(QzGetShellFolder(Number))) << Number;
     EXPECT_EQ(QzGetShellFolder(5), QzGetMyDocumentsFolder());
-    EXPECT_EQ(u"Invalid pidl", Message([] { QzGetShellFolder(200); }));
+    EXPECT_EQ(Message([] { QzGetShellFolder(200); }), u"Invalid pidl");
 }
 
 TEST(FileTimes, AreDatesInUtc) {
@@ -123,7 +123,7 @@ TEST(FileTimes, AreDatesInUtc) {
                               {c1970 + 19'876 * cDaySteps + 12'340'000, 45445, 1234}}) {
         const TDateTime Date = QzFileTimeToDateTime(Case.FileTime);
         EXPECT_EQ(std::pair(Case.Day, Case.MSecs), Parts(Date));
-        EXPECT_EQ(Case.FileTime, QzDateTimeToFileTime(Date));
+        EXPECT_EQ(QzDateTimeToFileTime(Date), Case.FileTime);
     }
     EXPECT_EQ(Parts(QzFileTimeToDateTime(c1970 + 10'000)), Parts(QzFileTimeToDateTime(c1970 + 19'999)));
     EXPECT_THROW(QzFileTimeToDateTime(-1), EOSError);
@@ -141,12 +141,12 @@ TEST(FileTimes, OfFilesAreLocalOnEvenSeconds) {
     for (const TDateTime Time : {QzGetFileCreated(Path), QzGetFileLastModified(Path)}) {
         EXPECT_GE(Time, Before - 2.1 * cSecond);
         EXPECT_LE(Time, After + 0.1 * cSecond);
-        EXPECT_EQ(0, Parts(Time).second % 2000);
+        EXPECT_EQ(Parts(Time).second % 2000, 0);
     }
-    EXPECT_EQ(0.0, QzGetFileCreated(Directory.Path()));
-    EXPECT_EQ(0.0, QzGetFileLastModified(Directory / u"none"));
-    EXPECT_EQ(0.0, QzGetFileLastModified(Directory / u"fil*"));
-    EXPECT_EQ(0.0, QzGetFileLastModified(Directory / u"?ile"));
+    EXPECT_EQ(QzGetFileCreated(Directory.Path()), 0.0);
+    EXPECT_EQ(QzGetFileLastModified(Directory / u"none"), 0.0);
+    EXPECT_EQ(QzGetFileLastModified(Directory / u"fil*"), 0.0);
+    EXPECT_EQ(QzGetFileLastModified(Directory / u"?ile"), 0.0);
 }
 
 TEST(FileTimes, CreationIsSetInUtc) {
@@ -177,8 +177,8 @@ TEST(FileNames, LoseWhatNoSystemTakes) {
         {u"plain", {}, u"plain"},
     };
     for (const auto& [Name, Extra, Expected] : Cases)
-        EXPECT_EQ(Expected, QzCleanupFileName(Name, Extra));
-    EXPECT_EQ(u"ab", QzCleanupFileName(std::u16string(u"a\0b", 3), {}));
+        EXPECT_EQ(QzCleanupFileName(Name, Extra), Expected);
+    EXPECT_EQ(QzCleanupFileName(std::u16string(u"a\0b", 3), {}), u"ab");
 }
 
 TEST(Accounts, UserComputerAndThreadAreKnown) {
@@ -187,10 +187,10 @@ TEST(Accounts, UserComputerAndThreadAreKnown) {
     EXPECT_FALSE(QzGetUserName().IsEmpty());
     EXPECT_EQ(QzGetUserName(), QzGetUserName(Domain));
     EXPECT_FALSE(Domain.IsEmpty());
-    EXPECT_NE(elDefault, QzGetElevationLevel());
+    EXPECT_NE(QzGetElevationLevel(), elDefault);
     std::uint32_t Other = 0;
     std::thread([&] { Other = QzGetCurrentThreadId(); }).join();
-    EXPECT_NE(0u, Other);
+    EXPECT_NE(Other, 0u);
     EXPECT_NE(QzGetCurrentThreadId(), Other);
 }
 

@@ -28,7 +28,7 @@ TEST(Charset, HasACodePageThatConverts) {
         EXPECT_EQ(detail::CodePageOfCharset(Case.Name), Case.Page) << Case.Name;
         char Byte = '\0';
         EXPECT_EQ(*Utf16ToCodePage(Case.Page, u"x", {&Byte, 1}, TComposing::Plain), 1u) << Case.Name;
-        EXPECT_EQ('x', Byte) << Case.Name;
+        EXPECT_EQ(Byte, 'x') << Case.Name;
     }
 }
 

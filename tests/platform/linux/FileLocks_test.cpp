@@ -35,13 +35,13 @@ TEST_F(FileLocks, ForeignLocksNeitherHangNorDeny) {
         const int Foreign = open(Native(Path).c_str(), O_RDWR);
         struct flock Whole {};
         Whole.l_type = Type;
-        ASSERT_EQ(0, fcntl(Foreign, F_OFD_SETLK, &Whole));
+        ASSERT_EQ(fcntl(Foreign, F_OFD_SETLK, &Whole), 0);
         for (const TFileAccess Access : {TFileAccess::Read, TFileAccess::Write, TFileAccess::ReadWrite}) {
             TFileHandle First, Second;
             EXPECT_TRUE(First.Open(Path, Access, TFileCreation::Never, {true, true}));
             EXPECT_TRUE(Second.Open(Path, Access, TFileCreation::Never, {true, true}));
         }
-        EXPECT_EQ("old", Read(Path));
+        EXPECT_EQ(Read(Path), "old");
         Write(Path, "old");
         close(Foreign);
     }
@@ -50,33 +50,33 @@ TEST_F(FileLocks, ForeignLocksNeitherHangNorDeny) {
 TEST_F(FileLocks, ALinkLeadsToADeniedFileAndIsDeniedToo) {
     Write(Path, "old");
     const std::u16string Link = Directory / u"link";
-    ASSERT_EQ(0, symlink("file", Native(Link).c_str()));
+    ASSERT_EQ(symlink("file", Native(Link).c_str()), 0);
     {
         TFileHandle Handle;
         ASSERT_TRUE(Handle.Open(Path, TFileAccess::Read, TFileCreation::Never, {.Read = true}));
         EXPECT_EQ(WriteWholeFile(Link, std::span<const std::byte>()).Code(), ETXTBSY);
-        EXPECT_EQ("old", Read(Path));
+        EXPECT_EQ(Read(Path), "old");
     }
     Write(Link, "new");
-    EXPECT_EQ("new", Read(Path));
-    ASSERT_EQ(0, unlink(Native(Path).c_str()));
+    EXPECT_EQ(Read(Path), "new");
+    ASSERT_EQ(unlink(Native(Path).c_str()), 0);
     Write(Link, "made");
-    EXPECT_EQ("made", Read(Path)) << "a link to nothing makes what it leads to";
+    EXPECT_EQ(Read(Path), "made") << "a link to nothing makes what it leads to";
 }
 
 TEST_F(FileLocks, ASavedFileKeepsItsNamesAndAttributes) {
     Write(Path, "old");
     const std::u16string Other = Directory / u"other";
-    ASSERT_EQ(0, link(Native(Path).c_str(), Native(Other).c_str()));
+    ASSERT_EQ(link(Native(Path).c_str(), Native(Other).c_str()), 0);
     Write(Path, "new");
-    EXPECT_EQ("new", Read(Other));
-    ASSERT_EQ(0, unlink(Native(Other).c_str()));
+    EXPECT_EQ(Read(Other), "new");
+    ASSERT_EQ(unlink(Native(Other).c_str()), 0);
     const bool HasAttributes = setxattr(Native(Path).c_str(), "user.note", "x", 1, 0) == 0;
-    ASSERT_EQ(0, chmod(Native(Path).c_str(), 0640));
+    ASSERT_EQ(chmod(Native(Path).c_str(), 0640), 0);
     Write(Path, "newer");
     struct stat Status;
-    ASSERT_EQ(0, stat(Native(Path).c_str(), &Status));
-    EXPECT_EQ(0640u, Status.st_mode & 07777u);
+    ASSERT_EQ(stat(Native(Path).c_str(), &Status), 0);
+    EXPECT_EQ(Status.st_mode & 07777u, 0640u);
     char Value = '\0';
     EXPECT_EQ(HasAttributes ? 1 : -1, getxattr(Native(Path).c_str(), "user.note", &Value, 1));
 }

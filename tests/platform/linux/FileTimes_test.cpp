@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <limits>
+#include <set>
 
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -48,36 +49,28 @@ TEST(FileTimesLinux, TimeThatWasSetStaysWithTheFileAndNoOther) {
 
     ASSERT_TRUE(SetFileCreated(First, cSummer + 7));
     EXPECT_EQ(cSummer + 7, CreatedOf(First));
-    ASSERT_EQ(0, rename(detail::ToNative(First).c_str(), Name.c_str()));
-    ASSERT_EQ(0, chmod(Name.c_str(), 0600));
+    ASSERT_EQ(rename(detail::ToNative(First).c_str(), Name.c_str()), 0);
+    ASSERT_EQ(chmod(Name.c_str(), 0600), 0);
     EXPECT_EQ(cSummer + 7, CreatedOf(Second));
 
     // A copy with its attributes.
     const std::string Attribute = AttributeOf(Name);
     Make(First);
     const int64_t Own = CreatedOf(First);
-    ASSERT_EQ(0,
-              setxattr(detail::ToNative(First).c_str(), cAttribute, Attribute.data(), Attribute.size(), 0));
-    EXPECT_EQ(Own, CreatedOf(First));
+    ASSERT_EQ(setxattr(detail::ToNative(First).c_str(), cAttribute, Attribute.data(), Attribute.size(), 0),
+              0);
+    EXPECT_EQ(CreatedOf(First), Own);
 
-    const std::string Bad[] = {"",
-                               "x",
-                               "1",
-                               "1 2",
-                               Attribute + ' ',
-                               Attribute + '0',
-                               '-' + Attribute,
-                               ' ' + Attribute,
-                               "99999999999999999999" + Attribute,
-                               std::string(200, '1')};
+    const std::set<std::string> Bad({"", "x", "1", "1 2", Attribute + ' ', Attribute + '0', '-' + Attribute,
+                                     ' ' + Attribute, "9999999999" + Attribute, std::string(200, '1')});
     const int64_t Born = [&] {
         removexattr(Name.c_str(), cAttribute);
         return CreatedOf(Second);
     }();
     EXPECT_LE(Before, Born);
     for (const std::string& Value : Bad) {
-        ASSERT_EQ(0, setxattr(Name.c_str(), cAttribute, Value.data(), Value.size(), 0));
-        EXPECT_EQ(Born, CreatedOf(Second)) << Value;
+        ASSERT_EQ(setxattr(Name.c_str(), cAttribute, Value.data(), Value.size(), 0), 0);
+        EXPECT_EQ(CreatedOf(Second), Born) << Value;
     }
 }
 
@@ -104,17 +97,17 @@ TEST(FileTimesLinux, TimeThatNobodyCouldReadIsRefused) {
     Make(File);
     const bool IsRoot = geteuid() == 0; // who may do all
     if (IsRoot) {
-        ASSERT_EQ(0, chown(Name.c_str(), 65534, 65534));
-        ASSERT_EQ(0, seteuid(65534));
+        ASSERT_EQ(chown(Name.c_str(), 65534, 65534), 0);
+        ASSERT_EQ(seteuid(65534), 0);
     }
     for (const mode_t Mode : {0200U, 0400U}) {
-        EXPECT_EQ(0, chmod(Name.c_str(), Mode));
+        EXPECT_EQ(chmod(Name.c_str(), Mode), 0);
         EXPECT_EQ(SetFileCreated(File, cSummer).Code(), EACCES);
     }
     if (IsRoot) {
-        ASSERT_EQ(0, seteuid(0));
+        ASSERT_EQ(seteuid(0), 0);
     }
-    EXPECT_EQ("", AttributeOf(Name));
+    EXPECT_EQ(AttributeOf(Name), "");
 }
 
 TEST(FileTimesLinux, TimesBeyondAllDatesAreTheNearest) {
@@ -123,7 +116,7 @@ TEST(FileTimesLinux, TimesBeyondAllDatesAreTheNearest) {
     const std::string Name = "/proc/self/fd/" + std::to_string(File);
     for (const int64_t Seconds : {std::numeric_limits<int64_t>::max(), std::numeric_limits<int64_t>::min()}) {
         const timespec Set[] = {{Seconds, 0}, {Seconds, 0}};
-        ASSERT_EQ(0, futimens(File, Set));
+        ASSERT_EQ(futimens(File, Set), 0);
         const TResult<TFileTimes> Times = ReadFileTimes(detail::FromNative(Name));
         ASSERT_TRUE(Times);
         EXPECT_EQ(Seconds > 0, Times->LastWrite > 9'000'000'000'000'000'000) << Times->LastWrite;

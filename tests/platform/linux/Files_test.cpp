@@ -1,11 +1,9 @@
 #include <qz/platform/Files.h>
 
 #include <cerrno>
-#include <csignal>
 #include <string>
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -28,30 +26,21 @@ std::vector<std::byte> ContentOf(std::u16string_view APath) {
 }
 
 TEST(NativeText, ConvertsBothWays) {
-    struct TCase {
-        std::string Native;
-        std::u16string Text;
-    };
-    const TCase Cases[] = {
+    const std::pair<std::string, std::u16string> Cases[] = {
         {"", u""},
         {"/tmp/\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80", u"/tmp/ä€\xD83D\xDE00"},
-        {"a\xFF"
-         "b",
-         u"a\xDCFF"
-         "b"},
+        {"a\xFFz", u"a\xDCFFz"},
         {"\xC3", u"\xDCC3"},                               // cut off
         {"\xC0\xAF", u"\xDCC0\xDCAF"},                     // overlong
         {"\xE0\x80\xAF", u"\xDCE0\xDC80\xDCAF"},           // overlong
         {"\xED\xA0\x80", u"\xDCED\xDCA0\xDC80"},           // a surrogate
         {"\xF4\x90\x80\x80", u"\xDCF4\xDC90\xDC80\xDC80"}, // beyond the last character
-        {"\xF0\x9F\x98"
-         "x",
-         u"\xDCF0\xDC9F\xDC98x"},
+        {"\xF0\x9F\x98x", u"\xDCF0\xDC9F\xDC98x"},
         {"\xF4\x8F\xBF\xBF\xED\x9F\xBF\xEE\x80\x80", u"\xDBFF\xDFFF\xD7FF\xE000"},
     };
-    for (const TCase& Case : Cases) {
-        EXPECT_EQ(detail::FromNative(Case.Native), Case.Text);
-        EXPECT_EQ(detail::ToNative(Case.Text), Case.Native);
+    for (const auto& [Native, Text] : Cases) {
+        EXPECT_EQ(detail::FromNative(Native), Text);
+        EXPECT_EQ(detail::ToNative(Text), Native);
     }
     EXPECT_EQ(detail::ToNative(u"\xD800x\xDC00"), "\xED\xA0\x80x\xED\xB0\x80");
 }
@@ -107,22 +96,6 @@ template <class TTest> int InChild(const TTest& ATest) {
     int Status = -1;
     EXPECT_EQ(waitpid(Child, &Status, 0), Child);
     return WIFEXITED(Status) ? WEXITSTATUS(Status) : -1;
-}
-
-TEST(FilesLinux, FailedWriteLeavesTheOldContent) {
-    const TTemporaryDirectory Directory;
-    const std::u16string Path = Directory / u"file";
-    ASSERT_TRUE(WriteWholeFile(Path, cOld));
-    const int Result = InChild([&] {
-        const rlimit Limit = {1000, 1000};
-        std::signal(SIGXFSZ, SIG_IGN);
-        if (setrlimit(RLIMIT_FSIZE, &Limit) != 0)
-            return 1;
-        return WriteWholeFile(Path, cNew).Code() == EFBIG ? 0 : 2;
-    });
-    EXPECT_EQ(Result, 0);
-    EXPECT_EQ(ContentOf(Path), cOld);
-    EXPECT_EQ(ListDirectory(Directory.Path())->size(), 1u);
 }
 
 // Root may do anything, so that the child becomes somebody else, who owns the directory and the locked file

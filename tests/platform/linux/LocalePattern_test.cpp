@@ -9,9 +9,7 @@ namespace {
 
 TEST(LocalePattern, HasThePlainLetters) {
     struct TCase {
-        std::u16string Unicode;
-        std::u16string Plain;
-        std::u16string Separator;
+        std::u16string Unicode, Plain, Separator;
     };
     const TCase Cases[] = {
         {u"EEEE, MMMM d, y", u"dddd, MMMM d, yyyy", u","},
@@ -36,11 +34,8 @@ TEST(LocalePattern, HasThePlainLetters) {
 
 TEST(LocalePattern, FindsCurrencyPositions) {
     struct TCase {
-        std::u16string Positive;
-        std::u16string Negative;
-        std::u16string Currency;
-        int PositiveCode;
-        int NegativeCode;
+        std::u16string Positive, Negative, Currency;
+        int PositiveCode, NegativeCode;
     };
     const TCase Cases[] = {
         {u"$1", u"($1)", u"$", 0, 0},

@@ -1,48 +1,19 @@
 #include <qz/platform/Locale.h>
 
 #include <map>
-#include <optional>
 
 #include <gtest/gtest.h>
 
-#include <qz/platform/Environment.h>
+#include "tests/support/Variables.h"
 
 namespace qz::platform {
 namespace {
 
-// Sets the variables of the user's locale, and puts back on destruction what was there.
-class TLocaleVariables {
-public:
-    explicit TLocaleVariables(const std::map<std::u16string, std::u16string>& AValues) {
-        for (const char16_t* Name : {u"LC_ALL", u"LC_TIME", u"LC_NUMERIC", u"LC_MONETARY", u"LANG"}) {
-            FOld[Name] = GetEnvironment(Name);
-            const auto Value = AValues.find(Name);
-            SetEnvironment(Name,
-                           Value == AValues.end() ? std::nullopt
-                                                  : std::optional(std::u16string_view(Value->second)));
-        }
-    }
-    ~TLocaleVariables() {
-        for (const auto& [Name, Value] : FOld)
-            SetEnvironment(Name, Value ? std::optional<std::u16string_view>(*Value) : std::nullopt);
-    }
-    TLocaleVariables(const TLocaleVariables&) = delete;
-    TLocaleVariables& operator=(const TLocaleVariables&) = delete;
-
-private:
-    std::map<std::u16string, std::optional<std::u16string>> FOld;
-};
-
 struct TCase {
     std::u16string Name;
     std::u16string Separators; // decimal, thousand, list, date, time
-    std::u16string ShortDate;
-    std::u16string ShortTime;
-    std::u16string March;
-    std::u16string Currency;
-    int Positive;
-    int Negative;
-    int Decimals;
+    std::u16string ShortDate, ShortTime, March, Currency;
+    int Positive, Negative, Decimals;
 };
 
 const TCase cCases[] = {
@@ -59,7 +30,9 @@ const TCase cCases[] = {
 
 TEST(LocaleLinux, FollowsTheEnvironment) {
     for (const TCase& Case : cCases) {
-        const TLocaleVariables Variables({{u"LC_ALL", Case.Name}, {u"LANG", u"pl_PL.UTF-8"}});
+        TVariables Variables;
+        Variables.Set(u"LC_ALL", Case.Name);
+        Variables.Set(u"LANG", u"pl_PL.UTF-8");
         const TLocale Locale = UserLocale();
         const std::u16string Separators = {Locale.DecimalSeparator, Locale.ThousandSeparator,
                                            Locale.ListSeparator, Locale.DateSeparator, Locale.TimeSeparator};
@@ -76,8 +49,13 @@ TEST(LocaleLinux, FollowsTheEnvironment) {
 }
 
 TEST(LocaleLinux, EachCategoryHasItsVariable) {
-    const TLocaleVariables Variables(
-        {{u"LC_ALL", u""}, {u"LC_TIME", u"de_DE.UTF-8"}, {u"LC_NUMERIC", u"C"}, {u"LANG", u"en_GB.UTF-8"}});
+    TVariables Variables;
+    for (const auto& [Name, Value] : std::map<std::u16string, std::u16string>{{u"LC_ALL", u""},
+                                                                              {u"LC_TIME", u"de_DE.UTF-8"},
+                                                                              {u"LC_NUMERIC", u"C"},
+                                                                              {u"LANG", u"en_GB.UTF-8"}})
+        Variables.Set(Name, Value);
+    Variables.Set(u"LC_MONETARY", std::nullopt);
     const TLocale Locale = UserLocale();
     EXPECT_EQ(Locale.LongDayNames[0], u"Sonntag");
     EXPECT_EQ(Locale.LongDateFormat, u"dddd, d. MMMM yyyy");

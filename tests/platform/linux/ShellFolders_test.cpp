@@ -40,9 +40,9 @@ TEST(UserDirectories, LinesAreReadWithCare) {
         {"", std::nullopt},
     };
     for (const TCase& Case : Cases)
-        EXPECT_EQ(Case.Expected, detail::ParseUserDirectory(Case.Text, "MUSIC", "/home/me")) << Case.Text;
-    EXPECT_EQ("/x", detail::ParseUserDirectory("XDG_MUSIC_DIR=\"$HOME/x\"", "MUSIC", "/"));
-    EXPECT_EQ("/", detail::ParseUserDirectory("XDG_MUSIC_DIR=\"$HOME\"", "MUSIC", "/"));
+        EXPECT_EQ(detail::ParseUserDirectory(Case.Text, "MUSIC", "/home/me"), Case.Expected) << Case.Text;
+    EXPECT_EQ(detail::ParseUserDirectory("XDG_MUSIC_DIR=\"$HOME/x\"", "MUSIC", "/"), "/x");
+    EXPECT_EQ(detail::ParseUserDirectory("XDG_MUSIC_DIR=\"$HOME\"", "MUSIC", "/"), "/");
 }
 
 // A home of its own, below which everything is removed at the end.
@@ -75,7 +75,7 @@ TEST_F(ShellFoldersLinux, FoldersOfTheUserAreMadeForHimAlone) {
         {40, u""},          {34, u"/.local/state"}, {7, u"/.config/autostart"}, {9, u"/.local/share/sendto"}};
     for (const auto& [Number, Path] : Cases) {
         EXPECT_EQ(Home() + Path, Folder(Number)) << Number;
-        EXPECT_EQ(0700u, ModeOf(Home() + Path)) << Number;
+        EXPECT_EQ(ModeOf(Home() + Path), 0700u) << Number;
     }
     Variables.Set(u"XDG_CONFIG_HOME", Home() + u"/cfg/");
     Variables.Set(u"XDG_DATA_HOME", u"not/whole");
@@ -126,18 +126,18 @@ TEST_F(ShellFoldersLinux, FoldersOfTheSystemAreToldAsTheyAre) {
     for (const auto& [Number, Path] : Cases)
         EXPECT_EQ(Path, Folder(Number)) << Number;
     Variables.Set(u"XDG_DATA_HOME", u"/");
-    EXPECT_EQ("/x", detail::Below(detail::BaseDirectory("XDG_DATA_HOME", "d"), "x"));
+    EXPECT_EQ(detail::Below(detail::BaseDirectory("XDG_DATA_HOME", "d"), "x"), "/x");
 }
 
 TEST_F(ShellFoldersLinux, WhatCannotBeHadIsRefused) {
     for (const int Number : {-1, 1, 3, 4, 10, 17, 18, 49, 60, 1000})
-        EXPECT_EQ(u"?", Folder(Number)) << Number;
-    EXPECT_EQ(u"?", Folder(40));
+        EXPECT_EQ(Folder(Number), u"?") << Number;
+    EXPECT_EQ(Folder(40), u"?");
     EXPECT_FALSE(DirectoryExists(Home()));
     const std::u16string Blocked = Directory / u"file";
     ASSERT_TRUE(WriteWholeFile(Blocked, std::span<const std::byte>()));
     Variables.Set(u"HOME", Blocked);
-    EXPECT_EQ(u"?", Folder(5));
+    EXPECT_EQ(Folder(5), u"?");
 }
 
 TEST_F(ShellFoldersLinux, DatabaseOfUsersKnowsTheHome) {
@@ -147,7 +147,7 @@ TEST_F(ShellFoldersLinux, DatabaseOfUsersKnowsTheHome) {
         Variables.Set(u"HOME", Value);
         EXPECT_EQ(Known, detail::HomeDirectory());
     }
-    EXPECT_EQ("", detail::UserRecord(3'999'999'999).Home);
+    EXPECT_EQ(detail::UserRecord(3'999'999'999).Home, "");
 }
 
 TEST(UserRecordLinux, DomainsAreTakenOutOfNames) {
@@ -161,8 +161,8 @@ TEST(UserRecordLinux, DomainsAreTakenOutOfNames) {
                               {u"ann@b@sales.local", u"ann@b", u"sales.local"},
                               {u"ann", u"ann", u""}}) {
         std::u16string Name = Case.Whole;
-        EXPECT_EQ(Case.Domain, detail::TakeDomain(Name));
-        EXPECT_EQ(Case.Name, Name);
+        EXPECT_EQ(detail::TakeDomain(Name), Case.Domain);
+        EXPECT_EQ(Name, Case.Name);
     }
 }
 

@@ -30,9 +30,9 @@ public:
         sockaddr_un Address{};
         Address.sun_family = AF_UNIX;
         std::memcpy(Address.sun_path, FPath.data(), FPath.size());
-        EXPECT_EQ(0, bind(FSocket, reinterpret_cast<const sockaddr*>(&Address), sizeof Address));
+        EXPECT_EQ(bind(FSocket, reinterpret_cast<const sockaddr*>(&Address), sizeof Address), 0);
         if (AType == SOCK_STREAM) {
-            EXPECT_EQ(0, listen(FSocket, 5));
+            EXPECT_EQ(listen(FSocket, 5), 0);
         }
     }
     TDaemon(const TDaemon&) = delete;
@@ -60,7 +60,7 @@ public:
         const cmsghdr* Header = CMSG_FIRSTHDR(&Message);
         if (Header == nullptr)
             return Buffer.substr(0, static_cast<size_t>(Length));
-        EXPECT_EQ(0, Length);
+        EXPECT_EQ(Length, 0);
         ++FFiles;
         int File = -1;
         std::memcpy(&File, CMSG_DATA(Header), sizeof File);
@@ -83,7 +83,7 @@ public:
 private:
     static std::string ContentOf(int AFile) {
         constexpr int cSeals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE | F_SEAL_SEAL;
-        EXPECT_EQ(cSeals, fcntl(AFile, F_GET_SEALS) & cSeals);
+        EXPECT_EQ(fcntl(AFile, F_GET_SEALS) & cSeals, cSeals);
         std::string Result(static_cast<size_t>(lseek(AFile, 0, SEEK_END)), '\0');
         EXPECT_EQ(static_cast<ssize_t>(Result.size()), pread(AFile, Result.data(), Result.size(), 0));
         close(AFile);
@@ -126,15 +126,11 @@ TEST_F(SystemLogLinux, JournalGetsFieldsOfBytes) {
         EXPECT_EQ(Message(Head + Rest + '=', "Straße \xF0\x9F\x98\x80"), Journal.Take());
     }
     const std::string Head = "PRIORITY=6\n" + Rest;
-    EXPECT_TRUE(Write(u"a\0\xD800"
-                      u"b\xDC80"s));
-    EXPECT_EQ(Message(Head + '=',
-                      "a\0\xEF\xBF\xBD"
-                      "b\xEF\xBF\xBD"s),
-              Journal.Take());
+    EXPECT_TRUE(Write(u"a\0\xD800z\xDC80"s));
+    EXPECT_EQ(Message(Head + '=', "a\0\xEF\xBF\xBDz\xEF\xBF\xBD"s), Journal.Take());
     EXPECT_TRUE(Write(u"x\nEVENT_ID=9\n"));
     EXPECT_EQ(Message(Head, "\n\x0D\0\0\0\0\0\0\0x\nEVENT_ID=9\n"s), Journal.Take());
-    EXPECT_EQ("-", Journal.Take());
+    EXPECT_EQ(Journal.Take(), "-");
 }
 
 TEST_F(SystemLogLinux, LongTextsArriveWhole) {
@@ -170,10 +166,10 @@ TEST_F(SystemLogLinux, DaemonsComeAndGo) {
     TDaemon Syslog(Path(u"syslog"), SOCK_DGRAM);
     {
         TDaemon Journal(Path(u"other"), SOCK_DGRAM);
-        ASSERT_EQ(0, rename(Path(u"other").c_str(), Path(u"journal").c_str()));
+        ASSERT_EQ(rename(Path(u"other").c_str(), Path(u"journal").c_str()), 0);
     }
     EXPECT_TRUE(Write(u"hello"));
-    EXPECT_NE("-", Syslog.Take());
+    EXPECT_NE(Syslog.Take(), "-");
 }
 
 // A program that becomes a daemon closes all, and opens descriptors of its own.
@@ -182,7 +178,7 @@ TEST_F(SystemLogLinux, DescriptorsOfTheProgramAreLeftAlone) {
         TDaemon Daemon(Path(u"syslog"), Type);
         const auto Take = [&] { return Type == SOCK_DGRAM ? Daemon.Take() : Daemon.TakeStream(); };
         std::array<int, 2> Own{};
-        ASSERT_EQ(0, socketpair(AF_UNIX, Type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, Own.data()));
+        ASSERT_EQ(socketpair(AF_UNIX, Type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, Own.data()), 0);
         const uintptr_t Other = Log.OpenSource(u"other");
         const auto Write = [&](std::u16string_view AText) {
             return Log.Write(Other, TEventType::Error, 2, AText, 0);
@@ -204,9 +200,9 @@ TEST_F(SystemLogLinux, DescriptorsOfTheProgramAreLeftAlone) {
             ASSERT_EQ(Number, dup2(Own[0], Number));
         Log.CloseSource(Other);
         char Byte = 0;
-        EXPECT_EQ(-1, recv(Own[1], &Byte, 1, 0));
+        EXPECT_EQ(recv(Own[1], &Byte, 1, 0), -1);
         for (const int Number : Free)
-            EXPECT_EQ(0, close(Number));
+            EXPECT_EQ(close(Number), 0);
         close(Own[0]);
         close(Own[1]);
     }
@@ -215,11 +211,11 @@ TEST_F(SystemLogLinux, DescriptorsOfTheProgramAreLeftAlone) {
 TEST_F(SystemLogLinux, LimitOfFilesIsNoEnd) {
     TDaemon Journal(Path(u"journal"), SOCK_DGRAM);
     rlimit Old{};
-    ASSERT_EQ(0, getrlimit(RLIMIT_FSIZE, &Old));
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &Old), 0);
     const rlimit None{0, Old.rlim_max};
-    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &None));
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &None), 0);
     const bool IsTaken = Write(std::u16string(9 << 20, u'x'));
-    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &Old));
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &Old), 0);
     EXPECT_FALSE(IsTaken);
     EXPECT_TRUE(Write(u"y"));
 }
@@ -258,7 +254,7 @@ TEST_F(SystemLogLinux, SyslogGetsLinesWithHeaders) {
         std::snprintf(Text, sizeof Text, " %02d:", static_cast<int>((Time / 3600 + 1) % 24));
         Hours.insert(Text);
     }
-    EXPECT_EQ(1u, Hours.count(Syslog.Take().substr(10, 4)));
+    EXPECT_EQ(Hours.count(Syslog.Take().substr(10, 4)), 1u);
     EXPECT_TRUE(Write(u"a\nb\0\tc\xDC00\x7F"s));
     const std::string Escaped = Syslog.Take();
     EXPECT_TRUE(std::regex_match(Escaped, Line("14", "a#012b#000\tc\xEF\xBF\xBD#177"))) << Escaped;
@@ -295,7 +291,7 @@ TEST_F(SystemLogLinux, StreamNeverTearsAMessage) {
         ++Found;
     }
     EXPECT_EQ(Count + 1, Found);
-    EXPECT_EQ("", All);
+    EXPECT_EQ(All, "");
 }
 
 } // namespace

@@ -28,12 +28,12 @@ std::u16string EventText(uint32_t AId, const char16_t* AInsert) {
 
 TEST(EventLogWindows, MessageTableHasTheTexts) {
     for (uint32_t Id = 1; Id <= 4; ++Id)
-        EXPECT_EQ(u"the whole message\r\n", EventText(Id, u"the whole message"));
-    EXPECT_EQ(u"Here is id5 success message\r\n", EventText(5, u""));
-    EXPECT_EQ(u"Here is id6 information message\r\n", EventText(6, u""));
-    EXPECT_EQ(u"Here is id5 warning message\r\n", EventText(7, u""));
-    EXPECT_EQ(u"Here is id5 error message\r\n", EventText(8, u""));
-    EXPECT_EQ(u"", EventText(9, u""));
+        EXPECT_EQ(EventText(Id, u"the whole message"), u"the whole message\r\n");
+    EXPECT_EQ(EventText(5, u""), u"Here is id5 success message\r\n");
+    EXPECT_EQ(EventText(6, u""), u"Here is id6 information message\r\n");
+    EXPECT_EQ(EventText(7, u""), u"Here is id5 warning message\r\n");
+    EXPECT_EQ(EventText(8, u""), u"Here is id5 error message\r\n");
+    EXPECT_EQ(EventText(9, u""), u"");
 }
 
 // A source of the test's own in the registry, which goes with it.
@@ -79,20 +79,20 @@ TEST(EventLogWindows, SourceIsEnteredOnce) {
     const std::string Number = std::to_string(TickCount64());
     const std::u16string Name = u"qz-test-" + std::u16string(Number.begin(), Number.end());
     const TRegisteredSource Entry(Name);
-    EXPECT_EQ(u"-", Entry.Text(u"EventMessageFile"));
+    EXPECT_EQ(Entry.Text(u"EventMessageFile"), u"-");
     SystemEventLog().EnterSource(Name, u"C:\\first.exe");
     SystemEventLog().EnterSource(Name, u"C:\\second.exe");
-    EXPECT_EQ(u"C:\\first.exe", Entry.Text(u"EventMessageFile"));
-    EXPECT_EQ(7u, Entry.Number(u"TypesSupported"));
+    EXPECT_EQ(Entry.Text(u"EventMessageFile"), u"C:\\first.exe");
+    EXPECT_EQ(Entry.Number(u"TypesSupported"), 7u);
     const TRegisteredSource Nested(Name + u"\\below");
     SystemEventLog().EnterSource(Name + u"\\below", u"C:\\first.exe");
-    EXPECT_EQ(u"-", Nested.Text(u"EventMessageFile"));
+    EXPECT_EQ(Nested.Text(u"EventMessageFile"), u"-");
 }
 
 TEST(EventLogWindows, EventsAreTaken) {
     IEventLog& Log = SystemEventLog();
     const uintptr_t Source = Log.OpenSource(u"qz-test");
-    ASSERT_NE(0u, Source);
+    ASSERT_NE(Source, 0u);
     EXPECT_TRUE(Log.Write(Source, TEventType::Information, 2, u"an event of a test", 0));
     EXPECT_TRUE(Log.Write(Source, TEventType::Error, 4, std::u16string(70'000, u'x'), 0));
     Log.CloseSource(Source);

@@ -21,8 +21,7 @@ constexpr int cSharingViolation = 32;
 TEST(FilesWindows, LongPathsGetTheirPrefix) {
     const std::u16string Long(260, u'x');
     struct TCase {
-        std::u16string Path;
-        std::u16string Expected;
+        std::u16string Path, Expected;
     };
     const TCase Cases[] = {
         {u"C:\\short", u"C:\\short"},

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include <qz/runtime/base/Set.h>
 
 namespace qz {
@@ -63,16 +61,6 @@ TEST(DynArray, AnExceptionLeavesTheArrayAsItWas) {
     }
     EXPECT_EQ(TFragile::Living, 0);
     EXPECT_THROW(TBytes().SetLength(static_cast<std::size_t>(-1)), std::length_error);
-}
-
-TEST(DynArray, HoldsObjects) {
-    TDynArray<std::string> A = {"a long enough text to be on the heap", "b"};
-    TDynArray<std::string> B = A;
-    B.SetLength(3);
-    EXPECT_EQ(B[0], A[0]);
-    EXPECT_EQ(B[2], "");
-    B = std::move(A);
-    EXPECT_EQ(B.Length(), 2u);
 }
 
 enum class TColour { Red, Green, Blue = 7, Last = 63 };

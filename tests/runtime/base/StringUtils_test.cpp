@@ -37,10 +37,8 @@ TEST(StringUtils, Trimming) {
 
 TEST(StringUtils, PositionsCountFromOne) {
     struct {
-        std::u16string_view Piece;
-        std::u16string_view Text;
-        int Offset;
-        int Expected;
+        std::u16string_view Piece, Text;
+        int Offset, Expected;
     } const Cases[] = {
         {u"=", u"a=b", 1, 2}, {u"a", u"a=b", 1, 1},  {u"b", u"a=b", 3, 3},  {u"a", u"a=b", 2, 0},
         {u"", u"abc", 1, 0},  {u"a", u"", 1, 0},     {u"a", u"a", 0, 0},    {u"a", u"a", -1, 0},
@@ -51,10 +49,21 @@ TEST(StringUtils, PositionsCountFromOne) {
             << ToUtf8(Case.Piece) << Case.Offset;
 }
 
+// Periodic pieces behind their own beginnings, so that a search has to fall back to the right place.
+TEST(StringUtils, LongPiecesAreFoundWhereThePlainSearchFindsThem) {
+    for (std::size_t Seed = 0; Seed < 256; ++Seed) {
+        std::u16string Piece;
+        while (Piece.size() < 80)
+            Piece += (Seed >> Piece.size() % 7 & 1) != 0 || Piece.size() == Seed % 80 ? u'a' : u'b';
+        const std::u16string Text =
+            Piece.substr(0, 79 - Seed % 20) + Piece.substr(0, Seed % 77) + Piece + u"b";
+        EXPECT_EQ(Pos(Piece, Text), static_cast<int>(Text.find(Piece)) + 1) << Seed;
+    }
+}
+
 TEST(StringUtils, PiecesAreCutToTheText) {
     struct {
-        int Index;
-        int Count;
+        int Index, Count;
         const char16_t* Copied;
         const char16_t* Left;
     } const Cases[] = {

@@ -184,25 +184,34 @@ TEST(UtfPaths, SequencesAtTheBordersOfWhatIsWellFormed) {
     }
 }
 
-TEST(UtfPaths, FaultsAtEveryPlaceOfAVector) {
-    const std::string cFaults[] = {"\x80",     "\xC3",         "\xE2\x82", "\xF0\x9F\x98",
-                                   "\xF0\x9F", "\xED\xA0\x80", "\xFF"};
-    const std::string cFillers[] = {"a", "\xC3\xA4", "\xE2\x82\xAC", "\xF0\x9F\x98\x80", "a\xF0\x9F\x98\x80"};
-    for (const std::string& Filler : cFillers) {
-        for (const std::string& Fault : cFaults) {
-            for (std::size_t Place = 0; Place < 140; ++Place) {
-                std::string Text;
+// Each fault at each of so many places, among fillers of each length, at the end of the text and within it.
+template <class TText, class TCheck>
+void FaultsAtEveryPlace(const std::vector<TText>& AFaults, const std::vector<TText>& AFillers,
+                        std::size_t APlaces, TCheck ACheck) {
+    for (const TText& Filler : AFillers) {
+        for (const TText& Fault : AFaults) {
+            for (std::size_t Place = 0; Place < APlaces; ++Place) {
+                TText Text;
                 while (Text.size() < Place)
                     Text += Filler;
                 Text += Fault;
-                CheckUtf8(Text);
-                while (Text.size() < 260)
+                ACheck(Text, 0);
+                while (Text.size() < APlaces + 120)
                     Text += Filler;
-                CheckUtf8(Text, Place % 32);
+                ACheck(Text, Place % 32);
             }
-            ASSERT_FALSE(HasFatalFailure());
+            ASSERT_FALSE(testing::Test::HasFatalFailure());
         }
     }
+}
+
+TEST(UtfPaths, FaultsAtEveryPlaceOfAVector) {
+    FaultsAtEveryPlace<std::string>(
+        {"\x80", "\xC3", "\xE2\x82", "\xF0\x9F\x98", "\xF0\x9F", "\xED\xA0\x80", "\xFF"},
+        {"a", "\xC3\xA4", "\xE2\x82\xAC", "\xF0\x9F\x98\x80", "a\xF0\x9F\x98\x80"}, 140, CheckUtf8);
+    FaultsAtEveryPlace<std::u16string>(
+        {{0xD83D, 0xDE00}, {0xDE00}, {0xD83D}, {0xDE00, 0xD83D}, {0xD83D, 0xD83D, 0xDE00}},
+        {u"a", u"\u00E4", u"\u20AC", u"\U0001F600"}, 70, CheckUtf16);
 }
 
 TEST(UtfPaths, MixturesOfEveryLengthAndAlignment) {
@@ -218,27 +227,6 @@ TEST(UtfPaths, MixturesOfEveryLengthAndAlignment) {
             CheckUtf32(reference::ToUtf32(Codes, cOrders[Length % 2]), Shift);
         }
         ASSERT_FALSE(HasFatalFailure());
-    }
-}
-
-TEST(UtfPaths, SurrogatesAtEveryPlaceOfAVector) {
-    const std::u16string cPieces[] = {
-        {0xD83D, 0xDE00}, {0xDE00}, {0xD83D}, {0xDE00, 0xD83D}, {0xD83D, 0xD83D, 0xDE00}};
-    const std::u16string cFillers[] = {u"a", u"\u00E4", u"\u20AC", u"\U0001F600"};
-    for (const std::u16string& Filler : cFillers) {
-        for (const std::u16string& Piece : cPieces) {
-            for (std::size_t Place = 0; Place < 70; ++Place) {
-                std::u16string Text;
-                while (Text.size() < Place)
-                    Text += Filler;
-                Text += Piece;
-                CheckUtf16(Text);
-                while (Text.size() < 130)
-                    Text += Filler;
-                CheckUtf16(Text, Place % 16);
-            }
-            ASSERT_FALSE(HasFatalFailure());
-        }
     }
 }
 

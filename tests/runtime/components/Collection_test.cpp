@@ -1,22 +1,17 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/Trace.h"
 #include <qz/runtime/components/Collection.h>
 #include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
 namespace {
 
-UnicodeString GTrace;
-
-UnicodeString TakeTrace() {
-    return std::exchange(GTrace, UnicodeString());
-}
-
 class TLabel : public TCollectionItem {
     QZ_CLASS(TLabel, TCollectionItem)
 public:
     explicit TLabel(TCollection* ACollection) : TCollectionItem(ACollection) {}
-    ~TLabel() override { GTrace += u"freed(" + FName + u") "; }
+    ~TLabel() override { Note("freed", FName); }
     void SetName(const UnicodeString& AName) {
         FName = AName;
         Changed(false);

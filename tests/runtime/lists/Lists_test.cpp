@@ -2,6 +2,8 @@
 
 #include <thread>
 
+#include "tests/support/Message.h"
+#include "tests/support/Trace.h"
 #include <qz/runtime/lists/Lists.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
@@ -79,8 +81,6 @@ TEST(List, TakesItsOwnItemsAndGivesMemoryBack) {
     List.SetCapacity(20);
     EXPECT_EQ(List.Capacity(), 20);
 }
-
-UnicodeString GTrace;
 
 class TTraced : public TObject {
     QZ_CLASS(TTraced, TObject)
@@ -245,12 +245,7 @@ TEST(Dictionary, KeepsOneValueForAKey) {
     EXPECT_EQ(Ages[u"Zoe"], 31);
     Ages.AddOrSetValue(u"Zoe", 33);
     Ages.AddOrSetValue(u"Adam", 5);
-    try {
-        Ages[u"Eve"] = 1;
-        ADD_FAILURE();
-    } catch (const EListError& E) {
-        EXPECT_EQ(E.Message(), "Item not found");
-    }
+    EXPECT_EQ(Raised([&] { Ages[u"Eve"] = 1; }), "EListError: Item not found");
     int Age = -1;
     EXPECT_FALSE(Ages.TryGetValue(u"Eve", Age));
     EXPECT_EQ(Age, 0);

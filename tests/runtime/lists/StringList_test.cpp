@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/Lines.h"
+#include "tests/support/Message.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TemporaryDirectory.h"
+#include "tests/support/Trace.h"
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/lists/StringList.h>
 #include <qz/runtime/objects/Describe.h>
@@ -19,15 +23,6 @@ void Fill(TStringList& AList, const TLines& ALines) {
     AList.Clear();
     for (const UnicodeString& Each : ALines)
         AList.Add(Each);
-}
-
-template <class TError> UnicodeString MessageOf(const std::function<void()>& AWork) {
-    try {
-        AWork();
-    } catch (const TError& E) {
-        return E.Message();
-    }
-    return u"nothing raised";
 }
 
 TEST(StringList, CommaTextIsWrittenAndRead) {
@@ -58,32 +53,19 @@ TEST(StringList, CommaTextIsWrittenAndRead) {
 }
 
 TEST(StringList, CommaTextReadsWhatPeopleWrite) {
-    const struct {
-        const char16_t* Text;
-        TLines Lines;
-    } Cases[] = {
-        {u" a , b ", {u"a", u"b"}},
-        {u"a b,c", {u"a", u"b", u"c"}},
-        {u"\"a b\"c", {u"a b", u"c"}},
-        {u"\"open", {u"open"}},
-        {u"\"", {u""}},
-        {u",,", {u"", u"", u""}},
-        {u"a\"b", {u"a\"b"}},
-        {u"  ", {}},
-        {u"a, ", {u"a"}},
-    };
-    for (const auto& Case : Cases) {
+    for (const auto& Case :
+         Rows(u" a , b  => a|b|", u"a b,c => a|b|c|", u"\"a b\"c => a b|c|", u"\"open => open|", u"\" => |",
+              u",, => |||", u"a\"b => a\"b|", u"   => ", u"a,  => a|")) {
         TStringList List;
-        List.SetCommaText(Case.Text);
-        EXPECT_EQ(LinesOf(List), Case.Lines) << UnicodeString(Case.Text);
+        List.SetCommaText(Case[0]);
+        EXPECT_EQ(Lines(List), Case[1]) << Case[0];
     }
 }
 
 TEST(StringList, DelimitedTextFollowsItsSettings) {
     const TLines Lines = {u"a b", u"", u"c;d", u"it's", u" "};
     const struct {
-        char16_t Delimiter;
-        char16_t Quote;
+        char16_t Delimiter, Quote;
         bool Strict;
         const char16_t* Text;
     } Cases[] = {
@@ -127,8 +109,7 @@ TEST(StringList, SortedKeepsItsOrderAndDuplicatesRule) {
     EXPECT_EQ(List.Add(u"FIG"), 1);
     EXPECT_EQ(List.Count(), 3);
     List.SetDuplicates(dupError);
-    EXPECT_EQ(MessageOf<EStringListError>([&] { List.Add(u"apple"); }),
-              "String list does not allow duplicates");
+    EXPECT_EQ(Raised([&] { List.Add(u"apple"); }), "EStringListError: String list does not allow duplicates");
     List.SetDuplicates(dupAccept);
     List.Add(u"FIG");
     int Place = -1;
@@ -139,7 +120,7 @@ TEST(StringList, SortedKeepsItsOrderAndDuplicatesRule) {
     for (const std::function<void()>& Forbidden :
          std::vector<std::function<void()>>{[&] { List.Insert(0, u"x"); }, [&] { List.SetString(0, u"x"); },
                                             [&] { List.Exchange(0, 1); }, [&] { List.Move(0, 1); }})
-        EXPECT_EQ(MessageOf<EStringListError>(Forbidden), "Operation not allowed on sorted list");
+        EXPECT_EQ(Raised(Forbidden), "EStringListError: Operation not allowed on sorted list");
     List.SetUseLocale(false);
     List.SetCaseSensitive(true);
     EXPECT_EQ(LinesOf(List), (TLines{u"Apple", u"FIG", u"fig", u"pear"}));
@@ -149,8 +130,7 @@ TEST(StringList, SortedKeepsItsOrderAndDuplicatesRule) {
 TEST(StringList, IndexesAreChecked) {
     TStringList List;
     List.Add(u"a");
-    EXPECT_EQ(MessageOf<EStringListError>([&] { static_cast<void>(List[1]); }),
-              "List index out of bounds (1)");
+    EXPECT_EQ(Raised([&] { static_cast<void>(List[1]); }), "EStringListError: List index out of bounds (1)");
     for (const std::function<void()>& Wrong : std::vector<std::function<void()>>{
              [&] { List.Delete(-1); }, [&] { List.Insert(2, u"x"); }, [&] { List.SetString(1, u"x"); },
              [&] { List.Move(0, 1); }, [&] { List.SetObject(1, nullptr); }, [&] { List.Exchange(0, 1); }})
@@ -217,13 +197,11 @@ TEST(StringList, TellsChangesOnceWithinAnUpdate) {
     EXPECT_EQ(Trace, "-+"); // the update that failed has ended
 }
 
-UnicodeString GEnded;
-
 class TTag : public TObject {
     QZ_CLASS(TTag, TObject)
 public:
     explicit TTag(char16_t AName, bool ARefuses = false) : FName(AName), FRefuses(ARefuses) {}
-    ~TTag() override { GEnded += FName; }
+    ~TTag() override { GTrace += FName; }
     void BeforeDestruction() override {
         if (std::exchange(FRefuses, false))
             throw EInvalidOperation(u"not now");
@@ -236,7 +214,7 @@ private:
 constinit const TClassRec TTag::ClassRec = DescribeClass<TTag>(u"TTag", {.Unit = u"Test"});
 
 TEST(StringList, OwnedObjectsEndWithTheirLines) {
-    GEnded.Clear();
+    GTrace.Clear();
     const std::unique_ptr<TTag> Stubborn = TTag::Create(u's', true);
     {
         TStringList List(true);
@@ -245,21 +223,21 @@ TEST(StringList, OwnedObjectsEndWithTheirLines) {
         EXPECT_EQ(List.IndexOfObject(List.Objects(2)), 2);
         List.Move(0, 3);
         List.Exchange(0, 1);
-        EXPECT_EQ(GEnded, "");
+        EXPECT_EQ(GTrace, "");
         List.SetObject(0, nullptr); // that of c
         List.Delete(2);             // d
-        EXPECT_EQ(GEnded, "cd");
+        EXPECT_EQ(GTrace, "cd");
         List.InsertObject(1, u"s", Stubborn.get());
         EXPECT_THROW(List.Clear(), EInvalidOperation);
         EXPECT_EQ(List.Count(), 0);
-        EXPECT_EQ(GEnded, "cdab");
+        EXPECT_EQ(GTrace, "cdab");
         List.AddObject(u"z", TTag::Create(u'z').release());
     }
-    EXPECT_EQ(GEnded, "cdabz");
+    EXPECT_EQ(GTrace, "cdabz");
 }
 
 TEST(StringList, OwnedObjectsEndAlsoWhenAListenerRaises) {
-    GEnded.Clear();
+    GTrace.Clear();
     TStringList List(true);
     for (const char16_t Name : {u'a', u'b', u'c'})
         List.AddObject(Name, TTag::Create(Name).release());
@@ -267,7 +245,7 @@ TEST(StringList, OwnedObjectsEndAlsoWhenAListenerRaises) {
     EXPECT_THROW(List.Delete(1), EInvalidOperation);
     EXPECT_THROW(List.SetObject(1, nullptr), EInvalidOperation);
     EXPECT_THROW(List.Clear(), EInvalidOperation);
-    EXPECT_EQ(GEnded, "bca");
+    EXPECT_EQ(GTrace, "bca");
 }
 
 TEST(StringList, AssignTakesOrderAndRulesOfTheSource) {

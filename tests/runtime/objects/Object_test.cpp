@@ -2,6 +2,8 @@
 
 #include <thread>
 
+#include "tests/support/Message.h"
+#include "tests/support/Trace.h"
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/objects/InterfacedObject.h>
@@ -9,12 +11,6 @@
 
 namespace qz {
 namespace {
-
-UnicodeString GTrace;
-
-UnicodeString TakeTrace() {
-    return std::exchange(GTrace, UnicodeString());
-}
 
 class INamed : public IInterface {
 public:
@@ -38,7 +34,7 @@ public:
 
 protected:
     explicit TNamed(const UnicodeString& AName) : FName(AName) {}
-    ~TNamed() override { GTrace += u"freed(" + FName + u") "; }
+    ~TNamed() override { Note("freed", FName); }
 
 private:
     UnicodeString FName;
@@ -188,19 +184,8 @@ TEST_F(Objects, PersistentsAssignOrNameBoth) {
     TTarget Target;
     Target.Assign(&Source);
     EXPECT_EQ(Target.FValue, 7);
-    const struct {
-        TPersistent* Source;
-        const char* Message;
-    } Cases[] = {{&Target, "Cannot assign a TTarget to a TSource"},
-                 {nullptr, "Cannot assign a nil to a TSource"}};
-    for (const auto& Case : Cases) {
-        try {
-            Source.Assign(Case.Source);
-            ADD_FAILURE() << Case.Message;
-        } catch (const EConvertError& E) {
-            EXPECT_EQ(E.Message(), Case.Message);
-        }
-    }
+    EXPECT_EQ(Raised([&] { Source.Assign(&Target); }), "EConvertError: Cannot assign a TTarget to a TSource");
+    EXPECT_EQ(Raised([&] { Source.Assign(nullptr); }), "EConvertError: Cannot assign a nil to a TSource");
     TSource Part;
     Part.FOwner = &Source;
     EXPECT_EQ(Part.GetNamePath(), "TSource.TSource");

@@ -102,17 +102,6 @@ TEST(TypeInfo, TellsKindAndNameOfBasicTypes) {
     EXPECT_NE(TypeInfo<TDate>(), TypeInfo<TTime>());
 }
 
-TEST(TypeInfo, ReadsAndWritesOrdinalsByTheirSign) {
-    const std::int8_t Small = -3;
-    const std::uint16_t Wide = 65535;
-    EXPECT_EQ(ReadOrdinal(TypeInfo<std::int8_t>(), &Small), -3);
-    EXPECT_EQ(ReadOrdinal(TypeInfo<std::uint16_t>(), &Wide), 65535);
-    TLevel Level = TLevel::lvBelow;
-    EXPECT_EQ(ReadOrdinal(TypeInfo<TLevel>(), &Level), -2);
-    WriteOrdinal(TypeInfo<TLevel>(), &Level, 300);
-    EXPECT_EQ(Level, TLevel::lvAbove);
-}
-
 TEST(TypeInfo, FieldsStandWhereTheRecordHasThem) {
     const TPoint Point{'t', 2.5, u"p"};
     const auto* Raw = reinterpret_cast<const std::byte*>(&Point);

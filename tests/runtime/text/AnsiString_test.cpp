@@ -41,9 +41,9 @@ TEST(AnsiString, RawBytesKeepTheirPage) {
 TEST(AnsiString, AnEmptyTextThatGrowsIsInThePageOfItsType) {
     UTF8String Text;
     Text.SetLength(2);
-    EXPECT_EQ(65001, Text.CodePage());
+    EXPECT_EQ(Text.CodePage(), 65001);
     std::memcpy(Text.UniqueData(), "\xC3\xA4", 2);
-    EXPECT_EQ(u"ä", Text.ToUnicode());
+    EXPECT_EQ(Text.ToUnicode(), u"ä");
 }
 
 TEST(AnsiString, RefusesAPageThatTheSystemDoesNotKnow) {

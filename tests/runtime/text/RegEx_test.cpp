@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Message.h"
+
 namespace qz {
 namespace {
 
@@ -16,63 +18,56 @@ TEST(RegEx, FindsMatchesAndTheirGroups) {
     const TRegEx Pair(u"(\\w+)=(\\d*)(x)?");
     const TMatch Match = Pair.Match(u"; größe=42;");
     EXPECT_TRUE(Match.Success());
-    EXPECT_EQ(3, Match.Index());
-    EXPECT_EQ(8, Match.Length());
-    EXPECT_EQ(u"größe", Match.Group(1));
-    EXPECT_EQ(u"42", Match.Group(2));
+    EXPECT_EQ(Match.Index(), 3);
+    EXPECT_EQ(Match.Length(), 8);
+    EXPECT_EQ(Match.Group(1), u"größe");
+    EXPECT_EQ(Match.Group(2), u"42");
     EXPECT_FALSE(Match.Place(3).Success);
-    EXPECT_EQ(u"", Match.Group(4));
+    EXPECT_EQ(Match.Group(4), u"");
     EXPECT_FALSE(Pair.Match(u"none").Success());
-    EXPECT_EQ(u"b=", Pair.Match(u"a=1 b=", 5).Value());
+    EXPECT_EQ(Pair.Match(u"a=1 b=", 5).Value(), u"b=");
     EXPECT_FALSE(Pair.Match(u"a=1", 99).Success());
     EXPECT_TRUE(Pair.IsMatch(u"a="));
 }
 
 TEST(RegEx, GoesOnBehindEmptyMatches) {
-    EXPECT_EQ(u"1: 2: 3: ", Found(TRegEx(u""), u"ab"));
-    EXPECT_EQ(u"1:aa 3: 4:a 5: ", Found(TRegEx(u"a*"), u"aaba"));
-    EXPECT_EQ(u"1: 3: ", Found(TRegEx(u""), u"\U0001F600")) << "not within a pair";
-    EXPECT_EQ(u"1:aa 4:a ", Found(TRegEx(u"a*", {roNotEmpty}), u"aaba"));
-    EXPECT_EQ(u"2:a ",
-              Found(TRegEx(u"a"),
-                    u"\xD800"
-                    u"a"))
-        << "lone surrogates are passed over";
+    EXPECT_EQ(Found(TRegEx(u""), u"ab"), u"1: 2: 3: ");
+    EXPECT_EQ(Found(TRegEx(u"a*"), u"aaba"), u"1:aa 3: 4:a 5: ");
+    EXPECT_EQ(Found(TRegEx(u""), u"\U0001F600"), u"1: 3: ") << "not within a pair";
+    EXPECT_EQ(Found(TRegEx(u"a*", {roNotEmpty}), u"aaba"), u"1:aa 4:a ");
+    EXPECT_EQ(Found(TRegEx(u"z"), u"\xD800z"), u"2:z ") << "lone surrogates are passed over";
 }
 
 TEST(RegEx, KeepsToItsOptions) {
     EXPECT_TRUE(TRegEx(u"ä", {roIgnoreCase}).IsMatch(u"Ä"));
-    EXPECT_EQ(u"1:a 3:b ", Found(TRegEx(u"^.$", {roMultiLine}), u"a\nb"));
+    EXPECT_EQ(Found(TRegEx(u"^.$", {roMultiLine}), u"a\nb"), u"1:a 3:b ");
     EXPECT_TRUE(TRegEx(u"a.b", {roSingleLine}).IsMatch(u"a\nb"));
     EXPECT_FALSE(TRegEx(u"a.b").IsMatch(u"a\nb"));
     EXPECT_TRUE(TRegEx(u"a b # c", {roIgnorePatternSpace}).IsMatch(u"ab"));
-    EXPECT_EQ(1, TRegEx(u"(a)", {roExplicitCapture}).Match(u"a").GroupCount());
+    EXPECT_EQ(TRegEx(u"(a)", {roExplicitCapture}).Match(u"a").GroupCount(), 1);
 }
 
 TEST(RegEx, ReplacesAndSplits) {
-    EXPECT_EQ(u"b-a $ d-c", TRegEx(u"(\\w)(\\w)").Replace(u"ab $ cd", u"$2-$1"));
-    EXPECT_EQ(u"x", TRegEx(u"a+").Replace(u"aaa", u"x"));
-    EXPECT_EQ(u"[a0 $ ${ $x]", TRegEx(u"(?<name>a)(b)?").Replace(u"a", u"[${name}${2}0 $$ ${ $x]"));
-    EXPECT_EQ(u"1", TRegEx(u"(a|b)*c?").Replace(UnicodeString(20000, u'a') + u"1", u""));
+    EXPECT_EQ(TRegEx(u"(\\w)(\\w)").Replace(u"ab $ cd", u"$2-$1"), u"b-a $ d-c");
+    EXPECT_EQ(TRegEx(u"a+").Replace(u"aaa", u"x"), u"x");
+    EXPECT_EQ(TRegEx(u"(?<name>a)(b)?").Replace(u"a", u"[${name}${2}0 $$ ${ $x]"), u"[a0 $ ${ $x]");
+    EXPECT_EQ(TRegEx(u"(a|b)*c?").Replace(UnicodeString(20000, u'a') + u"1", u""), u"1");
     EXPECT_TRUE(TRegEx(u"(?:(a)|b)*$").IsMatch(UnicodeString(20000, u'a')));
     UnicodeString Pairs = u"a";
     while (Pairs.size() < 9000)
         Pairs += u"\U0001F600";
-    EXPECT_EQ(9002, TRegEx(u"x").Match(Pairs + u"x").Index()) << "over stretches that pairs lie across";
+    EXPECT_EQ(TRegEx(u"x").Match(Pairs + u"x").Index(), 9002) << "over stretches that pairs lie across";
     const UnicodeString Long(1000, u'a');
-    EXPECT_EQ(UnicodeString(5000, u'b'), TRegEx(u"a").Replace(Long, u"bbbbb"));
+    EXPECT_EQ(TRegEx(u"a").Replace(Long, u"bbbbb"), UnicodeString(5000, u'b'));
     const auto Pieces = TRegEx(u",").Split(u"a,,b,");
-    EXPECT_EQ((TDynArray<UnicodeString>{u"a", u"", u"b", u""}), Pieces);
+    EXPECT_EQ(Pieces, (TDynArray<UnicodeString>{u"a", u"", u"b", u""}));
     EXPECT_TRUE(TRegEx(u"^" + TRegEx::Escape(u"a.b*[c]{2}\\") + u"$").IsMatch(u"a.b*[c]{2}\\"));
 }
 
 TEST(RegEx, RaisesForBadAndHostilePatterns) {
-    try {
-        TRegEx(u"ab(c");
-        FAIL();
-    } catch (const ERegularExpressionError& Error) {
-        EXPECT_EQ(u"Error in regular expression at offset 4: missing closing parenthesis", Error.Message());
-    }
+    EXPECT_EQ(Raised([] { TRegEx(u"ab(c"); }),
+              u"ERegularExpressionError: Error in regular expression at offset 4: "
+              u"missing closing parenthesis");
     EXPECT_THROW(TRegEx(u"\\C"), ERegularExpressionError) << "it would tear pairs";
     EXPECT_THROW(TRegEx(u"(a+)+$").IsMatch(UnicodeString(40, u'a') + u"b"), ERegularExpressionError);
     EXPECT_THROW(TRegEx(u"a").Replace(u"a", u"${b}"), ERegularExpressionError);
@@ -84,13 +79,13 @@ TEST(RegEx, RaisesForBadAndHostilePatterns) {
 // However long the text, and however slow the pattern is at first.
 TEST(RegEx, SearchesAsOneSearch) {
     const UnicodeString Quoted = u"a\"" + UnicodeString(3000, u'x') + u"\"";
-    EXPECT_EQ(0u, TRegEx(u"\"[^\"]*\"(*SKIP)(*F)|x").Matches(Quoted).size());
+    EXPECT_EQ(TRegEx(u"\"[^\"]*\"(*SKIP)(*F)|x").Matches(Quoted).size(), 0u);
     const UnicodeString Far = UnicodeString(2049, u'a') + u"x" + UnicodeString(3000, u'a');
     EXPECT_FALSE(TRegEx(u"\\Gx").IsMatch(Far));
     EXPECT_FALSE(TRegEx(u"a(*COMMIT)z|x").IsMatch(Far));
     EXPECT_FALSE(TRegEx(u"^x").IsMatch(Far));
     EXPECT_FALSE(TRegEx(u"a++[xy]").IsMatch(UnicodeString(1'000'000, u'a')));
-    EXPECT_EQ(20001, TRegEx(u"(?:a|aa){12}[!?]|x").Match(UnicodeString(20000, u'a') + u"x").Index());
+    EXPECT_EQ(TRegEx(u"(?:a|aa){12}[!?]|x").Match(UnicodeString(20000, u'a') + u"x").Index(), 20001);
 }
 
 } // namespace

@@ -51,25 +51,17 @@ TEST(ZoneTable, RulesHoldInTheirYears) {
         std::int64_t Utc;
         int Hours;
     };
-    for (const TCase& Case :
-         std::initializer_list<TCase>{{MomentOf(2006, 4, 2, 7, 59), -6},
-                                      {MomentOf(2006, 4, 2, 8), -5},
-                                      {MomentOf(2006, 10, 29, 6, 59), -5},
-                                      {MomentOf(2006, 10, 29, 7), -6},
-                                      {MomentOf(2007, 1, 1, 4, 59), -6},
-                                      {MomentOf(2007, 1, 1, 5), -5},
-                                      {MomentOf(2007, 3, 11, 6, 59), -5},
-                                      {MomentOf(2007, 3, 11, 7), -4},
-                                      {MomentOf(2007, 11, 4, 5, 59), -4},
-                                      {MomentOf(2007, 11, 4, 6), -5},
-                                      // The first rule holds before, the last one for ever.
-                                      {MomentOf(1, 4, 1, 7, 59), -6},
-                                      {MomentOf(1, 4, 1, 8), -5},
-                                      {MomentOf(1601, 4, 1, 8), -5},
-                                      {MomentOf(9999, 3, 14, 6, 59), -5},
-                                      {MomentOf(9999, 3, 14, 7), -4},
-                                      {MomentOf(2407, 3, 11, 7), -4},
-                                      {MomentOf(2407, 11, 4, 6), -5}})
+    // The first rule holds before 2000 as well, the last one for ever.
+    const TCase Cases[] = {{MomentOf(2006, 4, 2, 7, 59), -6},   {MomentOf(2006, 4, 2, 8), -5},
+                           {MomentOf(2006, 10, 29, 6, 59), -5}, {MomentOf(2006, 10, 29, 7), -6},
+                           {MomentOf(2007, 1, 1, 4, 59), -6},   {MomentOf(2007, 1, 1, 5), -5},
+                           {MomentOf(2007, 3, 11, 6, 59), -5},  {MomentOf(2007, 3, 11, 7), -4},
+                           {MomentOf(2007, 11, 4, 5, 59), -4},  {MomentOf(2007, 11, 4, 6), -5},
+                           {MomentOf(1, 4, 1, 7, 59), -6},      {MomentOf(1, 4, 1, 8), -5},
+                           {MomentOf(1601, 4, 1, 8), -5},       {MomentOf(9999, 3, 14, 6, 59), -5},
+                           {MomentOf(9999, 3, 14, 7), -4},      {MomentOf(2407, 3, 11, 7), -4},
+                           {MomentOf(2407, 11, 4, 6), -5}};
+    for (const TCase& Case : Cases)
         EXPECT_EQ(Table.AtUtc(Case.Utc).Offset, Case.Hours * cHour) << Case.Utc / detail::cMSecsPerDay;
 }
 
@@ -112,18 +104,18 @@ TEST(ZoneTable, DaysOfTheYear) {
                         .Day = static_cast<std::uint16_t>(ADay),
                         .MSecs = static_cast<std::int32_t>(2 * cHour)};
     };
-    for (const TCase& Case :
-         std::initializer_list<TCase>{{Weekday(2, 5, 1), 2024, 2, 25, 1},
-                                      {Weekday(2, 4, 1), 2024, 2, 25, 1},
-                                      {Weekday(9, 1, -3), 2024, 8, 31, 21},
-                                      {Weekday(12, 5, 26), 2023, 12, 31, 26},
-                                      {Weekday(1, 0, 0), 2024, 1, 7, 0},
-                                      {At(TZoneDayForm::zdJulian, 59), 2024, 2, 28, 2},
-                                      {At(TZoneDayForm::zdJulian, 60), 2024, 3, 1, 2},
-                                      {At(TZoneDayForm::zdJulian, 60), 2023, 3, 1, 2},
-                                      {At(TZoneDayForm::zdDayOfYear, 59), 2024, 2, 29, 2},
-                                      {At(TZoneDayForm::zdDayOfYear, 365), 2023, 12, 32, 2},
-                                      {At(TZoneDayForm::zdDate, 31, 4), 2023, 4, 30, 2}})
+    const TCase Cases[] = {{Weekday(2, 5, 1), 2024, 2, 25, 1},
+                           {Weekday(2, 4, 1), 2024, 2, 25, 1},
+                           {Weekday(9, 1, -3), 2024, 8, 31, 21},
+                           {Weekday(12, 5, 26), 2023, 12, 31, 26},
+                           {Weekday(1, 0, 0), 2024, 1, 7, 0},
+                           {At(TZoneDayForm::zdJulian, 59), 2024, 2, 28, 2},
+                           {At(TZoneDayForm::zdJulian, 60), 2024, 3, 1, 2},
+                           {At(TZoneDayForm::zdJulian, 60), 2023, 3, 1, 2},
+                           {At(TZoneDayForm::zdDayOfYear, 59), 2024, 2, 29, 2},
+                           {At(TZoneDayForm::zdDayOfYear, 365), 2023, 12, 32, 2},
+                           {At(TZoneDayForm::zdDate, 31, 4), 2023, 4, 30, 2}};
+    for (const TCase& Case : Cases)
         EXPECT_EQ(detail::MomentInYear(Case.Day, Case.Year),
                   MomentOf(Case.Year, Case.Month, Case.DayOfMonth, Case.Hour))
             << Case.Year << ' ' << Case.Month;

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "tests/support/Message.h"
+#include "tests/support/SampleVariants.h"
 #include "tests/support/Trace.h"
 #include <qz/runtime/base/Set.h>
 #include <qz/runtime/objects/Describe.h>
@@ -231,81 +232,52 @@ TEST_F(Value, CastsWhereNothingIsLost) {
     constexpr double cTwo63 = 9223372036854775808.0;
     RawByteString Unreadable("x");
     Unreadable.RelabelCodePage(60001);
-    const struct TRow {
-        TValue From;
-        PTypeInfo To;
-        UnicodeString Text; // of the result; "-" when there is none
-    } cRows[] = {
-        {255, TypeInfo<std::uint8_t>(), u"255"},
-        {256, TypeInfo<std::uint8_t>(), u"-"},
-        {-1, TypeInfo<std::uint64_t>(), u"-"},
-        {-129, TypeInfo<std::int8_t>(), u"-"},
-        {UINT64_MAX, TypeInfo<std::int64_t>(), u"-"},
-        {UINT64_MAX, TypeInfo<double>(), u"-"},
-        {1ull << 63, TypeInfo<double>(), FloatToStr(cTwo63)},
-        {INT64_MAX, TypeInfo<double>(), u"-"},
-        {INT64_MIN, TypeInfo<float>(), FloatToStr(-cTwo63)},
-        {16777217, TypeInfo<float>(), u"-"},
-        {16777217, TypeInfo<double>(), u"16777217"},
-        {0.1, TypeInfo<float>(), u"-"},
-        {0.5, TypeInfo<float>(), u"0.5"},
-        {1e300, TypeInfo<float>(), u"-"},
-        {std::nan(""), TypeInfo<float>(), u"NAN"},
-        {-INFINITY, TypeInfo<float>(), u"-INF"},
-        {TDateTime(1.5), TypeInfo<double>(), u"1.5"},
-        {2.5, TypeInfo<Currency>(), u"2.5"},
-        {0.00001, TypeInfo<Currency>(), u"-"},
-        {Currency(0.1), TypeInfo<double>(), u"0.1"},
-        {Currency::FromUnits(9000000000000000001), TypeInfo<double>(), u"-"},
-        {std::nan(""), TypeInfo<Currency>(), u"-"},
-        {2.0, TypeInfo<int>(), u"-"},
-        {'A', TypeInfo<int>(), u"-"},
-        {1, TypeInfo<bool>(), u"-"},
-        {u"t", TypeInfo<AnsiString>(), u"t"},
-        {UTF8String(u"ö"), TypeInfo<WideString>(), u"ö"},
-        {u"ö", TypeInfo<RawByteString>(), u"ö"},
-        {u"ö", TypeInfo<char16_t>(), u"ö"},
-        {u"ö", TypeInfo<char>(), u"ö"},
-        {u"Ж", TypeInfo<char>(), u"-"},
-        {'\xE4', TypeInfo<UnicodeString>(), u"ä"},
-        {Unreadable, TypeInfo<UnicodeString>(), u"-"},
-        {Unreadable, TypeInfo<char>(), u"-"},
-        {Unreadable, TypeInfo<Variant>(), u"-"},
-        {u"xy", TypeInfo<char16_t>(), u"-"},
-        {'x', TypeInfo<UnicodeString>(), u"x"},
-        {u"5", TypeInfo<int>(), u"-"},
-        {&Plain, TypeInfo<TObject>(), Address(u"TPlain", &Plain)},
-        {&Plain, TypeInfo<TCircle>(), u"-"},
-        {cAsObject, TypeInfo<TCircle>(), Address(u"TCircle", Object)},
-        {cAsObject, TypeInfo<IShape>(), Address(u"IShape", static_cast<IShape*>(Round.Get()))},
-        {&Plain, TypeInfo<IShape>(), u"-"},
-        {cNullObject, TypeInfo<TPlain>(), u"(TPlain @ 0000000000000000)"},
-        {cNullObject, TypeInfo<IShape>(), u"(IShape @ 0000000000000000)"},
-        {Round, TypeInfo<IShape>(), Address(u"IShape", Round.Get())},
-        {Round, TypeInfo<IOther>(), Address(u"IOther", As<IOther>(Round).Get())},
-        {As<IOther>(Round), TypeInfo<IRound>(), Address(u"IRound", Round.Get())},
-        {Round, TypeInfo<TCircle>(), u"-"},
-        {ClassOf<EAbort>(), TypeInfo<ExceptionClass>(), u"EAbort"},
-        {ClassOf<TPlain>(), TypeInfo<ExceptionClass>(), u"-"},
-        {ExceptionClass::Of<EAbort>(), TypeInfo<TClass>(), u"EAbort"},
-        {TSize::szSmall, TypeInfo<TSide>(), u"-"},
-        {TSide::sdTop, TypeInfo<Variant>(), u"2"},
-        {Variant(5), TypeInfo<int>(), u"-"},
-        {{}, TypeInfo<TPlain>(), u"(TPlain @ 0000000000000000)"},
-        {{}, TypeInfo<Variant>(), u""},
-        {{}, TypeInfo<int>(), u"-"},
-        {TGUID(), TypeInfo<TNumbers>(), u"-"},
-        {5, nullptr, u"-"},
-    };
-    for (const TRow& Row : cRows) {
-        const auto* Name = Row.To == nullptr ? u"nothing" : Row.To->Name.data();
-        EXPECT_EQ(Got([&] { return Row.From.Cast(Row.To); }), Row.Text)
-            << Row.From.ToString() << " to " << ToUtf8(Name);
+    const auto CheckOne = [](const TValue& AFrom, PTypeInfo ATo, const UnicodeString& AText) {
+        const UnicodeString Name =
+            AFrom.ToString() + u" to " + UnicodeString(ATo == nullptr ? u"nothing" : ATo->Name);
+        EXPECT_EQ(Got([&] { return AFrom.Cast(ATo); }), AText) << Name;
         TValue Result = u"as before";
-        EXPECT_EQ(Row.From.TryCast(Row.To, Result), Row.Text != u"-")
-            << Row.From.ToString() << " to " << ToUtf8(Name);
-        EXPECT_EQ(Result.TypeInfo(), Row.Text == u"-" ? TypeInfo<UnicodeString>() : Row.To);
-    }
+        EXPECT_EQ(AFrom.TryCast(ATo, Result), AText != u"-") << Name;
+        EXPECT_EQ(Result.TypeInfo(), AText == u"-" ? TypeInfo<UnicodeString>() : ATo) << Name;
+    };
+    // The type, then values, each with the text of the result; "-" when there is none.
+    const auto Check = [&](PTypeInfo ATo, const auto&... ACases) {
+        const TValue Cases[] = {TValue(ACases)...};
+        for (std::size_t I = 0; I < std::size(Cases); I += 2)
+            CheckOne(Cases[I], ATo, Cases[I + 1].AsString());
+    };
+    Check(TypeInfo<std::uint8_t>(), 255, u"255", 256, u"-");
+    Check(TypeInfo<std::uint64_t>(), -1, u"-");
+    Check(TypeInfo<std::int8_t>(), -129, u"-");
+    Check(TypeInfo<std::int64_t>(), UINT64_MAX, u"-");
+    Check(TypeInfo<double>(), UINT64_MAX, u"-", 1ull << 63, FloatToStr(cTwo63), INT64_MAX, u"-", 16777217,
+          u"16777217", TDateTime(1.5), u"1.5", Currency(0.1), u"0.1",
+          Currency::FromUnits(9000000000000000001), u"-");
+    Check(TypeInfo<float>(), INT64_MIN, FloatToStr(-cTwo63), 16777217, u"-", 0.1, u"-", 0.5, u"0.5", 1e300,
+          u"-", std::nan(""), u"NAN", -INFINITY, u"-INF");
+    Check(TypeInfo<Currency>(), 2.5, u"2.5", 0.00001, u"-", std::nan(""), u"-");
+    Check(TypeInfo<int>(), 2.0, u"-", 'A', u"-", u"5", u"-", Variant(5), u"-", TValue(), u"-");
+    Check(TypeInfo<bool>(), 1, u"-");
+    Check(TypeInfo<AnsiString>(), u"t", u"t");
+    Check(TypeInfo<WideString>(), UTF8String(u"ö"), u"ö");
+    Check(TypeInfo<RawByteString>(), u"ö", u"ö");
+    Check(TypeInfo<char16_t>(), u"ö", u"ö", u"xy", u"-");
+    Check(TypeInfo<char>(), u"ö", u"ö", u"Ж", u"-", Unreadable, u"-");
+    Check(TypeInfo<UnicodeString>(), '\xE4', u"ä", Unreadable, u"-", 'x', u"x");
+    Check(TypeInfo<Variant>(), Unreadable, u"-", TSide::sdTop, u"2", TValue(), u"");
+    Check(TypeInfo<TObject>(), &Plain, Address(u"TPlain", &Plain));
+    Check(TypeInfo<TCircle>(), &Plain, u"-", cAsObject, Address(u"TCircle", Object), Round, u"-");
+    Check(TypeInfo<IShape>(), cAsObject, Address(u"IShape", static_cast<IShape*>(Round.Get())), &Plain, u"-",
+          cNullObject, u"(IShape @ 0000000000000000)", Round, Address(u"IShape", Round.Get()));
+    Check(TypeInfo<TPlain>(), cNullObject, u"(TPlain @ 0000000000000000)", TValue(),
+          u"(TPlain @ 0000000000000000)");
+    Check(TypeInfo<IOther>(), Round, Address(u"IOther", As<IOther>(Round).Get()));
+    Check(TypeInfo<IRound>(), As<IOther>(Round), Address(u"IRound", Round.Get()));
+    Check(TypeInfo<ExceptionClass>(), ClassOf<EAbort>(), u"EAbort", ClassOf<TPlain>(), u"-");
+    Check(TypeInfo<TClass>(), ExceptionClass::Of<EAbort>(), u"EAbort");
+    Check(TypeInfo<TSide>(), TSize::szSmall, u"-");
+    Check(TypeInfo<TNumbers>(), TGUID(), u"-");
+    Check(nullptr, 5, u"-");
     EXPECT_EQ(Message([] { TValue(300).AsType<std::uint8_t>(); }),
               u"A value of type Integer cannot be taken as Byte");
 }
@@ -339,30 +311,14 @@ TEST_F(Value, GivesTypedValues) {
 }
 
 TEST_F(Value, TellsWhatIsEmpty) {
-    const struct TRow {
-        TValue Value;
-        bool IsEmpty;
-    } cRows[] = {
-        {{}, true},
-        {0, false},
-        {u"", false},
-        {Variant(), false},
-        {TNumbers(), true},
-        {TNumbers{0}, false},
-        {TEvent(), true},
-        {TEvent([] {}), false},
-        {TClass(), true},
-        {ClassOf<TPlain>(), false},
-        {TGUID(), false},
-        {THolder(), false},
-        {Ref<IShape>(), true},
-        {TSides(), false},
-        {static_cast<TObject*>(nullptr), true},
-        {ExceptionClass(), true},
-        {static_cast<void*>(&GRefuse), false},
+    const auto Check = [](bool AExpected, const auto&... AValues) {
+        for (const TValue& Each : {TValue(AValues)...})
+            EXPECT_EQ(Each.IsEmpty(), AExpected) << Each.ToString();
     };
-    for (const TRow& Row : cRows)
-        EXPECT_EQ(Row.Value.IsEmpty(), Row.IsEmpty) << Row.Value.ToString();
+    Check(true, TValue(), TNumbers(), TEvent(), TClass(), Ref<IShape>(), static_cast<TObject*>(nullptr),
+          ExceptionClass());
+    Check(false, 0, u"", Variant(), TNumbers{0}, TEvent([] {}), ClassOf<TPlain>(), TGUID(), THolder(),
+          TSides(), static_cast<void*>(&GRefuse));
 }
 
 TEST_F(Value, KnowsItsType) {
@@ -473,26 +429,9 @@ TEST_F(Value, MakesValuesFromRawData) {
 
 TEST_F(Value, AVariantKeepsItsTypeOnTheWayThroughAValue) {
     TPlain Plain;
-    const Variant cVariants[] = {std::int8_t{-1},
-                                 std::int16_t{-2},
-                                 3,
-                                 std::uint8_t{4},
-                                 std::uint16_t{5},
-                                 6u,
-                                 INT64_MIN,
-                                 UINT64_MAX,
-                                 1.5f,
-                                 -0.0,
-                                 true,
-                                 u"wide",
-                                 WideString(u"w"),
-                                 AnsiString("a"),
-                                 TDateTime(2.5),
-                                 Currency(1.25),
-                                 Variant(),
-                                 Variant::Null(),
-                                 Ref<IInterface>(TCircle::Create())};
-    for (const Variant& Each : cVariants) {
+    std::vector<Variant> Variants = SampleVariants();
+    Variants.insert(Variants.end(), {Variant(), Variant::Null(), Ref<IInterface>(TCircle::Create())});
+    for (const Variant& Each : Variants) {
         const Variant Back = TValue::FromVariant(Each).AsVariant();
         EXPECT_EQ(VarType(Back), VarType(Each));
         EXPECT_TRUE(Back == Each) << VarType(Each);

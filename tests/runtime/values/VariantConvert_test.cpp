@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Rows.h"
+#include <qz/runtime/lists/StringList.h>
 #include <qz/runtime/objects/InterfacedObject.h>
 #include <qz/runtime/text/FloatText.h>
 #include <qz/runtime/text/NumberText.h>
@@ -41,83 +43,82 @@ private:
 struct TRow {
     Variant Value;
     TVarType Type;
-    const char16_t *Text, *Integer, *Int64, *UInt64, *Real, *Bool, *Currency, *Decimal;
+    const char16_t* Text;
+    const char16_t*
+        Numbers; // integer, int64, uint64, real, bool, currency, decimal; one for all where they are the same
 };
 
-std::vector<TRow> Rows() {
+std::vector<TRow> Samples() {
     const TSysDecimal Third(333, true, 3);
     return {
-        {{}, varEmpty, u"", u"0", u"0", u"0", u"0", u"0", u"0", u"0"},
-        {Variant::Null(), varNull, u"", u"cast", u"cast", u"cast", u"cast", u"cast", u"cast", u"cast"},
-        {std::int16_t{-7}, varSmallint, u"-7", u"-7", u"-7", u"over", u"-7", u"-1", u"-7", u"-7"},
-        {INT32_MIN, varInteger, u"-2147483648", u"-2147483648", u"-2147483648", u"over", u"-2147483648",
-         u"-1", u"-2147483648", u"-2147483648"},
-        {0.5F, varSingle, u"0.5", u"0", u"0", u"0", u"0.5", u"-1", u"0.5", u"0.5"},
-        {1.5, varDouble, u"1.5", u"2", u"2", u"2", u"1.5", u"-1", u"1.5", u"1.5"},
-        {2147483647.5, varDouble, u"2147483647.5", u"over", u"2147483648", u"2147483648", u"2147483647.5",
-         u"-1", u"2147483647.5", u"2147483647.5"},
-        {-1E30, varDouble, u"-1E30", u"over", u"over", u"over", u"-1E30", u"-1", u"over", u"over"},
-        {cInf, varDouble, u"INF", u"over", u"over", u"over", u"INF", u"-1", u"over", u"over"},
-        {std::nan(""), varDouble, u"NAN", u"over", u"over", u"over", u"NAN", u"-1", u"over", u"over"},
-        {9223372036854775808.0, varDouble, u"9.22337203685478E18", u"over", u"over", u"9223372036854775808",
-         u"9.22337203685478E18", u"-1", u"over", u"9223372036854775808"},
-        {Currency(-2.5), varCurrency, u"-2.5", u"-2", u"-2", u"over", u"-2.5", u"-1", u"-2.5", u"-2.5000"},
-        {TDateTime(1.25), varDate, u"12/31/1899 06:00:00", u"1", u"1", u"1", u"1.25", u"-1", u"1.25",
-         u"1.25"},
-        {TDateTime(1E9), varDate, u"cast", u"1000000000", u"1000000000", u"1000000000", u"1000000000", u"-1",
-         u"1000000000", u"1000000000"},
-        {WideString(u"0"), varOleStr, u"0", u"0", u"0", u"0", u"0", u"0", u"0", u"0"},
-        {Variant::Error(-2147352572), varError, u"-2147352572", u"-2147352572", u"-2147352572", u"over",
-         u"-2147352572", u"-1", u"-2147352572", u"-2147352572"},
-        {true, varBoolean, u"True", u"-1", u"-1", u"over", u"-1", u"-1", u"-1", u"-1"},
-        {false, varBoolean, u"False", u"0", u"0", u"0", u"0", u"0", u"0", u"0"},
-        {Third, varDecimal, u"-0.333", u"0", u"0", u"0", u"-0.333", u"-1", u"-0.333", u"-0.333"},
-        {std::int8_t{-128}, varShortInt, u"-128", u"-128", u"-128", u"over", u"-128", u"-1", u"-128",
-         u"-128"},
-        {std::uint8_t{255}, varByte, u"255", u"255", u"255", u"255", u"255", u"-1", u"255", u"255"},
-        {std::uint16_t{65535}, varWord, u"65535", u"65535", u"65535", u"65535", u"65535", u"-1", u"65535",
-         u"65535"},
-        {UINT32_MAX, varLongWord, u"4294967295", u"over", u"4294967295", u"4294967295", u"4294967295", u"-1",
-         u"4294967295", u"4294967295"},
-        {INT64_MIN, varInt64, u"-9223372036854775808", u"over", u"-9223372036854775808", u"over",
-         u"-9.22337203685478E18", u"-1", u"over", u"-9223372036854775808"},
-        {UINT64_MAX, varUInt64, u"18446744073709551615", u"over", u"over", u"18446744073709551615",
-         u"1.84467440737096E19", u"-1", u"over", u"18446744073709551615"},
-        {AnsiString(" 12"), varString, u" 12", u"12", u"12", u"12", u"12", u"-1", u"12", u"12"},
-        {u"$FFFFFFFF", varUString, u"$FFFFFFFF", u"-1", u"4294967295", u"4294967295", u"cast", u"cast",
-         u"cast", u"cast"},
-        {u"2.5", varUString, u"2.5", u"2", u"2", u"2", u"2.5", u"-1", u"2.5", u"2.5"},
-        {u"1e3", varUString, u"1e3", u"1000", u"1000", u"1000", u"1000", u"-1", u"1000", u"1000"},
-        {u"18446744073709551615", varUString, u"18446744073709551615", u"over", u"over",
-         u"18446744073709551615", u"1.84467440737096E19", u"-1", u"over", u"18446744073709551615"},
-        {u"True", varUString, u"True", u"cast", u"cast", u"cast", u"cast", u"-1", u"cast", u"cast"},
-        {u"", varUString, u"", u"cast", u"cast", u"cast", u"cast", u"cast", u"cast", u"cast"},
-        {static_cast<TObject*>(nullptr), varObject, u"cast", u"cast", u"cast", u"cast", u"cast", u"cast",
-         u"cast", u"cast"},
-        {Variant::Dispatch(nullptr), varDispatch, u"cast", u"cast", u"cast", u"cast", u"cast", u"cast",
-         u"cast", u"cast"},
-        {Ref<IInterface>(), varUnknown, u"cast", u"cast", u"cast", u"cast", u"cast", u"cast", u"cast",
-         u"cast"},
-        {VarArrayOf({1}), varArray | varVariant, u"cast", u"cast", u"cast", u"cast", u"cast", u"cast",
-         u"cast", u"cast"},
+        {{}, varEmpty, u"", u"0"},
+        {Variant::Null(), varNull, u"", u"cast"},
+        {std::int16_t{-7}, varSmallint, u"-7", u"-7 -7 over -7 -1 -7 -7"},
+        {INT32_MIN, varInteger, u"-2147483648",
+         u"-2147483648 -2147483648 over -2147483648 -1 -2147483648 -2147483648"},
+        {0.5F, varSingle, u"0.5", u"0 0 0 0.5 -1 0.5 0.5"},
+        {1.5, varDouble, u"1.5", u"2 2 2 1.5 -1 1.5 1.5"},
+        {2147483647.5, varDouble, u"2147483647.5",
+         u"over 2147483648 2147483648 2147483647.5 -1 2147483647.5 2147483647.5"},
+        {-1E30, varDouble, u"-1E30", u"over over over -1E30 -1 over over"},
+        {cInf, varDouble, u"INF", u"over over over INF -1 over over"},
+        {std::nan(""), varDouble, u"NAN", u"over over over NAN -1 over over"},
+        {9223372036854775808.0, varDouble, u"9.22337203685478E18",
+         u"over over 9223372036854775808 9.22337203685478E18 -1 over 9223372036854775808"},
+        {Currency(-2.5), varCurrency, u"-2.5", u"-2 -2 over -2.5 -1 -2.5 -2.5000"},
+        {TDateTime(1.25), varDate, u"12/31/1899 06:00:00", u"1 1 1 1.25 -1 1.25 1.25"},
+        {TDateTime(1E9), varDate, u"cast",
+         u"1000000000 1000000000 1000000000 1000000000 -1 1000000000 1000000000"},
+        {WideString(u"0"), varOleStr, u"0", u"0"},
+        {Variant::Error(-2147352572), varError, u"-2147352572",
+         u"-2147352572 -2147352572 over -2147352572 -1 -2147352572 -2147352572"},
+        {true, varBoolean, u"True", u"-1 -1 over -1 -1 -1 -1"},
+        {false, varBoolean, u"False", u"0"},
+        {Third, varDecimal, u"-0.333", u"0 0 0 -0.333 -1 -0.333 -0.333"},
+        {std::int8_t{-128}, varShortInt, u"-128", u"-128 -128 over -128 -1 -128 -128"},
+        {std::uint8_t{255}, varByte, u"255", u"255 255 255 255 -1 255 255"},
+        {std::uint16_t{65535}, varWord, u"65535", u"65535 65535 65535 65535 -1 65535 65535"},
+        {UINT32_MAX, varLongWord, u"4294967295",
+         u"over 4294967295 4294967295 4294967295 -1 4294967295 4294967295"},
+        {INT64_MIN, varInt64, u"-9223372036854775808",
+         u"over -9223372036854775808 over -9.22337203685478E18 -1 over -9223372036854775808"},
+        {UINT64_MAX, varUInt64, u"18446744073709551615",
+         u"over over 18446744073709551615 1.84467440737096E19 -1 over 18446744073709551615"},
+        {AnsiString(" 12"), varString, u" 12", u"12 12 12 12 -1 12 12"},
+        {u"$FFFFFFFF", varUString, u"$FFFFFFFF", u"-1 4294967295 4294967295 cast cast cast cast"},
+        {u"2.5", varUString, u"2.5", u"2 2 2 2.5 -1 2.5 2.5"},
+        {u"1e3", varUString, u"1e3", u"1000 1000 1000 1000 -1 1000 1000"},
+        {u"18446744073709551615", varUString, u"18446744073709551615",
+         u"over over 18446744073709551615 1.84467440737096E19 -1 over 18446744073709551615"},
+        {u"True", varUString, u"True", u"cast cast cast cast -1 cast cast"},
+        {u"", varUString, u"", u"cast"},
+        {static_cast<TObject*>(nullptr), varObject, u"cast", u"cast"},
+        {Variant::Dispatch(nullptr), varDispatch, u"cast", u"cast"},
+        {Ref<IInterface>(), varUnknown, u"cast", u"cast"},
+        {VarArrayOf({1}), varArray | varVariant, u"cast", u"cast"},
     };
 }
 
 TEST_F(VariantConvert, EachTypeToEachValue) {
-    for (const TRow& Row : Rows()) {
+    for (const TRow& Row : Samples()) {
         const Variant& V = Row.Value;
         SCOPED_TRACE(testing::Message() << VarType(V) << " " << UnicodeString(Row.Text));
         EXPECT_EQ(VarType(V), Row.Type);
         EXPECT_EQ(Outcome([&] { return VarToStr(V); }), Row.Text);
         EXPECT_EQ(Outcome([&] { return VarToWStr(V); }), Row.Text);
         EXPECT_EQ(Outcome([&] { return VarToLStr(V).ToUnicode(); }), Row.Text);
-        EXPECT_EQ(Outcome([&] { return IntToStr(VarToInteger(V)); }), Row.Integer);
-        EXPECT_EQ(Outcome([&] { return IntToStr(VarToInt64(V)); }), Row.Int64);
-        EXPECT_EQ(Outcome([&] { return IntToStr(VarToUInt64(V)); }), Row.UInt64);
-        EXPECT_EQ(Outcome([&] { return FloatToStr(VarToReal(V)); }), Row.Real);
-        EXPECT_EQ(Outcome([&] { return BoolToStr(VarToBool(V)); }), Row.Bool);
-        EXPECT_EQ(Outcome([&] { return CurrToStr(VarToCurrency(V)); }), Row.Currency);
-        EXPECT_EQ(Outcome([&] { return DecimalToStr(VarToDecimal(V)); }), Row.Decimal);
+        const UnicodeString Numbers[] = {Outcome([&] { return IntToStr(VarToInteger(V)); }),
+                                         Outcome([&] { return IntToStr(VarToInt64(V)); }),
+                                         Outcome([&] { return IntToStr(VarToUInt64(V)); }),
+                                         Outcome([&] { return FloatToStr(VarToReal(V)); }),
+                                         Outcome([&] { return BoolToStr(VarToBool(V)); }),
+                                         Outcome([&] { return CurrToStr(VarToCurrency(V)); }),
+                                         Outcome([&] { return DecimalToStr(VarToDecimal(V)); })};
+        TStringList Expected;
+        Expected.SetDelimiter(u' ');
+        Expected.SetDelimitedText(Row.Numbers);
+        for (int I = 0; I < 7; ++I)
+            EXPECT_EQ(Numbers[I], Expected[Expected.Count() == 1 ? 0 : I]) << "conversion " << I;
     }
 }
 
@@ -125,7 +126,7 @@ TEST_F(VariantConvert, AsTypeGivesTheTypeOrRaises) {
     constexpr TVarType cTypes[] = {varSmallint, varInteger,  varSingle,  varDouble,  varCurrency, varDate,
                                    varOleStr,   varError,    varBoolean, varDecimal, varByte,     varWord,
                                    varShortInt, varLongWord, varInt64,   varUInt64,  varString,   varUString};
-    for (const TRow& Row : Rows()) {
+    for (const TRow& Row : Samples()) {
         for (const TVarType Type : cTypes) {
             const UnicodeString Result =
                 Outcome([&] { return IntToStr(VarType(VarAsType(Row.Value, Type))); });
@@ -166,70 +167,46 @@ TEST_F(VariantConvert, Kinds) {
 TEST_F(VariantConvert, Order) {
     TInterfacedObject* const Object = TInterfacedObject::Create();
     const Ref<IInterface> Interface = Object;
-    const struct {
-        Variant Left, Right;
-        TVariantRelationship Relation;
-    } cCases[] = {
-        {32768, 32767, vrGreaterThan},
-        {-1, UINT64_MAX, vrLessThan},
-        {INT64_MIN, 9223372036854775808U, vrLessThan},
-        {true, 0, vrLessThan},
-        {u"a", u"B", vrGreaterThan},
-        {AnsiString("abc"), WideString(u"abc"), vrEqual},
-        {Variant(), 1, vrLessThan},
-        {Variant(), u"a", vrLessThan},
-        {Variant::Null(), 1, vrNotEqual},
-        {std::nan(""), 1, vrNotEqual},
-        {Currency(0.1), u"0.1", vrEqual},
-        {Currency(0.1), 0.1, vrEqual},
-        {Currency::FromUnits(INT64_MAX), INT64_MAX, vrLessThan},
-        {9007199254740993, u"9007199254740992", vrGreaterThan},
-        {TSysDecimal(150, false, 2), TSysDecimal(15, false, 1), vrEqual},
-        {TSysDecimal(151, true, 2), TSysDecimal(15, true, 1), vrLessThan},
-        {TDateTime(2.5), u"01/01/1900 12:00:00", vrEqual},
-        {TDateTime(2.5), 2.25, vrGreaterThan},
-        {Variant::Error(5), Variant::Error(5), vrEqual},
-        {Interface, Variant::Dispatch(Interface), vrEqual},
-        {Interface, Ref<IInterface>(), vrNotEqual},
-        {Object, Object, vrEqual},
-        {Object, u"text", vrNotEqual},
+    const auto Check = [](TVariantRelationship ARelation, const auto&... AValues) {
+        const Variant Values[] = {Variant(AValues)...}; // by pairs
+        for (std::size_t I = 0; I < std::size(Values); I += 2) {
+            SCOPED_TRACE(testing::Message()
+                         << "relation " << static_cast<int>(ARelation) << ", pair " << I / 2);
+            EXPECT_EQ(VarCompareValue(Values[I], Values[I + 1]), ARelation);
+            EXPECT_EQ(Values[I] == Values[I + 1], ARelation == vrEqual);
+            EXPECT_EQ(Values[I + 1] > Values[I], ARelation == vrLessThan);
+            EXPECT_EQ(Values[I + 1] < Values[I], ARelation == vrGreaterThan);
+        }
     };
-    for (std::size_t I = 0; I < std::size(cCases); ++I) {
-        const auto& [Left, Right, Relation] = cCases[I];
-        EXPECT_EQ(VarCompareValue(Left, Right), Relation) << I;
-        EXPECT_EQ(Left == Right, Relation == vrEqual) << I;
-        EXPECT_EQ(Right > Left, Relation == vrLessThan) << I;
-        EXPECT_EQ(Right < Left, Relation == vrGreaterThan) << I;
-    }
+    Check(vrGreaterThan, 32768, 32767, u"a", u"B", 9007199254740993, u"9007199254740992", TDateTime(2.5),
+          2.25);
+    Check(vrLessThan, -1, UINT64_MAX, INT64_MIN, 9223372036854775808U, true, 0, Variant(), 1, Variant(), u"a",
+          Currency::FromUnits(INT64_MAX), INT64_MAX, TSysDecimal(151, true, 2), TSysDecimal(15, true, 1));
+    Check(vrEqual, AnsiString("abc"), WideString(u"abc"), Currency(0.1), u"0.1", Currency(0.1), 0.1,
+          TSysDecimal(150, false, 2), TSysDecimal(15, false, 1), TDateTime(2.5), u"01/01/1900 12:00:00",
+          Variant::Error(5), Variant::Error(5), Interface, Variant::Dispatch(Interface), Object, Object);
+    Check(vrNotEqual, Variant::Null(), 1, std::nan(""), 1, Interface, Ref<IInterface>(), Object, u"text");
     EXPECT_THROW(static_cast<void>(Variant(1) < Variant(u"one")), EVariantTypeCastError);
     EXPECT_THROW(static_cast<void>(VarArrayOf({1}) < Variant(1)), EVariantInvalidOpError);
 }
 
 TEST(SysDecimal, TextAndRounding) {
     const TFormatSettings& Neutral = TFormatSettings::Neutral();
-    const std::pair<const char16_t*, const char16_t*> cTexts[] = {
-        {u" -1.50 ", u"-1.50"},
-        {u"79228162514264337593543950335", u"79228162514264337593543950335"},
-        {u"79228162514264337593543950336", nullptr},
-        {u"0.0000000000000000000000000001", u"0.0000000000000000000000000001"},
-        {u"0.00000000000000000000000000005", u"0.0000000000000000000000000000"},
-        {u"0.000000000000000000000000000051", u"0.0000000000000000000000000001"},
-        {u"7.92281625142643375935439503359", u"7.922816251426433759354395034"},
-        {u"7922816251426433759354395033.59", u"7922816251426433759354395034"},
-        {u".5", u"0.5"},
-        {u"-0", u"0"},
-        {u".", nullptr},
-        {u"1.2.3", nullptr},
-        {u"1e3", nullptr},
-        {u"", nullptr},
-    };
-    for (const auto& [Text, Expected] : cTexts) {
+    for (const auto& Case :
+         Rows(u" -1.50  => -1.50", u"79228162514264337593543950335 => 79228162514264337593543950335",
+              u"0.0000000000000000000000000001 => 0.0000000000000000000000000001",
+              u"0.00000000000000000000000000005 => 0.0000000000000000000000000000",
+              u"0.000000000000000000000000000051 => 0.0000000000000000000000000001",
+              u"7.92281625142643375935439503359 => 7.922816251426433759354395034",
+              u"7922816251426433759354395033.59 => 7922816251426433759354395034", u".5 => 0.5", u"-0 => 0")) {
         TSysDecimal Value;
-        ASSERT_EQ(TryStrToDecimal(Text, Value, Neutral), Expected != nullptr) << UnicodeString(Text);
-        if (Expected != nullptr) {
-            EXPECT_EQ(DecimalToStr(Value, Neutral), Expected);
-            EXPECT_EQ(Value.ToDouble(), StrToFloat(Expected, Neutral));
-        }
+        ASSERT_TRUE(TryStrToDecimal(Case[0], Value, Neutral)) << Case[0];
+        EXPECT_EQ(DecimalToStr(Value, Neutral), Case[1]);
+        EXPECT_EQ(Value.ToDouble(), StrToFloat(Case[1], Neutral));
+    }
+    for (const char16_t* Bad : {u"79228162514264337593543950336", u".", u"1.2.3", u"1e3", u""}) {
+        TSysDecimal Value;
+        EXPECT_FALSE(TryStrToDecimal(Bad, Value, Neutral)) << ToUtf8(Bad);
     }
 }
 
@@ -258,24 +235,24 @@ TEST(SysDecimal, FromDoublesAndIntoCurrency) {
 
 // Amounts beyond the 53 bits of a float, and numbers that a float would not tell from their neighbours.
 TEST_F(VariantConvert, LosesNoDigitsOnTheWay) {
-    EXPECT_EQ(7719181370051520000, Currency(771918137005152.0).Units());
-    EXPECT_EQ(9223372036854775000, VarToCurrency(922337203685477.5).Units());
-    EXPECT_EQ(968283918692.1809, Currency::FromUnits(9682839186921809).ToDouble());
+    EXPECT_EQ(Currency(771918137005152.0).Units(), 7719181370051520000);
+    EXPECT_EQ(VarToCurrency(922337203685477.5).Units(), 9223372036854775000);
+    EXPECT_EQ(Currency::FromUnits(9682839186921809).ToDouble(), 968283918692.1809);
     EXPECT_THROW(Currency(922337203685477.6), ERangeError);
     EXPECT_THROW(Currency(std::ldexp(1.0, 63) / 10000), ERangeError);
-    EXPECT_EQ(std::numeric_limits<std::uint64_t>::max(), VarToUInt64(u"$FFFFFFFFFFFFFFFF"));
-    EXPECT_EQ(-1, VarToInt64(u"$FFFFFFFFFFFFFFFF"));
-    EXPECT_EQ(9007199254740993, VarToInt64(u"9007199254740993.0"));
-    EXPECT_EQ(std::numeric_limits<std::int64_t>::max(), VarToInt64(u"9223372036854775807.0"));
-    EXPECT_EQ(2, VarToInteger(u"2.5"));
-    EXPECT_EQ(u"0.0000000000000000000000000001",
-              DecimalToStr(TSysDecimal(1, false, 200), TFormatSettings::Neutral()));
-    EXPECT_EQ(28, VarToDecimal(TSysDecimal(1, false, 200)).Scale);
+    EXPECT_EQ(VarToUInt64(u"$FFFFFFFFFFFFFFFF"), std::numeric_limits<std::uint64_t>::max());
+    EXPECT_EQ(VarToInt64(u"$FFFFFFFFFFFFFFFF"), -1);
+    EXPECT_EQ(VarToInt64(u"9007199254740993.0"), 9007199254740993);
+    EXPECT_EQ(VarToInt64(u"9223372036854775807.0"), std::numeric_limits<std::int64_t>::max());
+    EXPECT_EQ(VarToInteger(u"2.5"), 2);
+    EXPECT_EQ(DecimalToStr(TSysDecimal(1, false, 200), TFormatSettings::Neutral()),
+              u"0.0000000000000000000000000001");
+    EXPECT_EQ(VarToDecimal(TSysDecimal(1, false, 200)).Scale, 28);
     EXPECT_TRUE(TSysDecimal(0, true) == TSysDecimal(0, false));
-    EXPECT_EQ(std::numeric_limits<float>::infinity(), VarToReal(std::numeric_limits<float>::infinity()));
+    EXPECT_EQ(VarToReal(std::numeric_limits<float>::infinity()), std::numeric_limits<float>::infinity());
     EXPECT_TRUE(Variant(true) == Variant(u"true"));
     EXPECT_FALSE(Variant(false) == Variant(u"1"));
-    EXPECT_EQ(nullptr, VarToInterface(Variant::Dispatch(nullptr)).Get());
+    EXPECT_EQ(VarToInterface(Variant::Dispatch(nullptr)).Get(), nullptr);
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/SampleVariants.h"
 #include <qz/runtime/objects/InterfacedObject.h>
 #include <qz/runtime/values/VariantArray.h>
 #include <qz/runtime/values/VariantConvert.h>
@@ -110,27 +111,7 @@ TEST(VariantArray, RefusesBoundsWithoutTakingMemory) {
 }
 
 TEST(VariantArray, PacksElementsOfEachType) {
-    const Variant cValues[] = {std::int16_t{-2},
-                               -3,
-                               2.5F,
-                               3.5,
-                               Currency(4.5),
-                               TDateTime(5.5),
-                               WideString(u"w"),
-                               true,
-                               u"u",
-                               INT8_MIN,
-                               UINT8_MAX,
-                               UINT16_MAX,
-                               UINT32_MAX,
-                               INT64_MIN,
-                               UINT64_MAX,
-                               AnsiString("a"),
-                               Variant::Error(-9),
-                               TSysDecimal(79, true, 28)};
-    for (const Variant& Value : cValues) {
-        const TVarType Type =
-            VarType(Value) == varInteger && VarToInteger(Value) == INT8_MIN ? varShortInt : VarType(Value);
+    const auto Check = [](const Variant& Value, TVarType Type) {
         Variant Array = VarArrayCreate({1, 2, 1, 3}, Type);
         VarArrayPut(Array, Value, {2, 3});
         const Variant Copy = Array;
@@ -139,7 +120,10 @@ TEST(VariantArray, PacksElementsOfEachType) {
         EXPECT_EQ(VarType(VarArrayGet(Copy, {2, 3})), Type);
         EXPECT_TRUE(VarArrayGet(Copy, {2, 3}) == Value) << Type;
         EXPECT_TRUE(VarArrayGet(Array, {2, 3}) == VarAsType({}, Type)) << Type;
-    }
+    };
+    for (const Variant& Value : SampleVariants())
+        Check(Value, VarType(Value));
+    Check(INT8_MIN, varShortInt);
     Variant Grid = VarArrayCreate({0, 2, 10, 12}, varByte);
     VarArrayPut(Grid, 7, {1, 11});
     EXPECT_EQ(VarArrayData<std::uint8_t>(Grid).size(), 9U);

@@ -16,15 +16,16 @@ TEST(LocalZoneLinux, RulesOfTheYear) {
         const char* Zone;
         int StandardMonth, StandardHour, DaylightMonth, DaylightHour, Bias;
     };
+    const TCase Cases[] = {{"Europe/Berlin", 10, 3, 3, 2, -60},
+                           {"CET-1CEST,M3.5.0,M10.5.0/3", 10, 3, 3, 2, -60},
+                           {"America/New_York", 11, 2, 3, 2, -60},
+                           {"Australia/Lord_Howe", 4, 2, 10, 2, -30},
+                           {"AAA-2BBB-4,J32/0,J300/24", 10, 0, 2, 0, -120},
+                           {"Europe/Dublin", 3, 1, 10, 2, 60},
+                           {"Asia/Tokyo", 0, 0, 0, 0, 0},
+                           {"<+0545>-5:45", 0, 0, 0, 0, 0}};
     const TZoneOfTheEnvironment Keep("UTC0");
-    for (const TCase& Case : std::initializer_list<TCase>{{"Europe/Berlin", 10, 3, 3, 2, -60},
-                                                          {"CET-1CEST,M3.5.0,M10.5.0/3", 10, 3, 3, 2, -60},
-                                                          {"America/New_York", 11, 2, 3, 2, -60},
-                                                          {"Australia/Lord_Howe", 4, 2, 10, 2, -30},
-                                                          {"AAA-2BBB-4,J32/0,J300/24", 10, 0, 2, 0, -120},
-                                                          {"Europe/Dublin", 3, 1, 10, 2, 60},
-                                                          {"Asia/Tokyo", 0, 0, 0, 0, 0},
-                                                          {"<+0545>-5:45", 0, 0, 0, 0, 0}}) {
+    for (const TCase& Case : Cases) {
         TZoneOfTheEnvironment::Set(Case.Zone);
         const TQzTimeZoneInfo Info = QzLocalTimeZone();
         EXPECT_EQ(Info.Bias, TTimeZone::Local().UtcOffset().TotalMinutes()) << Case.Zone;
@@ -52,18 +53,14 @@ TEST(LocalZoneLinux, OffsetsAsTextAndAsParts) {
         const char16_t* Short;
         int Offset, Hours, Minutes;
     };
+    const TCase Cases[] = {{"ABC-1", u"GMT +1", 60, 1, 0},      {"ABC5", u"GMT -5", -300, 5, 0},
+                           {"UTC0", u"GMT", 0, 0, 0},           {"ABC-5:30", u"GMT +5", 330, 5, 30},
+                           {"ABC-0:30", u"GMT", 30, 0, 30},     {"ABC0:30", u"GMT", -30, 0, 30},
+                           {"ABC3:30", u"GMT -3", -210, 3, 30}, {"ABC-1:59", u"GMT +1", 119, 2, 0},
+                           {"ABC-1:02", u"GMT +1", 62, 1, 0},   {"ABC-1:57", u"GMT +1", 117, 1, 57},
+                           {"ABC1:03", u"GMT -1", -63, 1, 3}};
     const TZoneOfTheEnvironment Keep("UTC0");
-    for (const TCase& Case : std::initializer_list<TCase>{{"ABC-1", u"GMT +1", 60, 1, 0},
-                                                          {"ABC5", u"GMT -5", -300, 5, 0},
-                                                          {"UTC0", u"GMT", 0, 0, 0},
-                                                          {"ABC-5:30", u"GMT +5", 330, 5, 30},
-                                                          {"ABC-0:30", u"GMT", 30, 0, 30},
-                                                          {"ABC0:30", u"GMT", -30, 0, 30},
-                                                          {"ABC3:30", u"GMT -3", -210, 3, 30},
-                                                          {"ABC-1:59", u"GMT +1", 119, 2, 0},
-                                                          {"ABC-1:02", u"GMT +1", 62, 1, 0},
-                                                          {"ABC-1:57", u"GMT +1", 117, 1, 57},
-                                                          {"ABC1:03", u"GMT -1", -63, 1, 3}}) {
+    for (const TCase& Case : Cases) {
         TZoneOfTheEnvironment::Set(Case.Zone);
         EXPECT_EQ(QzGetTimeZone(), UnicodeString(Case.Short)) << Case.Zone;
         for (int Step = -50; Step < 50; ++Step) { // on both sides of day 0

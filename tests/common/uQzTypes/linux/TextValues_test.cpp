@@ -16,8 +16,8 @@ TEST(TextValues, BothSeparatorsInEveryLocale) {
     for (const char* Name : {"de_DE.UTF-8", "C", "en_GB.UTF-8", "fr_FR.UTF-8"}) {
         const TLocaleOfTheEnvironment Locale(Name);
         SetDefaultFormatSettings(TFormatSettings::Create());
-        EXPECT_EQ(1.5, QzStrToFloat(u"1,5")) << Name;
-        EXPECT_EQ(1.5, QzStrToFloat(u"1.5")) << Name;
+        EXPECT_EQ(QzStrToFloat(u"1,5"), 1.5) << Name;
+        EXPECT_EQ(QzStrToFloat(u"1.5"), 1.5) << Name;
         EXPECT_EQ(EncodeDate(2016, 2, 29), QzVarToDate(u"2016-02-29", 0, true)) << Name;
     }
     SetDefaultFormatSettings(Before);

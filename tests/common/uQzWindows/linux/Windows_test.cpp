@@ -35,18 +35,18 @@ TEST(FileTimesLinux, CreationIsLocalTimeOfItsMoment) {
 
 TEST(AccountsLinux, NamesFollowTheProcess) {
     if (geteuid() != 0) { // who cannot act as others
-        EXPECT_EQ(elLimited, QzGetElevationLevel());
+        EXPECT_EQ(QzGetElevationLevel(), elLimited);
         return;
     }
     const UnicodeString Own = QzGetUserName();
-    ASSERT_EQ(elFull, QzGetElevationLevel());
-    ASSERT_EQ(0, seteuid(3'999'999));
+    ASSERT_EQ(QzGetElevationLevel(), elFull);
+    ASSERT_EQ(seteuid(3'999'999), 0);
     const UnicodeString Other = QzGetUserName();
     const TQzElevationLevel Level = QzGetElevationLevel();
-    ASSERT_EQ(0, seteuid(0));
-    EXPECT_EQ(u"3999999", Other);
-    EXPECT_EQ(elLimited, Level);
-    EXPECT_EQ(Own, QzGetUserName());
+    ASSERT_EQ(seteuid(0), 0);
+    EXPECT_EQ(Other, u"3999999");
+    EXPECT_EQ(Level, elLimited);
+    EXPECT_EQ(QzGetUserName(), Own);
 }
 
 } // namespace

@@ -32,10 +32,10 @@ TEST(FullDisk, AFileStreamTellsHowMuchArrivedAndThenWhy) {
     TFileStream File(Directory / u"file", fmCreate);
     const TFullDisk Full(1000);
     const std::string Text(600, 'x');
-    EXPECT_EQ(600, File.Write(Text.data(), 600));
-    EXPECT_EQ(400, File.Write(Text.data(), 600));
+    EXPECT_EQ(File.Write(Text.data(), 600), 600);
+    EXPECT_EQ(File.Write(Text.data(), 600), 400);
     EXPECT_THROW(File.Write(Text.data(), 600), EWriteError);
-    EXPECT_EQ(1000, File.Size());
+    EXPECT_EQ(File.Size(), 1000);
 }
 
 TEST(FullDisk, ASavedFileIsTheOldOneOrTheNewOne) {
@@ -51,7 +51,7 @@ TEST(FullDisk, ASavedFileIsTheOldOneOrTheNewOne) {
     }
     TMemoryStream Saved;
     Saved.LoadFromFile(Name);
-    EXPECT_EQ("old", std::string(static_cast<const char*>(Saved.Memory()), 3));
+    EXPECT_EQ(std::string(static_cast<const char*>(Saved.Memory()), 3), "old");
     EXPECT_THROW(Stream.SaveToFile(u"/dev/full"), EFCreateError);
     EXPECT_EQ(platform::ListDirectory(Directory.Path())->size(), 1u) << "nothing is left beside it";
 }

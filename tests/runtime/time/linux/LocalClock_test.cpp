@@ -27,7 +27,7 @@ int MinutesAheadOfUtc(const char* AZone) {
 }
 
 TEST(LocalClock, FollowsTheZone) {
-    EXPECT_EQ(345, MinutesAheadOfUtc("EAST-5:45"));
+    EXPECT_EQ(MinutesAheadOfUtc("EAST-5:45"), 345);
     EXPECT_EQ(1440 - 210, MinutesAheadOfUtc("WEST3:30"));
 }
 

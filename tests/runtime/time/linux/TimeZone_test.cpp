@@ -10,7 +10,9 @@
 #include <filesystem>
 #include <thread>
 
+#include "tests/support/Rows.h"
 #include "tests/support/ZoneOfTheEnvironment.h"
+#include <qz/runtime/text/NumberText.h>
 #include <qz/runtime/time/DateTimeText.h>
 #include <qz/runtime/time/LocalClock.h>
 #include <qz/runtime/time/detail/ZoneState.h>
@@ -136,52 +138,25 @@ TChecked CheckZone(const std::string& AZone, std::int64_t AFirst = cFirst, std::
     return Result;
 }
 
+// Each zone with its least number of changes, so that a zone that is not installed fails.
 TEST(TimeZoneLinux, EachChangeIsThatOfTheCLibrary) {
     const TZoneOfTheEnvironment Keep("UTC0");
-    struct TCase {
-        const char* Zone;
-        int LeastChanges; // so that a zone that is not installed is no success
-    };
-    for (const TCase& Case : std::initializer_list<TCase>{{"Europe/Dublin", 130},
-                                                          {"Europe/London", 130},
-                                                          {"Europe/Moscow", 50},
-                                                          {"Europe/Istanbul", 70},
-                                                          {"Europe/Lisbon", 100},
-                                                          {"America/New_York", 130},
-                                                          {"America/St_Johns", 130},
-                                                          {"America/Caracas", 2},
-                                                          {"America/Sao_Paulo", 60},
-                                                          {"America/Nuuk", 50},
-                                                          {"America/Scoresbysund", 60},
-                                                          {"America/Argentina/San_Luis", 15},
-                                                          {"America/Bogota", 2},
-                                                          {"America/Metlakatla", 70},
-                                                          {"Asia/Kathmandu", 1},
-                                                          {"Asia/Pyongyang", 2},
-                                                          {"Asia/Tehran", 60},
-                                                          {"Asia/Gaza", 100},
-                                                          {"Asia/Kolkata", 0},
-                                                          {"Asia/Dhaka", 2},
-                                                          {"Asia/Shanghai", 10},
-                                                          {"Africa/Casablanca", 80},
-                                                          {"Africa/Monrovia", 1},
-                                                          {"Africa/Cairo", 60},
-                                                          {"Africa/Windhoek", 40},
-                                                          {"Antarctica/Troll", 60},
-                                                          {"Antarctica/Casey", 5},
-                                                          {"Australia/Lord_Howe", 100},
-                                                          {"Australia/Eucla", 10},
-                                                          {"Pacific/Apia", 20},
-                                                          {"Pacific/Chatham", 120},
-                                                          {"Pacific/Kwajalein", 1},
-                                                          {"Pacific/Kiritimati", 2},
-                                                          {"Pacific/Norfolk", 30},
-                                                          {"EST5EDT", 130},
-                                                          {":Europe/Paris", 120},
-                                                          {"/usr/share/zoneinfo/CET", 110}}) {
-        const TChecked Checked = CheckZone(Case.Zone);
-        EXPECT_EQ("", Checked.Wrong) << Case.Zone;
-        EXPECT_GE(Checked.Changes, Case.LeastChanges) << Case.Zone;
+    for (const auto& Case :
+         Rows(u"Europe/Dublin => 130", u"Europe/London => 130", u"Europe/Moscow => 50",
+              u"Europe/Istanbul => 70", u"Europe/Lisbon => 100", u"America/New_York => 130",
+              u"America/St_Johns => 130", u"America/Caracas => 2", u"America/Sao_Paulo => 60",
+              u"America/Nuuk => 50", u"America/Scoresbysund => 60", u"America/Argentina/San_Luis => 15",
+              u"America/Bogota => 2", u"America/Metlakatla => 70", u"Asia/Kathmandu => 1",
+              u"Asia/Pyongyang => 2", u"Asia/Tehran => 60", u"Asia/Gaza => 100", u"Asia/Kolkata => 0",
+              u"Asia/Dhaka => 2", u"Asia/Shanghai => 10", u"Africa/Casablanca => 80", u"Africa/Monrovia => 1",
+              u"Africa/Cairo => 60", u"Africa/Windhoek => 40", u"Antarctica/Troll => 60",
+              u"Antarctica/Casey => 5", u"Australia/Lord_Howe => 100", u"Australia/Eucla => 10",
+              u"Pacific/Apia => 20", u"Pacific/Chatham => 120", u"Pacific/Kwajalein => 1",
+              u"Pacific/Kiritimati => 2", u"Pacific/Norfolk => 30", u"EST5EDT => 130",
+              u":Europe/Paris => 120", u"/usr/share/zoneinfo/CET => 110")) {
+        const TChecked Checked = CheckZone(std::string(Case[0]));
+        EXPECT_EQ(Checked.Wrong, "") << Case[0];
+        EXPECT_GE(Checked.Changes, StrToInt(Case[1])) << Case[0];
     }
 }
 
@@ -198,7 +173,7 @@ TEST(TimeZoneLinux, RuleTextsAreTakenAsTheCLibraryTakesThem) {
           // Not readable, and so UTC.
           "ABC", "AB5", "<+3>-3", "nosuch", "", ":", "::Europe/Paris", "/etc/passwd", "Europe", "/dev/zero",
           "ABC:5", "ABC 5"})
-        EXPECT_EQ("", CheckZone(Text, cFrom, cTo).Wrong) << Text;
+        EXPECT_EQ(CheckZone(Text, cFrom, cTo).Wrong, "") << Text;
 }
 
 TEST(TimeZoneLinux, FarYearsFollowTheRule) {
@@ -207,7 +182,7 @@ TEST(TimeZoneLinux, FarYearsFollowTheRule) {
          {"America/New_York", "NZST-12NZDT,M9.5.0,M4.1.0/3", "Europe/Dublin", "EST5EDT,J60,J300"}) {
         for (const std::int64_t Year : {2038, 2399, 2437, 2438, 2439, 2500, 4000, 9998}) {
             const std::int64_t From = (DayNumber(Year, 1, 1) - 25569) * 86400;
-            EXPECT_EQ("", CheckZone(Zone, From, From + std::int64_t{366} * 86400).Wrong)
+            EXPECT_EQ(CheckZone(Zone, From, From + std::int64_t{366} * 86400).Wrong, "")
                 << Zone << ' ' << Year;
         }
     }
@@ -294,8 +269,8 @@ TEST(TimeZoneLinux, ARefreshIsNotUndoneByOtherThreads) {
     IsOver = true;
     for (std::thread& Each : Others)
         Each.join();
-    EXPECT_EQ(0, Undone);
-    EXPECT_EQ(0, Wrong);
+    EXPECT_EQ(Undone, 0);
+    EXPECT_EQ(Wrong, 0);
 }
 
 TEST(TimeZoneLinux, ChildrenOfAForkCanLook) {
@@ -313,7 +288,7 @@ TEST(TimeZoneLinux, ChildrenOfAForkCanLook) {
         }
         int Status = -1;
         waitpid(Child, &Status, 0);
-        ASSERT_EQ(0, Status);
+        ASSERT_EQ(Status, 0);
     }
     IsOver = true;
     Other.join();

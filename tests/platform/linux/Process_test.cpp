@@ -1,5 +1,3 @@
-#include <qz/platform/Threads.h>
-
 #include <atomic>
 #include <chrono>
 #include <csignal>
@@ -7,13 +5,60 @@
 #include <thread>
 
 #include <pthread.h>
+#include <sys/ptrace.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
 
+#include <qz/platform/Debugger.h>
+#include <qz/platform/Environment.h>
+#include <qz/platform/Threads.h>
+
 namespace qz::platform {
 namespace {
+
+TEST(DebuggerLinux, TracedProcessNoticesIt) {
+    constexpr int cCannotTrace = 9;
+    const pid_t Child = fork();
+    ASSERT_GE(Child, 0);
+    if (Child == 0) {
+        if (IsDebuggerPresent())
+            _exit(1);
+        if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0)
+            _exit(cCannotTrace);
+        _exit(IsDebuggerPresent() ? 0 : 2);
+    }
+    int Status = -1;
+    ASSERT_EQ(waitpid(Child, &Status, 0), Child);
+    ASSERT_TRUE(WIFEXITED(Status));
+    if (WEXITSTATUS(Status) == cCannotTrace)
+        GTEST_SKIP() << "this system forbids tracing";
+    EXPECT_EQ(WEXITSTATUS(Status), 0);
+}
+
+// The alarm ends a child that waits for ever.
+TEST(EnvironmentLinux, ChildOfForkCanAsk) {
+    std::atomic<bool> Stop{false};
+    std::thread Asks([&] {
+        while (!Stop)
+            GetEnvironment(u"PATH");
+    });
+    int Status = 0;
+    for (int Round = 0; Round < 100 && Status == 0; ++Round) {
+        const pid_t Child = fork();
+        ASSERT_GE(Child, 0);
+        if (Child == 0) {
+            alarm(20);
+            GetEnvironment(u"PATH");
+            _exit(0);
+        }
+        waitpid(Child, &Status, 0);
+    }
+    EXPECT_EQ(Status, 0);
+    Stop = true;
+    Asks.join();
+}
 
 TEST(ThreadsLinux, ChildOfForkHasItsOwnId) {
     // The second thread makes sure that it is the forking thread's id which the child forgets.
@@ -33,8 +78,7 @@ TEST(ThreadsLinux, ChildOfForkHasItsOwnId) {
 
 TEST(ThreadsLinux, NameIsCutBetweenCharacters) {
     struct TCase {
-        std::string Name;
-        std::string Kept;
+        std::string Name, Kept;
     };
     const TCase Cases[] = {
         {"worker", "worker"},

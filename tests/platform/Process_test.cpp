@@ -1,0 +1,182 @@
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
+#include <string_view>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include <qz/platform/Clock.h>
+#include <qz/platform/CommandLine.h>
+#include <qz/platform/Debugger.h>
+#include <qz/platform/Environment.h>
+#include <qz/platform/Error.h>
+#include <qz/platform/Files.h>
+#include <qz/platform/Module.h>
+#include <qz/platform/Mutex.h>
+#include <qz/platform/Threads.h>
+
+namespace qz::platform {
+namespace {
+
+using TSteps = std::chrono::duration<int64_t, std::ratio<1, 10'000'000>>;
+
+template <class TDuration> int64_t Since1601(std::chrono::sys_time<TDuration> ATime) {
+    // Nanoseconds since then would not fit 64 bits.
+    constexpr TSteps cStart = std::chrono::sys_days{std::chrono::year{1601} / 1 / 1}.time_since_epoch();
+    return (std::chrono::duration_cast<TSteps>(ATime.time_since_epoch()) - cStart).count();
+}
+
+TEST(Clock, UtcNowIsNow) {
+    const int64_t Before = Since1601(std::chrono::system_clock::now());
+    const int64_t Now = UtcNow100ns();
+    const int64_t After = Since1601(std::chrono::system_clock::now());
+    constexpr int64_t cTolerance = 500'000; // clocks of different fineness
+    EXPECT_GE(Now, Before - cTolerance);
+    EXPECT_LE(Now, After + cTolerance);
+}
+
+// GoogleTest keeps what main was given.
+TEST(CommandLine, ArgumentsAreThoseOfMain) {
+    const std::vector<std::string> Expected = testing::internal::GetArgvs();
+    const std::vector<std::u16string> Arguments = CommandLineArguments();
+    ASSERT_EQ(Arguments.size() + 1, Expected.size());
+    for (std::size_t I = 0; I < Arguments.size(); ++I)
+        EXPECT_EQ(Expected[I + 1], std::string(Arguments[I].begin(), Arguments[I].end()));
+}
+
+TEST(Debugger, NoWindowHasAMadeUpName) {
+    using namespace std::string_view_literals;
+    EXPECT_FALSE(HasTopLevelWindow(u"NoSuchClassOfWindow", u""));
+    EXPECT_FALSE(HasTopLevelWindow(u"", u"no window has such a title"));
+    EXPECT_FALSE(HasTopLevelWindow(u"\0"sv, u""));
+}
+
+constexpr std::u16string_view cName = u"QZ_TEST_VARIABLE";
+
+TEST(Environment, ValuesComeBack) {
+    const std::u16string Values[] = {u"plain", u"", u"Grüße \xD83D\xDE00", u"a=b",
+                                     std::u16string(3000, u'ä')};
+    for (const std::u16string& Value : Values) {
+        ASSERT_TRUE(SetEnvironment(cName, Value));
+        EXPECT_EQ(GetEnvironment(cName), Value);
+    }
+    EXPECT_TRUE(SetEnvironment(cName, std::nullopt));
+    EXPECT_EQ(GetEnvironment(cName), std::nullopt);
+    EXPECT_TRUE(SetEnvironment(cName, std::nullopt)); // gone already
+}
+
+TEST(Environment, RefusesWhatNoVariableCanBe) {
+    using namespace std::string_view_literals;
+    for (const std::u16string_view Name : {u""sv, u"="sv, u"A=B"sv, u"A\0B"sv}) {
+        EXPECT_FALSE(SetEnvironment(Name, u"x"));
+        EXPECT_EQ(GetEnvironment(Name), std::nullopt);
+    }
+    EXPECT_FALSE(SetEnvironment(cName, u"a\0b"sv));
+    EXPECT_EQ(GetEnvironment(cName), std::nullopt);
+}
+
+constexpr int cFileNotFound = 2; // ENOENT and ERROR_FILE_NOT_FOUND alike
+
+TEST(Error, TextIsOneTidyLine) {
+    for (int Code = 1; Code < 1300; ++Code) {
+        const std::u16string Text = ErrorText(Code);
+        ASSERT_FALSE(Text.empty()) << Code;
+        EXPECT_EQ(Text.find_first_of(u"\r\n"), std::u16string::npos) << Code;
+        EXPECT_EQ(std::u16string_view(u". ").find(Text.back()), std::u16string_view::npos) << Code;
+    }
+    EXPECT_NE(ErrorText(cFileNotFound), ErrorText(cFileNotFound + 1));
+    EXPECT_EQ(ErrorText(987654321), u"Unknown error 987654321");
+}
+
+TEST(Error, TextKeepsTheLastError) {
+    SetLastError(77);
+    ErrorText(987654321);
+    ErrorText(cFileNotFound);
+    EXPECT_EQ(LastError(), 77);
+    SetLastError(0);
+    EXPECT_EQ(LastError(), 0);
+}
+
+constexpr bool cOnWindows = QZ_TESTS_ON_WINDOWS != 0;
+
+TEST(Module, ExecutableIsThisOne) {
+    const std::u16string Path = ExecutablePath();
+    EXPECT_TRUE(FileExists(Path));
+    const std::u16string Name = Path.substr(Path.find_last_of(u"/\\") + 1);
+    EXPECT_TRUE(Name.starts_with(u"tests_platform")) << std::string(Name.begin(), Name.end());
+}
+
+TEST(Module, FindsFunctionsOfLoadedModulesOnly) {
+    const std::u16string Loaded = cOnWindows ? u"kernel32.dll" : u"libc.so.6";
+    const char* Function = cOnWindows ? "GetTickCount" : "getpid";
+    EXPECT_NE(FindModuleFunction(Loaded, Function), nullptr);
+    EXPECT_EQ(FindModuleFunction(Loaded, "NoSuchFunction"), nullptr);
+    EXPECT_EQ(FindModuleFunction(u"no-such-module", Function), nullptr);
+    EXPECT_EQ(FindModuleFunction(Loaded + std::u16string(1, u'\0'), Function), nullptr);
+    EXPECT_EQ(FindModuleFunction(u"", "NoSuchFunction"), nullptr);
+}
+
+bool OtherThreadGets(TRecursiveMutex& AMutex) {
+    bool Result = false;
+    std::thread([&] {
+        Result = AMutex.TryEnter();
+        if (Result)
+            AMutex.Leave();
+    }).join();
+    return Result;
+}
+
+TEST(Mutex, OwnerMayEnterAgain) {
+    TRecursiveMutex Mutex;
+    Mutex.Enter();
+    EXPECT_TRUE(Mutex.TryEnter());
+    Mutex.Enter();
+    for (int Depth = 3; Depth > 0; --Depth) {
+        EXPECT_FALSE(OtherThreadGets(Mutex)) << Depth;
+        Mutex.Leave();
+    }
+    EXPECT_TRUE(OtherThreadGets(Mutex));
+    EXPECT_TRUE(Mutex.TryEnter());
+    EXPECT_FALSE(OtherThreadGets(Mutex));
+    Mutex.Leave();
+}
+
+TEST(Threads, IdsOfLivingThreadsDiffer) {
+    std::atomic<uint32_t> Id = 0;
+    std::atomic<bool> Stop = false;
+    std::thread Other([&] {
+        Id = CurrentThreadId();
+        while (!Stop)
+            SleepMs(1);
+        EXPECT_EQ(CurrentThreadId(), Id);
+    });
+    while (Id == 0) // which is no id
+        SleepMs(1);
+    EXPECT_NE(CurrentThreadId(), Id);
+    EXPECT_NE(CurrentThreadId(), 0u);
+    Stop = true;
+    Other.join();
+}
+
+TEST(Threads, ClocksRunInMilliseconds) {
+    const uint64_t Start = TickCount64();
+    const uint32_t Start32 = TickCount();
+    SleepMs(60);
+    const uint64_t Passed = TickCount64() - Start;
+    // Windows counts in steps of 16 ms; the upper limit leaves a busy machine its time.
+    EXPECT_GE(Passed, 44u);
+    EXPECT_LT(Passed, 5000u);
+    EXPECT_GE(TickCount() - Start32, 44u);
+    const auto Lag = static_cast<int32_t>(static_cast<uint32_t>(TickCount64()) - TickCount());
+    EXPECT_LE(Lag, 0);
+    EXPECT_GT(Lag, -5000);
+}
+
+TEST(Threads, ProcessorCountIsInReason) {
+    EXPECT_GE(ProcessorCount(), 1u);
+    EXPECT_LE(ProcessorCount(), 65536u);
+}
+
+} // namespace
+} // namespace qz::platform
