@@ -131,8 +131,8 @@ TEST(ZoneTable, DaysOfChangeAsOccurrences) {
     const detail::TZoneYear Late = Table.YearAt(9999);
     EXPECT_EQ(Late.ToDaylight.Occurrence, 2);
     EXPECT_EQ(Late.ToDaylight.DayOfTheWeek, 7);
-    EXPECT_EQ(Late.ToDaylight.MSecs, 2 * cHour);
-    EXPECT_EQ(Late.ToStandard.MSecs, 2 * cHour); // by the clock of daylight time
+    EXPECT_DOUBLE_EQ(Late.ToDaylight.Time * 24, 2);
+    EXPECT_DOUBLE_EQ(Late.ToStandard.Time * 24, 2); // by the clock of daylight time
 }
 
 TEST(TimeZone, RefusesWhatIsNoDate) {
