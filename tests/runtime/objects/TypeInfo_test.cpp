@@ -89,7 +89,7 @@ TEST(TypeInfo, TellsKindAndNameOfBasicTypes) {
         {TypeInfo<UnicodeString>(), tkUString, "System.string"},
         {TypeInfo<WideString>(), tkWString, "System.WideString"},
         {TypeInfo<AnsiString>(), tkLString, "System.AnsiString"},
-        {TypeInfo<TBytes>(), tkDynArray, "System.SysUtils.TBytes"},
+        {TypeInfo<TBytes>(), tkDynArray, "System.TBytes"},
         {TypeInfo<TBase*>(), tkClass, "Test.TBase"},
         {TypeInfo<TDerived>(), tkClass, "TDerived"},
     };
