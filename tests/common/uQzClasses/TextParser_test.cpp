@@ -52,6 +52,8 @@ TEST(TextParser, RefusesWhatItCannotParse) {
     TQzMemoryStream Empty(16);
     EXPECT_THROW(TQzTextParser(&Empty, false, 0), EAssertionFailed);
     EXPECT_THROW(TQzTextParser("", 0, 0), EAssertionFailed);
+    TPlainStream Shortest("a");
+    EXPECT_EQ(TChunkedParser(&Shortest, 1252, 1).CurrChar(), u'a');
     for (const int Page : {1201, 12000, 12001})
         EXPECT_EQ(Outcome([&] {
                       TQzTextParser("abcd", 4, static_cast<std::uint16_t>(Page));
