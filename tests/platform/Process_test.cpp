@@ -142,6 +142,32 @@ TEST(Mutex, OwnerMayEnterAgain) {
     Mutex.Leave();
 }
 
+TEST(Mutex, ThreadsTakeTurns) {
+    constexpr int cThreads = 4;
+    constexpr int cRounds = 4000;
+    TRecursiveMutex Mutex;
+    long Count = 0;
+    std::vector<std::thread> Threads;
+    Threads.reserve(cThreads);
+    for (int Index = 0; Index < cThreads; ++Index)
+        Threads.emplace_back([&] {
+            for (int Round = 0; Round < cRounds; ++Round) {
+                if (Round % 3 != 0 || !Mutex.TryEnter())
+                    Mutex.Enter();
+                const long Seen = Count;
+                Mutex.Enter();
+                if (Round % 100 == 0)
+                    SleepMs(0);
+                Count = Seen + 1;
+                Mutex.Leave();
+                Mutex.Leave();
+            }
+        });
+    for (std::thread& Thread : Threads)
+        Thread.join();
+    EXPECT_EQ(Count, long{cThreads} * cRounds);
+}
+
 TEST(Threads, IdsOfLivingThreadsDiffer) {
     std::atomic<uint32_t> Id = 0;
     std::atomic<bool> Stop = false;

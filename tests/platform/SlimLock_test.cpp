@@ -98,5 +98,48 @@ TEST(SlimLock, ThreadsMayDestroyWhatTheyHoldLast) {
     }
 }
 
+// The readers of one round see one state of two plain variables, which a race would tear.
+TEST(SlimLock, ThreadsNeverSeeHalfAWrite) {
+    constexpr int cWriters = 3;
+    constexpr int cReaders = 3;
+    constexpr int cRounds = 3000;
+    TSlimLockWord Word;
+    long First = 0;
+    long Second = 0;
+    std::atomic<int> Torn = 0;
+    std::vector<std::thread> Threads;
+    Threads.reserve(cWriters + cReaders);
+    for (int Index = 0; Index < cWriters; ++Index)
+        Threads.emplace_back([&, Index] {
+            for (int Round = 0; Round < cRounds; ++Round) {
+                if (Round % 4 != 0 || !Lock.TryAcquireExclusive(&Word))
+                    Lock.AcquireExclusive(&Word);
+                ++First;
+                if (Round % 64 == Index)
+                    SleepMs(0); // others pile up behind the lock and fall asleep
+                ++Second;
+                Lock.ReleaseExclusive(&Word);
+            }
+        });
+    for (int Index = 0; Index < cReaders; ++Index)
+        Threads.emplace_back([&] {
+            for (int Round = 0; Round < cRounds; ++Round) {
+                if (Round % 4 != 0 || !Lock.TryAcquireShared(&Word))
+                    Lock.AcquireShared(&Word);
+                if (First != Second)
+                    ++Torn;
+                if (Round % 64 == 0)
+                    SleepMs(0);
+                Lock.ReleaseShared(&Word);
+            }
+        });
+    for (std::thread& Thread : Threads)
+        Thread.join();
+    EXPECT_EQ(Torn, 0);
+    EXPECT_EQ(First, long{cWriters} * cRounds);
+    EXPECT_EQ(Second, First);
+    EXPECT_EQ(Word.Ptr, nullptr);
+}
+
 } // namespace
 } // namespace qz::platform

@@ -267,5 +267,28 @@ TEST_F(Components, IsNotCounted) {
     Part->Free();
 }
 
+TEST_F(Components, OwnerEndsItsComponentsFromTheLast) {
+    TPart* Root = TPart::Make(nullptr, u"root");
+    TPart* A = TPart::Make(Root, u"a");
+    TPart::Make(A, u"aa");
+    TPart::Make(Root, u"b");
+    EXPECT_EQ(A->Owner(), Root);
+    Root->Free();
+    EXPECT_EQ(TakeTrace(), "freed(root) freed(b) freed(a) freed(aa) ");
+}
+
+TEST_F(Components, PartnerBrotherHearsOnceAndInATreeThatGoes) {
+    TPart* Root = TPart::Make(nullptr, u"root");
+    TPart* A = TPart::Make(Root, u"a");
+    TPart* B = TPart::Make(Root, u"b");
+    TPart* C = TPart::Make(Root, u"c");
+    A->FreeNotification(B);
+    A->FreeNotification(C);
+    B->Free();
+    EXPECT_EQ(TakeTrace(), "freed(b) removed(b to c) removed(b to a) removed(b to root) ");
+    Root->Free();
+    EXPECT_EQ(TakeTrace(), "freed(root) freed(c) removed(c to a) freed(a) ");
+}
+
 } // namespace
 } // namespace qz
