@@ -10,7 +10,7 @@
 //             Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
 //             Lines.Add(Layout()->FormatLine(ALogger, ALevel, AMessage, AValue, AIndent));
 //         }
-//     ...
+//     };
 //
 // An appender that is made for a logger with a configurator asks it for its values at the end of Create. A
 // closed appender opens again at the next message. Descendants hold the lock during each operation.

@@ -1,7 +1,8 @@
 // TQzLogAppenderList: the appenders of a logger, in the order in which they are called.
 //
 //     TQzLogAppenderList& List = *Log->LockAppenders();
-//     for (int I = 0; I < List.Count(); ++I) Show(List.GetAppender(I)->GetName());
+//     for (int I = 0; I < List.Count(); ++I)
+//         Show(List.GetAppender(I)->GetName());
 //     Log->UnLockAppenders();
 //     List.Add(QzFileAppender, QzSimpleLayout);
 //

@@ -4,7 +4,6 @@
 //         QZ_CLASS(TMyAppender, TQzBaseAppender)
 //     protected:
 //         using TQzBaseAppender::TQzBaseAppender;
-//         void Write(...) override;
 //     };
 //     const TClassRec TMyAppender::ClassRec =
 //         DescribeLogBase<TMyAppender>(u"TMyAppender", {.Unit = u"Demo"});

@@ -1,8 +1,9 @@
 // What loggers call: appenders, which write messages, layouts, which format them, and the configurator, by
 // which an application sets the values of loggers and appenders.
 //
-//     class TMemoryAppender : public TQzBaseAppender { ... };          // see BaseAppender.h
-//     class TMyConfiguration : public TInterfacedObject, public IQzLogConfigurator { ... };
+//     class TMyConfiguration : public TInterfacedObject, public IQzLogConfigurator {
+//         ...
+//     };
 #pragma once
 
 #include <qz/common/uQzLogger/LogTypes.h>

@@ -2,7 +2,8 @@
 //
 //     TQzLoggerList& List = *Log->GetChildLoggers();
 //     List.Lock(u"survey", true);
-//     for (int I = 0; I < List.Count(); ++I) Show(List.GetLogger(I)->GetName());
+//     for (int I = 0; I < List.Count(); ++I)
+//         Show(List.GetLogger(I)->GetName());
 //     List.Unlock();
 //
 // Loggers come and go on any thread. While a thread holds the lock, no logger leaves a list, and none is

@@ -10,7 +10,7 @@ namespace qz {
 
 template <class T> class TAccessKey {
     friend T;
-    TAccessKey() noexcept {}
+    TAccessKey() noexcept = default;
 };
 
 } // namespace qz

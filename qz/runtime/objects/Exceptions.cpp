@@ -52,10 +52,12 @@ constinit const TClassRec EWriteError::ClassRec = DescribeException<EWriteError>
 constinit const TClassRec EOSError::ClassRec = DescribeException<EOSError>(u"EOSError", cUnit);
 constinit const TClassRec EInOutError::ClassRec = DescribeException<EInOutError>(u"EInOutError", cUnit);
 
-Exception::Exception(const UnicodeString& AMessage) : FMessage(AMessage), FWhat(std::string(AMessage)) {}
+Exception::Exception(const UnicodeString& AMessage)
+    : FMessage(AMessage),
+      FWhat(std::make_shared<const std::string>(AMessage)) {}
 
 void Exception::SetMessage(const UnicodeString& AMessage) {
-    FWhat = std::runtime_error(std::string(AMessage));
+    FWhat = std::make_shared<const std::string>(AMessage);
     FMessage = AMessage;
 }
 
@@ -73,10 +75,10 @@ UnicodeString SysErrorMessage(std::int32_t ACode) {
 void RaiseOSError(std::int32_t ACode, const TStringArg& AAdditional) {
     if (ACode == 0)
         throw EOSError(UnicodeString(u"A call to an OS function failed") + AAdditional.View(), 0);
-    EOSError Error(u"System Error.  Code: %d.\r\n%s", {ACode, SysErrorMessage(ACode)}, ACode);
-    if (!AAdditional.View().empty())
-        Error.SetMessage(Error.Message() + u"\r\n" + AAdditional.View());
-    throw Error;
+    const UnicodeString Text = SysErrorMessage(ACode);
+    if (AAdditional.View().empty())
+        throw EOSError(u"System Error.  Code: %d.\r\n%s", {ACode, Text}, ACode);
+    throw EOSError(u"System Error.  Code: %d.\r\n%s\r\n%s", {ACode, Text, AAdditional.View()}, ACode);
 }
 
 void RaiseLastOSError() {

@@ -20,7 +20,7 @@
 #include <exception>
 #include <functional>
 #include <memory>
-#include <stdexcept>
+#include <string>
 
 #include <qz/runtime/base/StringArg.h>
 #include <qz/runtime/base/VarRec.h>
@@ -57,14 +57,14 @@ public:
 
     const UnicodeString& Message() const noexcept { return FMessage; }
     void SetMessage(const UnicodeString& AMessage);
-    const char* what() const noexcept override { return FWhat.what(); }
+    const char* what() const noexcept override { return FWhat->c_str(); }
     UnicodeString ToString() const override { return FMessage; }
     // Throws a copy of this exception with its dynamic class.
     [[noreturn]] virtual void Raise() const { throw Exception(*this); }
 
 private:
     UnicodeString FMessage;
-    std::runtime_error FWhat; // Holds text whose copies cannot fail.
+    std::shared_ptr<const std::string> FWhat; // in UTF-8, shared so that a copy cannot fail
 };
 
 using ExceptionClass = ClassRef<Exception>;

@@ -28,7 +28,9 @@ void EndBusy() noexcept {
 }
 
 TCriticalSection& TStateHold::Section() noexcept {
-    static auto* const Result = new TCriticalSection;
+    // Never destroyed: threads may log during program exit.
+    alignas(TCriticalSection) static std::byte Storage[sizeof(TCriticalSection)];
+    static auto* const Result = new (Storage) TCriticalSection;
     return *Result;
 }
 

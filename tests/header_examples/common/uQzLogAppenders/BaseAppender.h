@@ -1,0 +1,5 @@
+#pragma once
+
+#include <qz/runtime/lists/StringList.h>
+
+inline qz::TStringList Lines;

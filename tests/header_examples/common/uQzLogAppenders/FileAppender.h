@@ -1,0 +1,4 @@
+#pragma once
+
+#include <qz/common/uQzLogLayouts.h>
+#include <qz/common/uQzLogger.h>

@@ -1,0 +1,5 @@
+#pragma once
+
+#include <qz/runtime/values/Value.h>
+
+inline qz::TValue Value;

@@ -1,0 +1,4 @@
+#pragma once
+
+#include <qz/common/uQzLogAppenders.h>
+#include <qz/common/uQzLogger.h>

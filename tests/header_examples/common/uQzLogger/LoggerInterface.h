@@ -1,0 +1,6 @@
+#pragma once
+
+#include <qz/common/uQzLogger.h>
+
+extern qz::UnicodeString Query;
+extern const qz::Exception& Failure;

@@ -1,0 +1,5 @@
+#pragma once
+
+#include <qz/common/uQzLogger.h>
+
+inline qz::Ref<qz::TQzLogger> Log;
