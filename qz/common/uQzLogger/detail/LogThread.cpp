@@ -1,6 +1,8 @@
 #include <qz/common/uQzLogger/detail/LogThread.h>
 
+#include <cstddef>
 #include <memory>
+#include <new>
 
 namespace qz::detail {
 namespace {
