@@ -1,6 +1,6 @@
 // Handlers for fork(), which copies the process; only the calling thread continues in the copy.
 //
-//     AroundFork(TForkRank::Zone, TakeLocks, ReleaseLocks, ReleaseLocks);     // no other thread holds one then
+//     AroundFork(TForkRank::Zone, TakeLocks, ReleaseLocks, ReleaseLocks);
 //
 // This header defines the order in which the locks of the library are taken around a fork.
 #pragma once
@@ -11,8 +11,8 @@
 
 namespace qz::platform {
 
-// From the outermost lock to the innermost: code that holds one may wait for the ones after it, never for an earlier
-// one.
+// From the outermost lock to the innermost: code that holds one may wait for the ones after it, never for an
+// earlier one.
 enum class TForkRank : std::uint8_t {
     Loggers,
     LogFiles,
@@ -23,9 +23,9 @@ enum class TForkRank : std::uint8_t {
     Environment
 };
 
-// Calls ABefore on the forking thread before each fork(), and after it AInParent in the parent or AInChild in the child.
-// ABefore runs in the order of the ranks, the other two in reverse order, whatever the order of registration. Each rank is
-// registered once, at program start. Does nothing on a system without fork().
+// Calls ABefore on the forking thread before each fork(), and after it AInParent in the parent or AInChild in
+// the child. ABefore runs in the order of the ranks, the other two in reverse order, whatever the order of
+// registration. Each rank is registered once, at program start. Does nothing on a system without fork().
 QZ_API void AroundFork(TForkRank ARank, void (*ABefore)(), void (*AInParent)(), void (*AInChild)());
 
 } // namespace qz::platform

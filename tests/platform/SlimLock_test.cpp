@@ -116,7 +116,7 @@ TEST(SlimLock, ThreadsNeverSeeHalfAWrite) {
                     Lock.AcquireExclusive(&Word);
                 ++First;
                 if (Round % 64 == Index)
-                    SleepMs(0); // others pile up behind the lock and fall asleep
+                    SleepMs(0); // other threads wait for the lock and sleep
                 ++Second;
                 Lock.ReleaseExclusive(&Word);
             }

@@ -1,7 +1,7 @@
 // TQzComponent: a component whose life may be that of the references to it, and whose properties can follow
 // others.
 //
-//     Ref<IQzComponent> Server = TQzServer::Create(nullptr);   // without owner: destroyed with the last reference
+//     Ref<IQzComponent> Server = TQzServer::Create(nullptr); // no owner: destroyed with its last reference
 //     TQzServer::Create(Application);                          // with an owner: only the owner frees it
 //
 //     View->Bind(u"Title", Model, u"Name", {});                // Title follows Name, and Name follows Title

@@ -4,7 +4,7 @@
 //     ...
 //     Done->WaitFor(cInfinite);
 //
-//     QzRunInMainThread([&] { Window.SetTitle(Title); }, true);    // from a worker: waits; exceptions are raised here
+//     QzRunInMainThread([&] { Window.SetTitle(Title); }, true); // waits; exceptions are raised here
 //
 // The main thread runs queued work in TThread::CheckSynchronize. All functions may be
 // called on any thread.

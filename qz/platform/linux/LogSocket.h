@@ -16,8 +16,8 @@ enum class TSent : unsigned char {
     NoDaemon // no daemon listens at the path
 };
 
-// A socket that does not wait. It is told from whatever else may have got its number since: programs that
-// become daemons close all descriptors that they find.
+// A non-blocking socket. It notices if its descriptor number belongs to another file by now: a program that
+// becomes a daemon closes all descriptors.
 class TLogSocket {
 public:
     TLogSocket() noexcept = default;

@@ -18,10 +18,10 @@
 //
 // Who sleeps wakes again:
 //  - A reader sleeps only while the low half is unchanged with its bit 2 in it. That bit goes out only
-//    together with a wake of all readers, and whoever frees the lock takes it out, or leaves it to a waiting
-//    writer who frees the lock later.
-//  - A writer sleeps only while the lock is taken, and whoever frees it wakes a writer if the number is not 0.
-//    If none slept, those who wait are awake and will look.
+//    together with a wake of all readers. The thread that frees the lock clears it, or leaves it to a waiting
+//    writer that frees the lock later.
+//  - A writer sleeps only while the lock is taken. The thread that frees it wakes a writer if the number is
+//    not 0. If none sleeps, the waiting writers are awake and check the lock.
 //
 // "Writers first" is set by a writer who finds the lock taken. A writer who frees the lock to sleeping
 // readers takes it out, which gives them a turn before the next writer finds them inside. A thread that has

@@ -1,8 +1,8 @@
 // The appenders of one logger as dispatch and changes share them. Internal.
 //
-// The entries are an immutable snapshot, which a change replaces as a whole. Whoever walks a snapshot holds
-// the gate, and whoever replaces it deletes the old one only after it has held the gate itself. So the walk
-// counts no references and takes no second lock. A thread that may not wait for the gate replaces the
+// The entries are an immutable snapshot, which a change replaces as a whole. A thread that walks a snapshot
+// holds the gate. A thread that replaces it deletes the old one only after holding the gate itself. So the
+// walk counts no references and takes no second lock. A thread that may not wait for the gate replaces the
 // snapshot at once, and its queue keeps the old one and the removed appenders until it may wait
 // (LogDispatch.h).
 #pragma once
