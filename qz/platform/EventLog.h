@@ -6,8 +6,8 @@
 //     Log.Write(Source, TEventType::Warning, 3, u"The tape is worn", 3600);
 //     Log.CloseSource(Source);
 //
-// On Linux writing never waits: an event that the daemon does not accept at once is lost. The journal
-// receives the text as MESSAGE, with PRIORITY, SYSLOG_IDENTIFIER (the source) and EVENT_ID. The syslog
+// On Linux writing waits while the queue of the daemon is full, at most a second for an event. The event is
+// lost then, and no later one waits until the daemon accepts one again. The journal receives the text as MESSAGE, with PRIORITY, SYSLOG_IDENTIFIER (the source) and EVENT_ID. The syslog
 // receives "source[process]: text", without the event number; control characters other than tab become # and
 // three octal digits, and a text over 8000 bytes becomes several messages. Priorities are 6 for information,
 // 5 for success, 4 for a warning, 3 for an error. Lone surrogates become U+FFFD. A source finds a daemon that

@@ -64,6 +64,9 @@ public:
     TResult<> Open(std::u16string_view APath, TFileAccess AAccess, TFileCreation ACreation,
                    TFileSharing ASharing);
     bool IsOpen() const noexcept { return FHandle != cNone; }
+    // A second handle to the open file, with the same position, access and sharing. What the file denies ends
+    // when both are closed.
+    TResult<TFileHandle> Duplicate() const;
     // False if the system reports here that written data was lost.
     bool Close() noexcept;
 
@@ -85,6 +88,9 @@ public:
     TResult<> WriteAtEnd();
     // As Write, after WriteAtEnd. The position may stay where it was.
     TWritten Append(std::span<const std::byte> ASource);
+    // As Append; fails with EAGAIN if a pipe or a device accepts nothing for so many milliseconds. On Windows
+    // waits as long as it takes.
+    TWritten AppendWithin(std::span<const std::byte> ASource, std::uint32_t AMilliseconds);
     // False if the open file was renamed, removed or replaced, so that APath does not lead to it. True if
     // that cannot be determined, and on Windows, where it cannot happen to a file that is open for writing.
     bool IsAt(std::u16string_view APath) const;

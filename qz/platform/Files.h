@@ -42,6 +42,10 @@ QZ_API bool DirectoryExists(std::u16string_view APath);
 // The entries of APath, in no particular order, without "." and "..".
 QZ_API TResult<std::vector<TDirEntry>> ListDirectory(std::u16string_view APath);
 
+// The path from its root, with the current directory before a relative one. On Windows also without "." and
+// "..". The path itself if the current directory cannot be determined.
+QZ_API std::u16string WholePath(std::u16string_view APath);
+
 // The directory for temporary files, without a trailing separator.
 QZ_API std::u16string TempDirectory();
 

@@ -73,6 +73,14 @@ private:
     TQzBaseAppender& FAppender;
 };
 
+bool TQzBaseAppender::LacksLayout() noexcept {
+    if (FLayout != nullptr)
+        return false;
+    if (!std::exchange(FHasReportedLayout, true))
+        detail::ReportProblem({{}, Name(), {}, u"The appender has no layout"});
+    return true;
+}
+
 UnicodeString TQzBaseAppender::Header() {
     const TFormatting Formatting(*this);
     return FLayout->GetHeader();

@@ -60,6 +60,8 @@ protected:
     TCriticalSection* AppenderLock() noexcept override { return &FLock; }
     // The layout, which may be null, and whether the appender is open; under the lock.
     IQzLogLayout* Layout() const noexcept { return FLayout.Get(); }
+    // Whether there is no layout, so that a message cannot be written; calls the drop hook the first time.
+    bool LacksLayout() noexcept;
     bool IsInitialized() const noexcept { return FInitialized; }
     // The texts of the layout, which is not null; under the lock. The layout may close the appender or set
     // another layout during the call.
@@ -92,6 +94,7 @@ private:
     std::vector<Ref<IQzLogLayout>> FFormerLayouts; // replaced during a call of theirs
     int FFormatting = 0;
     bool FInitialized = false;
+    bool FHasReportedLayout = false;
     std::int32_t FInitializing = 0;
     TCriticalSection FLock;
 };

@@ -93,12 +93,12 @@ void TQzEventLogAppender::Write(const UnicodeString& ASource, const UnicodeStrin
                                 TQzLogIndent AIndent) {
     const TScopedLock Hold(*this);
     Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
-    if (Layout() == nullptr || FHandle == 0 || ALevel == llDoNotLog)
+    if (LacksLayout() || FHandle == 0 || ALevel == llDoNotLog)
         return;
     const TEvent Event = EventOf(ALevel);
     const UnicodeString Line = FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
     if (!Line.IsEmpty() && !FLog.Write(FHandle, Event.Type, Event.Id, Line, LocalOffset()))
-        detail::CountDrop();
+        detail::ReportLoss(1, ASource, Name(), u"The log of the system did not accept the message", Serial());
 }
 
 } // namespace qz

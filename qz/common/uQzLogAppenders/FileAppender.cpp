@@ -3,6 +3,7 @@
 #include <qz/common/uQzTypes/VarTolerant.h>
 #include <qz/common/uQzWindows/ShellFolders.h>
 #include <qz/common/uQzWindows/SystemVersion.h>
+#include <qz/platform/Threads.h>
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/files/FileNames.h>
 #include <qz/runtime/files/FileSystem.h>
@@ -19,14 +20,13 @@ constexpr TTextConstant cExtension = u".log";
 constexpr std::int32_t cCommonDocuments = 46;
 // From this version on a program cannot write files beside itself.
 constexpr std::uint16_t cKeepsOffPrograms = 601;
+constexpr std::uint64_t cRetryEvery = 100; // milliseconds
 constexpr std::int64_t cLargestBuffer = std::int64_t{1} << 30;
 
 UnicodeString NameAmongDocuments(const UnicodeString& AProgram) {
     const UnicodeString Name = ChangeFileExt(ExtractFileName(AProgram), u"");
-    const UnicodeString Directory =
-        IncludeTrailingPathDelimiter(IncludeTrailingPathDelimiter(QzGetShellFolder(cCommonDocuments)) + Name);
-    ForceDirectories(Directory);
-    return Directory + Name + cExtension;
+    const UnicodeString Documents = IncludeTrailingPathDelimiter(QzGetShellFolder(cCommonDocuments));
+    return IncludeTrailingPathDelimiter(Documents + Name) + Name + cExtension;
 }
 
 // Without a directory for documents the application can still set another name.
@@ -55,16 +55,40 @@ void TQzFileAppender::Initialize() {
     OpenFile(FAppendExisting);
 }
 
+const UnicodeString& TQzFileAppender::FileName() const {
+    if (FPath.IsEmpty() && !TrimView(FFileName).empty())
+        FPath = ExpandFileName(FFileName);
+    return FPath;
+}
+
+void TQzFileAppender::TakeDefaultName() {
+    if (!FHasDefaultName || ForceDirectories(ExtractFilePath(FFileName)))
+        return;
+    FFileName = ChangeFileExt(ProgramFileName(), FFileExt);
+    FPath = {};
+}
+
+// A file of no bytes has no header yet.
+void TQzFileAppender::ContinueDocument(TQzTextFile& AFile) {
+    const auto Document = As<IQzLogDocument>(Layout());
+    if (!FIsContinuing || Document == nullptr || !Document->ContinuesDocument())
+        return;
+    FIsContinuing = AFile.Size() != 0;
+    AFile.RemoveEnd(Footer());
+}
+
 void TQzFileAppender::OpenFile(bool AContinues) {
     const TInitializing Now(*this);
     FFileStream.reset();
     if (TrimView(FFileName).empty())
         return;
-    const bool IsThere = FileExists(FFileName);
+    TakeDefaultName();
+    const bool IsThere = FileExists(FileName());
     FIsContinuing = IsThere && AContinues;
     if (IsThere && !AContinues)
-        DeleteFile(FFileName);
-    auto File = std::make_unique<TQzTextFile>(FFileName, &OwnLock());
+        DeleteFile(FileName());
+    auto File = std::make_unique<TQzTextFile>(FileName(), &OwnLock());
+    ContinueDocument(*File);
     File->SetBufferSize(FBufferSize);
     FFileStream = std::move(File);
     FOwesHeader = Layout() != nullptr && !FIsContinuing;
@@ -92,8 +116,15 @@ void TQzFileAppender::Write(const UnicodeString& ASource, const UnicodeString& A
     const TScopedLock Hold(*this);
     if (FFileStream != nullptr && FFileStream->HasGone())
         CloseQuietly();
-    Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
-    if (Layout() == nullptr || FFileStream == nullptr)
+    RepeatFailure();
+    try {
+        Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
+    } catch (const EStreamError&) {
+        FFailure = std::current_exception();
+        FFailedAt = platform::CoarseTickCount64();
+        throw;
+    }
+    if (LacksLayout() || FFileStream == nullptr)
         return;
     if (FOwesHeader) [[unlikely]]
         PayHeader();
@@ -108,6 +139,15 @@ void TQzFileAppender::Write(const UnicodeString& ASource, const UnicodeString& A
         FFileStream->WriteLn(Line);
 }
 
+// An attempt to open the file may take a millisecond, and other threads wait meanwhile.
+void TQzFileAppender::RepeatFailure() {
+    if (FFailure == nullptr)
+        return;
+    if (platform::CoarseTickCount64() - FFailedAt < cRetryEvery)
+        std::rethrow_exception(FFailure);
+    FFailure = nullptr;
+}
+
 void TQzFileAppender::WriteFooter() {
     if (Layout() == nullptr || FFileStream == nullptr || FFileStream->IsInherited())
         return;
@@ -118,6 +158,7 @@ void TQzFileAppender::WriteFooter() {
 
 void TQzFileAppender::EndFile() {
     FFileStream.reset();
+    FFailure = nullptr;
     Inherited::Close();
 }
 
@@ -158,12 +199,23 @@ void TQzFileAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
             SetFileExt(FileExt);
         if (!FileName.IsEmpty())
             SetFileName(FileName);
-        const auto Size = static_cast<std::int32_t>(FBufferSize);
-        SetBufferSize(QzVarToInt(Ask(u"BufferSize", mtkInteger, Size), Size, true));
-        const auto Level = static_cast<std::int32_t>(FFlushLevel);
-        SetFlushLevel(QzLogLevelOf(QzVarToInt(Ask(u"FlushLevel", mtkInteger, Level), Level, true)));
+        ReadOwnValues(*AConfigurator);
     }
     Inherited::SetConfig(AConfigurator);
+}
+
+// A configurator need not know these keys: without an answer that is a number the present value stays.
+void TQzFileAppender::ReadOwnValues(IQzLogConfigurator& AConfigurator) {
+    const auto Ask = [&](const UnicodeString& AKey, std::int32_t APresent) {
+        try {
+            return QzVarToInt(
+                AConfigurator.GetAppenderValue(ConfiguredName(), AKey, mtkInteger, APresent), APresent, true);
+        } catch (const std::exception&) {
+            return APresent;
+        }
+    };
+    SetBufferSize(Ask(u"BufferSize", static_cast<std::int32_t>(FBufferSize)));
+    SetFlushLevel(QzLogLevelOf(Ask(u"FlushLevel", static_cast<std::int32_t>(FFlushLevel))));
 }
 
 UnicodeString TQzFileAppender::GetFileName() {
@@ -188,6 +240,7 @@ void TQzFileAppender::SetFileExt(const UnicodeString& AExtension) {
     CloseQuietly();
     FFileExt = !AExtension.IsEmpty() && AExtension[0] == u'.' ? AExtension : u'.' + AExtension;
     FFileName = ChangeFileExt(FFileName, FFileExt);
+    FPath = {};
 }
 
 void TQzFileAppender::SetAppendExisting(bool AValue) {
@@ -203,6 +256,8 @@ void TQzFileAppender::SetFileName(const UnicodeString& AName) {
     UnicodeString Extension = ExtractFileExt(AName);
     const bool IsComplete = !Extension.IsEmpty() || TrimView(AName).empty();
     FFileName = IsComplete ? AName : AName + FFileExt;
+    FPath = {};
+    FHasDefaultName = false;
     if (!Extension.IsEmpty())
         FFileExt = std::move(Extension);
 }

@@ -9,14 +9,17 @@
 // unless an existing one is continued, and Close ends it with the footer. When a logging call has returned,
 // its line is with the operating system, and the end of the process does not lose it. A line that does not
 // fit on the disk is not written at all and counted by QzDroppedLogMessages; logging goes on when there is
-// room again. If the file is moved or removed, a new one is made within a second. While it is open, others
-// may read it; FileHandle.h says who may write to it.
+// room again. If the file is moved or removed, a new one is made within a second. After a failure to open the
+// file, messages are dropped for a tenth of a second without another attempt. While the file is open, others
+// may read it; FileHandle.h says who may write to it. Several appenders of one process may share a file.
 //
 // Beyond the common operations: with a BufferSize, lines below FlushLevel may wait in memory, for a second at
 // most. A line of that level is written at once, with all before it. Flush, Close and the end of the program
-// write the buffer; abort, _exit and a kill lose it.
+// write the buffer; std::quick_exit, abort, _exit and a kill lose it. A full pipe holds up the end of the
+// program for a second at most.
 #pragma once
 
+#include <exception>
 #include <memory>
 
 #include <qz/common/uQzLogAppenders/BaseAppender.h>
@@ -59,7 +62,8 @@ public:
     void SetLayout(IQzLogLayout* ALayout) override;
 
     // The default is the name of the program with ".log", in a directory of that name below the documents of
-    // all users (QzGetShellFolder), or beside the program if there is no such place.
+    // all users (QzGetShellFolder), or beside the program if that directory cannot be made. A relative name is
+    // completed with the current directory at the first opening.
     UnicodeString GetFileName() override;
     bool GetAppendExisting() override;
     UnicodeString GetFileExt() override;
@@ -89,7 +93,8 @@ protected:
     void OpenFile(bool AContinues);
     // As Close, without EStreamError.
     void CloseQuietly();
-    const UnicodeString& FileName() const noexcept { return FFileName; }
+    // The name as a whole path.
+    const UnicodeString& FileName() const;
     const UnicodeString& FileExt() const noexcept { return FFileExt; }
     bool AppendsExisting() const noexcept { return FAppendExisting; }
     // Whether the open file existed before.
@@ -97,8 +102,16 @@ protected:
 
 private:
     void PayHeader();
+    void TakeDefaultName();
+    void ContinueDocument(TQzTextFile& AFile);
+    void RepeatFailure();
+    void ReadOwnValues(IQzLogConfigurator& AConfigurator);
 
     UnicodeString FFileName;
+    mutable UnicodeString FPath; // FFileName as a whole path; empty until it is needed
+    bool FHasDefaultName = true;
+    std::exception_ptr FFailure; // to open the file, not long ago
+    std::uint64_t FFailedAt = 0; // in ticks
     std::unique_ptr<TQzTextFile> FFileStream;
     bool FAppendExisting = true;
     UnicodeString FFileExt;

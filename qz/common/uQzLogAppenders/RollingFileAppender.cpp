@@ -4,6 +4,7 @@
 #include <tuple>
 
 #include <qz/common/uQzTypes/VarTolerant.h>
+#include <qz/platform/FileTimes.h>
 #include <qz/platform/Files.h>
 #include <qz/platform/Threads.h>
 #include <qz/runtime/files/FileNames.h>
@@ -63,7 +64,8 @@ bool TQzRollingFileAppender::IsOfFamily(std::u16string_view AName) const {
                         : SameFileName(AName.substr(0, Base.size()), Base);
 }
 
-// The live file first, then by number, then by name.
+// The live file first, then by number, then the newest first. Times are equal where the file system keeps
+// coarse ones: then the last name is the newest, as with dates.
 std::vector<TQzRollingFileAppender::TMember> TQzRollingFileAppender::Family() {
     const UnicodeString Path = ExtractFilePath(FileName());
     const UnicodeString Live = ExtractFileName(FileName());
@@ -71,13 +73,15 @@ std::vector<TQzRollingFileAppender::TMember> TQzRollingFileAppender::Family() {
     const auto Entries = platform::ListDirectory(Path.IsEmpty() ? u"." : Path.View());
     std::vector<TMember> Result;
     for (const platform::TDirEntry& Entry : *Entries) {
-        if (IsOfFamily(Entry.Name))
-            Result.push_back(
-                {Entry.Name, !SameFileName(Entry.Name, Live), CreateFileInfo(Entry.Name), false});
+        if (!IsOfFamily(Entry.Name))
+            continue;
+        const auto Times = platform::ReadFileTimes(Path + Entry.Name);
+        Result.push_back({Entry.Name, !SameFileName(Entry.Name, Live), CreateFileInfo(Entry.Name),
+                          Times ? Times->LastWrite : 0, false});
     }
     std::sort(Result.begin(), Result.end(), [](const TMember& ALeft, const TMember& ARight) {
-        return std::tie(ALeft.IsBackup, ALeft.Info.Index, ALeft.Name) <
-            std::tie(ARight.IsBackup, ARight.Info.Index, ARight.Name);
+        return std::tie(ALeft.IsBackup, ALeft.Info.Index, ARight.Written, ARight.Name) <
+            std::tie(ARight.IsBackup, ARight.Info.Index, ALeft.Written, ALeft.Name);
     });
     return Result;
 }

@@ -7,8 +7,8 @@
 //     File->SetMaxBackupCount(5);                // app.log and app.1.log to app.4.log
 //
 // A message that finds the file at its size or above rolls over first: the file becomes number 1, the number
-// of each backup grows by one, and backups beyond the count are deleted. The family is read from the
-// directory, so that it outlives the program. It is every entry whose name begins with that of the file:
+// of each backup grows by one, and backups beyond the count are deleted. Files of equal number, such as those
+// with a date, count as newer if they were written later. The family is read from the directory, so that it outlives the program. It is every entry whose name begins with that of the file:
 // app2.log, a directory app.d and a stylesheet belong to the family of app.log, so give a family a directory
 // of its own. A file whose name is only an extension, such as .log, is a family of one. A backup that cannot
 // be renamed stays until its name is needed. A live file that cannot be renamed is continued, and the next
@@ -90,7 +90,8 @@ private:
         UnicodeString Name;
         bool IsBackup;
         TQzFileInfo Info;
-        bool IsStuck; // could not be renamed
+        std::int64_t Written; // the time of the last write, in 100 ns
+        bool IsStuck;         // could not be renamed
     };
     std::vector<TMember> Family();
     void Move(std::vector<TMember>& AFamily, TMember& AMember, std::int64_t APlace);

@@ -27,7 +27,9 @@ constexpr TTextConstant cCannotSeek = u"Cannot seek in file \"%s\". %s";
 constexpr TTextConstant cCannotWrite = u"Cannot write to file \"%s\". %s";
 constexpr std::u16string_view cLineEnd = u"\r\n";
 constexpr std::size_t cMostBytesOfUnit = 3;
-constexpr std::uint64_t cLookEvery = 1000; // milliseconds
+// In milliseconds.
+constexpr std::uint64_t cLookEvery = 1000;
+constexpr std::uint32_t cPatienceAtEnd = 300; // for a full pipe, when the program ends
 
 // After a fork the processes share their files.
 std::atomic<bool> GHasForked{false};
@@ -55,23 +57,6 @@ void MakeFile(const TStringArg& AFileName) {
     }
 }
 
-platform::TFileHandle OpenFile(const TStringArg& AFileName) {
-    const bool IsThere = FileExists(AFileName);
-    const UnicodeString Path = ExtractFilePath(AFileName);
-    if (!Path.IsEmpty())
-        ForceDirectories(Path);
-    if (!IsThere)
-        MakeFile(AFileName);
-    platform::TFileHandle Result;
-    const platform::TResult<> Opened =
-        Result.Open(AFileName, platform::TFileAccess::ReadWrite, platform::TFileCreation::Never,
-                    {.Read = true, .Write = GHasForked});
-    if (!Opened)
-        Raise<EFOpenError>(SFOpenError, AFileName, Opened.Error());
-    if (const platform::TResult<> Moved = Result.WriteAtEnd(); !Moved)
-        Raise<EStreamError>(cCannotSeek, AFileName, Moved.Error());
-    return Result;
-}
 
 // The caller holds the lock; other threads only read.
 template <class T> void AddTo(std::atomic<T>& ATarget, T ACount) noexcept {
@@ -85,12 +70,12 @@ std::span<const std::byte> BytesOf(const char* AText, std::size_t ACount) {
 } // namespace
 
 TQzTextFile::TQzTextFile(const TStringArg& AFileName, TCriticalSection* ALock)
-    : FFileName(AFileName.View()),
-      FHandle(OpenFile(AFileName)),
+    : FFileName(ExpandFileName(AFileName)),
       FLock(ALock != nullptr ? *ALock : FCritSect),
-      FIsWholePath(IsWholePath(AFileName)),
+      FPatienceAtEnd(cPatienceAtEnd),
       FSizeLimit(platform::FileSizeLimit()),
       FLookedAt(platform::CoarseTickCount64()) {
+    Open();
     FSize = *FHandle.Seek(0, platform::TFileOrigin::End); // 0 for a pipe or a device
     TLineFlusher::Instance().Add(*this);
 }
@@ -100,10 +85,42 @@ TQzTextFile::~TQzTextFile() {
     try {
         FlushWaiting();
     } catch (...) {
-        detail::CountDrops(FLines);
+        detail::ReportLoss(FLines, {}, {}, u"Lines in the buffer of \"" + FFileName + u"\" are lost",
+                           detail::TDropKey::Buffer);
     }
-    if (FIsShared)
+    if (FIsShared && GHasForked)
         FHandle.DenyNothing();
+}
+
+// A file that another object of this process has open is opened by a duplicate of its handle.
+void TQzTextFile::Open() {
+    const bool IsThere = FileExists(FFileName);
+    const UnicodeString Path = ExtractFilePath(FFileName);
+    if (!Path.IsEmpty())
+        ForceDirectories(Path);
+    if (!IsThere)
+        MakeFile(FFileName);
+    const platform::TResult<> Opened =
+        FHandle.Open(FFileName, platform::TFileAccess::ReadWrite, platform::TFileCreation::Never,
+                     {.Read = true, .Write = GHasForked});
+    if (!Opened && TLineFlusher::Instance().Duplicate(FFileName, FHandle))
+        FIsShared = true;
+    if (!FHandle.IsOpen())
+        Raise<EFOpenError>(SFOpenError, FFileName, Opened.Error());
+    if (const platform::TResult<> Moved = FHandle.WriteAtEnd(); !Moved)
+        Raise<EStreamError>(cCannotSeek, FFileName, Moved.Error());
+}
+
+bool TQzTextFile::DuplicateTo(const UnicodeString& AFileName, platform::TFileHandle& AHandle,
+                              TAccessKey<TLineFlusher>) noexcept {
+    if (!SameFileName(FFileName, AFileName) || !FHandle.IsAt(FFileName))
+        return false;
+    platform::TResult<platform::TFileHandle> Copy = FHandle.Duplicate();
+    if (!Copy)
+        return false;
+    FIsShared = true;
+    AHandle = std::move(*Copy);
+    return true;
 }
 
 std::int64_t TQzTextFile::Size() {
@@ -153,26 +170,42 @@ void TQzTextFile::PutBytes(TBytes ABytes) {
 
 // Appends all of ABytes or nothing.
 void TQzTextFile::AppendWhole(TBytes ABytes) {
-    const platform::TWritten Written = FHandle.Append(ABytes);
+    const platform::TWritten Written = !TLineFlusher::IsEnding()
+        ? FHandle.Append(ABytes)
+        : FHandle.AppendWithin(ABytes, FPatienceAtEnd);
     if (Written) [[likely]]
         return;
+    if (TLineFlusher::IsEnding())
+        FPatienceAtEnd = 0;
     if (Written.Done != 0)
         TakeBack(ABytes.first(Written.Done));
     Raise<EWriteError>(cCannotWrite, FFileName, Written.Error);
 }
 
-// Removes ABytes from the end of the file, unless another process has written after them.
-void TQzTextFile::TakeBack(TBytes ABytes) {
+// Removes ABytes from the end of the file; false if other bytes are there.
+bool TQzTextFile::TakeBack(TBytes ABytes) {
     using platform::TFileOrigin;
     std::vector<std::byte> Found(ABytes.size());
     const auto Count = static_cast<std::int64_t>(ABytes.size());
+    bool Result = false;
     const platform::TResult<std::int64_t> Size = FHandle.Seek(0, TFileOrigin::End);
     if (Size && *Size >= Count && FHandle.Seek(*Size - Count, TFileOrigin::Beginning)) {
         const platform::TResult<std::size_t> Got = FHandle.Read(Found);
         if (Got && *Got == Found.size() && std::ranges::equal(Found, ABytes))
-            std::ignore = FHandle.SetSize(*Size - Count);
+            Result = static_cast<bool>(FHandle.SetSize(*Size - Count));
     }
     std::ignore = FHandle.Seek(0, TFileOrigin::End);
+    return Result;
+}
+
+bool TQzTextFile::RemoveEnd(const TStringArg& AText) {
+    std::vector<char> Text(Utf16ToUtf8Length(AText));
+    Utf16ToUtf8(AText, Text.data());
+    const TScopedLock Hold(FLock);
+    const bool Result = TakeBack(BytesOf(Text.data(), Text.size()));
+    if (Result)
+        AddTo(FSize, -static_cast<std::int64_t>(Text.size()));
+    return Result;
 }
 
 void TQzTextFile::FlushWaiting() {
@@ -224,7 +257,7 @@ bool TQzTextFile::HasGone() {
     if (FLines.load(std::memory_order_relaxed) != 0)
         return false;
     const std::uint64_t Now = platform::CoarseTickCount64();
-    if (!FIsWholePath || Now - FLookedAt.load(std::memory_order_relaxed) < cLookEvery)
+    if (Now - FLookedAt.load(std::memory_order_relaxed) < cLookEvery)
         return false;
     FLookedAt.store(Now, std::memory_order_relaxed);
     const TScopedLock Hold(FLock);

@@ -28,12 +28,13 @@ class QZ_API TQzTextFile : public TObject {
 
 public:
     // Opens the file for appending, or makes it and sets its creation time to now, where the file system can
-    // keep it. Raises EFOpenError or EFCreateError. ALock, if given, replaces the file's own lock and lives
-    // longer than the file.
+    // keep it. Several objects of one process may have the same file open. A relative name is completed here
+    // with the current directory. Raises EFOpenError or EFCreateError. ALock, if given, replaces the file's
+    // own lock and lives longer than the file.
     explicit TQzTextFile(const TStringArg& AFileName, TCriticalSection* ALock = nullptr);
     TQzTextFile(const TQzTextFile&) = delete;
     TQzTextFile& operator=(const TQzTextFile&) = delete;
-    // Lines in the buffer that cannot be written are counted as dropped messages.
+    // Lines in the buffer that cannot be written are reported as dropped messages (LogDrops.h).
     ~TQzTextFile() override;
 
     // In bytes, with the buffer.
@@ -50,8 +51,9 @@ public:
     void SetBufferSize(std::size_t ASize);
     // Writes what is in the buffer. Raises EWriteError.
     void Flush();
-    // Whether the file was renamed or removed. Looks at most once a second, otherwise false; false for a
-    // relative path.
+    // Removes the text from the end of the file. False if the file does not end with it. The buffer is empty.
+    bool RemoveEnd(const TStringArg& AText);
+    // Whether the file was renamed or removed. Looks at most once a second, otherwise false.
     bool HasGone();
     // Whether a parent process opened it.
     bool IsInherited() const noexcept { return FIsInherited; }
@@ -62,14 +64,18 @@ public:
     void FlushWaiting(TAccessKey<TLineFlusher>) { FlushWaiting(); }
     void Share(TAccessKey<TLineFlusher>) noexcept { Share(); }
     void Inherit(TAccessKey<TLineFlusher>) noexcept;
+    // Duplicates the handle if it has that file open. True if it does.
+    bool DuplicateTo(const UnicodeString& AFileName, platform::TFileHandle& AHandle,
+                     TAccessKey<TLineFlusher>) noexcept;
 
 private:
     using TBytes = std::span<const std::byte>;
 
     void Put(const TStringArg& AText, std::u16string_view ATail);
+    void Open();
     void PutBytes(TBytes ABytes);
     void AppendWhole(TBytes ABytes);
-    void TakeBack(TBytes ABytes);
+    bool TakeBack(TBytes ABytes);
     void FlushWaiting();
     void Share() noexcept;
 
@@ -78,10 +84,10 @@ private:
     TCriticalSection FCritSect;
     TCriticalSection& FLock;              // FCritSect, or that of the owner
     std::atomic<std::int64_t> FSize{0};   // of the file and the buffer, as far as this process knows
-    std::atomic<bool> FIsShared{false};   // with another process, by a fork
+    std::atomic<bool> FIsShared{false};   // with another object, or with another process by a fork
     std::atomic<std::uint32_t> FLines{0}; // in the buffer
     bool FIsInherited = false;
-    bool FIsWholePath;
+    std::uint32_t FPatienceAtEnd;
     std::uint64_t FSizeLimit;
     std::atomic<std::uint64_t> FLookedAt;
     std::unique_ptr<char[]> FBuffer;

@@ -16,7 +16,7 @@ namespace qz {
 constinit const TClassRec TQzXmlLayout::ClassRec = DescribeLogBase<TQzXmlLayout>(
     u"TQzXmlLayout",
     {.Unit = u"uQzLogLayouts",
-     .Interfaces = Interfaces<TQzXmlLayout, IQzLogLayoutEx, IQzLogLayout, _IQzLogLayout>()});
+     .Interfaces = Interfaces<TQzXmlLayout, IQzLogLayoutEx, IQzLogLayout, _IQzLogLayout, IQzLogDocument>()});
 
 namespace {
 

@@ -6,11 +6,12 @@
 //
 // A file appender with this layout gets the extension ".log.xml", and the stylesheet is written beside its
 // file; set the name of the file first. Other appenders get no stylesheet. Times are UTC. The document is
-// complete when the file is closed; a continued file holds several documents.
+// complete when the file is closed.
 //
 // Markup characters are escaped, U+0000 is left out, and all others stay, also control characters that XML
-// excludes and at which a reader of XML stops. SetStrictXml replaces these by U+FFFD and escapes the path in
-// the header, so that the document is always well-formed.
+// excludes and at which a reader of XML stops. A continued file goes on after the end of the document.
+// SetStrictXml replaces these characters by U+FFFD, escapes the path in the header, and continues a file inside
+// its document, so that the file is always well-formed.
 //
 // Any number of threads may format lines.
 #pragma once
@@ -21,7 +22,7 @@
 
 namespace qz {
 
-class QZ_API TQzXmlLayout : public TQzLogBaseWith<TQzLogBase, IQzLogLayoutEx, _IQzLogLayout> {
+class QZ_API TQzXmlLayout : public TQzLogBaseWith<TQzLogBase, IQzLogLayoutEx, _IQzLogLayout, IQzLogDocument> {
     QZ_CLASS(TQzXmlLayout, TQzLogBase)
 
 public:
@@ -38,6 +39,7 @@ public:
     // Writes the stylesheet beside the file of a file appender, unless it exists, and makes the directory.
     // Raises EFCreateError.
     void Initialize(TQzLogBase* ALogBase) override;
+    bool ContinuesDocument() override { return FIsStrict; }
 
     bool GetStrictXml() const noexcept { return FIsStrict; }
     void SetStrictXml(bool AValue) noexcept { FIsStrict = AValue; }

@@ -1,10 +1,12 @@
 #include <qz/common/uQzLogger/LogDrops.h>
 
+#include <algorithm>
 #include <atomic>
+#include <cstdio>
 #include <map>
 #include <memory>
 
-#include <qz/common/uQzLogger/detail/LogThread.h>
+#include <qz/common/uQzLogger/detail/LogDispatch.h>
 #include <qz/platform/Clock.h>
 #include <qz/runtime/objects/Exceptions.h>
 
@@ -14,13 +16,26 @@ namespace {
 using detail::TStateHold;
 
 constexpr std::int64_t cSecond = 10'000'000;
+constexpr std::size_t cMostQueued = 32;
+
+void Print(const TQzLogDrop& ADrop) {
+    UnicodeString Line = u"log";
+    for (const UnicodeString& Part : {ADrop.Logger, ADrop.Appender, ADrop.ClassName, ADrop.Message}) {
+        if (!Part.IsEmpty())
+            Line += u": " + Part;
+    }
+    std::fprintf(stderr, "%s\n", std::string(Line).c_str());
+}
 
 // Lives to the very end of the process. The first two are guarded by the state lock.
 struct TDrops {
     std::shared_ptr<const TQzLogDropHook> Hook;
-    std::map<std::uint64_t, std::int64_t> Told; // the time of the last call, for each appender
+    std::map<std::uint64_t, std::int64_t> LastCalls; // the time of the last call, by key
+    const std::shared_ptr<const TQzLogDropHook> Printer = std::make_shared<const TQzLogDropHook>(Print);
     std::atomic<std::uint64_t> Count{0};
-    std::atomic<bool> IsTelling{false};
+    std::atomic<bool> IsCalling{false};
+    std::atomic<bool> Prints{false};
+    std::atomic<bool> HasLostFatal{false};
 };
 
 TDrops& Drops() {
@@ -28,16 +43,49 @@ TDrops& Drops() {
     return *Result;
 }
 
-// The hook, unless it was called for the appender within a second. Old entries are removed.
-std::shared_ptr<const TQzLogDropHook> HookFor(TDrops& ADrops, std::uint64_t AAppender) {
+// The hook, unless it was called for the key within a second. Old entries are removed.
+std::shared_ptr<const TQzLogDropHook> HookFor(TDrops& ADrops, std::uint64_t AKey) {
     const std::int64_t Now = platform::UtcNow100ns();
     const TStateHold Hold;
-    if (ADrops.Hook == nullptr)
-        return nullptr;
-    std::erase_if(ADrops.Told, [Now](const auto& AEntry) {
+    const auto Hook = ADrops.Hook == nullptr && ADrops.Prints ? ADrops.Printer : ADrops.Hook;
+    if (Hook == nullptr || AKey == detail::TDropKey::Unlimited)
+        return Hook;
+    std::erase_if(ADrops.LastCalls, [Now](const auto& AEntry) {
         return Now - AEntry.second >= cSecond || Now < AEntry.second;
     });
-    return ADrops.Told.try_emplace(AAppender, Now).second ? ADrops.Hook : nullptr;
+    return ADrops.LastCalls.try_emplace(AKey, Now).second ? Hook : nullptr;
+}
+
+// Messages of the hook are queued, and do not reach the appender of that serial.
+void CallHook(const TQzLogDrop& ADrop, std::uint64_t AKey) noexcept {
+    TDrops& All = Drops();
+    detail::TLogThread& Thread = detail::ThisLogThread();
+    if (All.IsCalling.exchange(true, std::memory_order_acquire))
+        return;
+    detail::BeginBusy();
+    const std::uint64_t Before = std::exchange(Thread.Failed, AKey);
+    try {
+        if (const auto Hook = HookFor(All, AKey))
+            (*Hook)(ADrop);
+    } catch (...) { // NOLINT(bugprone-empty-catch): the hook is the last resort
+    }
+    Thread.Failed = Before;
+    All.IsCalling.store(false, std::memory_order_release);
+    detail::EndBusy();
+}
+
+// Leaves the call to the end of what the thread is busy with. False if there is no memory.
+bool Queue(const TQzLogDrop& ADrop, std::uint64_t AKey) noexcept {
+    try {
+        std::vector<detail::TQueuedDrop>& Drops = detail::QueueOf(detail::ThisLogThread()).Drops;
+        const bool IsKnown = AKey != detail::TDropKey::Unlimited &&
+            std::ranges::find(Drops, AKey, &detail::TQueuedDrop::Key) != Drops.end();
+        if (!IsKnown && Drops.size() < cMostQueued)
+            Drops.push_back({ADrop, AKey});
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
 }
 
 // Describes the exception that is being handled.
@@ -61,36 +109,51 @@ void QzSetLogDropHook(TQzLogDropHook AHook) {
     auto Hook = AHook ? std::make_shared<const TQzLogDropHook>(std::move(AHook)) : nullptr;
     const TStateHold Hold;
     All.Hook.swap(Hook);
-    All.Told.clear();
+    All.LastCalls.clear();
+    All.HasLostFatal = false;
 }
 
 std::uint64_t QzDroppedLogMessages() noexcept {
     return Drops().Count.load(std::memory_order_relaxed);
 }
 
-void detail::ForgetTelling() noexcept {
-    Drops().IsTelling.store(false, std::memory_order_relaxed);
+void QzPrintLogDrops(bool AValue) noexcept {
+    Drops().Prints = AValue;
+}
+
+void detail::ForgetHookCall() noexcept {
+    Drops().IsCalling.store(false, std::memory_order_relaxed);
 }
 
 void detail::CountDrops(std::uint64_t ACount) noexcept {
     Drops().Count.fetch_add(ACount, std::memory_order_relaxed);
 }
 
-void detail::ReportDrop(const UnicodeString& ALogger, std::uint64_t AAppender,
-                        const UnicodeString& AAppenderName) noexcept {
-    TDrops& All = Drops();
+void detail::ReportDrop(const UnicodeString& ALogger, std::uint64_t AKey,
+                        const UnicodeString& AAppender) noexcept {
     CountDrop();
-    if (All.IsTelling.exchange(true, std::memory_order_acquire))
-        return;
     try {
-        if (const auto Hook = HookFor(All, AAppender)) {
-            TQzLogDrop Drop{ALogger, AAppenderName, {}, {}};
-            Describe(Drop);
-            (*Hook)(Drop);
-        }
-    } catch (...) { // NOLINT(bugprone-empty-catch): the hook is the last resort
+        TQzLogDrop Drop{ALogger, AAppender, {}, {}};
+        Describe(Drop);
+        CallHook(Drop, AKey);
+    } catch (...) { // NOLINT(bugprone-empty-catch): no memory for a description
     }
-    All.IsTelling.store(false, std::memory_order_release);
+}
+
+void detail::ReportLoss(std::uint64_t ACount, const UnicodeString& ALogger, const UnicodeString& AAppender,
+                        const UnicodeString& AMessage, std::uint64_t AKey) noexcept {
+    CountDrops(ACount);
+    ReportProblem({ALogger, AAppender, {}, AMessage}, AKey);
+}
+
+void detail::ReportProblem(const TQzLogDrop& ADrop, std::uint64_t AKey, bool AIsDue) noexcept {
+    if (AIsDue || ThisLogThread().Busy == 0 || !Queue(ADrop, AKey))
+        CallHook(ADrop, AKey);
+}
+
+void detail::ReportLostFatal(const UnicodeString& ALogger, const UnicodeString& AMessage) noexcept {
+    if (!Drops().HasLostFatal.exchange(true))
+        ReportProblem({ALogger, {}, {}, u"No appender for the fatal message: " + AMessage});
 }
 
 } // namespace qz

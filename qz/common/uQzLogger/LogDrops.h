@@ -1,32 +1,45 @@
-// Failures of appenders and layouts: the message is dropped and counted, and a hook is called.
+// Messages that are lost, and faults of a configuration: lost messages are counted, and a hook is called.
 //
-//     QzSetLogDropHook([](const TQzLogDrop& ADrop) { std::cerr << ADrop.Message << '\n'; });
+//     QzPrintLogDrops();                               // at program start: to the standard error
+//     QzSetLogDropHook([](const TQzLogDrop& ADrop) { Alarm(ADrop.Message); });
 //     if (QzDroppedLogMessages() != 0) ...
 //
-// Without a hook nothing is printed, and only the number is kept.
+// Without these calls nothing is printed, and only the number is kept.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 
 #include <qz/common/uQzLogger/LogInterfaces.h>
 
 namespace qz {
 
-// A message that did not reach all of its appenders.
+// A message that did not reach all of its appenders, or a fault of the configuration.
 struct TQzLogDrop {
-    UnicodeString Logger;    // the full name of the logger where it began; empty when an appender ends
-    UnicodeString Appender;  // the name of the appender that raised; empty for one without a name, or none
-    UnicodeString ClassName; // the class of the exception; empty for one that is no Exception
-    UnicodeString Message;   // the message of the exception
+    UnicodeString Logger;    // the full name of the logger where it began; empty if there is none
+    UnicodeString Appender;  // the name of the appender; empty for one without a name, or none
+    UnicodeString ClassName; // the class of the exception; empty for one that is no Exception, or none
+    UnicodeString Message;   // the message of the exception, or what has happened
 };
 
 using TQzLogDropHook = std::function<void(const TQzLogDrop& ADrop)>;
 
 // Sets the hook of the process; an empty one removes it. The hook is called on the logging thread, with no
-// lock held, at most once a second for each appender, and never while it runs on this or another thread. It
-// may log; its messages are delivered afterwards to all appenders but the one that raised. What it raises is
-// dropped. Any thread; a call of the old hook may still be running on another thread.
+// lock of an appender held, and never while it runs on this or another thread. It is called at most once a
+// second for each appender that raises, for the buffers of files, and for messages that arise too quickly. It
+// is called once for each of these faults, which are not counted as lost messages:
+//
+//     a logger is configured with an appender that does not exist and has no class
+//     an appender without a layout was given a message
+//     a logger without any appender on the way to the root was given a fatal message (once in the process)
+//
+// It may log; its messages are delivered afterwards to all appenders but the one that raised. What it raises
+// is dropped. Any thread; a call of the old hook may still be running on another thread.
 QZ_API void QzSetLogDropHook(TQzLogDropHook AHook);
+
+// Whether a process without a hook prints to the standard error what a hook would be called for, a line each.
+// The default is false. Any thread.
+QZ_API void QzPrintLogDrops(bool AValue = true) noexcept;
 
 // The number of messages lost so far: an appender raised, the disk was full until the file was closed, the
 // log of the system refused them, or more than 1000 arose while one was delivered. Any thread.
@@ -38,12 +51,25 @@ void CountDrops(std::uint64_t ACount) noexcept;
 inline void CountDrop() noexcept {
     CountDrops(1);
 }
-// Counts a drop and calls the hook; for a handler of exceptions. AAppender is the serial of an appender, or
-// 0.
-void ReportDrop(const UnicodeString& ALogger, std::uint64_t AAppender,
-                const UnicodeString& AAppenderName) noexcept;
+// The key by which calls of the hook are limited to one a second: the serial of an appender, or one of these.
+namespace TDropKey {
+inline constexpr std::uint64_t None = 0;
+inline constexpr std::uint64_t Buffer = UINT64_MAX;
+inline constexpr std::uint64_t QueueLimit = UINT64_MAX - 1;
+inline constexpr std::uint64_t Unlimited = UINT64_MAX - 2;
+} // namespace TDropKey
+// Counts a drop and calls the hook; for a handler of exceptions.
+void ReportDrop(const UnicodeString& ALogger, std::uint64_t AKey, const UnicodeString& AAppender) noexcept;
+// Counts lost messages and calls the hook.
+void ReportLoss(std::uint64_t ACount, const UnicodeString& ALogger, const UnicodeString& AAppender,
+                const UnicodeString& AMessage, std::uint64_t AKey) noexcept;
+// Calls the hook. A busy thread calls it later, unless AIsDue.
+void ReportProblem(const TQzLogDrop& ADrop, std::uint64_t AKey = TDropKey::Unlimited,
+                   bool AIsDue = false) noexcept;
+// The first fatal message of the process that no appender could take.
+void ReportLostFatal(const UnicodeString& ALogger, const UnicodeString& AMessage) noexcept;
 // In the child of a fork: a call of the hook on a thread of the parent has no end there.
-void ForgetTelling() noexcept;
+void ForgetHookCall() noexcept;
 
 } // namespace detail
 

@@ -74,6 +74,18 @@ protected:
     ~IQzLogLayoutEx() = default;
 };
 
+// A layout whose lines belong to a document with an end.
+class IQzLogDocument : public IInterface {
+public:
+    static constexpr TGUID IID = Guid("{8C1FE0A4-3B52-4D0B-9C37-5F0B6B1D7A26}");
+
+    // Whether a file that is opened again is continued before its footer, which is removed.
+    virtual bool ContinuesDocument() = 0;
+
+protected:
+    ~IQzLogDocument() = default;
+};
+
 // A layout that needs the appender it is set to.
 // NOLINTNEXTLINE(bugprone-reserved-identifier,readability-identifier-naming): the name is fixed
 class _IQzLogLayout : public IInterface {
@@ -131,6 +143,7 @@ protected:
 //               Layout           mtkString    a name in RegisteredLayouts
 //               AppendExisting   mtkBoolean   FileName, FileExt  mtkString              file appenders
 //               BufferSize, FlushLevel        mtkInteger                                file appenders
+//                                             (a failure to answer keeps the present value)
 //               MaxFileSize, MaxBackupCount   mtkInteger         DatePattern  mtkString rolling appenders
 //               ServiceName      mtkString    event log appenders
 //

@@ -26,9 +26,7 @@ constinit const TClassRec TQzLogger::ClassRec = DescribeClass<TQzLogger>(
 namespace {
 
 constexpr std::u16string_view cRoot = u"root";
-// Above all levels: no appender takes anything.
-constexpr auto cNobody = static_cast<TQzLogLevel>(static_cast<int>(llDoNotLog) + 1);
-
+constexpr std::uint32_t cPatienceAtEnd = 1000; // milliseconds
 constinit std::atomic<TQzLogger*> GRoot{nullptr}; // written under the state lock
 
 // All living loggers; guarded by the state lock.
@@ -50,8 +48,12 @@ struct TLogUnit {
         detail::WatchForks();
     }
     ~TLogUnit() {
-        if (TQzLogger* Root = GRoot.load(std::memory_order_acquire))
-            Root->Retire();
+        TQzLogger* const Root = GRoot.load(std::memory_order_acquire);
+        detail::TLogThread& Thread = detail::ThisLogThread();
+        if (Root == nullptr || !Root->FSet->TryEnter(Thread, cPatienceAtEnd))
+            return; // an appender blocks on another thread
+        Root->Retire();
+        Root->FSet->Leave(Thread);
     }
 };
 
@@ -69,7 +71,7 @@ TQzLogger::TQzLogger(TQzLogger* AParent, const UnicodeString& AName)
       FParent(AParent),
       FChildLoggers(TQzLoggerList::Create(*this).release()),
       FEndsByCount(AParent != nullptr),
-      FTakenFrom(cNobody) {}
+      FTakenFrom(cLevelOfNobody) {}
 
 TQzLogger::~TQzLogger() {
     const TStateHold Hold;
@@ -322,8 +324,8 @@ bool TQzLogger::RecomputeOwn() noexcept {
         GetParentLevel() && Parent != nullptr ? Parent->GetLevel() : FLevel.load(std::memory_order_relaxed);
     const TQzLogger* Next = NextOnTheWay();
     const TQzLogLevel TakenFrom =
-        std::min(FSet->IsEmpty() ? cNobody : Level,
-                 Next == nullptr ? cNobody : Next->FTakenFrom.load(std::memory_order_relaxed));
+        std::min(FSet->IsEmpty() ? cLevelOfNobody : Level,
+                 Next == nullptr ? cLevelOfNobody : Next->FTakenFrom.load(std::memory_order_relaxed));
     const bool IsOther = FEffectiveLevel.exchange(Level, std::memory_order_relaxed) != Level;
     return (FTakenFrom.exchange(TakenFrom, std::memory_order_relaxed) != TakenFrom) || IsOther;
 }

@@ -11,9 +11,8 @@
 // its root writes to its own appenders and to those of its ancestors below the root. After a fork the child
 // can log.
 //
-// A message that no appender takes costs one comparison beside what its arguments cost (a narrow text is
-// converted, a u"" text is not): each logger knows the lowest level at which an appender on the way to the
-// root would be called.
+// A message that no appender takes costs one comparison, and the check of its pattern: each logger knows the
+// lowest level at which an appender on the way to the root would be called.
 #pragma once
 
 #include <atomic>
@@ -73,47 +72,52 @@ public:
     bool IsEnabledFor(TQzLogLevel ALevel) const override { return ALevel >= GetLevel(); }
 
     // Messages.
-    void Trace(const TStringArg& AMessage) override;
-    void Trace(const TObject* AObject, const TStringArg& AMessage) override;
-    void Trace(const TObject* AObject, const TStringArg& APattern, TVarRecs AArgs) override;
-    void Debug(const TStringArg& AMessage) override;
-    void Debug(const TStringArg& APattern, TVarRecs AArgs) override;
-    void Debug(const TStringArg& AMessage, const Variant& AValue) override;
-    void Debug(const TStringArg& AMessage, const TObject* AValue) override;
-    void Debug(const TStringArg& AMessage, const Exception& AValue) override;
-    void Info(const TStringArg& AMessage) override;
-    void Warn(const TStringArg& AMessage) override;
-    void Error(const TStringArg& AMessage) override;
-    // The message, CR LF, and that of the exception.
-    void Error(const TStringArg& AMessage, const Exception& AValue);
-    void Fatal(const TStringArg& AMessage) override;
-    void Fatal(const TStringArg& APattern, TVarRecs AArgs) override;
+    using IQzLogger::Debug;
+    using IQzLogger::Error;
+    using IQzLogger::Fatal;
+    using IQzLogger::Info;
+    using IQzLogger::Log;
+    using IQzLogger::Trace;
+    using IQzLogger::Warn;
+    void Trace(const TQzLogText& AMessage) override;
+    void Trace(const TObject* AObject, const TQzLogText& AMessage) override;
+    void Trace(const TObject* AObject, const TQzLogText& APattern, TVarRecs AArgs) override;
+    void Debug(const TQzLogText& AMessage) override;
+    void Debug(const TQzLogText& APattern, TVarRecs AArgs) override;
+    void Debug(const TQzLogText& AMessage, const Variant& AValue) override;
+    void Debug(const TQzLogText& AMessage, const TObject* AValue) override;
+    void Debug(const TQzLogText& AMessage, const Exception& AValue) override;
+    void Info(const TQzLogText& AMessage) override;
+    void Warn(const TQzLogText& AMessage) override;
+    void Error(const TQzLogText& AMessage) override;
+    void Fatal(const TQzLogText& AMessage) override;
+    void Fatal(const TQzLogText& APattern, TVarRecs AArgs) override;
     void Fatal(const Exception& AValue) override;
-    void Fatal(const TStringArg& AMessage, const Exception& AValue) override;
+    void Fatal(const TQzLogText& AMessage, const Exception& AValue) override;
     void Count(const TStringArg& AName, std::int32_t AValue) override;
     void ClearLog() override;
-    void EnterMethod(const TStringArg& AMessage, TQzLogLevel ALevel = llTrace) override;
-    void EnterMethod(const TStringArg& APattern, TVarRecs AArgs, TQzLogLevel ALevel = llTrace) override;
-    void EnterMethod(const TObject* AObject, const TStringArg& AMessage,
+    void EnterMethod(const TQzLogText& AMessage, TQzLogLevel ALevel = llTrace) override;
+    void EnterMethod(const TQzLogText& APattern, TVarRecs AArgs, TQzLogLevel ALevel = llTrace) override;
+    void EnterMethod(const TObject* AObject, const TQzLogText& AMessage,
                      TQzLogLevel ALevel = llTrace) override;
-    void EnterMethod(const TObject* AObject, const TStringArg& APattern, TVarRecs AArgs,
+    void EnterMethod(const TObject* AObject, const TQzLogText& APattern, TVarRecs AArgs,
                      TQzLogLevel ALevel = llTrace) override;
-    void ExitMethod(const TStringArg& AMessage, TQzLogLevel ALevel = llTrace) override;
-    void ExitMethod(const TStringArg& APattern, TVarRecs AArgs, TQzLogLevel ALevel = llTrace) override;
-    void ExitMethod(const TObject* AObject, const TStringArg& AMessage,
+    void ExitMethod(const TQzLogText& AMessage, TQzLogLevel ALevel = llTrace) override;
+    void ExitMethod(const TQzLogText& APattern, TVarRecs AArgs, TQzLogLevel ALevel = llTrace) override;
+    void ExitMethod(const TObject* AObject, const TQzLogText& AMessage,
                     TQzLogLevel ALevel = llTrace) override;
-    void Log(TQzLogLevel ALevel, const TStringArg& AMessage, TQzLogIndent AIndent = liIndentNone) override;
-    void Log(TQzLogLevel ALevel, const TStringArg& AMessage, const Variant& AValue,
+    void Log(TQzLogLevel ALevel, const TQzLogText& AMessage, TQzLogIndent AIndent = liIndentNone) override;
+    void Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const Variant& AValue,
              TQzLogIndent AIndent = liIndentNone) override;
-    void Log(TQzLogLevel ALevel, const TStringArg& AMessage, const TObject* AValue,
+    void Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const TObject* AValue,
              TQzLogIndent AIndent = liIndentNone) override;
-    void Log(TQzLogLevel ALevel, const TStringArg& AMessage, const Exception& AValue,
+    void Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const Exception& AValue,
              TQzLogIndent AIndent = liIndentNone) override;
     void Log(IQzLogData* AData) override;
-    void LogValue(TQzLogLevel ALevel, const TStringArg& AMessage, const TValue& AValue,
+    void LogValue(TQzLogLevel ALevel, const TQzLogText& AMessage, const TValue& AValue,
                   TQzLogIndent AIndent = liIndentNone) override;
     // Delivers the message under that source; all others end here. Raises nothing.
-    void DoLog(const UnicodeString& ASource, TQzLogLevel ALevel, const TStringArg& AMessage,
+    void DoLog(const UnicodeString& ASource, TQzLogLevel ALevel, const TQzLogText& AMessage,
                PQzDataRec AValue, TQzLogIndent AIndent) noexcept;
 
     // Appenders.
@@ -161,6 +165,8 @@ private:
     friend QZ_API TQzLogger& Logger();
     friend QZ_API void CloseRootLogger();
     friend struct TLogUnit;
+    // Above all levels: there is no appender on the way.
+    static constexpr auto cLevelOfNobody = static_cast<TQzLogLevel>(static_cast<int>(llDoNotLog) + 1);
     bool IsOrphan() const noexcept { return FIsOrphan.load(std::memory_order_relaxed); }
     bool IsTaken(TQzLogLevel ALevel) const noexcept {
         return ALevel >= FTakenFrom.load(std::memory_order_relaxed);
@@ -169,9 +175,10 @@ private:
         return GetAdditive() && !IsOrphan() ? FParent.Get() : nullptr;
     }
     bool TryAddRef() noexcept;
-    void Send(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue = nullptr,
+    void Send(TQzLogLevel ALevel, const TQzLogText& AMessage, PQzDataRec AValue = nullptr,
               TQzLogIndent AIndent = liIndentNone);
-    void SendTaken(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue, TQzLogIndent AIndent);
+    void SendTaken(TQzLogLevel ALevel, const TQzLogText& AMessage, PQzDataRec AValue, TQzLogIndent AIndent);
+    void SendToNobody(TQzLogLevel ALevel, const TQzLogText& AMessage) const;
     Ref<TQzLogger> Child(std::u16string_view AName);
     void Recompute();
     bool RecomputeOwn() noexcept;

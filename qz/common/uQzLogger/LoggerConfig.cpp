@@ -2,6 +2,7 @@
 #include <vector>
 
 #include <qz/common/uQzLogger/LogBase.h>
+#include <qz/common/uQzLogger/LogDrops.h>
 #include <qz/common/uQzLogger/LoggerClass.h>
 #include <qz/common/uQzLogger/LoggerList.h>
 #include <qz/common/uQzLogger/detail/LogThread.h>
@@ -66,6 +67,8 @@ void TQzLogger::ReadAppenders(IQzLogConfigurator& AConfigurator) {
             Appender = As<IQzLogAppender>(MakeLogBase(RegisteredAppenders().GetClass(ClassName), this, Name));
         if (Appender != nullptr)
             AddAppender(Appender.Get());
+        else
+            detail::ReportProblem({FullName(), Name, {}, u"The appender does not exist and has no class"});
     }
 }
 

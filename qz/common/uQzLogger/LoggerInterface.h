@@ -8,8 +8,8 @@
 // A message goes to the appenders of the logger if its level is at least that of the logger. Then it goes in
 // the same way to the parent, and so on as long as the loggers are additive. An exception of an appender or
 // layout does not reach the caller (LogDrops.h). A bad pattern raises EConvertError from the operation
-// itself, before anything is logged. Texts are formatted even if no appender takes them: check IsEnabledFor
-// first where that costs too much.
+// itself, before anything is logged. A message that no appender takes is neither converted nor formatted, but
+// its pattern is checked.
 //
 // Any thread may call any operation. A message that arises while an appender writes or a layout formats a
 // line, on the same thread, is queued and delivered next, to all appenders that take it. So is a message of a
@@ -19,9 +19,10 @@
 // This header is for code that only logs. A message with a value needs Variant.h or Value.h as well.
 #pragma once
 
+#include <exception>
+
+#include <qz/common/uQzLogger/LogText.h>
 #include <qz/common/uQzLogger/LogTypes.h>
-#include <qz/runtime/base/StringArg.h>
-#include <qz/runtime/base/VarRec.h>
 #include <qz/runtime/objects/Ref.h>
 
 namespace qz {
@@ -79,46 +80,46 @@ public:
 
     // Messages. For an object, Trace prepends its class and address, EnterMethod and ExitMethod its class.
     // Patterns and arguments are those of Format.
-    virtual void Trace(const TStringArg& AMessage) = 0;
-    virtual void Trace(const TObject* AObject, const TStringArg& AMessage) = 0;
-    virtual void Trace(const TObject* AObject, const TStringArg& APattern, TVarRecs AArgs) = 0;
-    virtual void Debug(const TStringArg& AMessage) = 0;
-    virtual void Debug(const TStringArg& APattern, TVarRecs AArgs) = 0;
-    virtual void Debug(const TStringArg& AMessage, const Variant& AValue) = 0;
-    virtual void Debug(const TStringArg& AMessage, const TObject* AValue) = 0;
-    virtual void Debug(const TStringArg& AMessage, const Exception& AValue) = 0;
-    virtual void Info(const TStringArg& AMessage) = 0;
-    virtual void Warn(const TStringArg& AMessage) = 0;
-    virtual void Error(const TStringArg& AMessage) = 0;
-    virtual void Fatal(const TStringArg& AMessage) = 0;
-    virtual void Fatal(const TStringArg& APattern, TVarRecs AArgs) = 0;
+    virtual void Trace(const TQzLogText& AMessage) = 0;
+    virtual void Trace(const TObject* AObject, const TQzLogText& AMessage) = 0;
+    virtual void Trace(const TObject* AObject, const TQzLogText& APattern, TVarRecs AArgs) = 0;
+    virtual void Debug(const TQzLogText& AMessage) = 0;
+    virtual void Debug(const TQzLogText& APattern, TVarRecs AArgs) = 0;
+    virtual void Debug(const TQzLogText& AMessage, const Variant& AValue) = 0;
+    virtual void Debug(const TQzLogText& AMessage, const TObject* AValue) = 0;
+    virtual void Debug(const TQzLogText& AMessage, const Exception& AValue) = 0;
+    virtual void Info(const TQzLogText& AMessage) = 0;
+    virtual void Warn(const TQzLogText& AMessage) = 0;
+    virtual void Error(const TQzLogText& AMessage) = 0;
+    virtual void Fatal(const TQzLogText& AMessage) = 0;
+    virtual void Fatal(const TQzLogText& APattern, TVarRecs AArgs) = 0;
     virtual void Fatal(const Exception& AValue) = 0;
-    virtual void Fatal(const TStringArg& AMessage, const Exception& AValue) = 0;
+    virtual void Fatal(const TQzLogText& AMessage, const Exception& AValue) = 0;
     // A counter, which readers of logs can collect: the message "#counter::NAME#" of level llDebug with the
     // value.
     virtual void Count(const TStringArg& AName, std::int32_t AValue) = 0;
     // Does nothing, since no log is kept in memory.
     virtual void ClearLog() = 0;
     // This line and those up to ExitMethod are indented by one more step.
-    virtual void EnterMethod(const TStringArg& AMessage, TQzLogLevel ALevel = llTrace) = 0;
-    virtual void EnterMethod(const TStringArg& APattern, TVarRecs AArgs, TQzLogLevel ALevel = llTrace) = 0;
-    virtual void EnterMethod(const TObject* AObject, const TStringArg& AMessage,
+    virtual void EnterMethod(const TQzLogText& AMessage, TQzLogLevel ALevel = llTrace) = 0;
+    virtual void EnterMethod(const TQzLogText& APattern, TVarRecs AArgs, TQzLogLevel ALevel = llTrace) = 0;
+    virtual void EnterMethod(const TObject* AObject, const TQzLogText& AMessage,
                              TQzLogLevel ALevel = llTrace) = 0;
-    virtual void EnterMethod(const TObject* AObject, const TStringArg& APattern, TVarRecs AArgs,
+    virtual void EnterMethod(const TObject* AObject, const TQzLogText& APattern, TVarRecs AArgs,
                              TQzLogLevel ALevel = llTrace) = 0;
-    virtual void ExitMethod(const TStringArg& AMessage, TQzLogLevel ALevel = llTrace) = 0;
-    virtual void ExitMethod(const TStringArg& APattern, TVarRecs AArgs, TQzLogLevel ALevel = llTrace) = 0;
-    virtual void ExitMethod(const TObject* AObject, const TStringArg& AMessage,
+    virtual void ExitMethod(const TQzLogText& AMessage, TQzLogLevel ALevel = llTrace) = 0;
+    virtual void ExitMethod(const TQzLogText& APattern, TVarRecs AArgs, TQzLogLevel ALevel = llTrace) = 0;
+    virtual void ExitMethod(const TObject* AObject, const TQzLogText& AMessage,
                             TQzLogLevel ALevel = llTrace) = 0;
-    virtual void Log(TQzLogLevel ALevel, const TStringArg& AMessage, TQzLogIndent AIndent = liIndentNone) = 0;
-    virtual void Log(TQzLogLevel ALevel, const TStringArg& AMessage, const Variant& AValue,
+    virtual void Log(TQzLogLevel ALevel, const TQzLogText& AMessage, TQzLogIndent AIndent = liIndentNone) = 0;
+    virtual void Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const Variant& AValue,
                      TQzLogIndent AIndent = liIndentNone) = 0;
-    virtual void Log(TQzLogLevel ALevel, const TStringArg& AMessage, const TObject* AValue,
+    virtual void Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const TObject* AValue,
                      TQzLogIndent AIndent = liIndentNone) = 0;
-    virtual void Log(TQzLogLevel ALevel, const TStringArg& AMessage, const Exception& AValue,
+    virtual void Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const Exception& AValue,
                      TQzLogIndent AIndent = liIndentNone) = 0;
     virtual void Log(IQzLogData* AData) = 0;
-    virtual void LogValue(TQzLogLevel ALevel, const TStringArg& AMessage, const TValue& AValue,
+    virtual void LogValue(TQzLogLevel ALevel, const TQzLogText& AMessage, const TValue& AValue,
                           TQzLogIndent AIndent = liIndentNone) = 0;
 
     // Appenders. TQzLogAppenderList says when a removal waits.
@@ -130,6 +131,22 @@ public:
     // the same thread. That raises EAssertionFailed if the thread does not hold the lock.
     virtual TQzLogAppenderList* LockAppenders() = 0;
     virtual void UnLockAppenders() = 0;
+
+    // Beyond the common operations. Patterns and arguments are those of Format. The value of a message is the
+    // exception, or the text of what() for one that is no Exception. Error instead appends CR LF and the
+    // message of the exception.
+    void Info(const TQzLogText& APattern, TVarRecs AArgs) { Info(TQzLogText(APattern, AArgs)); }
+    void Warn(const TQzLogText& APattern, TVarRecs AArgs) { Warn(TQzLogText(APattern, AArgs)); }
+    void Error(const TQzLogText& APattern, TVarRecs AArgs) { Error(TQzLogText(APattern, AArgs)); }
+    void Trace(const TQzLogText& AMessage, const std::exception& AValue) { Log(llTrace, AMessage, AValue); }
+    void Debug(const TQzLogText& AMessage, const std::exception& AValue) { Log(llDebug, AMessage, AValue); }
+    void Info(const TQzLogText& AMessage, const std::exception& AValue) { Log(llInfo, AMessage, AValue); }
+    void Warn(const TQzLogText& AMessage, const std::exception& AValue) { Log(llWarn, AMessage, AValue); }
+    QZ_API void Error(const TQzLogText& AMessage, const std::exception& AValue);
+    QZ_API void Fatal(const std::exception& AValue);
+    void Fatal(const TQzLogText& AMessage, const std::exception& AValue) { Log(llFatal, AMessage, AValue); }
+    QZ_API void Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const std::exception& AValue,
+                    TQzLogIndent AIndent = liIndentNone);
 
     // The same for an appender of this library, which may derive from IQzLogAppender in several ways.
     QZ_API void AddAppender(TQzBaseAppender* AAppender);

@@ -1,5 +1,6 @@
 // TQzLogger: the families of messages.
 #include <qz/common/uQzLogger/LogData.h>
+#include <qz/common/uQzLogger/LogDrops.h>
 #include <qz/common/uQzLogger/LoggerClass.h>
 #include <qz/common/uQzLogger/detail/LogDispatch.h>
 #include <qz/runtime/text/Format.h>
@@ -11,12 +12,27 @@ std::u16string_view ClassOfObject(const TObject* AObject) noexcept {
     return AObject == nullptr ? std::u16string_view(u"nil") : AObject->ClassName();
 }
 
-UnicodeString TraceText(const TObject* AObject, std::u16string_view AMessage) {
+UnicodeString TraceText(const TObject* AObject, const UnicodeString& AMessage) {
     return Format(u"%s($%p).%s", {ClassOfObject(AObject), static_cast<const void*>(AObject), AMessage});
 }
 
-UnicodeString MethodText(const TObject* AObject, std::u16string_view AMessage) {
-    return UnicodeString(ClassOfObject(AObject)) + u'.' + AMessage;
+UnicodeString MethodText(const TObject* AObject, const TQzLogText& AMessage) {
+    return UnicodeString(ClassOfObject(AObject)) + u'.' + AMessage.ToString();
+}
+
+bool IsSound(const TQzLogText& APattern, TVarRecs AArgs) {
+    try {
+        TQzLogText(APattern, AArgs).Check();
+        return true;
+    } catch (const EConvertError&) {
+        return false;
+    }
+}
+
+// An Exception is a value as an object is, any other exception as its text.
+UnicodeString TextOf(const std::exception& AException) {
+    const auto* const Own = dynamic_cast<const Exception*>(&AException);
+    return Own != nullptr ? Own->Message() : UnicodeString(AException.what());
 }
 
 // The value holds the address of the object, which is only read.
@@ -30,73 +46,85 @@ TValue ValueOf(const Exception& AException) {
 } // namespace
 
 // Inlined into the families, so that a message that no appender takes costs one comparison.
-inline void TQzLogger::Send(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue,
+inline void TQzLogger::Send(TQzLogLevel ALevel, const TQzLogText& AMessage, PQzDataRec AValue,
                             TQzLogIndent AIndent) {
     if (IsTaken(ALevel))
         SendTaken(ALevel, AMessage, AValue, AIndent);
+    else if (AMessage.HasArgs() || ALevel >= llFatal)
+        SendToNobody(ALevel, AMessage);
 }
 
-void TQzLogger::SendTaken(TQzLogLevel ALevel, const TStringArg& AMessage, PQzDataRec AValue,
+void TQzLogger::SendTaken(TQzLogLevel ALevel, const TQzLogText& AMessage, PQzDataRec AValue,
                           TQzLogIndent AIndent) {
-    detail::TLogDispatch::Send(*this, {FullName(), ALevel, AMessage, AValue, AIndent});
+    if (!AMessage.HasArgs())
+        return detail::TLogDispatch::Send(*this, {FullName(), ALevel, AMessage, AValue, AIndent});
+    const UnicodeString Text = AMessage.ToString(); // a bad pattern ends here
+    detail::TLogDispatch::Send(*this, {FullName(), ALevel, Text, AValue, AIndent});
 }
 
-void TQzLogger::DoLog(const UnicodeString& ASource, TQzLogLevel ALevel, const TStringArg& AMessage,
+void TQzLogger::SendToNobody(TQzLogLevel ALevel, const TQzLogText& AMessage) const {
+    AMessage.Check();
+    if (ALevel >= llFatal && FTakenFrom.load(std::memory_order_relaxed) == cLevelOfNobody)
+        detail::ReportLostFatal(FullName(), AMessage.ToString());
+}
+
+void TQzLogger::DoLog(const UnicodeString& ASource, TQzLogLevel ALevel, const TQzLogText& AMessage,
                       PQzDataRec AValue, TQzLogIndent AIndent) noexcept {
     if (IsTaken(ALevel))
         detail::TLogDispatch::Send(*this, {ASource, ALevel, AMessage, AValue, AIndent});
 }
 
-void TQzLogger::Trace(const TStringArg& AMessage) {
+void TQzLogger::Trace(const TQzLogText& AMessage) {
     Send(llTrace, AMessage);
 }
-void TQzLogger::Trace(const TObject* AObject, const TStringArg& AMessage) {
+void TQzLogger::Trace(const TObject* AObject, const TQzLogText& AMessage) {
     if (IsTaken(llTrace))
-        Send(llTrace, TraceText(AObject, AMessage));
+        Send(llTrace, TraceText(AObject, AMessage.ToString()));
 }
-void TQzLogger::Trace(const TObject* AObject, const TStringArg& APattern, TVarRecs AArgs) {
-    Trace(AObject, Format(APattern, AArgs));
+void TQzLogger::Trace(const TObject* AObject, const TQzLogText& APattern, TVarRecs AArgs) {
+    const TQzLogText Text(APattern, AArgs);
+    if (IsTaken(llTrace))
+        Send(llTrace, TraceText(AObject, Text.ToString()));
+    else
+        Text.Check();
 }
 
-void TQzLogger::Debug(const TStringArg& AMessage) {
+void TQzLogger::Debug(const TQzLogText& AMessage) {
     Send(llDebug, AMessage);
 }
-void TQzLogger::Debug(const TStringArg& APattern, TVarRecs AArgs) {
-    Send(llDebug, Format(APattern, AArgs));
+void TQzLogger::Debug(const TQzLogText& APattern, TVarRecs AArgs) {
+    Send(llDebug, TQzLogText(APattern, AArgs));
 }
-void TQzLogger::Debug(const TStringArg& AMessage, const Variant& AValue) {
+void TQzLogger::Debug(const TQzLogText& AMessage, const Variant& AValue) {
     Log(llDebug, AMessage, AValue);
 }
-void TQzLogger::Debug(const TStringArg& AMessage, const TObject* AValue) {
+void TQzLogger::Debug(const TQzLogText& AMessage, const TObject* AValue) {
     Log(llDebug, AMessage, AValue);
 }
-void TQzLogger::Debug(const TStringArg& AMessage, const Exception& AValue) {
+void TQzLogger::Debug(const TQzLogText& AMessage, const Exception& AValue) {
     Log(llDebug, AMessage, AValue);
 }
 
-void TQzLogger::Info(const TStringArg& AMessage) {
+void TQzLogger::Info(const TQzLogText& AMessage) {
     Send(llInfo, AMessage);
 }
-void TQzLogger::Warn(const TStringArg& AMessage) {
+void TQzLogger::Warn(const TQzLogText& AMessage) {
     Send(llWarn, AMessage);
 }
-void TQzLogger::Error(const TStringArg& AMessage) {
+void TQzLogger::Error(const TQzLogText& AMessage) {
     Send(llError, AMessage);
 }
-void TQzLogger::Error(const TStringArg& AMessage, const Exception& AValue) {
-    Send(llError, AMessage.ToString() + u"\r\n" + AValue.Message());
-}
 
-void TQzLogger::Fatal(const TStringArg& AMessage) {
+void TQzLogger::Fatal(const TQzLogText& AMessage) {
     Send(llFatal, AMessage);
 }
-void TQzLogger::Fatal(const TStringArg& APattern, TVarRecs AArgs) {
-    Send(llFatal, Format(APattern, AArgs));
+void TQzLogger::Fatal(const TQzLogText& APattern, TVarRecs AArgs) {
+    Send(llFatal, TQzLogText(APattern, AArgs));
 }
 void TQzLogger::Fatal(const Exception& AValue) {
     Log(llFatal, AValue.Message(), AValue);
 }
-void TQzLogger::Fatal(const TStringArg& AMessage, const Exception& AValue) {
+void TQzLogger::Fatal(const TQzLogText& AMessage, const Exception& AValue) {
     Log(llFatal, AMessage, AValue);
 }
 
@@ -107,45 +135,46 @@ void TQzLogger::Count(const TStringArg& AName, std::int32_t AValue) {
 
 void TQzLogger::ClearLog() {}
 
-void TQzLogger::EnterMethod(const TStringArg& AMessage, TQzLogLevel ALevel) {
+void TQzLogger::EnterMethod(const TQzLogText& AMessage, TQzLogLevel ALevel) {
     Send(ALevel, AMessage, nullptr, liIndentIncrease);
 }
-void TQzLogger::EnterMethod(const TStringArg& APattern, TVarRecs AArgs, TQzLogLevel ALevel) {
-    Send(ALevel, Format(APattern, AArgs), nullptr, liIndentIncrease);
+void TQzLogger::EnterMethod(const TQzLogText& APattern, TVarRecs AArgs, TQzLogLevel ALevel) {
+    Send(ALevel, TQzLogText(APattern, AArgs), nullptr, liIndentIncrease);
 }
-void TQzLogger::EnterMethod(const TObject* AObject, const TStringArg& AMessage, TQzLogLevel ALevel) {
+void TQzLogger::EnterMethod(const TObject* AObject, const TQzLogText& AMessage, TQzLogLevel ALevel) {
     if (IsTaken(ALevel))
         Send(ALevel, MethodText(AObject, AMessage), nullptr, liIndentIncrease);
 }
-void TQzLogger::EnterMethod(const TObject* AObject, const TStringArg& APattern, TVarRecs AArgs,
+void TQzLogger::EnterMethod(const TObject* AObject, const TQzLogText& APattern, TVarRecs AArgs,
                             TQzLogLevel ALevel) {
-    Send(ALevel, Format(MethodText(AObject, APattern), AArgs), nullptr, liIndentIncrease);
+    if (IsTaken(ALevel) || !IsSound(APattern, AArgs))
+        Send(ALevel, Format(MethodText(AObject, APattern), AArgs), nullptr, liIndentIncrease);
 }
 
-void TQzLogger::ExitMethod(const TStringArg& AMessage, TQzLogLevel ALevel) {
+void TQzLogger::ExitMethod(const TQzLogText& AMessage, TQzLogLevel ALevel) {
     Send(ALevel, AMessage, nullptr, liIndentDecrease);
 }
-void TQzLogger::ExitMethod(const TStringArg& APattern, TVarRecs AArgs, TQzLogLevel ALevel) {
-    Send(ALevel, Format(APattern, AArgs), nullptr, liIndentDecrease);
+void TQzLogger::ExitMethod(const TQzLogText& APattern, TVarRecs AArgs, TQzLogLevel ALevel) {
+    Send(ALevel, TQzLogText(APattern, AArgs), nullptr, liIndentDecrease);
 }
-void TQzLogger::ExitMethod(const TObject* AObject, const TStringArg& AMessage, TQzLogLevel ALevel) {
+void TQzLogger::ExitMethod(const TObject* AObject, const TQzLogText& AMessage, TQzLogLevel ALevel) {
     if (IsTaken(ALevel))
         Send(ALevel, MethodText(AObject, AMessage), nullptr, liIndentDecrease);
 }
 
-void TQzLogger::Log(TQzLogLevel ALevel, const TStringArg& AMessage, TQzLogIndent AIndent) {
+void TQzLogger::Log(TQzLogLevel ALevel, const TQzLogText& AMessage, TQzLogIndent AIndent) {
     Send(ALevel, AMessage, nullptr, AIndent);
 }
-void TQzLogger::Log(TQzLogLevel ALevel, const TStringArg& AMessage, const Variant& AValue,
+void TQzLogger::Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const Variant& AValue,
                     TQzLogIndent AIndent) {
     if (IsTaken(ALevel))
         LogValue(ALevel, AMessage, TValue::From(AValue), AIndent);
 }
-void TQzLogger::Log(TQzLogLevel ALevel, const TStringArg& AMessage, const TObject* AValue,
+void TQzLogger::Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const TObject* AValue,
                     TQzLogIndent AIndent) {
     LogValue(ALevel, AMessage, ValueOf(AValue), AIndent);
 }
-void TQzLogger::Log(TQzLogLevel ALevel, const TStringArg& AMessage, const Exception& AValue,
+void TQzLogger::Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const Exception& AValue,
                     TQzLogIndent AIndent) {
     LogValue(ALevel, AMessage, ValueOf(AValue), AIndent);
 }
@@ -154,9 +183,25 @@ void TQzLogger::Log(IQzLogData* AData) {
     const TQzLogData& Data = *AData->Data();
     Send(Data.FLogLevel, Data.FLogMessage, nullptr, Data.FIndent);
 }
-void TQzLogger::LogValue(TQzLogLevel ALevel, const TStringArg& AMessage, const TValue& AValue,
+void TQzLogger::LogValue(TQzLogLevel ALevel, const TQzLogText& AMessage, const TValue& AValue,
                          TQzLogIndent AIndent) {
     Send(ALevel, AMessage, &AValue, AIndent);
+}
+
+
+void IQzLogger::Error(const TQzLogText& AMessage, const std::exception& AValue) {
+    Error(AMessage.ToString() + u"\r\n" + TextOf(AValue));
+}
+
+void IQzLogger::Fatal(const std::exception& AValue) {
+    Log(llFatal, TextOf(AValue), AValue);
+}
+
+void IQzLogger::Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const std::exception& AValue,
+                    TQzLogIndent AIndent) {
+    const auto* const Own = dynamic_cast<const Exception*>(&AValue);
+    LogValue(ALevel, AMessage, Own != nullptr ? ValueOf(*Own) : TValue::From(UnicodeString(AValue.what())),
+             AIndent);
 }
 
 } // namespace qz

@@ -20,9 +20,9 @@ class QZ_API EQzException : public Exception {
     QZ_EXCEPTION(EQzException, Exception)
 
 public:
-    EQzException(const UnicodeString& AMessage, std::int32_t AErrorCode)
+    EQzException(const UnicodeString& AMessage, std::convertible_to<std::int32_t> auto AErrorCode)
         : Exception(AMessage),
-          FErrorCode(AErrorCode) {}
+          FErrorCode(static_cast<std::int32_t>(AErrorCode)) {}
     // The message is built by Format; a bad pattern raises EConvertError instead.
     EQzException(const TStringArg& AFormat, TVarRecs AArgs, std::int32_t AErrorCode)
         : Exception(AFormat, AArgs),
@@ -39,9 +39,9 @@ class QZ_API EQzAbort : public EAbort {
     QZ_EXCEPTION(EQzAbort, EAbort)
 
 public:
-    EQzAbort(const UnicodeString& AMessage, std::int32_t AErrorCode)
+    EQzAbort(const UnicodeString& AMessage, std::convertible_to<std::int32_t> auto AErrorCode)
         : EAbort(AMessage),
-          FErrorCode(AErrorCode) {}
+          FErrorCode(static_cast<std::int32_t>(AErrorCode)) {}
     EQzAbort(const TStringArg& AFormat, TVarRecs AArgs, std::int32_t AErrorCode)
         : EAbort(AFormat, AArgs),
           FErrorCode(AErrorCode) {}

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <optional>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -55,6 +57,14 @@ TResult<> TFileHandle::Open(std::u16string_view APath, TFileAccess AAccess, TFil
     }
     FHandle = File;
     return {};
+}
+
+TResult<TFileHandle> TFileHandle::Duplicate() const {
+    TFileHandle Result;
+    Result.FHandle = fcntl(static_cast<int>(FHandle), F_DUPFD_CLOEXEC, 0);
+    if (!Result.IsOpen())
+        return TError(errno);
+    return Result;
 }
 
 bool TFileHandle::Close() noexcept {
@@ -114,6 +124,27 @@ TWritten TFileHandle::Append(std::span<const std::byte> ASource) {
     const bool Ok = detail::WriteAll(File, ASource.subspan(Result.Done), More);
     Result.Error = ResultOf(Ok).Error();
     Result.Done += More;
+    return Result;
+}
+
+// A pipe that is ready takes PIPE_BUF bytes without waiting.
+TWritten TFileHandle::AppendWithin(std::span<const std::byte> ASource, std::uint32_t AMilliseconds) {
+    const auto File = static_cast<int>(FHandle);
+    struct stat Status;
+    if (fstat(File, &Status) == 0 && S_ISREG(Status.st_mode))
+        return Append(ASource);
+    TWritten Result;
+    while (Result && Result.Done < ASource.size()) {
+        pollfd Ready{File, POLLOUT, 0};
+        const int Count = poll(&Ready, 1, static_cast<int>(AMilliseconds));
+        if (Count > 0) {
+            const TWritten Step = Write(ASource.subspan(Result.Done).first(std::min<std::size_t>(PIPE_BUF, ASource.size() - Result.Done)));
+            Result.Done += Step.Done;
+            Result.Error = Step.Error;
+        } else if (Count == 0 || errno != EINTR) {
+            Result.Error = TError(Count == 0 ? EAGAIN : errno);
+        }
+    }
     return Result;
 }
 

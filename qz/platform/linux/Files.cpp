@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -199,6 +200,18 @@ TResult<std::vector<TDirEntry>> ListDirectory(std::u16string_view APath) {
     if (errno != 0)
         return TError(errno);
     return Entries;
+}
+
+std::u16string WholePath(std::u16string_view APath) {
+    if (APath.starts_with(u'/'))
+        return std::u16string(APath);
+    const std::unique_ptr<char, decltype(&std::free)> Current(getcwd(nullptr, 0), &std::free);
+    if (Current == nullptr || *Current != '/') // the directory was removed, or lies outside the root
+        return std::u16string(APath);
+    std::u16string Result = detail::FromNative(Current.get());
+    if (Result.back() != u'/')
+        Result += u'/';
+    return Result.append(APath);
 }
 
 std::u16string TempDirectory() {

@@ -8,6 +8,7 @@
 #include <sys/mman.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/time.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -43,6 +44,24 @@ TSent OutcomeOf(int ACode) noexcept {
     }
 }
 
+// Makes a call without waiting, and with waiting as long as that fails for a full queue. ACall takes the flags
+// of the call and gives its result.
+template <class TCall> ssize_t Patiently(const TLogSocket& ASocket, TLogDeadline ADeadline, TCall ACall) {
+    int Flags = MSG_DONTWAIT | MSG_NOSIGNAL;
+    for (;;) {
+        const ssize_t Result = ACall(Flags);
+        if (Result >= 0 || (errno != EINTR && errno != EAGAIN))
+            return Result;
+        if (errno == EINTR && (Flags & MSG_DONTWAIT) != 0)
+            continue;
+        if (!ASocket.WaitUntil(ADeadline)) {
+            errno = EAGAIN;
+            return -1;
+        }
+        Flags = MSG_NOSIGNAL;
+    }
+}
+
 // A sealed file in memory; -1 on failure.
 int SealedFile(std::string_view AContent) noexcept {
     const int File = memfd_create("qzcommon-log", MFD_CLOEXEC | MFD_ALLOW_SEALING);
@@ -63,7 +82,7 @@ bool TLogSocket::Open(int AType) noexcept {
     Close();
     // Room for bursts; the system cuts it to what it allows.
     constexpr int cRoom = 8 << 20;
-    FHandle = socket(AF_UNIX, AType | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    FHandle = socket(AF_UNIX, AType | SOCK_CLOEXEC, 0);
     struct stat Status;
     if (FHandle < 0 || fstat(FHandle, &Status) != 0)
         return false;
@@ -78,26 +97,38 @@ bool TLogSocket::IsOpen() const noexcept {
     return FHandle >= 0 && fstat(FHandle, &Status) == 0 && Status.st_dev == FDevice && Status.st_ino == FNode;
 }
 
+bool TLogSocket::WaitUntil(TLogDeadline ADeadline) const noexcept {
+    using namespace std::chrono;
+    const auto Left = ceil<microseconds>(ADeadline - steady_clock::now()).count();
+    if (Left <= 0)
+        return false;
+    const timeval Time{Left / 1'000'000, Left % 1'000'000};
+    return setsockopt(FHandle, SOL_SOCKET, SO_SNDTIMEO, &Time, sizeof Time) == 0;
+}
+
 void TLogSocket::Close() noexcept {
     if (IsOpen())
         close(FHandle);
     FHandle = -1;
 }
 
-TSent TLogDatagrams::Send(const std::string& APath, std::string_view AMessage) noexcept {
-    return SendRaw(APath, AMessage, -1);
+TSent TLogDatagrams::Send(const std::string& APath, std::string_view AMessage,
+                          TLogDeadline ADeadline) noexcept {
+    return SendRaw(APath, AMessage, -1, ADeadline);
 }
 
-TSent TLogDatagrams::SendFile(const std::string& APath, std::string_view AMessage) noexcept {
+TSent TLogDatagrams::SendFile(const std::string& APath, std::string_view AMessage,
+                              TLogDeadline ADeadline) noexcept {
     const int File = SealedFile(AMessage);
     if (File < 0)
         return TSent::Lost;
-    const TSent Result = SendRaw(APath, {}, File);
+    const TSent Result = SendRaw(APath, {}, File, ADeadline);
     close(File);
     return Result;
 }
 
-TSent TLogDatagrams::SendRaw(const std::string& APath, std::string_view AMessage, int AFile) noexcept {
+TSent TLogDatagrams::SendRaw(const std::string& APath, std::string_view AMessage, int AFile,
+                             TLogDeadline ADeadline) noexcept {
     sockaddr_un Address;
     if (!FillAddress(APath, Address))
         return TSent::NoDaemon;
@@ -120,43 +151,44 @@ TSent TLogDatagrams::SendRaw(const std::string& APath, std::string_view AMessage
         Header->cmsg_len = CMSG_LEN(sizeof AFile);
         std::memcpy(CMSG_DATA(Header), &AFile, sizeof AFile);
     }
-    while (sendmsg(FSocket.Handle(), &Message, MSG_DONTWAIT | MSG_NOSIGNAL) < 0) {
-        if (errno != EINTR)
-            return OutcomeOf(errno);
-    }
-    return TSent::Yes;
+    const auto Call = [&](int AFlags) { return sendmsg(FSocket.Handle(), &Message, AFlags); };
+    return Patiently(FSocket, ADeadline, Call) < 0 ? OutcomeOf(errno) : TSent::Yes;
 }
 
-TSent TLogStream::Send(const std::string& APath, const std::string& AMessage) noexcept {
+TSent TLogStream::Send(const std::string& APath, const std::string& AMessage,
+                       TLogDeadline ADeadline) noexcept {
     if (FSocket.IsOpen()) {
-        if (const TSent Result = SendRaw(AMessage); Result != TSent::NoDaemon)
+        if (const TSent Result = SendRaw(AMessage, ADeadline); Result != TSent::NoDaemon)
             return Result;
     }
-    const TSent Result = Connect(APath);
-    return Result == TSent::Yes ? SendRaw(AMessage) : Result;
+    const TSent Result = Connect(APath, ADeadline);
+    return Result == TSent::Yes ? SendRaw(AMessage, ADeadline) : Result;
 }
 
-TSent TLogStream::Connect(const std::string& APath) noexcept {
+// After the deadline a daemon with a full queue of connections is given a millisecond.
+TSent TLogStream::Connect(const std::string& APath, TLogDeadline ADeadline) noexcept {
     sockaddr_un Address;
     if (!FillAddress(APath, Address))
         return TSent::NoDaemon;
-    if (FSocket.Open(SOCK_STREAM) &&
-        connect(FSocket.Handle(), reinterpret_cast<const sockaddr*>(&Address), sizeof Address) == 0)
+    const bool IsOpen = FSocket.Open(SOCK_STREAM) &&
+        (FSocket.WaitUntil(ADeadline) ||
+         FSocket.WaitUntil(std::chrono::steady_clock::now() + std::chrono::milliseconds(1)));
+    if (IsOpen && connect(FSocket.Handle(), reinterpret_cast<const sockaddr*>(&Address), sizeof Address) == 0)
         return TSent::Yes;
-    const TSent Result = OutcomeOf(errno);
+    const TSent Result = OutcomeOf(errno == EINTR ? EAGAIN : errno);
     FSocket.Close();
     return Result;
 }
 
-TSent TLogStream::SendRaw(const std::string& AMessage) const noexcept {
+TSent TLogStream::SendRaw(const std::string& AMessage, TLogDeadline ADeadline) const noexcept {
     const std::size_t Size = AMessage.size() + 1;
-    for (;;) {
-        const ssize_t Sent = send(FSocket.Handle(), AMessage.c_str(), Size, MSG_DONTWAIT | MSG_NOSIGNAL);
-        if (Sent >= 0) // one taken in part is begun again on another connection
-            return static_cast<std::size_t>(Sent) == Size ? TSent::Yes : TSent::NoDaemon;
-        if (errno != EINTR)
-            return OutcomeOf(errno);
-    }
+    const ssize_t Sent = Patiently(FSocket, ADeadline, [&](int AFlags) {
+        return send(FSocket.Handle(), AMessage.c_str(), Size, AFlags);
+    });
+    if (Sent < 0)
+        return OutcomeOf(errno);
+    // One taken in part is begun again on another connection.
+    return static_cast<std::size_t>(Sent) == Size ? TSent::Yes : TSent::NoDaemon;
 }
 
 } // namespace qz::platform::detail

@@ -1,6 +1,8 @@
-// Sockets to the daemons of the system's log. Nothing here waits.
+// Sockets to the daemons of the system's log. While the queue of a daemon is full, a sender waits until its
+// deadline.
 #pragma once
 
+#include <chrono>
 #include <span>
 #include <string>
 #include <string_view>
@@ -11,12 +13,14 @@ namespace qz::platform::detail {
 
 enum class TSent : unsigned char {
     Yes,
-    Lost,    // the daemon, or this system, takes no more now
+    Lost,    // the queue of the daemon was full until the deadline, or this system has no resources
     TooLong, // for one datagram
     NoDaemon // no daemon listens at the path
 };
 
-// A non-blocking socket. It notices if its descriptor number belongs to another file by now: a program that
+using TLogDeadline = std::chrono::steady_clock::time_point;
+
+// A socket. It notices if its descriptor number belongs to another file by now: a program that
 // becomes a daemon closes all descriptors.
 class TLogSocket {
 public:
@@ -30,6 +34,8 @@ public:
     bool IsOpen() const noexcept;
     void Close() noexcept;
     int Handle() const noexcept { return FHandle; }
+    // Lets the next blocking call wait until ADeadline. False if that has passed.
+    bool WaitUntil(TLogDeadline ADeadline) const noexcept;
 
 private:
     int FHandle = -1;
@@ -41,12 +47,13 @@ private:
 // at a time.
 class TLogDatagrams {
 public:
-    TSent Send(const std::string& APath, std::string_view AMessage) noexcept;
+    TSent Send(const std::string& APath, std::string_view AMessage, TLogDeadline ADeadline) noexcept;
     // Sends a sealed file in memory that holds the message.
-    TSent SendFile(const std::string& APath, std::string_view AMessage) noexcept;
+    TSent SendFile(const std::string& APath, std::string_view AMessage, TLogDeadline ADeadline) noexcept;
 
 private:
-    TSent SendRaw(const std::string& APath, std::string_view AMessage, int AFile) noexcept;
+    TSent SendRaw(const std::string& APath, std::string_view AMessage, int AFile,
+                  TLogDeadline ADeadline) noexcept;
 
     TLogSocket FSocket;
 };
@@ -56,11 +63,11 @@ private:
 // connection, since the system takes a message of less than 16 KiB whole or not at all.
 class TLogStream {
 public:
-    TSent Send(const std::string& APath, const std::string& AMessage) noexcept;
+    TSent Send(const std::string& APath, const std::string& AMessage, TLogDeadline ADeadline) noexcept;
 
 private:
-    TSent Connect(const std::string& APath) noexcept;
-    TSent SendRaw(const std::string& AMessage) const noexcept;
+    TSent Connect(const std::string& APath, TLogDeadline ADeadline) noexcept;
+    TSent SendRaw(const std::string& AMessage, TLogDeadline ADeadline) const noexcept;
 
     TLogSocket FSocket;
 };

@@ -20,6 +20,7 @@ namespace {
 
 constexpr std::size_t cLongestSyslogText = 8000; // of one message: the least that the daemons accept
 constexpr std::size_t cKeptRoom = 64 * 1024;
+constexpr std::chrono::seconds cPatience{1}; // for one message, while the queue of the daemon is full
 
 struct TSource {
     std::string Name; // as it was given
@@ -27,6 +28,8 @@ struct TSource {
     TLogDatagrams Datagrams;
     TLogStream Stream;
     std::int32_t LocalOffset = 0;
+    TLogDeadline Deadline; // of the message under way
+    bool Waits = true;     // false while the daemon takes nothing, so that it holds up one message only
     // For the message under way, kept for the next one.
     std::string Text;
     std::string Message;
@@ -93,8 +96,8 @@ TSent SendToJournal(TSource& ASource, const std::string& APath, TEventType AType
     AppendField(Message, "SYSLOG_IDENTIFIER", ASource.Name);
     AppendField(Message, "EVENT_ID", std::to_string(AId));
     AppendField(Message, "MESSAGE", ASource.Text);
-    const TSent Result = ASource.Datagrams.Send(APath, Message);
-    return Result == TSent::TooLong ? ASource.Datagrams.SendFile(APath, Message) : Result;
+    const TSent Result = ASource.Datagrams.Send(APath, Message, ASource.Deadline);
+    return Result == TSent::TooLong ? ASource.Datagrams.SendFile(APath, Message, ASource.Deadline) : Result;
 }
 
 // "<12>Jan 31 08:15:02 source[17]: ", the local time as the daemons expect it. 8 is the facility of users'
@@ -117,8 +120,8 @@ std::string SyslogHeader(const TSource& ASource, TEventType AType) {
 }
 
 TSent SendSyslogMessage(TSource& ASource, const std::string& APath) {
-    const TSent Result = ASource.Datagrams.Send(APath, ASource.Message);
-    return Result == TSent::NoDaemon ? ASource.Stream.Send(APath, ASource.Message) : Result;
+    const TSent Result = ASource.Datagrams.Send(APath, ASource.Message, ASource.Deadline);
+    return Result == TSent::NoDaemon ? ASource.Stream.Send(APath, ASource.Message, ASource.Deadline) : Result;
 }
 
 std::size_t SequenceLength(unsigned char ALead) {
@@ -185,9 +188,12 @@ bool TSystemLog::Write(std::uintptr_t ASource, TEventType AType, std::uint32_t A
         TSource& Source = *reinterpret_cast<TSource*>(ASource);
         Source.Text = Utf8Of(AText);
         Source.LocalOffset = ALocalOffset;
+        const auto Now = std::chrono::steady_clock::now();
+        Source.Deadline = Source.Waits ? Now + cPatience : Now;
         const TSent Sent = SendToJournal(Source, FJournal, AType, AId);
         const bool Result =
             Sent == TSent::Yes || (Sent == TSent::NoDaemon && SendToSyslog(Source, FSyslog, AType));
+        Source.Waits = Result;
         KeepRoom(Source.Text);
         KeepRoom(Source.Message);
         return Result;

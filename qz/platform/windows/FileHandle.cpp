@@ -38,6 +38,16 @@ TResult<> TFileHandle::Open(std::u16string_view APath, TFileAccess AAccess, TFil
     return {};
 }
 
+TResult<TFileHandle> TFileHandle::Duplicate() const {
+    const HANDLE Process = GetCurrentProcess();
+    HANDLE File = INVALID_HANDLE_VALUE;
+    if (DuplicateHandle(Process, Handle(FHandle), Process, &File, 0, FALSE, DUPLICATE_SAME_ACCESS) == 0)
+        return TError(GetLastError());
+    TFileHandle Result;
+    Result.FHandle = reinterpret_cast<std::intptr_t>(File);
+    return Result;
+}
+
 bool TFileHandle::Close() noexcept {
     const std::intptr_t File = std::exchange(FHandle, cNone);
     return File == cNone || CloseHandle(Handle(File)) != 0;
@@ -84,6 +94,10 @@ TResult<> TFileHandle::WriteAtEnd() {
 
 TWritten TFileHandle::Append(std::span<const std::byte> ASource) {
     return Write(ASource);
+}
+
+TWritten TFileHandle::AppendWithin(std::span<const std::byte> ASource, std::uint32_t) {
+    return Append(ASource);
 }
 
 void TFileHandle::DenyNothing() noexcept {}

@@ -189,6 +189,17 @@ TResult<std::vector<TDirEntry>> ListDirectory(std::u16string_view APath) {
     return Entries;
 }
 
+std::u16string WholePath(std::u16string_view APath) {
+    const std::u16string Path(APath);
+    const DWORD Room = GetFullPathNameW(Wide(Path), 0, nullptr, nullptr);
+    std::u16string Result(Room, u'\0');
+    const DWORD Length = GetFullPathNameW(Wide(Path), Room, Wide(Result.data()), nullptr);
+    if (Room == 0 || Length >= Room) // another thread has changed the current directory
+        return Path;
+    Result.resize(Length);
+    return Result;
+}
+
 std::u16string TempDirectory() {
     std::u16string Path(MAX_PATH + 1, u'\0');
     Path.resize(GetTempPathW(MAX_PATH + 1, Wide(Path.data())));

@@ -46,13 +46,6 @@ UnicodeString IncludeTrailingPathDelimiter(const TStringArg& AFileName) {
     return UnicodeString(Name) + platform::PathSeparators().front();
 }
 
-bool IsWholePath(const TStringArg& AFileName) {
-    const std::u16string_view Name = AFileName;
-    const char16_t Drive = platform::DriveSeparator();
-    const std::size_t Root = Drive != 0 && Name.find(Drive) == 1 ? 2 : 0;
-    return Name.size() > Root && platform::PathSeparators().find(Name[Root]) != std::u16string_view::npos;
-}
-
 bool SameFileName(const TStringArg& ALeft, const TStringArg& ARight) {
     return platform::FileNamesIgnoreCase() ? SameText(ALeft, ARight) : ALeft.View() == ARight.View();
 }

@@ -22,8 +22,6 @@ QZ_API UnicodeString ChangeFileExt(const TStringArg& AFileName, const TStringArg
 // The name with a separator at its end; an empty one gets one too.
 QZ_API UnicodeString IncludeTrailingPathDelimiter(const TStringArg& AFileName);
 
-// Whether the name leads from a root and not from the current directory.
-QZ_API bool IsWholePath(const TStringArg& AFileName);
 // Whether both names are equal; ignores case on Windows.
 QZ_API bool SameFileName(const TStringArg& ALeft, const TStringArg& ARight);
 

@@ -46,6 +46,10 @@ bool ForceDirectories(const TStringArg& ADirectory) {
     return Name.empty() ? platform::DirectoryExists(ADirectory) : MakeDirectories(Name);
 }
 
+UnicodeString ExpandFileName(const TStringArg& AFileName) {
+    return platform::WholePath(AFileName);
+}
+
 UnicodeString ProgramFileName() {
     return platform::ExecutablePath();
 }

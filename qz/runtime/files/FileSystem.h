@@ -20,6 +20,9 @@ QZ_API bool DeleteFile(const TStringArg& AFileName);
 QZ_API bool RenameFile(const TStringArg& AFileName, const TStringArg& ANewName);
 // Creates the directory and its missing parents. True if it exists afterwards.
 QZ_API bool ForceDirectories(const TStringArg& ADirectory);
+// The path from its root, with the current directory before a relative one; the name itself if that cannot be
+// determined.
+QZ_API UnicodeString ExpandFileName(const TStringArg& AFileName);
 // The whole path of the running program.
 QZ_API UnicodeString ProgramFileName();
 

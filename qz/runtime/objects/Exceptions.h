@@ -17,6 +17,8 @@
 // Exceptions are values: thrown, copied and caught as any of C++, and a std::exception whose what() is UTF-8.
 #pragma once
 
+#include <concepts>
+#include <cstdint>
 #include <exception>
 #include <functional>
 #include <memory>
@@ -114,7 +116,9 @@ class QZ_API EOSError : public Exception {
     QZ_EXCEPTION(EOSError, Exception)
 public:
     using Exception::Exception;
-    EOSError(const UnicodeString& AMessage, std::int32_t ACode) : Exception(AMessage), FErrorCode(ACode) {}
+    EOSError(const UnicodeString& AMessage, std::convertible_to<std::int32_t> auto ACode)
+        : Exception(AMessage),
+          FErrorCode(static_cast<std::int32_t>(ACode)) {}
     EOSError(const TStringArg& APattern, TVarRecs AArgs, std::int32_t ACode)
         : Exception(APattern, AArgs),
           FErrorCode(ACode) {}
@@ -129,7 +133,9 @@ class QZ_API EInOutError : public Exception {
     QZ_EXCEPTION(EInOutError, Exception)
 public:
     using Exception::Exception;
-    EInOutError(const UnicodeString& AMessage, std::int32_t ACode) : Exception(AMessage), FErrorCode(ACode) {}
+    EInOutError(const UnicodeString& AMessage, std::convertible_to<std::int32_t> auto ACode)
+        : Exception(AMessage),
+          FErrorCode(static_cast<std::int32_t>(ACode)) {}
     std::int32_t ErrorCode() const noexcept { return FErrorCode; }
 
 private:

@@ -26,47 +26,79 @@ struct TPlace {
     char16_t Type = 0;
 };
 
-class TFormatter {
+bool IsInteger(TVarRecKind AKind) noexcept {
+    return AKind == vtInteger || AKind == vtInt64 || AKind == vtUInt64;
+}
+
+bool IsPointer(TVarRecKind AKind) noexcept {
+    return AKind == vtPointer || AKind == vtObject || AKind == vtClass || AKind == vtInterface;
+}
+
+// Whether a place of that type, a lower-case letter, takes the argument.
+bool Fits(char16_t AType, TVarRecKind AKind) noexcept {
+    switch (AType) {
+    case u'd':
+    case u'u':
+    case u'x': return IsInteger(AKind);
+    case u'e':
+    case u'f':
+    case u'g':
+    case u'n':
+    case u'm': return IsInteger(AKind) || AKind == vtExtended;
+    case u'p': return IsPointer(AKind);
+    case u's': return !IsInteger(AKind) && AKind != vtExtended && AKind != vtPointer && AKind != vtInterface;
+    default: return false;
+    }
+}
+
+// Walks through a pattern, and hands its literal pieces and its places to TTarget:
+//
+//     void Literal(std::basic_string_view<TChar> AText);
+//     void Place(const TPlace& APlace, const TVarRec& AArg);
+template <class TChar, class TTarget> class TFormatReader {
 public:
-    TFormatter(std::u16string_view APattern, TVarRecs AArgs, const TFormatSettings& ASettings)
+    TFormatReader(std::basic_string_view<TChar> APattern, TVarRecs AArgs, TTarget& ATarget)
         : FPattern(APattern),
           FArgs(AArgs),
-          FSettings(ASettings) {
-        FResult.Reserve(APattern.size() + 16 * AArgs.size());
-    }
+          FTarget(ATarget) {}
 
-    UnicodeString Run() {
+    void Run() {
         while (true) {
-            const std::size_t Mark = std::min(FPattern.find(u'%', FHere), FPattern.size());
-            FResult.Append(FPattern.substr(FHere, Mark - FHere));
+            const std::size_t Mark = std::min(FPattern.find(TChar{'%'}, FHere), FPattern.size());
+            FTarget.Literal(FPattern.substr(FHere, Mark - FHere));
             FHere = Mark + 1;
             if (Mark == FPattern.size())
-                return std::move(FResult);
-            if (FHere < FPattern.size() && FPattern[FHere] == u'%')
-                FResult += FPattern[FHere++];
-            else
-                Write(ReadPlace());
+                return;
+            if (FHere < FPattern.size() && FPattern[FHere] == TChar{'%'}) {
+                FTarget.Literal(FPattern.substr(FHere++, 1));
+                continue;
+            }
+            const TPlace Place = ReadPlace();
+            const TVarRec& Arg = NextArg();
+            if (!Fits(Place.Type, Arg.Kind()))
+                RaiseInvalid();
+            FTarget.Place(Place, Arg);
         }
     }
 
 private:
     [[noreturn]] void RaiseInvalid() const {
         UnicodeString Message = u"Format '";
-        Message += FPattern;
+        Message += UnicodeString(FPattern);
         throw EConvertError(Message += u"' invalid or incompatible with argument");
     }
     [[noreturn]] void RaiseMissing() const {
         UnicodeString Message = u"No argument for format '";
-        Message += FPattern;
+        Message += UnicodeString(FPattern);
         throw EConvertError(Message += u'\'');
     }
 
-    char16_t Peek() const {
+    TChar Peek() const {
         if (FHere >= FPattern.size())
             RaiseInvalid();
         return FPattern[FHere];
     }
-    bool Take(char16_t AChar) {
+    bool Take(TChar AChar) {
         if (Peek() != AChar)
             return false;
         ++FHere;
@@ -81,7 +113,7 @@ private:
 
     // Digits, or "*" for an argument; cUnset when neither stands here.
     int ReadNumber() {
-        if (Take(u'*')) {
+        if (Take(TChar{'*'})) {
             const TVarRec& Arg = NextArg();
             if ((Arg.Kind() != vtInteger && Arg.Kind() != vtInt64) || Arg.Int() < -cMaxNumber ||
                 Arg.Int() > cMaxNumber)
@@ -89,8 +121,8 @@ private:
             return static_cast<int>(Arg.Int());
         }
         int Number = cUnset;
-        while (Peek() >= u'0' && Peek() <= u'9') {
-            Number = std::max(Number, 0) * 10 + (FPattern[FHere++] - u'0');
+        while (Peek() >= TChar{'0'} && Peek() <= TChar{'9'}) {
+            Number = std::max(Number, 0) * 10 + (FPattern[FHere++] - TChar{'0'});
             if (Number > cMaxNumber)
                 RaiseInvalid();
         }
@@ -100,16 +132,16 @@ private:
     // A negative width from an argument sets the text to the left, a negative precision counts as none.
     TPlace ReadPlace() {
         TPlace Place;
-        int Number = Peek() == u'*' ? cUnset : ReadNumber();
-        if (Take(u':')) {
+        int Number = Peek() == TChar{'*'} ? cUnset : ReadNumber();
+        if (Take(TChar{':'})) {
             if (Number == cUnset)
                 Number = 0;
             FNextArg = static_cast<std::size_t>(Number);
             Number = cUnset;
         }
         if (Number == cUnset) {
-            Place.IsLeft = Take(u'-');
-            const bool IsArg = Peek() == u'*';
+            Place.IsLeft = Take(TChar{'-'});
+            const bool IsArg = Peek() == TChar{'*'};
             Number = ReadNumber();
             if (IsArg && Number < 0) {
                 Place.IsLeft = true;
@@ -117,34 +149,54 @@ private:
             }
         }
         Place.Width = Number;
-        if (Take(u'.'))
+        if (Take(TChar{'.'}))
             Place.Precision = std::max(ReadNumber(), cUnset);
-        Place.Type = Peek();
+        Place.Type = static_cast<char16_t>(Peek() | 0x20);
         ++FHere;
         return Place;
     }
 
-    void Write(const TPlace& APlace) {
-        const TVarRec& Arg = NextArg();
+    std::basic_string_view<TChar> FPattern;
+    std::size_t FHere = 0;
+    TVarRecs FArgs;
+    std::size_t FNextArg = 0;
+    TTarget& FTarget;
+};
+
+// Builds the text.
+class TFormatter {
+public:
+    explicit TFormatter(const TFormatSettings& ASettings) : FSettings(ASettings) {}
+
+    UnicodeString Run(std::u16string_view APattern, TVarRecs AArgs) {
+        FResult.Reserve(APattern.size() + 16 * AArgs.size());
+        TFormatReader<char16_t, TFormatter>(APattern, AArgs, *this).Run();
+        return std::move(FResult);
+    }
+
+    void Literal(std::u16string_view AText) { FResult.Append(AText); }
+    void Place(const TPlace& APlace, const TVarRec& AArg) {
         const std::size_t Start = FResult.size();
-        switch (APlace.Type | 0x20) {
+        switch (APlace.Type) {
         case u'd':
         case u'u':
-        case u'x': WriteInteger(APlace, Arg); break;
-        case u's': WriteText(APlace, Arg); break;
-        case u'p': WritePointer(Arg); break;
-        case u'e': WriteFloat(Arg, ffExponent, APlace.Precision == cUnset ? 15 : APlace.Precision, 3); break;
-        case u'f': WriteFloat(Arg, ffFixed, 18, APlace.Precision == cUnset ? 2 : APlace.Precision); break;
-        case u'g': WriteFloat(Arg, ffGeneral, APlace.Precision == cUnset ? 15 : APlace.Precision, 0); break;
-        case u'n': WriteFloat(Arg, ffNumber, 18, APlace.Precision == cUnset ? 2 : APlace.Precision); break;
+        case u'x': WriteInteger(APlace, AArg); break;
+        case u's': WriteText(APlace, AArg); break;
+        case u'p': WritePointer(AArg); break;
+        case u'e': WriteFloat(AArg, ffExponent, APlace.Precision == cUnset ? 15 : APlace.Precision, 3); break;
+        case u'f': WriteFloat(AArg, ffFixed, 18, APlace.Precision == cUnset ? 2 : APlace.Precision); break;
+        case u'g': WriteFloat(AArg, ffGeneral, APlace.Precision == cUnset ? 15 : APlace.Precision, 0); break;
+        case u'n': WriteFloat(AArg, ffNumber, 18, APlace.Precision == cUnset ? 2 : APlace.Precision); break;
         case u'm':
-            WriteFloat(Arg, ffCurrency, 18,
+            WriteFloat(AArg, ffCurrency, 18,
                        APlace.Precision == cUnset ? FSettings.CurrencyDecimals : APlace.Precision);
             break;
-        default: RaiseInvalid();
+        default: break;
         }
         Pad(APlace, Start);
     }
+
+private:
 
     // Blanks in front of what was written from AStart on, or after it, up to the width.
     void Pad(const TPlace& APlace, std::size_t AStart) {
@@ -161,9 +213,7 @@ private:
     }
 
     void WriteInteger(const TPlace& APlace, const TVarRec& AArg) {
-        if (AArg.Kind() != vtInteger && AArg.Kind() != vtInt64 && AArg.Kind() != vtUInt64)
-            RaiseInvalid();
-        const char16_t Type = static_cast<char16_t>(APlace.Type | 0x20);
+        const char16_t Type = APlace.Type;
         auto Bits = static_cast<std::uint64_t>(AArg.Int());
         const bool IsNegative = Type == u'd' && AArg.Kind() != vtUInt64 && AArg.Int() < 0;
         if (IsNegative)
@@ -185,19 +235,14 @@ private:
         double Value = 0;
         if (AArg.Kind() == vtExtended)
             Value = AArg.Float();
-        else if (AArg.Kind() == vtInteger || AArg.Kind() == vtInt64)
-            Value = static_cast<double>(AArg.Int());
         else if (AArg.Kind() == vtUInt64)
             Value = static_cast<double>(static_cast<std::uint64_t>(AArg.Int()));
         else
-            RaiseInvalid();
+            Value = static_cast<double>(AArg.Int());
         detail::AppendFloat(FResult, Value, AFormat, APrecision, ADigits, FSettings);
     }
 
     void WritePointer(const TVarRec& AArg) {
-        if (AArg.Kind() != vtPointer && AArg.Kind() != vtObject && AArg.Kind() != vtClass &&
-            AArg.Kind() != vtInterface)
-            RaiseInvalid();
         char16_t* Text = FResult.AppendRoom(16);
         std::fill_n(Text, 16, u'0');
         detail::WriteHex(reinterpret_cast<std::uintptr_t>(AArg.Pointer()), Text + 16);
@@ -220,7 +265,7 @@ private:
                              AArg.Pointer() == nullptr
                                  ? nullptr
                                  : static_cast<const TObject*>(AArg.Pointer())->ClassType());
-        default: RaiseInvalid();
+        default: return;
         }
     }
 
@@ -233,12 +278,14 @@ private:
             APlace.Precision == cUnset ? AText : AText.substr(0, static_cast<std::size_t>(APlace.Precision)));
     }
 
-    std::u16string_view FPattern;
-    std::size_t FHere = 0;
-    TVarRecs FArgs;
-    std::size_t FNextArg = 0;
     const TFormatSettings& FSettings;
     UnicodeString FResult;
+};
+
+// Builds nothing.
+struct TFormatCheck {
+    template <class TText> void Literal(const TText&) const noexcept {}
+    void Place(const TPlace&, const TVarRec&) const noexcept {}
 };
 
 } // namespace
@@ -251,7 +298,17 @@ UnicodeString Format(const TStringArg& APattern, TVarRecs AArgs) {
 }
 
 UnicodeString Format(const TStringArg& APattern, TVarRecs AArgs, const TFormatSettings& ASettings) {
-    return TFormatter(APattern, AArgs, ASettings).Run();
+    return TFormatter(ASettings).Run(APattern, AArgs);
+}
+
+void CheckFormat(std::u16string_view APattern, TVarRecs AArgs) {
+    TFormatCheck Check;
+    TFormatReader<char16_t, TFormatCheck>(APattern, AArgs, Check).Run();
+}
+
+void CheckFormat(std::string_view APattern, TVarRecs AArgs) {
+    TFormatCheck Check;
+    TFormatReader<char, TFormatCheck>(APattern, AArgs, Check).Run();
 }
 
 } // namespace qz

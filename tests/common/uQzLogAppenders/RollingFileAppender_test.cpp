@@ -75,11 +75,11 @@ TEST(RollingFileAppender, FamiliesWithGapsAndStrangers) {
     File->RollOver();
     Expect("head| 0 7 9 - ");
     File->Close();
-    // two backups of one number, and a name that only begins with the base and exceeds the count
+    // two backups of one number, of which the newer one stays, and a name that only begins with the base
     Files.Put(u"app.2.x.log", "x");
     Files.Put(u"apple", "stranger");
     File->RollOver();
-    EXPECT_EQ(Files.Names(), "app.1.log app.2le.log app.3.log app.4.log app.log ");
+    EXPECT_EQ(Files.Names(), "app.1.log app.2le.log app.3.log app.4.x.log app.log ");
 }
 
 TEST(RollingFileAppender, TheCount) {

@@ -5,6 +5,7 @@
 #include <ctime>
 #include <regex>
 #include <set>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -170,6 +171,24 @@ TEST_F(SystemLogLinux, DaemonsComeAndGo) {
     }
     EXPECT_TRUE(Write(u"hello"));
     EXPECT_NE(Syslog.Take(), "-");
+}
+
+TEST_F(SystemLogLinux, BurstsWaitForTheDaemon) {
+    TDaemon Journal(Path(u"journal"), SOCK_DGRAM);
+    constexpr int cCount = 500;
+    std::thread Reader([&Journal] {
+        for (int Got = 0; Got < cCount;)
+            Got += Journal.Take() != "-" ? 1 : 0;
+    });
+    for (int I = 0; I < cCount; ++I)
+        EXPECT_TRUE(Write(u"burst"));
+    Reader.join();
+    while (Write(u"nothing reads")) {
+    }
+    EXPECT_FALSE(Write(u"so this one does not wait"));
+    while (Journal.Take() != "-") {
+    }
+    EXPECT_TRUE(Write(u"accepted again"));
 }
 
 // A program that becomes a daemon closes all, and opens descriptors of its own.

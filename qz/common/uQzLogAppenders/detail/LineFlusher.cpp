@@ -52,6 +52,12 @@ void TLineFlusher::Add(TQzTextFile& AFile) {
     FFiles.push_back(&AFile);
 }
 
+bool TLineFlusher::Duplicate(const UnicodeString& AFileName, platform::TFileHandle& AHandle) noexcept {
+    const std::lock_guard Hold(FLock);
+    return std::ranges::any_of(
+        FFiles, [&](TQzTextFile* AFile) { return AFile->DuplicateTo(AFileName, AHandle, {}); });
+}
+
 void TLineFlusher::Remove(TQzTextFile& AFile) noexcept {
     std::unique_lock Hold(FLock);
     FIdle.wait(Hold, [&] { return FBusy != &AFile; });

@@ -11,7 +11,8 @@
 #include <mutex>
 #include <vector>
 
-#include <qz/platform/Export.h>
+#include <qz/platform/FileHandle.h>
+#include <qz/runtime/base/UnicodeString.h>
 
 namespace qz {
 
@@ -24,6 +25,8 @@ public:
     static bool IsEnding() noexcept;
 
     void Add(TQzTextFile& AFile);
+    // Duplicates the handle of another object that has the file open. False if there is none.
+    bool Duplicate(const UnicodeString& AFileName, platform::TFileHandle& AHandle) noexcept;
     // Waits while the flusher writes the file.
     void Remove(TQzTextFile& AFile) noexcept;
     // A line is in a buffer: wakes the thread. False if the thread could not start.

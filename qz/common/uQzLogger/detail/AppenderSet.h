@@ -43,6 +43,12 @@ public:
         FGate->Enter();
         ++AThread.Gates;
     }
+    // Waits for so many milliseconds at most; false if another thread holds the gate all the time.
+    bool TryEnter(TLogThread& AThread, std::uint32_t ATimeOut) noexcept {
+        const bool Result = FGate->TryEnter(ATimeOut);
+        AThread.Gates += Result ? 1 : 0;
+        return Result;
+    }
     void Leave(TLogThread& AThread) noexcept {
         FGate->Leave();
         if (--AThread.Gates == 0 && AThread.Queue != nullptr)

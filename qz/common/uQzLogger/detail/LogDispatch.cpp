@@ -3,7 +3,6 @@
 #include <memory>
 
 #include <qz/common/uQzLogger/DataRec.h>
-#include <qz/common/uQzLogger/LogDrops.h>
 #include <qz/common/uQzLogger/LoggerClass.h>
 #include <qz/common/uQzLogger/detail/LogFork.h>
 
@@ -46,7 +45,11 @@ TLogQueue& QueueOf(TLogThread& AThread) {
 void TLogDispatch::Enqueue(TLogThread& AThread, TQzLogger& ALogger, const TLogMessage& AMessage) noexcept {
     try {
         TLogQueue& Queue = QueueOf(AThread);
-        if (++Queue.Arisen > cMostArisen || !ALogger.TryAddRef({}))
+        if (++Queue.Arisen > cMostArisen) {
+            const UnicodeString Reason = u"More than 1000 messages arose while one was delivered";
+            return ReportLoss(1, AMessage.Source, {}, Reason, TDropKey::QueueLimit);
+        }
+        if (!ALogger.TryAddRef({}))
             return CountDrop();
         Queue.Messages.push_back({Ref<TQzLogger>::Attach(&ALogger), AMessage.Source, AMessage.Level,
                                   AMessage.Text.ToString(), Keep(AMessage.Value), AMessage.Value != nullptr,
@@ -102,9 +105,7 @@ void TLogDispatch::Deliver(TLogThread& AThread, TQzLogger& ALogger, const TLogMe
     try {
         Walk(Progress, ALogger, AMessage);
     } catch (...) {
-        AThread.Failed = Progress.Failed;
         ReportDrop(AMessage.Source, Progress.Failed, Progress.FailedName);
-        AThread.Failed = 0;
     }
     --AThread.Busy;
 }
@@ -137,9 +138,14 @@ void TLogDispatch::SettleOne(TLogThread& AThread) noexcept {
         TQueuedMessage Message = std::move(Queue.Messages.front());
         Queue.Messages.pop_front();
         Deliver(AThread, *Message.Logger,
-                {Message.Source, Message.Level, TStringArg(Message.Text),
+                {Message.Source, Message.Level, Message.Text,
                  Message.HasValue ? &Message.Value : nullptr, Message.Indent},
                 Message.Except);
+        return;
+    }
+    if (!Queue.Drops.empty()) {
+        for (const TQueuedDrop& Each : std::exchange(Queue.Drops, {}))
+            ReportProblem(Each.Drop, Each.Key, true);
         return;
     }
     for (TAppenderEnding& Ending : std::exchange(Queue.Endings, {}))
@@ -152,10 +158,10 @@ void Settle() noexcept {
     if (Thread.Busy != 0 || Thread.IsSettling)
         return;
     Thread.IsSettling = true;
-    while (Thread.Gates == 0 || !Thread.Queue->Messages.empty()) {
+    while (Thread.Gates == 0 || !Thread.Queue->Messages.empty() || !Thread.Queue->Drops.empty()) {
         TLogDispatch::SettleOne(Thread);
         const TLogQueue& Queue = *Thread.Queue;
-        if (Queue.Messages.empty() && Queue.Endings.empty() && Queue.Loggers.empty()) {
+        if (Queue.Messages.empty() && Queue.Drops.empty() && Queue.Endings.empty() && Queue.Loggers.empty()) {
             const std::unique_ptr<TLogQueue> Done(std::exchange(Thread.Queue, nullptr));
             break;
         }

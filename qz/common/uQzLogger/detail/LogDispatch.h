@@ -4,9 +4,10 @@
 #include <deque>
 #include <vector>
 
+#include <qz/common/uQzLogger/LogDrops.h>
 #include <qz/common/uQzLogger/LogInterfaces.h>
+#include <qz/common/uQzLogger/LogText.h>
 #include <qz/common/uQzLogger/detail/AppenderSet.h>
-#include <qz/runtime/base/StringArg.h>
 #include <qz/runtime/values/Value.h>
 
 namespace qz {
@@ -18,7 +19,7 @@ namespace detail {
 struct TLogMessage {
     const UnicodeString& Source;
     TQzLogLevel Level;
-    const TStringArg& Text;
+    const TQzLogText& Text;
     PQzDataRec Value;
     TQzLogIndent Indent;
 };
@@ -35,9 +36,16 @@ struct TQueuedMessage {
     std::uint64_t Except; // the serial of the appender that must not get it; 0 for none
 };
 
+// A call of the drop hook that is due.
+struct TQueuedDrop {
+    TQzLogDrop Drop;
+    std::uint64_t Key; // as ReportProblem takes it
+};
+
 // What a thread has to do as soon as it is free to.
 struct TLogQueue {
     std::deque<TQueuedMessage> Messages;  // when it is not busy
+    std::vector<TQueuedDrop> Drops;       // when it is not busy
     std::vector<TAppenderEnding> Endings; // when it may wait
     std::vector<Ref<TQzLogger>> Loggers;  // to be released when it may wait
     int Arisen = 0;                       // messages since the queue was made

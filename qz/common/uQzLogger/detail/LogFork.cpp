@@ -80,7 +80,7 @@ void TLogFork::InParent() noexcept {
 
 void TLogFork::InChild() {
     GPendingForks = 0;
-    ForgetTelling();
+    ForgetHookCall();
     TTreeLock::BeginChild();
     TQzLogger::BeginChild(Instance().FMissed, {});
     Instance().Release();
