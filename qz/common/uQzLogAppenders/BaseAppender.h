@@ -8,7 +8,7 @@
 //                    const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) override {
 //             const TScopedLock Hold(*this);
 //             Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
-//             Lines.Add(Layout()->FormatLine(ALogger, ALevel, AMessage, AValue, AIndent));
+//             Lines.Add(FormatLine(ALogger, ALevel, AMessage, AValue, AIndent));
 //         }
 //     };
 //
@@ -43,7 +43,7 @@ public:
     Ref<IQzLogLayout> GetLayout();
 
     // The lock of the appender, which re-enters. Messages of a thread that holds it are delivered after
-    // Unlock.
+    // Unlock, 1000 at most.
     void Lock() noexcept;
     void Unlock() noexcept;
     void Enter() noexcept { Lock(); }

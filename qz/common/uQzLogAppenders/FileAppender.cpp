@@ -77,12 +77,22 @@ void TQzFileAppender::ContinueDocument(TQzTextFile& AFile) {
     AFile.RemoveEnd(Footer());
 }
 
+// A header that closes the appender, as it may once, has the file opened again.
 void TQzFileAppender::OpenFile(bool AContinues) {
     const TInitializing Now(*this);
-    FFileStream.reset();
+    EndFile();
     if (TrimView(FFileName).empty())
         return;
     TakeDefaultName();
+    OpenOnce(AContinues);
+    if (FFileStream == nullptr)
+        OpenOnce(true);
+    if (FFileStream == nullptr)
+        throw EFOpenError(u"The layout closes the file \"%s\"", {FileName()});
+    Inherited::Initialize();
+}
+
+void TQzFileAppender::OpenOnce(bool AContinues) {
     const bool IsThere = FileExists(FileName());
     FIsContinuing = IsThere && AContinues;
     if (IsThere && !AContinues)
@@ -99,7 +109,6 @@ void TQzFileAppender::OpenFile(bool AContinues) {
         FFileStream.reset();
         throw;
     }
-    Inherited::Initialize();
 }
 
 void TQzFileAppender::PayHeader() {
@@ -114,8 +123,7 @@ void TQzFileAppender::PayHeader() {
 void TQzFileAppender::Write(const UnicodeString& ASource, const UnicodeString& ALogger, TQzLogLevel ALevel,
                             const UnicodeString& AMessage, PQzDataRec AValue, TQzLogIndent AIndent) {
     const TScopedLock Hold(*this);
-    if (FFileStream != nullptr && FFileStream->HasGone())
-        CloseQuietly();
+    CloseIfGone();
     RepeatFailure();
     try {
         Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
@@ -154,6 +162,11 @@ void TQzFileAppender::WriteFooter() {
     const UnicodeString Text = Footer();
     if (!Text.IsEmpty() && FFileStream != nullptr)
         FFileStream->Write(Text);
+}
+
+void TQzFileAppender::CloseIfGone() {
+    if (FFileStream != nullptr && FFileStream->HasGone())
+        CloseQuietly();
 }
 
 void TQzFileAppender::EndFile() {
@@ -208,8 +221,8 @@ void TQzFileAppender::SetConfig(IQzLogConfigurator* AConfigurator) {
 void TQzFileAppender::ReadOwnValues(IQzLogConfigurator& AConfigurator) {
     const auto Ask = [&](const UnicodeString& AKey, std::int32_t APresent) {
         try {
-            return QzVarToInt(
-                AConfigurator.GetAppenderValue(ConfiguredName(), AKey, mtkInteger, APresent), APresent, true);
+            return QzVarToInt(AConfigurator.GetAppenderValue(ConfiguredName(), AKey, mtkInteger, APresent),
+                              APresent, true);
         } catch (const std::exception&) {
             return APresent;
         }

@@ -88,6 +88,8 @@ protected:
     TQzTextFile* File() const noexcept { return FFileStream.get(); }
     void WriteFooter();
     void EndFile();
+    // Closes the file if it was renamed or removed.
+    void CloseIfGone();
     // Opens the file for appending, or replaces it. A header that does not fit on the disk is written before
     // the first line.
     void OpenFile(bool AContinues);
@@ -104,6 +106,7 @@ private:
     void PayHeader();
     void TakeDefaultName();
     void ContinueDocument(TQzTextFile& AFile);
+    void OpenOnce(bool AContinues);
     void RepeatFailure();
     void ReadOwnValues(IQzLogConfigurator& AConfigurator);
 

@@ -167,6 +167,7 @@ void TQzRollingFileAppender::Write(const UnicodeString& ASource, const UnicodeSt
     const TScopedLock Hold(*this);
     if (FMaxBackupCount == 0)
         return;
+    CloseIfGone();
     CheckRollover();
     Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
 }

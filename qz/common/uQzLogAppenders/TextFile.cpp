@@ -57,7 +57,6 @@ void MakeFile(const TStringArg& AFileName) {
     }
 }
 
-
 // The caller holds the lock; other threads only read.
 template <class T> void AddTo(std::atomic<T>& ATarget, T ACount) noexcept {
     ATarget.store(ATarget.load(std::memory_order_relaxed) + ACount, std::memory_order_relaxed);
@@ -170,9 +169,8 @@ void TQzTextFile::PutBytes(TBytes ABytes) {
 
 // Appends all of ABytes or nothing.
 void TQzTextFile::AppendWhole(TBytes ABytes) {
-    const platform::TWritten Written = !TLineFlusher::IsEnding()
-        ? FHandle.Append(ABytes)
-        : FHandle.AppendWithin(ABytes, FPatienceAtEnd);
+    const platform::TWritten Written =
+        !TLineFlusher::IsEnding() ? FHandle.Append(ABytes) : FHandle.AppendWithin(ABytes, FPatienceAtEnd);
     if (Written) [[likely]]
         return;
     if (TLineFlusher::IsEnding())

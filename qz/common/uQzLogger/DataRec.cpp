@@ -1,5 +1,6 @@
 #include <qz/common/uQzLogger/DataRec.h>
 
+#include <qz/common/uQzLogger/detail/LogThread.h>
 #include <qz/common/uQzTypes/VarTolerant.h>
 #include <qz/runtime/components/Component.h>
 #include <qz/runtime/reflection/Properties.h>
@@ -75,6 +76,9 @@ void Dump(UnicodeString& AText, const TObject& AObject, const UnicodeString& AIn
 } // namespace
 
 UnicodeString QzDataRecToString(PQzDataRec AValue) {
+    const detail::TLogThread& Thread = detail::ThisLogThread();
+    if (AValue == Thread.DumpedValue)
+        return *Thread.Dump;
     if (AValue->Kind() == tkClass) {
         if (const TObject* Object = AValue->AsObject()) {
             UnicodeString Result;

@@ -31,7 +31,7 @@ IQzLogAppenderEx& WithLayout(const Ref<IQzLogAppender>& AAppender) {
 TQzLogAppenderList::TQzLogAppenderList(TQzLogger* ALogger)
     : Inherited(nullptr),
       FLogger(ALogger),
-      FSet(std::make_shared<detail::TAppenderSet>(ALogger)) {}
+      FSet(std::make_shared<detail::TAppenderSet>(ALogger, *this)) {}
 
 TQzLogAppenderList::~TQzLogAppenderList() {
     FSet->LoseLogger();
@@ -63,11 +63,6 @@ void TQzLogAppenderList::Add(IQzLogAppender* AAppender) {
     Ref<IQzLogAppender> Appender = As<IQzLogAppender>(AAppender); // one object, one address
     if (Appender == nullptr)
         Appender = AAppender;
-    TComponent* const Component = Appender->Component();
-    if (Component != nullptr && dynamic_cast<TQzLogBase*>(Component) == nullptr) {
-        const detail::TStateHold Hold;
-        Component->FreeNotification(this);
-    }
     FSet->Add(Appender.Get());
 }
 
@@ -96,18 +91,22 @@ Ref<IQzLogAppender> TQzLogAppenderList::Add(const UnicodeString& AAppenderName,
 }
 
 void TQzLogAppenderList::Remove(IQzLogAppender* AAppender) {
-    if (TComponent* Component = AAppender == nullptr ? nullptr : AAppender->Component())
+    if (AAppender == nullptr)
+        return;
+    if (const TComponent* Component = AAppender->Component())
         FSet->Remove(Component);
+    else
+        FSet->Remove(AAppender);
 }
 
 void TQzLogAppenderList::Clear() {
-    FSet->Remove(nullptr);
+    FSet->Clear();
 }
 
 void TQzLogAppenderList::Notification(TComponent* AComponent, TOperation AOperation) {
     Inherited::Notification(AComponent, AOperation);
     if (AOperation == opRemove && !IsEnding())
-        FSet->Remove(AComponent);
+        FSet->Forget(AComponent);
 }
 
 } // namespace qz

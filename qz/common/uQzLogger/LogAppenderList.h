@@ -12,8 +12,8 @@
 // holds the lock of an appender or of a list, does not wait: another thread may be writing to what it
 // removes, and the appender ends after that.
 //
-// An appender that is freed leaves all lists. One that does not derive from TQzLogBase must not be freed
-// while other threads change the lists that hold it.
+// An appender that is freed leaves all lists. One that does not derive from TQzLogBase must leave them before
+// it is freed if other threads log or change lists at that time; it is not released then.
 #pragma once
 
 #include <memory>
@@ -34,13 +34,17 @@ class QZ_API TQzLogAppenderList : public TComponent {
 
 public:
     // Holds back the messages of the logger and changes of the list, both of other threads, until Unlock.
-    // Waits as long as it takes and gives true; the arguments are not used. The lock re-enters. An appender
-    // that writes must not lock a list, and threads that lock several lists must lock them in the same order.
+    // Waits as long as it takes and gives true; the arguments are not used. The lock re-enters. A message of
+    // the thread that holds it is written at once, or after Unlock if another thread holds a list on its way
+    // to the root. An appender that writes must not lock a list, and threads that lock several lists must
+    // lock them in the same order. A thread that writes to an appender, or holds the lock of one, changes the
+    // list all the same.
     bool Lock(const TStringArg& AName, bool ARaise);
     void Unlock() noexcept;
 
     int Count() const noexcept;
-    // Raises EArgumentOutOfRangeException. Hold the lock from Count on.
+    // Raises EArgumentOutOfRangeException. Hold the lock from Count on; even so another thread that writes to
+    // an appender may remove one.
     Ref<IQzLogAppender> GetAppender(int AIndex) const;
 
     // Appends, unless the list holds the appender by any of its interfaces. Null raises EAssertionFailed,

@@ -112,6 +112,14 @@ bool TQzLogBase::ReleaseFromSet(TAccessKey<detail::TAppenderSet>) {
     return DropReference(Count);
 }
 
+// The reference is never released, so that nothing ends the appender.
+void TQzLogBase::BecomeLost(TAccessKey<detail::TLogFork>) {
+    AppenderInstances().FList.Remove(this);
+    FSets.clear();
+    FIsComplete = false;
+    _AddRef();
+}
+
 Ref<IQzLogBase> MakeLogBase(TQzLogBaseClass AClass, TQzLogger* ALogger, const UnicodeString& AName) {
     const auto Make = AClass ? TQzLogBase::TVirtualCreate::Find(AClass) : nullptr;
     if (Make == nullptr)

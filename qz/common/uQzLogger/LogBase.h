@@ -74,6 +74,8 @@ public:
     void LeftSet(detail::TAppenderSet& ASet, TAccessKey<detail::TAppenderSet>) noexcept;
     // Drops the reference of a list. True if the caller has to call Free, with no lock held.
     bool ReleaseFromSet(TAccessKey<detail::TAppenderSet>);
+    // In the child of a fork, for an appender whose lock stays held. The caller holds the state lock.
+    void BecomeLost(TAccessKey<detail::TLogFork>);
     // The lock of an appender that may be in use; otherwise null. The caller holds the state lock.
     TCriticalSection* LockForFork(TAccessKey<detail::TLogFork>) noexcept {
         return FIsComplete || !FSets.empty() ? AppenderLock() : nullptr;

@@ -62,19 +62,21 @@ void CallHook(const TQzLogDrop& ADrop, std::uint64_t AKey) noexcept {
     detail::TLogThread& Thread = detail::ThisLogThread();
     if (All.IsCalling.exchange(true, std::memory_order_acquire))
         return;
-    detail::BeginBusy();
-    const std::uint64_t Before = std::exchange(Thread.Failed, AKey);
+    Thread.IsInHook = true;
+    Thread.Failed = AKey;
     try {
         if (const auto Hook = HookFor(All, AKey))
             (*Hook)(ADrop);
     } catch (...) { // NOLINT(bugprone-empty-catch): the hook is the last resort
     }
-    Thread.Failed = Before;
+    Thread.Failed = 0;
+    Thread.IsInHook = false;
     All.IsCalling.store(false, std::memory_order_release);
-    detail::EndBusy();
+    if (Thread.Queue != nullptr)
+        detail::Settle();
 }
 
-// Leaves the call to the end of what the thread is busy with. False if there is no memory.
+// Leaves the call to the time when the thread is free. False if there is no memory.
 bool Queue(const TQzLogDrop& ADrop, std::uint64_t AKey) noexcept {
     try {
         std::vector<detail::TQueuedDrop>& Drops = detail::QueueOf(detail::ThisLogThread()).Drops;
@@ -129,15 +131,20 @@ void detail::CountDrops(std::uint64_t ACount) noexcept {
     Drops().Count.fetch_add(ACount, std::memory_order_relaxed);
 }
 
-void detail::ReportDrop(const UnicodeString& ALogger, std::uint64_t AKey,
-                        const UnicodeString& AAppender) noexcept {
-    CountDrop();
+void detail::ReportFailure(const UnicodeString& ALogger, std::uint64_t AKey,
+                           const UnicodeString& AAppender) noexcept {
     try {
         TQzLogDrop Drop{ALogger, AAppender, {}, {}};
         Describe(Drop);
-        CallHook(Drop, AKey);
+        ReportProblem(Drop, AKey);
     } catch (...) { // NOLINT(bugprone-empty-catch): no memory for a description
     }
+}
+
+void detail::ReportDrop(const UnicodeString& ALogger, std::uint64_t AKey,
+                        const UnicodeString& AAppender) noexcept {
+    CountDrop();
+    ReportFailure(ALogger, AKey, AAppender);
 }
 
 void detail::ReportLoss(std::uint64_t ACount, const UnicodeString& ALogger, const UnicodeString& AAppender,
@@ -146,8 +153,10 @@ void detail::ReportLoss(std::uint64_t ACount, const UnicodeString& ALogger, cons
     ReportProblem({ALogger, AAppender, {}, AMessage}, AKey);
 }
 
-void detail::ReportProblem(const TQzLogDrop& ADrop, std::uint64_t AKey, bool AIsDue) noexcept {
-    if (AIsDue || ThisLogThread().Busy == 0 || !Queue(ADrop, AKey))
+void detail::ReportProblem(const TQzLogDrop& ADrop, std::uint64_t AKey) noexcept {
+    const TLogThread& Thread = ThisLogThread();
+    const bool IsFree = Thread.MayWait() && !Thread.IsInHook;
+    if (IsFree || !Queue(ADrop, AKey))
         CallHook(ADrop, AKey);
 }
 

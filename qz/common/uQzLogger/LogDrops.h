@@ -24,8 +24,8 @@ struct TQzLogDrop {
 
 using TQzLogDropHook = std::function<void(const TQzLogDrop& ADrop)>;
 
-// Sets the hook of the process; an empty one removes it. The hook is called on the logging thread, with no
-// lock of an appender held, and never while it runs on this or another thread. It is called at most once a
+// Sets the hook of the process; an empty one removes it. The hook is called on the logging thread, when that
+// holds no lock of an appender or a list any more, and never while it runs on this or another thread. It is called at most once a
 // second for each appender that raises, for the buffers of files, and for messages that arise too quickly. It
 // is called once for each of these faults, which are not counted as lost messages:
 //
@@ -58,14 +58,14 @@ inline constexpr std::uint64_t Buffer = UINT64_MAX;
 inline constexpr std::uint64_t QueueLimit = UINT64_MAX - 1;
 inline constexpr std::uint64_t Unlimited = UINT64_MAX - 2;
 } // namespace TDropKey
-// Counts a drop and calls the hook; for a handler of exceptions.
+// Calls the hook, for a handler of exceptions; the second one counts a drop too.
+void ReportFailure(const UnicodeString& ALogger, std::uint64_t AKey, const UnicodeString& AAppender) noexcept;
 void ReportDrop(const UnicodeString& ALogger, std::uint64_t AKey, const UnicodeString& AAppender) noexcept;
 // Counts lost messages and calls the hook.
 void ReportLoss(std::uint64_t ACount, const UnicodeString& ALogger, const UnicodeString& AAppender,
                 const UnicodeString& AMessage, std::uint64_t AKey) noexcept;
-// Calls the hook. A busy thread calls it later, unless AIsDue.
-void ReportProblem(const TQzLogDrop& ADrop, std::uint64_t AKey = TDropKey::Unlimited,
-                   bool AIsDue = false) noexcept;
+// Calls the hook. A thread that holds a lock of an appender or a list calls it afterwards.
+void ReportProblem(const TQzLogDrop& ADrop, std::uint64_t AKey = TDropKey::Unlimited) noexcept;
 // The first fatal message of the process that no appender could take.
 void ReportLostFatal(const UnicodeString& ALogger, const UnicodeString& AMessage) noexcept;
 // In the child of a fork: a call of the hook on a thread of the parent has no end there.

@@ -147,7 +147,8 @@ protected:
 //               MaxFileSize, MaxBackupCount   mtkInteger         DatePattern  mtkString rolling appenders
 //               ServiceName      mtkString    event log appenders
 //
-// A logger asks under the lock of the tree. The configurator may log, get loggers and change appenders. It
+// A logger asks under the lock of the tree. A thread that writes to an appender asks when it is done, if
+// another thread holds that lock. The configurator may log, get loggers and change appenders. It
 // must not wait for another thread that does so, or for the lock of an appender.
 //
 // Keys are case-sensitive. The default is the answer for a key that the configurator does not know.

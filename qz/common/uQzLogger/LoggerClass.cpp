@@ -26,7 +26,7 @@ constinit const TClassRec TQzLogger::ClassRec = DescribeClass<TQzLogger>(
 namespace {
 
 constexpr std::u16string_view cRoot = u"root";
-constexpr std::uint32_t cPatienceAtEnd = 1000; // milliseconds
+constexpr std::uint32_t cPatienceAtEnd = 1000;    // milliseconds
 constinit std::atomic<TQzLogger*> GRoot{nullptr}; // written under the state lock
 
 // All living loggers; guarded by the state lock.
@@ -42,6 +42,8 @@ std::unordered_set<TQzLogger*>& AllLoggers() {
 struct TLogUnit {
     TLogUnit() {
         AllLoggers();
+        AppenderInstances();
+        const TTreeHold Tree;
         RegisteredLayouts();
         RegisteredAppenders();
         QzDroppedLogMessages();

@@ -5,7 +5,7 @@
 #include <qz/common/uQzLogger/LogDrops.h>
 #include <qz/common/uQzLogger/LoggerClass.h>
 #include <qz/common/uQzLogger/LoggerList.h>
-#include <qz/common/uQzLogger/detail/LogThread.h>
+#include <qz/common/uQzLogger/detail/LogDispatch.h>
 #include <qz/common/uQzTypes/VarTolerant.h>
 #include <qz/runtime/values/VariantArray.h>
 
@@ -20,6 +20,12 @@ Ref<IQzLogConfigurator> TQzLogger::Configurator() const {
 
 void TQzLogger::SetConfig(IQzLogConfigurator* AConfigurator) {
     const Ref<IQzLogConfigurator> Configurator(AConfigurator);
+    const detail::TTreeHold Tree; // one thread at a time asks, and two make one appender of a name
+    if (Configurator != nullptr && !Tree.IsHeld()) {
+        detail::QueueOf(detail::ThisLogThread())
+            .Configurations.push_back({Ref<TQzLogger>(this), Configurator});
+        return;
+    }
     std::vector<Ref<IQzLogConfigurator>> Old; // released after the lock
     {
         const TStateHold Hold;
@@ -61,7 +67,6 @@ void TQzLogger::ReadAppenders(IQzLogConfigurator& AConfigurator) {
         const UnicodeString Name = QzVarToStr(VarArrayGet(Names, Low + I), {}, true);
         const UnicodeString ClassName =
             QzVarToStr(AConfigurator.GetAppenderValue(Name, u"class", mtkString, u""), {}, true);
-        const detail::TTreeHold Hold; // two threads make one appender of a name
         Ref<IQzLogAppender> Appender = AppenderInstances().Find(Name);
         if (Appender == nullptr && !ClassName.IsEmpty())
             Appender = As<IQzLogAppender>(MakeLogBase(RegisteredAppenders().GetClass(ClassName), this, Name));

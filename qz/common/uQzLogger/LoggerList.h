@@ -6,8 +6,8 @@
 //         Show(List.GetLogger(I)->GetName());
 //     List.Unlock();
 //
-// Loggers come and go on any thread. While a thread holds the lock, no logger leaves a list, and none is
-// added but by an appender that writes at that moment; it is appended. Hold the lock briefly: it is that of
+// Loggers come and go on any thread. While a thread holds the lock, no other thread adds or removes a logger,
+// but for one that writes to an appender at that moment: it may add a logger or close the tree. Hold the lock briefly: it is that of
 // the whole tree.
 #pragma once
 

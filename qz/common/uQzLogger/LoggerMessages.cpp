@@ -188,7 +188,6 @@ void TQzLogger::LogValue(TQzLogLevel ALevel, const TQzLogText& AMessage, const T
     Send(ALevel, AMessage, &AValue, AIndent);
 }
 
-
 void IQzLogger::Error(const TQzLogText& AMessage, const std::exception& AValue) {
     Error(AMessage.ToString() + u"\r\n" + TextOf(AValue));
 }

@@ -138,7 +138,9 @@ TWritten TFileHandle::AppendWithin(std::span<const std::byte> ASource, std::uint
         pollfd Ready{File, POLLOUT, 0};
         const int Count = poll(&Ready, 1, static_cast<int>(AMilliseconds));
         if (Count > 0) {
-            const TWritten Step = Write(ASource.subspan(Result.Done).first(std::min<std::size_t>(PIPE_BUF, ASource.size() - Result.Done)));
+            const TWritten Step =
+                Write(ASource.subspan(Result.Done)
+                          .first(std::min<std::size_t>(PIPE_BUF, ASource.size() - Result.Done)));
             Result.Done += Step.Done;
             Result.Error = Step.Error;
         } else if (Count == 0 || errno != EINTR) {

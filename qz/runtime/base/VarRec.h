@@ -52,7 +52,7 @@ inline constexpr TVarRecKind cKindOf = sizeof(T) < 4 || (sizeof(T) == 4 && std::
 template <class T>
 concept CUtf8Argument = CNarrowText<T> && !std::derived_from<T, TByteText>;
 template <class T>
-concept COtherArgument = (std::is_class_v<T> || std::is_enum_v<T>) && !CWideText<T> && !CNarrowText<T> &&
+concept COtherArgument = (std::is_class_v<T> || std::is_enum_v<T>)&&!CWideText<T> && !CNarrowText<T> &&
     !CUtf8Text<T> && !std::derived_from<T, TByteText>;
 template <class T>
 concept CObjectType = requires(const T* AObject) {
@@ -96,12 +96,13 @@ public:
     TVarRec(std::nullptr_t) noexcept : FKind(vtPointer) { FValue.Pointer = nullptr; }
     // A date, and what else converts to double, is a vtExtended.
     template <detail::COtherArgument T>
-        requires std::is_class_v<T> && std::convertible_to<const T&, double>
-    TVarRec(const T& AValue) noexcept : TVarRec(static_cast<double>(AValue)) {}
+        requires std::is_class_v<T> && std::convertible_to<const T&, double> TVarRec(const T& AValue)
+    noexcept : TVarRec(static_cast<double>(AValue)) {}
     // So that braces around such a value do not compile, instead of meaning another overload.
     template <detail::COtherArgument T>
         requires(!std::is_class_v<T> || !std::convertible_to<const T&, double>)
-    TVarRec(const T&) = delete;
+    TVarRec(const T&)
+    = delete;
 
     TVarRecKind Kind() const noexcept { return FKind; }
     // vtInteger, vtBoolean, vtChar, vtWideChar, vtInt64; of vtUInt64 the bits.

@@ -197,7 +197,6 @@ public:
     }
 
 private:
-
     // Blanks in front of what was written from AStart on, or after it, up to the width.
     void Pad(const TPlace& APlace, std::size_t AStart) {
         const std::size_t Length = FResult.size() - AStart;

@@ -26,6 +26,24 @@ public:
 constinit const TClassRec TStrictConfiguration::ClassRec =
     DescribeClass<TStrictConfiguration>(u"TStrictConfiguration", {.Unit = u"tests"});
 
+// Closes its appender once.
+class TClosingLayout : public TPlainLayout {
+    QZ_CLASS(TClosingLayout, TPlainLayout)
+
+public:
+    UnicodeString GetHeader() override {
+        if (TQzFileAppender* const File = std::exchange(Appender, nullptr))
+            File->Close();
+        return u"head";
+    }
+    TQzFileAppender* Appender = nullptr;
+
+protected:
+    using TPlainLayout::TPlainLayout;
+};
+constinit const TClassRec TClosingLayout::ClassRec =
+    DescribeLogBase<TClosingLayout>(u"TClosingLayout", {.Unit = u"tests"});
+
 TEST(LogFiles, TheNewestOfAFamilySurvive) {
     TLogFiles Files;
     for (const char16_t* Name : {u"app.2024-01-01.log", u"app.2024-01-02.log", u"app.2024-01-03.log"})
@@ -62,7 +80,7 @@ TEST(LogFiles, StrictXmlIsContinuedInsideTheDocument) {
     TLogFiles Files;
     const auto Run = [&Files](bool AIsStrict) {
         const Ref<TQzFileAppender> File(TQzFileAppender::Create(nullptr, u""));
-        File->SetFileName(Files.Path(u"app.log.xml"));
+        File->SetFileName(Files.Path(u"app"));
         const Ref<TQzXmlLayout> Layout(TQzXmlLayout::Create(nullptr, u""));
         Layout->SetStrictXml(AIsStrict);
         File->SetLayout(Layout.Get());
@@ -86,8 +104,29 @@ TEST(LogFiles, StrictXmlIsContinuedInsideTheDocument) {
 }
 
 TEST(LogFiles, NamesThatAreNotUsedLeaveNoDirectory) {
+    const UnicodeString Path =
+        ExtractFilePath(Ref<TQzFileAppender>(TQzFileAppender::Create(nullptr, u""))->GetFileName());
+    std::ignore = platform::RemoveEmptyDirectory(Path);
+    const bool WasThere = DirectoryExists(Path); // with files of other tests
     const Ref<TQzFileAppender> File(TQzFileAppender::Create(nullptr, u""));
-    EXPECT_FALSE(DirectoryExists(ExtractFilePath(File->GetFileName())));
+    EXPECT_EQ(DirectoryExists(Path), WasThere);
+}
+
+// A header that closes its appender, and an opening that fails while a file is open.
+TEST(LogFiles, NoFailureSilencesAnAppender) {
+    TLogFiles Files;
+    const Ref<TQzFileAppender> File = Files.Make<TQzFileAppender>();
+    const Ref<TClosingLayout> Layout(TClosingLayout::Create(nullptr, u""));
+    Layout->Appender = File.Get();
+    File->SetLayout(Layout.Get());
+    Say(File, u"one");
+    EXPECT_NE(Files.Text().find("one|"), std::string::npos);
+    File->SetAppendExisting(false);
+    EXPECT_TRUE(DeleteFile(Files.Path(u"app.log")) && ForceDirectories(Files.Path(u"app.log")));
+    EXPECT_THROW(File->Initialize(), EStreamError);
+    EXPECT_TRUE(platform::RemoveEmptyDirectory(Files.Path(u"app.log")));
+    Say(File, u"two");
+    EXPECT_EQ(Files.Text(), "head|two|");
 }
 
 } // namespace

@@ -35,12 +35,15 @@ TEST(LogDrops, FaultsOfTheConfigurationOnceEach) {
     Hook.Notes = {};
     const Ref<TConfiguration> Values = TConfiguration::Create();
     Values->Answers[u"root/Appenders"] = VarArrayOf({u"misspelt", u"bare"});
+    Values->Answers[u"root/Level"] = 0;
     Values->Answers[u"bare/class"] = u"TQzFileAppender";
+    Values->Answers[u"bare/FileName"] = u" ";
     Logger().SetConfig(Values.Get());
     for (int I = 0; I < 2; ++I)
         Logger().Info("x");
-    EXPECT_EQ(Hook.Notes, u"root/misspelt: The appender does not exist and has no class|"
-                          u"/bare: The appender has no layout|");
+    EXPECT_EQ(Hook.Notes,
+              u"root/misspelt: The appender does not exist and has no class|"
+              u"/bare: The appender has no layout|");
     EXPECT_EQ(QzDroppedLogMessages(), Dropped);
 }
 
@@ -71,20 +74,21 @@ TEST(LogMessages, EachLevelTakesPatternsAndExceptions) {
     Logger().SetLevel(llAll);
     IQzLogger& Log = Logger();
     const std::runtime_error Plain("why");
-    const EConvertError Own(u"how");
+    const EConvertError Own(u"how"); // an object as the value, the text of which holds its address
     Log.Info("%s-%d", {"a", 1});
     Log.Warn("%s", {'c'});
     Log.Error("%s", {u"e"});
     Log.Trace("t", Plain);
     Log.Debug("d", Plain);
-    Log.Info("i", Own);
+    Log.Error("e", Own);
     Log.Warn("w", Plain);
     Log.Error("e", Plain);
     Log.Fatal("f", Plain);
     Log.Fatal(Plain);
-    EXPECT_EQ(Out.Take(), u"root>root Info a-1|root>root Warn c|root>root Error e|root>root Trace t=why|"
-                          u"root>root Debug d=why|root>root Info i=how|root>root Warn w=why|"
-                          u"root>root Error e\r\nwhy|root>root Fatal f=why|root>root Fatal why=why|");
+    EXPECT_EQ(Out.Take(),
+              u"root>root Info a-1|root>root Warn c|root>root Error e|root>root Trace t=why|"
+              u"root>root Debug d=why|root>root Error e\r\nhow|root>root Warn w=why|"
+              u"root>root Error e\r\nwhy|root>root Fatal f=why|root>root Fatal why=why|");
 }
 
 } // namespace

@@ -183,11 +183,9 @@ TEST_F(SystemLogLinux, BurstsWaitForTheDaemon) {
     for (int I = 0; I < cCount; ++I)
         EXPECT_TRUE(Write(u"burst"));
     Reader.join();
-    while (Write(u"nothing reads")) {
-    }
+    while (Write(u"nothing reads")) {}
     EXPECT_FALSE(Write(u"so this one does not wait"));
-    while (Journal.Take() != "-") {
-    }
+    while (Journal.Take() != "-") {}
     EXPECT_TRUE(Write(u"accepted again"));
 }
 

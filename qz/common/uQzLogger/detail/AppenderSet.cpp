@@ -15,10 +15,15 @@ bool Contains(const TAppenderEntries* AEntries, const IQzLogAppender* AAppender)
         std::ranges::find(*AEntries, AAppender, &TAppenderEntry::Appender) != AEntries->end();
 }
 
+// The count of the list is that of the base only if the appender is an interface of the base itself. Other
+// appenders are told apart by their addresses, in a range of their own.
 TAppenderEntry EntryOf(IQzLogAppender* AAppender) {
+    constexpr std::uint64_t cForeign = std::uint64_t{1} << 62;
     TComponent* const Component = AAppender->Component();
     auto* const Base = dynamic_cast<TQzLogBase*>(Component);
-    return {AAppender, Component, Base, Base != nullptr ? Base->Serial() : TQzLogBase::NextSerial()};
+    if (Base != nullptr && Base->FindInterface(IQzLogAppender::IID) == AAppender)
+        return {AAppender, Component, Base, Base->Serial()};
+    return {AAppender, Component, nullptr, cForeign | reinterpret_cast<std::uintptr_t>(AAppender)};
 }
 
 void EndQuietly(TQzLogBase* ABase) noexcept {
@@ -73,6 +78,8 @@ public:
     void Remove(const TAppenderEntry& AEntry, Ref<IQzLogAppender>& AOwned) {
         if (AEntry.Base != nullptr)
             AEntry.Base->LeftSet(*FEnding.Set, {});
+        else if (AEntry.Component != nullptr)
+            AEntry.Component->RemoveFreeNotification(&FEnding.Set->FList);
         if (!FHasGate || AEntry.Base == nullptr)
             FEnding.Removed.push_back(std::move(AOwned));
         else if (static_cast<void>(AOwned.Detach()), AEntry.Base->ReleaseFromSet({}))
@@ -86,8 +93,9 @@ private:
     TAppenderEnding FEnding;
 };
 
-TAppenderSet::TAppenderSet(TQzLogger* ALogger)
-    : FGate(std::make_unique<TQzCriticalSection>()),
+TAppenderSet::TAppenderSet(TQzLogger* ALogger, TComponent& AList) noexcept
+    : FList(AList),
+      FGate(std::make_unique<TQzCriticalSection>()),
       FLogger(ALogger) {}
 
 TAppenderSet::~TAppenderSet() = default;
@@ -135,31 +143,50 @@ void TAppenderSet::Add(IQzLogAppender* AAppender) {
     FOwned.reserve(FOwned.size() + 1);
     if (Entry.Base != nullptr)
         Entry.Base->JoinedSet(*this, {});
+    else if (Entry.Component != nullptr)
+        Entry.Component->FreeNotification(&FList);
     FOwned.push_back(std::move(Owned));
     Change.Replace(std::move(Fresh));
     if (FLogger != nullptr)
         FLogger->AppendersChanged({});
 }
 
-void TAppenderSet::Remove(const TComponent* AComponent) {
+template <class TIsMeant> void TAppenderSet::RemoveIf(TIsMeant AIsMeant, bool AReleases) {
     TChange Change(*this);
     const TStateHold Hold;
-    const auto IsMeant = [AComponent](const TAppenderEntry& AEntry) {
-        return AComponent == nullptr || AEntry.Component == AComponent;
-    };
-    if (FLatest == nullptr || std::ranges::none_of(*FLatest, IsMeant))
+    if (FLatest == nullptr || std::ranges::none_of(*FLatest, AIsMeant))
         return;
     auto Fresh = std::make_unique<TAppenderEntries>();
-    std::ranges::remove_copy_if(*FLatest, std::back_inserter(*Fresh), IsMeant);
+    std::ranges::remove_copy_if(*FLatest, std::back_inserter(*Fresh), AIsMeant);
     Change.ReserveRemoved(FOwned.size());
     for (std::size_t I = 0; I < FOwned.size(); ++I) {
-        if (IsMeant((*FLatest)[I]))
+        if (!AIsMeant((*FLatest)[I]))
+            continue;
+        if (AReleases)
             Change.Remove((*FLatest)[I], FOwned[I]);
+        else
+            static_cast<void>(FOwned[I].Detach());
     }
     std::erase(FOwned, nullptr);
     Change.Replace(Fresh->empty() ? nullptr : std::move(Fresh));
     if (FLogger != nullptr)
         FLogger->AppendersChanged({});
+}
+
+void TAppenderSet::Remove(const IQzLogAppender* AAppender) {
+    RemoveIf([AAppender](const TAppenderEntry& AEntry) { return AEntry.Appender == AAppender; }, true);
+}
+
+void TAppenderSet::Remove(const TComponent* AComponent) {
+    RemoveIf([AComponent](const TAppenderEntry& AEntry) { return AEntry.Component == AComponent; }, true);
+}
+
+void TAppenderSet::Clear() {
+    RemoveIf([](const TAppenderEntry&) { return true; }, true);
+}
+
+void TAppenderSet::Forget(const TComponent* AComponent) {
+    RemoveIf([AComponent](const TAppenderEntry& AEntry) { return AEntry.Component == AComponent; }, false);
 }
 
 void TAppenderSet::LoseLogger() noexcept {

@@ -33,7 +33,8 @@ using TAppenderEntries = std::vector<TAppenderEntry>;
 
 class TAppenderSet : public std::enable_shared_from_this<TAppenderSet> {
 public:
-    explicit TAppenderSet(TQzLogger* ALogger);
+    // AList is told when an appender that is no TQzLogBase ends.
+    TAppenderSet(TQzLogger* ALogger, TComponent& AList) noexcept;
     TAppenderSet(const TAppenderSet&) = delete;
     TAppenderSet& operator=(const TAppenderSet&) = delete;
     ~TAppenderSet();
@@ -67,9 +68,13 @@ public:
 
     // Appends, unless the appender is in the list.
     void Add(IQzLogAppender* AAppender);
-    // Removes the appenders of that component, or all for null. If the caller may wait, nothing is written to
-    // them any more when this returns.
+    // Removes the appender, the appenders of that component, or all. If the caller may wait, nothing is
+    // written to them any more when this returns.
+    void Remove(const IQzLogAppender* AAppender);
     void Remove(const TComponent* AComponent);
+    void Clear();
+    // As Remove, for a component that ends and was not counted.
+    void Forget(const TComponent* AComponent);
 
     // The logger ends.
     void LoseLogger() noexcept;
@@ -79,8 +84,10 @@ public:
 
 private:
     class TChange;
+    template <class TIsMeant> void RemoveIf(TIsMeant AIsMeant, bool AReleases);
     void Publish(std::unique_ptr<const TAppenderEntries> AEntries) noexcept;
 
+    TComponent& FList;
     std::unique_ptr<TQzCriticalSection> FGate;
     std::atomic<const TAppenderEntries*> FEntries{nullptr};
     // Guarded by the state lock.

@@ -12,13 +12,17 @@ namespace {
 // Bounds what appenders that log with each message can set off.
 constexpr int cMostArisen = 1000;
 
-// An object may end before the message is delivered, so that its text is taken at once.
-TValue Keep(PQzDataRec AValue) {
+constexpr std::uint32_t cPatience = 100; // milliseconds, for the gates beside one that the thread holds
+
+// An object may end before the message is delivered, so that its texts are taken at once.
+void KeepValue(TQueuedMessage& AMessage, PQzDataRec AValue) {
+    AMessage.HasValue = AValue != nullptr;
     if (AValue == nullptr)
-        return {};
-    if (AValue->Kind() == tkClass || AValue->Kind() == tkVariant)
-        return QzDataRecToString(AValue);
-    return *AValue;
+        return;
+    const bool IsObject = AValue->Kind() == tkClass;
+    AMessage.Value = IsObject || AValue->Kind() == tkVariant ? TValue(AValue->ToString()) : *AValue;
+    if (IsObject)
+        AMessage.Dump = QzDataRecToString(AValue);
 }
 
 } // namespace
@@ -51,9 +55,17 @@ void TLogDispatch::Enqueue(TLogThread& AThread, TQzLogger& ALogger, const TLogMe
         }
         if (!ALogger.TryAddRef({}))
             return CountDrop();
-        Queue.Messages.push_back({Ref<TQzLogger>::Attach(&ALogger), AMessage.Source, AMessage.Level,
-                                  AMessage.Text.ToString(), Keep(AMessage.Value), AMessage.Value != nullptr,
-                                  AMessage.Indent, AThread.Failed});
+        TQueuedMessage Message{Ref<TQzLogger>::Attach(&ALogger),
+                               AMessage.Source,
+                               AMessage.Level,
+                               AMessage.Text.ToString(),
+                               {},
+                               false,
+                               {},
+                               AMessage.Indent,
+                               AThread.Failed};
+        KeepValue(Message, AMessage.Value);
+        Queue.Messages.push_back(std::move(Message));
     } catch (...) {
         CountDrop();
     }
@@ -63,6 +75,7 @@ void TLogDispatch::Enqueue(TLogThread& AThread, TQzLogger& ALogger, const TLogMe
 void TLogDispatch::WriteToAll(TProgress& AProgress, TAppenderSet& ASet, const UnicodeString& ALogger,
                               const TLogMessage& AMessage, const UnicodeString& AText) {
     const TGateHold Hold(ASet, AProgress.Thread);
+    LetForkPass();
     const TAppenderEntries* const Entries = ASet.Entries();
     if (Entries == nullptr)
         return;
@@ -96,8 +109,7 @@ void TLogDispatch::Walk(TProgress& AProgress, const TQzLogger& ALogger, const TL
     }
 }
 
-// An exception ends the delivery. It is reported with no gate held, while the messages of the hook are
-// queued.
+// An exception ends the delivery. It is reported when the thread is free.
 void TLogDispatch::Deliver(TLogThread& AThread, TQzLogger& ALogger, const TLogMessage& AMessage,
                            std::uint64_t AExcept) noexcept {
     TProgress Progress{AThread, AExcept, 0, {}};
@@ -112,12 +124,74 @@ void TLogDispatch::Deliver(TLogThread& AThread, TQzLogger& ALogger, const TLogMe
 
 void TLogDispatch::Send(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept {
     TLogThread& Thread = ThisLogThread();
-    if (Thread.Busy != 0)
+    if (Thread.QueuesMessages())
         return Enqueue(Thread, ALogger, AMessage);
     LetForkPass();
+    if (Thread.Gates != 0)
+        return SendWithGates(Thread, ALogger, AMessage);
     Deliver(Thread, ALogger, AMessage, 0);
     if (Thread.Queue != nullptr)
         Settle();
+}
+
+// The gates on the way of a message.
+class TLogDispatch::TGates {
+public:
+    explicit TGates(TLogThread& AThread) noexcept : FThread(AThread) {}
+    TGates(const TGates&) = delete;
+    TGates& operator=(const TGates&) = delete;
+    ~TGates() {
+        for (TAppenderSet* Each : FHeld)
+            Each->Leave(FThread);
+    }
+    // False if another thread holds one of them, or if there is no memory.
+    bool TryEnter(const TQzLogger& ALogger) noexcept {
+        for (const TQzLogger* Node = &ALogger; Node != nullptr; Node = Node->NextOnTheWay({})) {
+            try {
+                FHeld.reserve(FHeld.size() + 1);
+            } catch (const std::bad_alloc&) {
+                return false;
+            }
+            if (!Node->AppenderSet({}).TryEnter(FThread, cPatience))
+                return false;
+            FHeld.push_back(&Node->AppenderSet({}));
+        }
+        return true;
+    }
+
+private:
+    TLogThread& FThread;
+    std::vector<TAppenderSet*> FHeld;
+};
+
+// For a thread that holds the list of a logger: if it waited for the gate of another one, two such threads
+// could wait for each other.
+void TLogDispatch::SendWithGates(TLogThread& AThread, TQzLogger& ALogger,
+                                 const TLogMessage& AMessage) noexcept {
+    const bool OthersWait = AThread.Queue != nullptr && !AThread.Queue->Messages.empty();
+    TGates Gates(AThread);
+    if (!OthersWait && Gates.TryEnter(ALogger))
+        Deliver(AThread, ALogger, AMessage, 0);
+    else
+        Enqueue(AThread, ALogger, AMessage);
+    if (AThread.Queue != nullptr && !AThread.IsSettling)
+        SettleWithGates(AThread);
+}
+
+// Delivers queued messages up to the first one on whose way another thread holds a gate.
+void TLogDispatch::SettleWithGates(TLogThread& AThread) noexcept {
+    AThread.IsSettling = true;
+    TLogQueue& Queue = *AThread.Queue;
+    Queue.Arisen = static_cast<int>(Queue.Messages.size());
+    while (!Queue.Messages.empty()) {
+        TGates Gates(AThread);
+        if (!Gates.TryEnter(*Queue.Messages.front().Logger))
+            break;
+        const TQueuedMessage Message = std::move(Queue.Messages.front());
+        Queue.Messages.pop_front();
+        DeliverQueued(AThread, Message);
+    }
+    AThread.IsSettling = false;
 }
 
 bool TLogDispatch::ReleaseLater(TQzLogger& ALogger) noexcept {
@@ -132,40 +206,69 @@ bool TLogDispatch::ReleaseLater(TQzLogger& ALogger) noexcept {
     }
 }
 
-void TLogDispatch::SettleOne(TLogThread& AThread) noexcept {
+// Releases the loggers later, since their ends need locks that the handler of a fork has.
+void TLogDispatch::DropMessages() noexcept {
+    TLogQueue* const Queue = ThisLogThread().Queue;
+    if (Queue == nullptr)
+        return;
+    try {
+        for (TQueuedMessage& Message : Queue->Messages)
+            Queue->Loggers.push_back(std::move(Message.Logger));
+    } catch (const std::bad_alloc&) {
+        return; // the child delivers them too
+    }
+    Queue->Messages.clear();
+    Queue->Drops.clear();
+}
+
+void TLogDispatch::DeliverQueued(TLogThread& AThread, const TQueuedMessage& AMessage) noexcept {
+    if (!AMessage.Dump.IsEmpty()) {
+        AThread.DumpedValue = &AMessage.Value;
+        AThread.Dump = &AMessage.Dump;
+    }
+    Deliver(AThread, *AMessage.Logger,
+            {AMessage.Source, AMessage.Level, AMessage.Text, AMessage.HasValue ? &AMessage.Value : nullptr,
+             AMessage.Indent},
+            AMessage.Except);
+    AThread.DumpedValue = nullptr;
+}
+
+// Does what is first in the queue. False if that was empty.
+bool TLogDispatch::SettleOne(TLogThread& AThread) noexcept {
     TLogQueue& Queue = *AThread.Queue;
     if (!Queue.Messages.empty()) {
-        TQueuedMessage Message = std::move(Queue.Messages.front());
+        const TQueuedMessage Message = std::move(Queue.Messages.front());
         Queue.Messages.pop_front();
-        Deliver(AThread, *Message.Logger,
-                {Message.Source, Message.Level, Message.Text,
-                 Message.HasValue ? &Message.Value : nullptr, Message.Indent},
-                Message.Except);
-        return;
-    }
-    if (!Queue.Drops.empty()) {
+        DeliverQueued(AThread, Message);
+    } else if (!Queue.Drops.empty()) {
         for (const TQueuedDrop& Each : std::exchange(Queue.Drops, {}))
-            ReportProblem(Each.Drop, Each.Key, true);
-        return;
+            ReportProblem(Each.Drop, Each.Key);
+    } else if (!Queue.Configurations.empty()) {
+        for (const TQueuedConfiguration& Each : std::exchange(Queue.Configurations, {})) {
+            try {
+                Each.Logger->SetConfig(Each.Configurator.Get());
+            } catch (...) {
+                ReportFailure(Each.Logger->FullName(), 0, {});
+            }
+        }
+    } else if (!Queue.Endings.empty() || !Queue.Loggers.empty()) {
+        for (TAppenderEnding& Ending : std::exchange(Queue.Endings, {}))
+            Ending.Finish(AThread);
+        std::exchange(Queue.Loggers, {}).clear();
+    } else {
+        const std::unique_ptr<TLogQueue> Done(std::exchange(AThread.Queue, nullptr));
+        return false;
     }
-    for (TAppenderEnding& Ending : std::exchange(Queue.Endings, {}))
-        Ending.Finish(AThread);
-    std::exchange(Queue.Loggers, {}).clear();
+    return true;
 }
 
 void Settle() noexcept {
     TLogThread& Thread = ThisLogThread();
-    if (Thread.Busy != 0 || Thread.IsSettling)
+    if (!Thread.MayWait() || Thread.IsSettling || Thread.IsInHook)
         return;
     Thread.IsSettling = true;
-    while (Thread.Gates == 0 || !Thread.Queue->Messages.empty() || !Thread.Queue->Drops.empty()) {
-        TLogDispatch::SettleOne(Thread);
-        const TLogQueue& Queue = *Thread.Queue;
-        if (Queue.Messages.empty() && Queue.Drops.empty() && Queue.Endings.empty() && Queue.Loggers.empty()) {
-            const std::unique_ptr<TLogQueue> Done(std::exchange(Thread.Queue, nullptr));
-            break;
-        }
-    }
+    Thread.Queue->Arisen = static_cast<int>(Thread.Queue->Messages.size());
+    while (TLogDispatch::SettleOne(Thread)) {}
     Thread.IsSettling = false;
 }
 

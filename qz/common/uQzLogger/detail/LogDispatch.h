@@ -32,6 +32,7 @@ struct TQueuedMessage {
     UnicodeString Text;
     TValue Value;
     bool HasValue;
+    UnicodeString Dump; // of the object that was the value; Value is its text then
     TQzLogIndent Indent;
     std::uint64_t Except; // the serial of the appender that must not get it; 0 for none
 };
@@ -42,13 +43,20 @@ struct TQueuedDrop {
     std::uint64_t Key; // as ReportProblem takes it
 };
 
-// What a thread has to do as soon as it is free to.
+// A logger that could not be configured at once.
+struct TQueuedConfiguration {
+    Ref<TQzLogger> Logger;
+    Ref<IQzLogConfigurator> Configurator;
+};
+
+// What a thread has to do as soon as it holds no lock of an appender or a list.
 struct TLogQueue {
-    std::deque<TQueuedMessage> Messages;  // when it is not busy
-    std::vector<TQueuedDrop> Drops;       // when it is not busy
-    std::vector<TAppenderEnding> Endings; // when it may wait
-    std::vector<Ref<TQzLogger>> Loggers;  // to be released when it may wait
-    int Arisen = 0;                       // messages since the queue was made
+    std::deque<TQueuedMessage> Messages;
+    std::vector<TQueuedDrop> Drops;
+    std::vector<TQueuedConfiguration> Configurations;
+    std::vector<TAppenderEnding> Endings;
+    std::vector<Ref<TQzLogger>> Loggers; // to be released
+    int Arisen = 0;                      // messages since the thread was free
 
     // The next push_back to Endings raises nothing.
     void ReserveEnding();
@@ -63,17 +71,23 @@ public:
     static void Send(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept;
     // Takes over a reference, to be released when the thread may wait. False if there is no memory.
     static bool ReleaseLater(TQzLogger& ALogger) noexcept;
+    // In the child of a fork: the parent delivers the messages that the forking thread has queued.
+    static void DropMessages() noexcept;
 
 private:
     struct TProgress;
     friend void Settle() noexcept;
     static void Enqueue(TLogThread& AThread, TQzLogger& ALogger, const TLogMessage& AMessage) noexcept;
+    static void SendWithGates(TLogThread& AThread, TQzLogger& ALogger, const TLogMessage& AMessage) noexcept;
     static void Deliver(TLogThread& AThread, TQzLogger& ALogger, const TLogMessage& AMessage,
                         std::uint64_t AExcept) noexcept;
     static void Walk(TProgress& AProgress, const TQzLogger& ALogger, const TLogMessage& AMessage);
     static void WriteToAll(TProgress& AProgress, TAppenderSet& ASet, const UnicodeString& ALogger,
                            const TLogMessage& AMessage, const UnicodeString& AText);
-    static void SettleOne(TLogThread& AThread) noexcept;
+    class TGates;
+    static void SettleWithGates(TLogThread& AThread) noexcept;
+    static void DeliverQueued(TLogThread& AThread, const TQueuedMessage& AMessage) noexcept;
+    static bool SettleOne(TLogThread& AThread) noexcept;
 };
 
 } // namespace detail

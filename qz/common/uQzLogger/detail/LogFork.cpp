@@ -7,6 +7,7 @@
 #include <qz/common/uQzLogger/LogDrops.h>
 #include <qz/common/uQzLogger/LoggerClass.h>
 #include <qz/common/uQzLogger/detail/AppenderSet.h>
+#include <qz/common/uQzLogger/detail/LogDispatch.h>
 #include <qz/platform/Fork.h>
 #include <qz/platform/Threads.h>
 
@@ -14,8 +15,18 @@ namespace qz::detail {
 
 constinit std::atomic<int> GPendingForks{0};
 
+namespace {
+
+constexpr std::uint32_t cPatience = 1000; // milliseconds
+
+} // namespace
+
 void AwaitFork() noexcept {
-    platform::SleepMs(1);
+    if (ThisLogThread().IsForking)
+        return;
+    const std::uint32_t Start = platform::TickCount();
+    while (GPendingForks != 0 && platform::TickCount() - Start <= cPatience)
+        platform::SleepMs(1);
 }
 
 class TLogFork {
@@ -25,7 +36,6 @@ public:
     static void InChild();
 
 private:
-    static constexpr std::uint32_t cPatience = 1000; // milliseconds
     bool TryAppenders();
     void Release() noexcept;
     static TLogFork& Instance();
@@ -60,6 +70,7 @@ void TLogFork::Release() noexcept {
 void TLogFork::Prepare() {
     TLogFork& Fork = Instance();
     ++GPendingForks;
+    ThisLogThread().IsForking = true;
     const std::uint32_t Start = platform::TickCount();
     for (;;) {
         TStateHold::Section().Enter();
@@ -75,14 +86,19 @@ void TLogFork::Prepare() {
 void TLogFork::InParent() noexcept {
     Instance().Release();
     TStateHold::Section().Leave();
+    ThisLogThread().IsForking = false;
     --GPendingForks;
 }
 
 void TLogFork::InChild() {
     GPendingForks = 0;
+    ThisLogThread().IsForking = false;
+    TLogDispatch::DropMessages();
     ForgetHookCall();
     TTreeLock::BeginChild();
     TQzLogger::BeginChild(Instance().FMissed, {});
+    for (TQzLogBase* Each : Instance().FMissed)
+        Each->BecomeLost({});
     Instance().Release();
     TStateHold::Section().Leave();
 }

@@ -2,8 +2,8 @@
 //
 // Before a fork this takes the locks of all appenders and then the state lock. Gates and the tree lock are
 // not waited for: the child frees those that a thread of the parent held. Only an appender lock may be held
-// for long, by a write that blocks; an appender whose lock cannot be had in a second is in no list of the
-// child.
+// for long, by a write that blocks; an appender whose lock cannot be had in a second is lost to the child:
+// it is in no list, it is not found by its name, and it never ends.
 #pragma once
 
 #include <atomic>
@@ -13,7 +13,7 @@ namespace qz::detail {
 extern constinit std::atomic<int> GPendingForks;
 void AwaitFork() noexcept;
 
-// Delays a message for a moment while a fork waits for the locks of appenders.
+// Delays a message while a fork waits for the locks of appenders, so that it gets them. At most about a second.
 inline void LetForkPass() noexcept {
     if (GPendingForks.load(std::memory_order_relaxed) != 0) [[unlikely]]
         AwaitFork();

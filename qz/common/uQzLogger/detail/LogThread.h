@@ -9,13 +9,19 @@
 //
 // The first three are held while the code of users runs. A thread that holds a gate or the lock of an
 // appender never waits for the tree lock. A thread that is busy queues its messages, so that it never waits
-// for a second gate.
+// for a second gate. A thread that holds the list of a logger delivers a message at once only if the other
+// gates can be had in a moment.
 #pragma once
 
 #include <atomic>
 #include <cstdint>
 
 #include <qz/common/uQzThreads/CriticalSection.h>
+
+namespace qz {
+class TValue;
+class UnicodeString;
+} // namespace qz
 
 namespace qz::detail {
 
@@ -26,9 +32,15 @@ struct TLogThread {
     int Busy = 0;             // messages being delivered, and locks of appenders held
     int Gates = 0;            // gates held
     bool IsSettling = false;  // the queue is being worked off
+    bool IsInHook = false;    // the drop hook runs
+    bool IsForking = false;   // it has the locks for a fork
     std::uint64_t Failed = 0; // the serial of the appender that the drop hook hears of now
     TLogQueue* Queue = nullptr;
+    // The value of a queued message that was an object, and the dump of that object; or null.
+    const TValue* DumpedValue = nullptr;
+    const UnicodeString* Dump = nullptr;
 
+    bool QueuesMessages() const noexcept { return Busy != 0 || IsInHook; }
     // Whether the thread may wait for the tree lock, and for a gate to change its list.
     bool MayWait() const noexcept { return Busy == 0 && Gates == 0; }
 };
@@ -70,6 +82,7 @@ class [[nodiscard]] TTreeHold {
 public:
     TTreeHold() noexcept;
     ~TTreeHold();
+    bool IsHeld() const noexcept { return FIsHeld; }
     TTreeHold(const TTreeHold&) = delete;
     TTreeHold& operator=(const TTreeHold&) = delete;
 
