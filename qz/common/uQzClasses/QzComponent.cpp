@@ -31,12 +31,13 @@ std::uint32_t TQzComponent::_AddRef() {
 }
 
 // References that notifications take and release do not destroy a component that is being destroyed already.
+// All else is read first: an owner that sees a count of 0 may free the component at once.
 bool TQzComponent::DropReference(std::int32_t& ACount) {
-    ACount = FRefCount.Decrement();
-    if (ACount != 0)
-        return false; // another thread may destroy it at any moment
-    const bool IsGoing = IsEnding() || (Owner() != nullptr && ComponentState().Contains(csDestroying));
-    return AutoDestroyPolicy() == radTrue && !IsGoing;
+    const bool GoesWithOwner = Owner() != nullptr && ComponentState().Contains(csDestroying);
+    const bool EndsByCount = AutoDestroyPolicy() == radTrue && !GoesWithOwner;
+    const TRefCount::TLeft Left = FRefCount.Decrement();
+    ACount = Left.Count;
+    return Left.IsLast && EndsByCount;
 }
 
 std::uint32_t TQzComponent::_Release() {
@@ -59,6 +60,13 @@ void TQzComponent::FinishCreate() {
     FRefCount.Decrement();
 }
 
+bool TQzComponent::BeginDestruction() noexcept {
+    if (!Inherited::BeginDestruction())
+        return false;
+    FRefCount.BeginEnd();
+    return true;
+}
+
 void TQzComponent::BeforeDestruction() {
     FIsRefusedByCount = FRefCount.Value() != 0;
     if (FIsRefusedByCount)
@@ -75,13 +83,10 @@ void TQzComponent::DestructionRefused() noexcept {
     TQzAutoDestroy Undecided = radComputed;
     if (Owner() == nullptr && FRefCount.Value() > 1)
         FAutoDestroy.compare_exchange_strong(Undecided, radTrue, std::memory_order_relaxed);
+    FRefCount.CancelEnd();
     std::int32_t Count = 0;
-    try {
-        if (DropReference(Count) && IsByCount)
-            Free();
-    } catch (const std::
-                 exception&) { // NOLINT(bugprone-empty-catch): the caller of Free receives the first refusal
-    }
+    if (DropReference(Count) && IsByCount)
+        detail::FreeQuietly(*this);
 }
 
 void TQzComponent::AddBinding(TObject* ASource, const UnicodeString& ASourceProperty, TObject* ADest,

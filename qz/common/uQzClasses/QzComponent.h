@@ -75,6 +75,7 @@ public:
 protected:
     // Releases the reference that guards the component during its construction.
     void FinishCreate() override;
+    bool BeginDestruction() noexcept override;
     void DestructionRefused() noexcept override;
     explicit TQzComponent(TComponent* AOwner);
     ~TQzComponent() override;

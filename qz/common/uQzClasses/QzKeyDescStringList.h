@@ -49,8 +49,8 @@ protected:
     ~TQzKeyDescStringList() override;
 
 private:
-    std::unique_ptr<TStrings> FKeyValues;
-    std::unique_ptr<TStrings> FDescriptions;
+    TOwned<TStrings> FKeyValues;
+    TOwned<TStrings> FDescriptions;
 };
 
 } // namespace qz

@@ -37,7 +37,7 @@ protected:
     void AssignTo(TPersistent* ADest) override;
 
 private:
-    std::unique_ptr<TStrings> FMemo;
+    TOwned<TStrings> FMemo;
     UnicodeString FCode;
 };
 
@@ -96,7 +96,7 @@ protected:
     ~TQzMemoList() override;
 
 private:
-    std::unique_ptr<TQzMemoListItems> FItems;
+    TOwned<TQzMemoListItems> FItems;
 };
 
 } // namespace qz

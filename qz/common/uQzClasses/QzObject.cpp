@@ -44,11 +44,13 @@ std::uint32_t TQzObject::_AddRef() {
     return static_cast<std::uint32_t>(Count);
 }
 
+// The policy is read first: an owner that sees a count of 0 may free the object at once.
 std::uint32_t TQzObject::_Release() {
-    const std::int32_t Count = FRefCount.Decrement();
-    if (Count == 0 && AutoDestroyPolicy() == radTrue && !FDestroying)
+    const bool EndsByCount = AutoDestroyPolicy() == radTrue;
+    const TRefCount::TLeft Left = FRefCount.Decrement();
+    if (Left.IsLast && EndsByCount)
         Free();
-    return static_cast<std::uint32_t>(Count);
+    return static_cast<std::uint32_t>(Left.Count);
 }
 
 void TQzObject::FinishCreate() {
@@ -58,17 +60,21 @@ void TQzObject::FinishCreate() {
 
 // References that are taken and dropped from here on, by notifications, end nothing.
 bool TQzObject::BeginDestruction() noexcept {
-    return !FDestroying.exchange(true);
+    return FRefCount.BeginEnd();
 }
 
 void TQzObject::BeforeDestruction() {
-    if (FRefCount.Value() != 0)
+    FIsRefusedByCount = FRefCount.Value() != 0;
+    if (FIsRefusedByCount)
         throw Exception(SObjRefCountNotZero, {ClassName()});
     Inherited::BeforeDestruction();
 }
 
+// The last reference may have been released meanwhile without effect, since the destruction had begun.
 void TQzObject::DestructionRefused() noexcept {
-    FDestroying = false;
+    const bool EndsByCount = std::exchange(FIsRefusedByCount, false) && AutoDestroyPolicy() == radTrue;
+    if (FRefCount.CancelEnd() && EndsByCount)
+        detail::FreeQuietly(*this);
 }
 
 TQzPolicyHold::TQzPolicyHold(TObject* AObject) noexcept {

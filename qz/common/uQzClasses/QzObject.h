@@ -77,7 +77,7 @@ private:
     friend class TQzPolicyHold;
     TRefCount FRefCount{1};
     std::atomic<TQzAutoDestroy> FAutoDestroy{radComputed};
-    std::atomic<bool> FDestroying{false};
+    bool FIsRefusedByCount = false; // used by the thread that destroys the object
 };
 
 using TQzObjectClass = ClassRef<TQzObject>;

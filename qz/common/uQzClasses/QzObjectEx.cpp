@@ -59,6 +59,7 @@ void TQzObjectEx::FreeNotification(TQzObjectEx* AObject) {
 }
 
 void TQzObjectEx::FreeNotificationEx(IQzObjectFreeNotificationEvent* AObject) {
+    Assert(AObject != nullptr);
     TObject* Other = AObject->Implementor();
     if (auto* Same = dynamic_cast<TQzObjectEx*>(Other)) {
         FreeNotification(Same);
@@ -83,11 +84,13 @@ void TQzObjectEx::RemoveNotification(TObject* AObject) {
 }
 
 void TQzObjectEx::RemoveFreeNotification(TQzObjectEx* AObject) {
+    Assert(AObject != nullptr);
     RemoveNotification(AObject);
     AObject->RemoveNotification(this);
 }
 
 void TQzObjectEx::RemoveFreeNotificationEx(IQzObject* AObject) {
+    Assert(AObject != nullptr);
     TObject* Other = AObject->Implementor();
     RemoveNotification(Other);
     if (auto* Linked = Offered<IQzObjectEx>(Other))

@@ -33,9 +33,9 @@ public:
         return AItem;
     }
     // Hands an object over, as TObjectList does.
-    template <std::derived_from<TObject> T> T* Add(std::unique_ptr<T> AItem) {
+    template <std::derived_from<TObject> T> T* Add(TOwned<T> AItem) {
         T* Result = AItem.get();
-        TObjectList::Add(std::unique_ptr<TObject>(std::move(AItem)));
+        TObjectList::Add(TOwned<TObject>(std::move(AItem)));
         return Result;
     }
 

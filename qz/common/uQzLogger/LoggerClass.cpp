@@ -164,7 +164,7 @@ bool TQzLogger::DropReference(std::int32_t& ACount) {
         return false;
     const TTreeHold Tree;
     const TStateHold Hold;
-    ACount = FRefCount.Decrement();
+    ACount = FRefCount.Decrement().Count;
     const bool Ends = ACount == 0 && FEndsByCount && !FIsEnding;
     if (Ends && FParent != nullptr)
         FParent->FChildLoggers->Delete(this, {});

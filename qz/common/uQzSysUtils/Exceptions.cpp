@@ -43,7 +43,7 @@ constinit const TClassRec TExceptionClass::ClassRec =
     DescribeClass<TExceptionClass>(u"TExceptionClass", {.Unit = u"uQzSysUtils", .IsPublic = false});
 
 // The entries in the order of registration; absent until the first one.
-std::unique_ptr<std::vector<std::unique_ptr<TExceptionClass>>> GExceptionClasses;
+std::unique_ptr<std::vector<TOwned<TExceptionClass>>> GExceptionClasses;
 
 constexpr std::array<std::u16string_view, 3> cIdeWindows = {u"TAlignPalette", u"TPropertyInspector",
                                                             u"TAppBuilder"};
@@ -52,7 +52,7 @@ UnicodeString GIdeTitle;
 void Register(const UnicodeString& AErrorGroup, std::int32_t AErrorCode, ExceptionClass AClass) {
     Assert(static_cast<bool>(AClass));
     if (!GExceptionClasses)
-        GExceptionClasses = std::make_unique<std::vector<std::unique_ptr<TExceptionClass>>>();
+        GExceptionClasses = std::make_unique<std::vector<TOwned<TExceptionClass>>>();
     const ExceptionClass Holder = QzGetExceptionClass(AErrorGroup, AErrorCode);
     if (!Holder)
         GExceptionClasses->push_back(TExceptionClass::Create(AErrorGroup, AClass, AErrorCode));

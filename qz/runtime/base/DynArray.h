@@ -118,21 +118,28 @@ private:
             throw std::length_error("an array cannot be that long");
         auto* Block = new (::operator new(sizeof(TBlock) + ACapacity * sizeof(T))) TBlock{1, 0, ACapacity};
         try {
-            T* Rest = nullptr;
-            if (AMayMove && std::is_nothrow_move_constructible_v<T>)
-                Rest = std::uninitialized_move_n(const_cast<T*>(AItems.data()), AItems.size(), Block->Items())
-                           .second;
-            else
-                Rest = std::uninitialized_copy(AItems.begin(), AItems.end(), Block->Items());
-            Block->Length = AItems.size();
-            std::uninitialized_value_construct_n(Rest, ALength - AItems.size());
-            Block->Length = ALength;
+            FillItems(Block->Items(), ALength, AItems, AMayMove);
         } catch (...) {
-            std::destroy_n(Block->Items(), Block->Length);
             ::operator delete(static_cast<void*>(Block));
             throw;
         }
+        Block->Length = ALength;
         FBlock = Block;
+    }
+    // The new elements first: when one of them raises, nothing has been moved.
+    static void FillItems(T* ATarget, std::size_t ALength, std::span<const T> AItems, bool AMayMove) {
+        T* const Fresh = ATarget + AItems.size();
+        std::uninitialized_value_construct_n(Fresh, ALength - AItems.size());
+        if (AMayMove && std::is_nothrow_move_constructible_v<T>) {
+            std::uninitialized_move_n(const_cast<T*>(AItems.data()), AItems.size(), ATarget);
+            return;
+        }
+        try {
+            std::uninitialized_copy(AItems.begin(), AItems.end(), ATarget);
+        } catch (...) {
+            std::destroy_n(Fresh, ALength - AItems.size());
+            throw;
+        }
     }
     void Release() noexcept {
         if (FBlock == nullptr || FBlock->RefCount.fetch_sub(1, std::memory_order_acq_rel) != 1)

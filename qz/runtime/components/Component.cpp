@@ -137,7 +137,7 @@ void TComponent::InsertComponent(TComponent* AComponent) {
     CheckName(AComponent, AComponent->FName);
     Grow(FComponents);
     if (AComponent->FOwner != nullptr)
-        AComponent->FOwner->RemoveComponent(AComponent);
+        LeaveOwner(*AComponent);
     FComponents.push_back(AComponent);
     AComponent->FOwner = this;
     try {
@@ -146,6 +146,17 @@ void TComponent::InsertComponent(TComponent* AComponent) {
         Unlink(AComponent);
         throw;
     }
+}
+
+// A notification of the old owner may end the component, which then leaves the partners of this one.
+void TComponent::LeaveOwner(TComponent& AComponent) {
+    const bool WasPartner = Holds(FPartners, &AComponent);
+    FreeNotification(&AComponent);
+    AComponent.FOwner->RemoveComponent(&AComponent);
+    if (!Holds(FPartners, &AComponent))
+        throw EComponentError(u"A component was destroyed while it changed its owner");
+    if (!WasPartner)
+        RemoveFreeNotification(&AComponent);
 }
 
 void TComponent::RemoveComponent(TComponent* AComponent) {

@@ -81,7 +81,8 @@ public:
     void SetComponentIndex(int AIndex);
 
     // Becomes the owner of AComponent, which leaves its old owner. Raises EComponentError, and changes
-    // nothing, when the name is taken here or when AComponent is this one or owns it.
+    // nothing, when the name is taken here or when AComponent is this one or owns it; also if a notification
+    // of the old owner destroys AComponent.
     void InsertComponent(TComponent* AComponent);
     // Lets go of an owned component; ignores one that is not owned by this.
     void RemoveComponent(TComponent* AComponent);
@@ -125,6 +126,7 @@ private:
     friend class TObservers;
     void CheckName(const TComponent* AComponent, std::u16string_view AName) const;
     void Unlink(TComponent* AComponent) noexcept;
+    void LeaveOwner(TComponent& AComponent);
     void TellPartners(bool AAll) noexcept;
     void EndComponents() noexcept;
     void ClearDestroying() noexcept;

@@ -68,7 +68,7 @@ public:
         return Count() - 1;
     }
     // Hands an object over. Raises EInvalidOperation in a list that does not own its objects.
-    int Add(std::unique_ptr<T> AItem) {
+    int Add(TOwned<T> AItem) {
         if (!FOwnsObjects)
             throw EInvalidOperation(u"The list does not own its objects");
         const int Result = Add(AItem.get());

@@ -18,6 +18,7 @@
 #include <cstddef>
 #include <span>
 #include <type_traits>
+#include <typeinfo>
 #include <utility>
 
 #include <qz/runtime/objects/TypeInfo.h>
@@ -30,14 +31,15 @@ struct TInterfaceEntry {
     void* (*Cast)(TObject* AObject) noexcept;
 };
 
-// What stands for the signature of a virtual constructor: the class that declares it, and the number of its
-// arguments, by which the constructors of one class differ. The record of a class is the same one for a
-// program and for the shared library that it uses, which a variable of a template is not.
+// What stands for a virtual constructor: the class that declares it, and its signature. Both are the same for
+// a program and for the shared library that it uses: type_info compares names where the objects differ.
 struct TMakerFamily {
     TClass Base;
-    std::size_t ArgCount;
+    const std::type_info* Signature;
 
-    friend bool operator==(const TMakerFamily&, const TMakerFamily&) noexcept = default;
+    friend bool operator==(const TMakerFamily& ALeft, const TMakerFamily& ARight) noexcept {
+        return ALeft.Base == ARight.Base && *ALeft.Signature == *ARight.Signature;
+    }
 };
 
 // One virtual constructor: Make is the address of a constant pointer to a function of its signature.
@@ -74,7 +76,7 @@ template <class T> constexpr TClass ClassOf() noexcept {
 template <class TBase, class TSignature> struct TVirtualConstructor;
 template <class TBase, class TResult, class... TArgs> struct TVirtualConstructor<TBase, TResult(TArgs...)> {
     using TMake = TResult (*)(TArgs...);
-    static constexpr TMakerFamily Family() noexcept { return {&TBase::ClassRec, sizeof...(TArgs)}; }
+    static constexpr TMakerFamily Family() noexcept { return {&TBase::ClassRec, &typeid(TResult(TArgs...))}; }
 
     // The function that makes an object of exactly AClass; null when the class cannot be made this way.
     static TMake Find(TClass AClass) noexcept {

@@ -21,10 +21,10 @@ std::uint32_t TInterfacedObject::_AddRef() {
 }
 
 std::uint32_t TInterfacedObject::_Release() {
-    const std::int32_t Count = FRefCount.Decrement();
-    if (Count == 0 && !FDestroying)
+    const TRefCount::TLeft Left = FRefCount.Decrement();
+    if (Left.IsLast)
         Free();
-    return static_cast<std::uint32_t>(Count);
+    return static_cast<std::uint32_t>(Left.Count);
 }
 
 void TInterfacedObject::FinishCreate() {
@@ -33,15 +33,18 @@ void TInterfacedObject::FinishCreate() {
 }
 
 bool TInterfacedObject::BeginDestruction() noexcept {
-    return !FDestroying.exchange(true);
+    return FRefCount.BeginEnd();
 }
 
 void TInterfacedObject::DestructionRefused() noexcept {
-    FDestroying = false;
+    const bool IsByCount = std::exchange(FIsRefusedByCount, false);
+    if (FRefCount.CancelEnd() && IsByCount)
+        detail::FreeQuietly(*this);
 }
 
 void TInterfacedObject::BeforeDestruction() {
-    if (FRefCount.Value() != 0)
+    FIsRefusedByCount = FRefCount.Value() != 0;
+    if (FIsRefusedByCount)
         throw EInvalidPointer(u"Invalid pointer operation");
     Inherited::BeforeDestruction();
 }

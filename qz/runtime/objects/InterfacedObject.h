@@ -33,44 +33,61 @@ private:
 
 namespace qz {
 
-// A 32-bit reference count that any thread may change. Both changes give the new count. A count below zero,
-// one release too many, is an assertion failure. It terminates the program where a release must not raise.
+// A reference count that any thread may change, together with a mark that says that the object is being
+// destroyed. Both are one word, so that exactly one thread ends an object. Counts go up to 2^30 - 1. One
+// release too many is an assertion failure. It terminates the program where a release must not raise.
 class TRefCount {
 public:
-    explicit TRefCount(std::int32_t ACount = 0) noexcept : FCount(ACount) {}
-    std::int32_t Value() const noexcept { return FCount.load(std::memory_order_acquire); }
-    std::int32_t Increment() noexcept { return FCount.fetch_add(1, std::memory_order_relaxed) + 1; }
-    // Adds one unless there is none, as of an object that ends; false then.
+    explicit TRefCount(std::int32_t ACount = 0) noexcept : FWord(ACount) {}
+    std::int32_t Value() const noexcept { return CountOf(FWord.load(std::memory_order_acquire)); }
+    // The new count.
+    std::int32_t Increment() noexcept { return CountOf(FWord.fetch_add(1, std::memory_order_relaxed) + 1); }
+    // Increments unless the count is 0, as of an object that ends; false then.
     bool IncrementUnlessZero() noexcept {
-        std::int32_t Old = FCount.load(std::memory_order_relaxed);
-        while (Old > 0) {
-            if (FCount.compare_exchange_weak(Old, Old + 1, std::memory_order_relaxed))
+        std::int32_t Old = FWord.load(std::memory_order_relaxed);
+        while (CountOf(Old) > 0) {
+            if (FWord.compare_exchange_weak(Old, Old + 1, std::memory_order_relaxed))
                 return true;
         }
         return false;
     }
-    // Takes one back unless it is the last, without the right to end anything; false then.
+    // Decrements unless the count is 1; never destroys. False if it did not.
     bool DecrementUnlessLast() noexcept {
-        std::int32_t Old = FCount.load(std::memory_order_relaxed);
-        while (Old > 1) {
-            if (FCount.compare_exchange_weak(Old, Old - 1, std::memory_order_release,
-                                             std::memory_order_relaxed))
+        std::int32_t Old = FWord.load(std::memory_order_relaxed);
+        while (CountOf(Old) > 1) {
+            if (FWord.compare_exchange_weak(Old, Old - 1, std::memory_order_release,
+                                            std::memory_order_relaxed))
                 return true;
         }
         return false;
     }
-    // The thread that decrements to 0 sees all writes of the other holders.
-    std::int32_t Decrement() {
-        const std::int32_t Old = FCount.fetch_sub(1, std::memory_order_acq_rel);
-        if (Old <= 0) [[unlikely]]
+    // The new count, and whether this was the last reference to an object that is not being destroyed. That
+    // thread sees all writes of the other holders.
+    struct TLeft {
+        std::int32_t Count;
+        bool IsLast;
+    };
+    TLeft Decrement() {
+        const std::int32_t Old = FWord.fetch_sub(1, std::memory_order_acq_rel);
+        if (CountOf(Old) == 0) [[unlikely]] {
+            FWord.fetch_add(1, std::memory_order_relaxed);
             RaiseBelowZero();
-        return Old - 1;
+        }
+        return {CountOf(Old) - 1, Old == 1};
+    }
+    // Sets the mark. False if it was set.
+    bool BeginEnd() noexcept { return (FWord.fetch_or(cEnding, std::memory_order_acq_rel) & cEnding) == 0; }
+    // Takes the mark away. True if no reference is left: the last one has gone meanwhile without effect.
+    bool CancelEnd() noexcept {
+        return CountOf(FWord.fetch_and(~cEnding, std::memory_order_acq_rel)) == 0;
     }
 
 private:
+    static constexpr std::int32_t cEnding = 1 << 30;
+    static std::int32_t CountOf(std::int32_t AWord) noexcept { return AWord & ~cEnding; }
     [[noreturn]] QZ_API static void RaiseBelowZero();
 
-    std::atomic<std::int32_t> FCount;
+    std::atomic<std::int32_t> FWord;
 };
 
 class QZ_API TInterfacedObject : public TCreateOnly<TObject>, public IInterface {
@@ -85,7 +102,7 @@ public:
 
     int RefCount() const noexcept { return FRefCount.Value(); }
 
-    // Raises EInvalidPointer if references remain; the object then lives on.
+    // Raises EInvalidPointer if references remain. The object lives on then, and ends with its last one.
     void BeforeDestruction() override;
 
 protected:
@@ -98,7 +115,7 @@ protected:
 
 private:
     TRefCount FRefCount{1};
-    std::atomic<bool> FDestroying{false};
+    bool FIsRefusedByCount = false; // used by the thread that destroys the object
 };
 
 } // namespace qz

@@ -51,6 +51,13 @@ HRESULT detail::QueryObject(TObject& AObject, const TGUID& AIid, void** AFound) 
     return AObject.GetInterface(AIid, AFound) ? S_OK_RESULT : E_NOINTERFACE_RESULT;
 }
 
+void detail::FreeQuietly(TObject& AObject) noexcept {
+    try {
+        AObject.Free();
+    } catch (...) { // NOLINT(bugprone-empty-catch): the caller of Free receives the first refusal
+    }
+}
+
 void TObject::Free() {
     if (!BeginDestruction())
         throw EInvalidOperation(u"An instance of %s is freed while it is being destroyed", {ClassName()});

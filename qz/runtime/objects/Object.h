@@ -5,11 +5,11 @@
 //     public:
 //         UnicodeString ToString() const override;
 //     };
-//     auto Shape = TShape::Create();        // std::unique_ptr<TShape>; a counted class gives a TShape* instead
+//     auto Shape = TShape::Create();        // TOwned<TShape>; a counted class gives a TShape* instead
 //     Shape->ClassName();                   // "TShape"
 //
 // An object of an ordinary class is an ordinary C++ object: on the stack, a member, or held by
-// std::unique_ptr. Objects of the counted families (see Interface.h) are made by Create only and ended by
+// TOwned, which runs BeforeDestruction. Objects of the counted families (see Interface.h) are made by Create only and ended by
 // Free or by their last reference.
 #pragma once
 
@@ -93,6 +93,8 @@ template <class T> void FreeAndNil(T*& AObject) {
 
 // Deleter for std::unique_ptr that calls Free. BeforeDestruction of such an object must not raise.
 struct TFreeObject {
+    TFreeObject() noexcept = default;
+    template <class T> TFreeObject(std::default_delete<T>) noexcept {} // so that std::make_unique converts
     void operator()(TObject* AObject) const { AObject->Free(); }
 };
 // Sole ownership of an object of any family, also of a counted one that is never given to an interface.
@@ -117,13 +119,16 @@ private:
 
 namespace detail {
 
+// Frees an object whose exception can go nowhere.
+QZ_API void FreeQuietly(TObject& AObject) noexcept;
+
 template <class T> struct TMaker {
     struct TMade final : T {
         template <class... TArgs> explicit TMade(TArgs&&... AArgs) : T(std::forward<TArgs>(AArgs)...) {}
         void ObjectsOfThisClassAreMadeByCreateOnly() const noexcept override {}
     };
 
-    // A counted class gives a plain pointer, any other a std::unique_ptr. An exception of AfterConstruction
+    // A counted class gives a plain pointer, any other a TOwned. An exception of AfterConstruction
     // ends the object and goes on.
     template <class... TArgs> static auto Make(TArgs&&... AArgs) {
         if constexpr (requires { T::cCreateOnly; }) {
@@ -132,7 +137,7 @@ template <class T> struct TMaker {
                           "over-aligned objects are not supported");
             return Finish(new TMade(std::forward<TArgs>(AArgs)...));
         } else {
-            return std::unique_ptr<T>(Finish(new T(std::forward<TArgs>(AArgs)...)));
+            return TOwned<T>(Finish(new T(std::forward<TArgs>(AArgs)...)));
         }
     }
 

@@ -1,5 +1,6 @@
 #include <qz/runtime/text/FormatSettings.h>
 
+#include <algorithm>
 #include <atomic>
 #include <memory>
 #include <mutex>
@@ -59,8 +60,7 @@ TFormatSettings FromLocale(const platform::TLocale& ALocale) {
     return Result;
 }
 
-// The current settings. Earlier ones stay readable, since references to them may exist. Replacing
-// them is rare, so that little is kept.
+// The current settings. Earlier ones stay readable, since references to them may exist.
 std::atomic<const TFormatSettings*> GDefault{nullptr};
 std::mutex GChange;
 [[maybe_unused]] const bool GIsWatched = [] {
@@ -73,9 +73,11 @@ std::mutex GChange;
 
 const TFormatSettings& Install(const TFormatSettings& ASettings) {
     static auto* const Kept = new std::vector<std::unique_ptr<const TFormatSettings>>;
-    Kept->push_back(std::make_unique<const TFormatSettings>(ASettings));
-    GDefault.store(Kept->back().get(), std::memory_order_release);
-    return *Kept->back();
+    auto Found = std::ranges::find_if(*Kept, [&](const auto& AEach) { return *AEach == ASettings; });
+    if (Found == Kept->end())
+        Found = Kept->insert(Found, std::make_unique<const TFormatSettings>(ASettings));
+    GDefault.store(Found->get(), std::memory_order_release);
+    return **Found;
 }
 
 } // namespace

@@ -44,14 +44,16 @@ struct TFormatSettings {
     QZ_API static TFormatSettings Create();
     // The same on every machine: ".", ",", "/", ":", "MM/dd/yyyy", "hh:mm:ss", English names.
     QZ_API static const TFormatSettings& Neutral();
+
+    friend bool operator==(const TFormatSettings&, const TFormatSettings&) = default;
 };
 
 // The settings that functions without a settings argument use: those of the system's locale, read at first
 // use.
 QZ_API const TFormatSettings& DefaultFormatSettings();
 
-// Replaces them, and keeps the old ones for those who still refer to them. Safe at any time; what is being
-// formatted goes on with the settings that it began with.
+// Replaces them. Safe at any time: what is being formatted continues with the settings that it began with. So
+// each different value is kept to the end of the program, once.
 QZ_API void SetDefaultFormatSettings(const TFormatSettings& ASettings);
 
 } // namespace qz

@@ -115,7 +115,7 @@ TEST(QzSimpleEvent, StaysSignalledUntilItIsReset) {
 
 class MultiReadLock : public testing::TestWithParam<bool> {
 protected:
-    std::unique_ptr<TQzMultiReadSingleWrite> FLock = GetParam()
+    TOwned<TQzMultiReadSingleWrite> FLock = GetParam()
         ? TQzMultiReadSingleWrite::Create(TQzMultiReadSingleWrite::TFallback::Use)
         : TQzMultiReadSingleWrite::Create();
     // What ATry gives on another thread.

@@ -122,7 +122,7 @@ TEST(ObjectList, EndsWhatItOwnsAndGivesAwayTheRest) {
 
 TEST(ObjectList, WithoutOwnershipEndsNothing) {
     GTrace.Clear();
-    const std::unique_ptr<TTraced> A = TTraced::Create(u'a');
+    const auto A = TTraced::Create(u'a');
     {
         TObjectList<TTraced> List(false);
         List.Add(A.get());

@@ -215,7 +215,7 @@ constinit const TClassRec TTag::ClassRec = DescribeClass<TTag>(u"TTag", {.Unit =
 
 TEST(StringList, OwnedObjectsEndWithTheirLines) {
     GTrace.Clear();
-    const std::unique_ptr<TTag> Stubborn = TTag::Create(u's', true);
+    const auto Stubborn = TTag::Create(u's', true);
     {
         TStringList List(true);
         for (const char16_t Name : {u'a', u'b', u'c', u'd'})
