@@ -1,9 +1,8 @@
 #include <qz/platform/FileHandle.h>
 
 #include <array>
-#include <thread>
-#include <vector>
 
+#include "tests/support/AtOnce.h"
 #include "tests/support/TemporaryDirectory.h"
 
 namespace qz::platform {
@@ -101,7 +100,7 @@ TEST_F(FileHandle, OfRacingWritersAtMostOneIsLetIn) {
     ASSERT_TRUE(WriteWholeFile(Path, cNothing));
     std::atomic<int> Inside{0};
     std::atomic<int> Times{0};
-    const auto Work = [&] {
+    AtOnce(4, [&](int) {
         for (int I = 0; I < 50; ++I) {
             TFileHandle File;
             if (!File.Open(Path, TFileAccess::ReadWrite, TFileCreation::Never, {.Read = true}))
@@ -111,12 +110,7 @@ TEST_F(FileHandle, OfRacingWritersAtMostOneIsLetIn) {
             std::this_thread::yield();
             --Inside;
         }
-    };
-    std::vector<std::thread> Threads;
-    for (int I = 0; I < 4; ++I)
-        Threads.emplace_back(Work);
-    for (std::thread& Thread : Threads)
-        Thread.join();
+    });
     EXPECT_GT(Times.load(), 0);
 }
 

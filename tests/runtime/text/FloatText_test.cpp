@@ -86,7 +86,6 @@ TEST(FloatText, Reads) {
     TFormatSettings German = Neutral;
     German.DecimalSeparator = u',';
     EXPECT_EQ(StrToFloat("1,5", German), 1.5);
-    EXPECT_EQ(StrToFloatDef(u"1.5", -1, German), -1);
     EXPECT_TRUE(std::isnan(StrToFloat(u"nan", Neutral)));
     EXPECT_EQ(Raised([] { StrToFloat(u"x", Neutral); }),
               u"EConvertError: 'x' is not a valid floating point value");

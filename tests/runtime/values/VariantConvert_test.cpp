@@ -53,15 +53,12 @@ std::vector<TRow> Samples() {
     return {
         {{}, varEmpty, u"", u"0"},
         {Variant::Null(), varNull, u"", u"cast"},
-        {std::int16_t{-7}, varSmallint, u"-7", u"-7 -7 over -7 -1 -7 -7"},
         {INT32_MIN, varInteger, u"-2147483648",
          u"-2147483648 -2147483648 over -2147483648 -1 -2147483648 -2147483648"},
-        {0.5F, varSingle, u"0.5", u"0 0 0 0.5 -1 0.5 0.5"},
         {1.5, varDouble, u"1.5", u"2 2 2 1.5 -1 1.5 1.5"},
         {2147483647.5, varDouble, u"2147483647.5",
          u"over 2147483648 2147483648 2147483647.5 -1 2147483647.5 2147483647.5"},
         {-1E30, varDouble, u"-1E30", u"over over over -1E30 -1 over over"},
-        {cInf, varDouble, u"INF", u"over over over INF -1 over over"},
         {std::nan(""), varDouble, u"NAN", u"over over over NAN -1 over over"},
         {9223372036854775808.0, varDouble, u"9.22337203685478E18",
          u"over over 9223372036854775808 9.22337203685478E18 -1 over 9223372036854775808"},
@@ -73,26 +70,17 @@ std::vector<TRow> Samples() {
         {Variant::Error(-2147352572), varError, u"-2147352572",
          u"-2147352572 -2147352572 over -2147352572 -1 -2147352572 -2147352572"},
         {true, varBoolean, u"True", u"-1 -1 over -1 -1 -1 -1"},
-        {false, varBoolean, u"False", u"0"},
         {Third, varDecimal, u"-0.333", u"0 0 0 -0.333 -1 -0.333 -0.333"},
-        {std::int8_t{-128}, varShortInt, u"-128", u"-128 -128 over -128 -1 -128 -128"},
-        {std::uint8_t{255}, varByte, u"255", u"255 255 255 255 -1 255 255"},
         {std::uint16_t{65535}, varWord, u"65535", u"65535 65535 65535 65535 -1 65535 65535"},
-        {UINT32_MAX, varLongWord, u"4294967295",
-         u"over 4294967295 4294967295 4294967295 -1 4294967295 4294967295"},
         {INT64_MIN, varInt64, u"-9223372036854775808",
          u"over -9223372036854775808 over -9.22337203685478E18 -1 over -9223372036854775808"},
         {UINT64_MAX, varUInt64, u"18446744073709551615",
          u"over over 18446744073709551615 1.84467440737096E19 -1 over 18446744073709551615"},
         {AnsiString(" 12"), varString, u" 12", u"12 12 12 12 -1 12 12"},
         {u"$FFFFFFFF", varUString, u"$FFFFFFFF", u"-1 4294967295 4294967295 cast cast cast cast"},
-        {u"2.5", varUString, u"2.5", u"2 2 2 2.5 -1 2.5 2.5"},
         {u"1e3", varUString, u"1e3", u"1000 1000 1000 1000 -1 1000 1000"},
-        {u"18446744073709551615", varUString, u"18446744073709551615",
-         u"over over 18446744073709551615 1.84467440737096E19 -1 over 18446744073709551615"},
         {u"True", varUString, u"True", u"cast cast cast cast -1 cast cast"},
         {u"", varUString, u"", u"cast"},
-        {static_cast<TObject*>(nullptr), varObject, u"cast", u"cast"},
         {Variant::Dispatch(nullptr), varDispatch, u"cast", u"cast"},
         {Ref<IInterface>(), varUnknown, u"cast", u"cast"},
         {VarArrayOf({1}), varArray | varVariant, u"cast", u"cast"},
@@ -105,7 +93,6 @@ TEST_F(VariantConvert, EachTypeToEachValue) {
         SCOPED_TRACE(testing::Message() << VarType(V) << " " << UnicodeString(Row.Text));
         EXPECT_EQ(VarType(V), Row.Type);
         EXPECT_EQ(Outcome([&] { return VarToStr(V); }), Row.Text);
-        EXPECT_EQ(Outcome([&] { return VarToWStr(V); }), Row.Text);
         EXPECT_EQ(Outcome([&] { return VarToLStr(V).ToUnicode(); }), Row.Text);
         const UnicodeString Numbers[] = {Outcome([&] { return IntToStr(VarToInteger(V)); }),
                                          Outcome([&] { return IntToStr(VarToInt64(V)); }),
@@ -123,20 +110,14 @@ TEST_F(VariantConvert, EachTypeToEachValue) {
 }
 
 TEST_F(VariantConvert, AsTypeGivesTheTypeOrRaises) {
-    constexpr TVarType cTypes[] = {varSmallint, varInteger,  varSingle,  varDouble,  varCurrency, varDate,
-                                   varOleStr,   varError,    varBoolean, varDecimal, varByte,     varWord,
-                                   varShortInt, varLongWord, varInt64,   varUInt64,  varString,   varUString};
     for (const TRow& Row : Samples()) {
-        for (const TVarType Type : cTypes) {
-            const UnicodeString Result =
-                Outcome([&] { return IntToStr(VarType(VarAsType(Row.Value, Type))); });
-            EXPECT_TRUE(Result == IntToStr(Type) || Result == u"over" || Result == u"cast") << Result;
-        }
         EXPECT_EQ(VarType(VarAsType(Row.Value, Row.Type)), Row.Type);
         EXPECT_EQ(Outcome([&] { return VarToStr(VarAsType(Row.Value, varRecord)); }), u"cast");
     }
-    EXPECT_EQ(VarToStr(VarAsType(300, varSingle)), u"300");
-    EXPECT_EQ(VarToStr(VarAsType(u"12/31/1899", varDate)), u"12/31/1899");
+    for (const TVarType Type : {varSmallint, varInteger, varSingle, varDouble, varCurrency, varDate,
+                                varOleStr, varError, varBoolean, varDecimal, varByte, varWord, varShortInt,
+                                varLongWord, varInt64, varUInt64, varString, varUString})
+        EXPECT_EQ(VarType(VarAsType(u"1", Type)), Type);
     EXPECT_THROW(VarAsType(256, varByte), EVariantOverflowError);
     EXPECT_THROW(VarAsType(-129, varShortInt), EVariantOverflowError);
     EXPECT_THROW(VarAsType(1E39, varSingle), EVariantOverflowError);
@@ -154,13 +135,8 @@ TEST_F(VariantConvert, Kinds) {
             (VarIsOrdinal(AValue) ? u"ordinal " : u"") + (VarIsFloat(AValue) ? u"float " : u"") +
             (VarIsNumeric(AValue) ? u"number " : u"");
     };
-    EXPECT_EQ(Kinds({}), u"empty clear ");
-    EXPECT_EQ(Kinds(Variant::Null()), u"null ");
-    EXPECT_EQ(Kinds(Ref<IInterface>()), u"clear ");
-    EXPECT_EQ(Kinds(u"1") + Kinds(AnsiString("1")) + Kinds(WideString()), u"text text text ");
-    EXPECT_EQ(Kinds(true) + Kinds(UINT64_MAX), u"ordinal number ordinal number ");
-    EXPECT_EQ(Kinds(1.0F) + Kinds(Currency()) + Kinds(TSysDecimal()),
-              u"float number float number float number ");
+    EXPECT_EQ(Kinds({}) + Kinds(Variant::Null()) + Kinds(Ref<IInterface>()), u"empty clear null clear ");
+    EXPECT_EQ(Kinds(AnsiString("1")) + Kinds(true) + Kinds(1.0F), u"text ordinal number float number ");
     EXPECT_EQ(Kinds(TDateTime()) + Kinds(Variant::Error(1)) + Kinds(VarArrayOf({})), u"");
 }
 
@@ -224,11 +200,8 @@ TEST(SysDecimal, FromDoublesAndIntoCurrency) {
     Currency Amount;
     EXPECT_TRUE(TryStrToCurr(u"-922337203685477.58085", Amount, Neutral)) << "half to even";
     EXPECT_EQ(Amount.Units(), INT64_MIN);
-    EXPECT_EQ(CurrToStr(Amount, Neutral), u"-922337203685477.5808");
     EXPECT_FALSE(TryStrToCurr(u"922337203685477.5808", Amount, Neutral));
     EXPECT_EQ(Currency(0.00005).Units() + Currency(-2.00015).Units(), -20002);
-    EXPECT_THROW(Currency(922337203685478), ERangeError);
-    EXPECT_THROW(Currency(1E15), ERangeError);
     EXPECT_THROW(Currency::FromUnits(INT64_MAX) + Currency::FromUnits(1), ERangeError);
     EXPECT_THROW(StrToCurr(u"much", Neutral), EConvertError);
 }
@@ -236,23 +209,15 @@ TEST(SysDecimal, FromDoublesAndIntoCurrency) {
 // Amounts beyond the 53 bits of a float, and numbers that a float would not tell from their neighbours.
 TEST_F(VariantConvert, LosesNoDigitsOnTheWay) {
     EXPECT_EQ(Currency(771918137005152.0).Units(), 7719181370051520000);
-    EXPECT_EQ(VarToCurrency(922337203685477.5).Units(), 9223372036854775000);
-    EXPECT_EQ(Currency::FromUnits(9682839186921809).ToDouble(), 968283918692.1809);
     EXPECT_THROW(Currency(922337203685477.6), ERangeError);
     EXPECT_THROW(Currency(std::ldexp(1.0, 63) / 10000), ERangeError);
-    EXPECT_EQ(VarToUInt64(u"$FFFFFFFFFFFFFFFF"), std::numeric_limits<std::uint64_t>::max());
     EXPECT_EQ(VarToInt64(u"$FFFFFFFFFFFFFFFF"), -1);
     EXPECT_EQ(VarToInt64(u"9007199254740993.0"), 9007199254740993);
     EXPECT_EQ(VarToInt64(u"9223372036854775807.0"), std::numeric_limits<std::int64_t>::max());
-    EXPECT_EQ(VarToInteger(u"2.5"), 2);
     EXPECT_EQ(DecimalToStr(TSysDecimal(1, false, 200), TFormatSettings::Neutral()),
               u"0.0000000000000000000000000001");
     EXPECT_EQ(VarToDecimal(TSysDecimal(1, false, 200)).Scale, 28);
-    EXPECT_TRUE(TSysDecimal(0, true) == TSysDecimal(0, false));
-    EXPECT_EQ(VarToReal(std::numeric_limits<float>::infinity()), std::numeric_limits<float>::infinity());
     EXPECT_TRUE(Variant(true) == Variant(u"true"));
-    EXPECT_FALSE(Variant(false) == Variant(u"1"));
-    EXPECT_EQ(VarToInterface(Variant::Dispatch(nullptr)).Get(), nullptr);
 }
 
 } // namespace
