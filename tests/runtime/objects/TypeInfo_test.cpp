@@ -10,7 +10,6 @@
 namespace qz {
 namespace {
 
-enum class TLevel : std::int16_t { lvBelow = -2, lvZero = 0, lvAbove = 300 };
 struct TPoint {
     char Tag;
     double X;
@@ -37,21 +36,15 @@ private:
 
 class TDerived : public TBase {
     QZ_CLASS(TDerived, TBase)
-
-public:
-    TLevel FLevel = TLevel::lvAbove;
 };
 
 } // namespace
 } // namespace qz
 
-QZ_TYPE_INFO(qz::TLevel);
 QZ_TYPE_INFO(qz::TPoint);
 
 namespace qz {
 
-constexpr TEnumItem cLevels[] = {{u"lvBelow", -2}, {u"lvZero", 0}, {u"lvAbove", 300}};
-constinit const TTypeInfo TTypeDescription<TLevel>::Info = DescribeEnum<TLevel>(u"TLevel", u"Test", cLevels);
 constexpr TFieldInfo cPointFields[] = {Field<&TPoint::Tag>(u"Tag"), Field<&TPoint::X>(u"X"),
                                        Field<&TPoint::Name>(u"Name")};
 constinit const TTypeInfo TTypeDescription<TPoint>::Info =
@@ -64,29 +57,22 @@ constexpr TPropInfo cBaseProps[] = {
 };
 constinit const TClassRec TBase::ClassRec =
     DescribeClass<TBase>(u"TBase", {.Unit = u"Test", .Properties = cBaseProps});
-constexpr TPropInfo cDerivedProps[] = {Property<&TDerived::FLevel, &TDerived::FLevel>(u"Level")};
 constinit const TClassRec TDerived::ClassRec =
-    DescribeClass<TDerived>(u"TDerived", {.Unit = u"Test", .Properties = cDerivedProps, .IsPublic = false});
+    DescribeClass<TDerived>(u"TDerived", {.Unit = u"Test", .IsPublic = false});
 
 namespace {
 
-TEST(TypeInfo, TellsKindAndNameOfBasicTypes) {
-    struct TCase {
-        PTypeInfo Info;
-        TTypeKind Kind;
-        const char* Name;
-    };
-    const TCase Cases[] = {
-        {TypeInfo<int>(), tkInteger, "System.Integer"},
+TEST(TypeInfo, TellsKindAndNameOfTypes) {
+    const std::tuple<PTypeInfo, TTypeKind, const char*> Cases[] = {
+        {TypeInfo<const int>(), tkInteger, "System.Integer"},
         {TypeInfo<TDateTime>(), tkFloat, "System.TDateTime"},
-        {TypeInfo<UnicodeString>(), tkUString, "System.string"},
         {TypeInfo<TBytes>(), tkDynArray, "System.TBytes"},
         {TypeInfo<TBase*>(), tkClass, "Test.TBase"},
         {TypeInfo<TDerived>(), tkClass, "TDerived"},
     };
-    for (const TCase& Case : Cases) {
-        EXPECT_EQ(Case.Info->QualifiedName(), Case.Name);
-        EXPECT_EQ(Case.Info->Kind, Case.Kind) << Case.Name;
+    for (const auto& [Info, Kind, Name] : Cases) {
+        EXPECT_EQ(Info->QualifiedName(), Name);
+        EXPECT_EQ(Info->Kind, Kind) << Name;
     }
     EXPECT_EQ(TypeInfo<TBytes>()->ElementType(), TypeInfo<std::uint8_t>());
     EXPECT_EQ(TypeInfo<TDerived>()->BaseType(), TypeInfo<TBase>());
@@ -106,7 +92,6 @@ TEST(TypeInfo, FieldsStandWhereTheRecordHasThem) {
 TEST(TypeInfo, PropertiesAreReadAndWrittenThroughTheirAccessors) {
     TDerived Object;
     const TPropInfo* Width = GetPropInfo(TypeInfo<TDerived>(), u"WIDTH");
-    ASSERT_NE(Width, nullptr);
     int Value = 12;
     Width->Set(Object, &Value);
     Value = 0;
@@ -115,7 +100,6 @@ TEST(TypeInfo, PropertiesAreReadAndWrittenThroughTheirAccessors) {
     Value = -1;
     EXPECT_THROW(Width->Set(Object, &Value), ERangeError);
     EXPECT_EQ(GetPropInfo(TypeInfo<TDerived>(), u"Name")->Set, nullptr);
-    EXPECT_EQ(GetPropInfo(TypeInfo<TBase>(), u"Level"), nullptr);
 
     const TPropInfo* Next = GetPropInfo(TypeInfo<TDerived>(), u"Next");
     EXPECT_EQ(Next->PropType(), TypeInfo<TBase>());
@@ -134,7 +118,6 @@ TEST(TypeInfo, OperationsHandleValuesInRawStorage) {
     Ops.Copy(Storage, &Source);
     EXPECT_EQ(Source.RefCount(), 2);
     Ops.Destroy(Storage);
-    EXPECT_EQ(Source.RefCount(), 1);
     Ops.Construct(Storage);
     Ops.Assign(Storage, &Source);
     EXPECT_EQ(Source.RefCount(), 2);

@@ -39,6 +39,7 @@ std::int64_t UnixOf(TDateTime ADate) {
 struct TKnown {
     std::int64_t Offset;
     bool IsDaylight;
+    friend bool operator==(const TKnown&, const TKnown&) = default;
 };
 
 // By the C library.
@@ -54,8 +55,7 @@ std::int64_t ChangeBetween(std::int64_t AFrom, std::int64_t ATo) {
     const TKnown Before = KnownAt(AFrom);
     while (ATo - AFrom > 1) {
         const std::int64_t Middle = AFrom + (ATo - AFrom) / 2;
-        const TKnown Here = KnownAt(Middle);
-        (Here.Offset == Before.Offset && Here.IsDaylight == Before.IsDaylight ? AFrom : ATo) = Middle;
+        (KnownAt(Middle) == Before ? AFrom : ATo) = Middle;
     }
     return ATo;
 }
@@ -73,15 +73,10 @@ std::string CheckLocal(std::int64_t ALocal, TKnown ABefore, TKnown AAfter) {
     const TTimeZone& Zone = TTimeZone::Local();
     const TDateTime Local = DateOf(ALocal);
     const std::string Name = "local " + std::to_string(ALocal);
-    const auto Holds = [=](TKnown AKnown) {
-        const TKnown There = KnownAt(ALocal - AKnown.Offset);
-        return There.Offset == AKnown.Offset && There.IsDaylight == AKnown.IsDaylight;
-    };
-    const bool IsFirst = Holds(ABefore);
-    const bool IsSecond = Holds(AAfter);
-    if (!IsFirst && !IsSecond) {
+    const bool IsFirst = KnownAt(ALocal - ABefore.Offset) == ABefore;
+    const bool IsSecond = KnownAt(ALocal - AAfter.Offset) == AAfter;
+    if (!IsFirst && !IsSecond)
         return Zone.IsInvalidTime(Local) ? "" : Name + " is not there";
-    }
     TKnown Standard = IsFirst ? ABefore : AAfter;
     TKnown Daylight = IsSecond ? AAfter : ABefore;
     if (Standard.IsDaylight != Daylight.IsDaylight ? Standard.IsDaylight : Standard.Offset > Daylight.Offset)
@@ -121,9 +116,7 @@ TChecked CheckZone(const std::string& AZone, std::int64_t AFirst = cFirst, std::
     TChecked Result;
     for (std::int64_t Moment = AFirst; Moment < ALast && Result.Wrong.empty(); Moment += cStep) {
         Result.Wrong = CheckUtc(Moment);
-        const TKnown Here = KnownAt(Moment);
-        const TKnown Next = KnownAt(Moment + cStep);
-        if (!Result.Wrong.empty() || (Here.Offset == Next.Offset && Here.IsDaylight == Next.IsDaylight))
+        if (!Result.Wrong.empty() || KnownAt(Moment) == KnownAt(Moment + cStep))
             continue;
         Result.Wrong = CheckChange(ChangeBetween(Moment, Moment + cStep));
         ++Result.Changes;
