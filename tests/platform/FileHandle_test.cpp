@@ -121,9 +121,8 @@ TEST_F(FileHandle, GoesBeyondFourGigabytes) {
     ASSERT_TRUE(File.SetSize(cFar));
     EXPECT_EQ(Seek(File, 0, TFileOrigin::End), cFar);
     Write(File, "end");
-    EXPECT_EQ(cFar - 1, Seek(File, cFar - 1));
-    EXPECT_EQ(std::string("\0end", 4), Read(File));
-    EXPECT_EQ(cFar + 3, Seek(File, 0, TFileOrigin::End));
+    EXPECT_EQ(Seek(File, cFar - 1), cFar - 1);
+    EXPECT_EQ(Read(File), std::string("\0end", 4));
 }
 
 } // namespace

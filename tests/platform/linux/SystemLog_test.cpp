@@ -30,16 +30,13 @@ public:
         Address.sun_family = AF_UNIX;
         std::memcpy(Address.sun_path, FPath.data(), FPath.size());
         EXPECT_EQ(bind(FSocket, reinterpret_cast<const sockaddr*>(&Address), sizeof Address), 0);
-        if (AType == SOCK_STREAM) {
-            EXPECT_EQ(listen(FSocket, 5), 0);
-        }
+        EXPECT_EQ(AType == SOCK_STREAM ? listen(FSocket, 5) : 0, 0);
     }
     TDaemon(const TDaemon&) = delete;
     TDaemon& operator=(const TDaemon&) = delete;
     ~TDaemon() {
         close(FSocket);
-        if (FConnection >= 0)
-            close(FConnection);
+        close(FConnection);
         unlink(FPath.c_str());
     }
 
@@ -62,12 +59,12 @@ public:
         if (Header == nullptr)
             return Buffer.substr(0, static_cast<size_t>(Length));
         EXPECT_EQ(Length, 0);
-        ++FFiles;
+        FHasSentFiles = true;
         int File = -1;
         std::memcpy(&File, CMSG_DATA(Header), sizeof File);
         return ContentOf(File);
     }
-    int Files() const { return FFiles; }
+    bool HasSentFiles() const { return FHasSentFiles; }
     // All bytes of the connection that have come, "-" when nobody has connected.
     std::string TakeStream() {
         if (FConnection < 0)
@@ -95,7 +92,7 @@ private:
     int FType;
     int FSocket = -1;
     int FConnection = -1;
-    int FFiles = 0;
+    bool FHasSentFiles = false;
 };
 
 class SystemLogLinux : public testing::Test {
@@ -140,7 +137,7 @@ TEST_F(SystemLogLinux, LongTextsArriveWhole) {
         EXPECT_TRUE(Content.starts_with("PRIORITY=6\n"));
         EXPECT_TRUE(Content.ends_with(detail::ToNative(Text) + '\n'));
     }
-    EXPECT_GE(Journal.Files(), 1);
+    EXPECT_TRUE(Journal.HasSentFiles());
 }
 
 TEST_F(SystemLogLinux, DaemonsComeAndGo) {
@@ -206,9 +203,8 @@ TEST_F(SystemLogLinux, LimitOfFilesIsNoEnd) {
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &Old), 0);
     const rlimit None{0, Old.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &None), 0);
-    const bool IsTaken = Write(std::u16string(9 << 20, u'x'));
+    EXPECT_FALSE(Write(std::u16string(9 << 20, u'x')));
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &Old), 0);
-    EXPECT_FALSE(IsTaken);
     EXPECT_TRUE(Write(u"y"));
 }
 
@@ -231,9 +227,8 @@ TEST_F(SystemLogLinux, SyslogGetsLinesWithHeaders) {
     const std::string Process = std::to_string(getpid());
     const auto Line = [&](const std::string& ANumber, const std::string& AText) {
         return std::regex("<" + ANumber +
-                          ">(Jan|Feb|Mar|Apr|May|Jun|Jul|Aug|Sep|Oct|Nov|Dec) [ 1-3][0-9] "
-                          "[0-2][0-9]:[0-5][0-9]:[0-5][0-9] my__app_\\[" +
-                          Process + "\\]: " + AText);
+                          ">[A-Z][a-z]{2} [ 1-3][0-9] [0-2][0-9](:[0-5][0-9]){2} my__app_\\[" + Process +
+                          "\\]: " + AText);
     };
     EXPECT_TRUE(Write(u"full", TEventType::Error));
     EXPECT_TRUE(std::regex_match(Syslog.Take(), Line("11", "full")));

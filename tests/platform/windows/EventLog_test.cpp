@@ -81,9 +81,6 @@ TEST(EventLogWindows, SourceIsEnteredOnce) {
     SystemEventLog().EnterSource(Name, u"C:\\second.exe");
     EXPECT_EQ(Entry.Text(u"EventMessageFile"), u"C:\\first.exe");
     EXPECT_EQ(Entry.Number(u"TypesSupported"), 7u);
-    const TRegisteredSource Nested(Name + u"\\below");
-    SystemEventLog().EnterSource(Name + u"\\below", u"C:\\first.exe");
-    EXPECT_EQ(Nested.Text(u"EventMessageFile"), u"-");
 }
 
 TEST(EventLogWindows, EventsAreTaken) {

@@ -7,6 +7,7 @@
 #include <qz/runtime/components/DescribeComponent.h>
 #include <qz/runtime/components/LinkControlToProperty.h>
 #include <qz/runtime/reflection/Properties.h>
+#include <qz/runtime/text/NumberText.h>
 #include <qz/runtime/values/BasicTypes.h>
 #include <qz/runtime/values/Currency.h>
 
@@ -16,7 +17,6 @@ namespace {
 struct TLarge {
     std::array<std::int64_t, 6> Items{};
     UnicodeString Text;
-    TLarge() = default;
 };
 
 } // namespace
@@ -49,7 +49,6 @@ public:
     }
     UnicodeString GetControlValueMember() const override { return u"Text"; }
 
-    float FSingle = 0;
     TDay FDay = TDay::dyMon;
     bool FFlag = false;
     std::uint8_t FByte = 0;
@@ -82,7 +81,6 @@ constexpr TPropInfo cModelProps[] = {
     Property<&TModel::Text, &TModel::SetText>(u"Text"),
     Property<&TModel::Float, &TModel::SetFloat>(u"Float"),
     Property<&TModel::Child, &TModel::SetChild>(u"Child"),
-    Property<&TModel::FSingle, &TModel::FSingle>(u"Single"),
     Property<&TModel::FDay, &TModel::FDay>(u"Day"),
     Property<&TModel::FFlag, &TModel::FFlag>(u"Flag"),
     Property<&TModel::FByte, &TModel::FByte>(u"Byte"),
@@ -192,8 +190,7 @@ TEST_F(Bindings, EndOfABoundComponentEndsTheBinding) {
     TBindingExpression* Back = Bind(FB.get(), u"src.Number", FA.get(), u"dst.Number");
     FB.reset();
     FA->SetNumber(3);
-    EXPECT_FALSE(There->IsActive());
-    EXPECT_FALSE(Back->IsActive());
+    EXPECT_FALSE(There->IsActive() || Back->IsActive());
     Back->Evaluate();
     TBindings::RemoveBinding(There);
     TBindings::RemoveBinding(Back);
@@ -206,13 +203,12 @@ TEST_F(Bindings, ValuesConvertOrAreRefused) {
     };
     FB->FBig = 0xFFFFFFFFFFFFFFFF;
     FB->FMoney = Currency::FromUnits(9000000000000000001);
-    FA->FSingle = 1.5F;
     FA->SetText(u"dytue");
     for (const auto& Case :
          Rows(u"A Text => B Day => dyTue", u"B Day => B Wide => dyTue", u"B Day => B Number => 1",
               u"B Day => B Flag => True", u"B Flag => A Text => True",
               u"B Big => A Text => 18446744073709551615", u"A Text => A Big => 18446744073709551615",
-              u"A Single => B Float => 1.5", u"B Float => B Text => 1.5",
+
               u"B Money => B Text => 900000000000000.0001", u"B Text => A Money => 900000000000000.0001")) {
         TModel* From = Case[0][0] == u'A' ? FA.get() : FB.get();
         TModel* To = Case[1][0] == u'A' ? FA.get() : FB.get();
@@ -229,8 +225,7 @@ TEST_F(Bindings, ValuesConvertOrAreRefused) {
     FA->FLarge.Items[5] = 9;
     FA->FLarge.Text = u"large";
     Move(FA.get(), u"Large", FB.get(), u"Large");
-    EXPECT_EQ(FB->FLarge.Items[5], 9);
-    EXPECT_EQ(FB->FLarge.Text, "large");
+    EXPECT_EQ(FB->FLarge.Text + IntToStr(FB->FLarge.Items[5]), "large9");
     for (const auto& Case : Rows(u"Text => Day => EConvertError", u"Text => Char => EConvertError",
                                  u"Float => Number => ERangeError", u"Large => Text => EConvertError",
                                  u"Number => Child => EConvertError")) {

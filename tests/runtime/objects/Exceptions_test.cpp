@@ -26,13 +26,15 @@ TEST(Exceptions, AreHandledAsExceptionsWhateverWasThrown) {
 }
 
 TEST(Exceptions, AKeptOneIsRaisedByItsOwnClassWithAllItHolds) {
-    const EPair Kept(1, 2);
+    EPair Kept(1, 2);
+    EXPECT_STREQ(Kept.what(), "1 and 2");
+    Kept.SetMessage(u"\u20AC");
     const Exception& AsBase = Kept;
     try {
         AsBase.Raise();
     } catch (const EPair& E) {
         EXPECT_EQ(E.Left, 1);
-        EXPECT_STREQ(E.what(), "1 and 2");
+        EXPECT_STREQ(E.what(), "€");
     }
 }
 

