@@ -58,13 +58,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASi
     std::memcpy(&Value, AData, sizeof Value);
     std::memcpy(&Number, AData + sizeof Value, sizeof Number);
     CheckDate(Value, Number);
+    CheckDate(std::fmod(Value, 3e6), Number % 64); // a date of our time and its likes
     CheckNumbers(Number, static_cast<std::int8_t>(AData[0]));
-
-    // The same bytes as a date of our time and its likes, and as a small number.
-    std::int64_t Bits = 0;
-    std::memcpy(&Bits, AData, sizeof Bits);
-    const double Date = static_cast<double>(Bits % 300000000000) / 1e5;
-    CheckDate(Date, Number % 64);
     CheckNumbers(Number % 10001, Number / 10001 % 64);
     return 0;
 }

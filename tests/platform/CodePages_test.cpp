@@ -114,18 +114,14 @@ TEST(CodePages, EncodesWhatThePageLacksByItsNearest) {
 
 TEST(CodePages, RefusesATargetThatIsTooSmall) {
     const int cTooSmall = ErrorOfSmallTarget().Code;
+    char16_t Text[3];
+    char Bytes[3];
     for (const uint32_t Page : {1252u, 932u, 65001u}) {
-        std::vector<char16_t> Text(3);
-        std::vector<char> Bytes(3);
-        for (const TDecoding Decoding : {TDecoding::Lenient, TDecoding::Strict}) {
+        for (const TDecoding Decoding : {TDecoding::Lenient, TDecoding::Strict})
             EXPECT_EQ(CodePageToUtf16(Page, BytesOf("abcd"), Text, Decoding).Code(), cTooSmall) << Page;
-        }
-        for (const TComposing Composing : {TComposing::Plain, TComposing::Composite}) {
-            const auto Result = Utf16ToCodePage(Page, u"\xFF71\xFF71\xFF71\xFF71", Bytes, Composing);
-            EXPECT_EQ(Result.Code(), cTooSmall) << Page;
-        }
+        for (const TComposing Composing : {TComposing::Plain, TComposing::Composite})
+            EXPECT_EQ(Utf16ToCodePage(Page, u"\xFF71\xFF71\xFF71\xFF71", Bytes, Composing).Code(), cTooSmall);
     }
-    std::vector<char> Bytes(3);
     EXPECT_EQ(Utf16ToCodePage(932, u"テテ", Bytes, TComposing::Plain).Code(), cTooSmall);
 }
 
