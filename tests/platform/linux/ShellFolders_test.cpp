@@ -61,16 +61,16 @@ TEST_F(ShellFoldersLinux, FoldersOfTheUserAreMadeForHimAlone) {
         {5, u"/Documents"}, {0, u"/Desktop"}, {26, u"/.config"},      {28, u"/.local/share"},
         {32, u"/.cache"},   {40, u""},        {34, u"/.local/state"}, {9, u"/.local/share/sendto"}};
     for (const auto& [Number, Path] : Cases) {
-        EXPECT_EQ(Home() + Path, Folder(Number)) << Number;
+        EXPECT_EQ(Folder(Number), Home() + Path) << Number;
         EXPECT_EQ(ModeOf(Home() + Path), 0700u) << Number;
     }
     Variables.Set(u"XDG_CONFIG_HOME", Home() + u"/cfg/");
     Variables.Set(u"XDG_DATA_HOME", u"not/whole");
-    EXPECT_EQ(Home() + u"/cfg", Folder(26));
-    EXPECT_EQ(Home() + u"/.local/share", Folder(28));
+    EXPECT_EQ(Folder(26), Home() + u"/cfg");
+    EXPECT_EQ(Folder(28), Home() + u"/.local/share");
     const std::string Chosen = "XDG_DOCUMENTS_DIR=\"$HOME/Papers\"\n";
     ASSERT_TRUE(WriteWholeFile(Home() + u"/cfg/user-dirs.dirs", std::as_bytes(std::span(Chosen))));
-    EXPECT_EQ(Home() + u"/Papers", Folder(5));
+    EXPECT_EQ(Folder(5), Home() + u"/Papers");
 }
 
 TEST_F(ShellFoldersLinux, SharedFoldersLieWhereTheProcessMayWrite) {
@@ -117,7 +117,7 @@ TEST_F(ShellFoldersLinux, DatabaseOfUsersKnowsTheHome) {
     for (const std::optional<std::u16string>& Value :
          {std::optional<std::u16string>(), {u""}, {u"relative"}}) {
         Variables.Set(u"HOME", Value);
-        EXPECT_EQ(Known, detail::HomeDirectory());
+        EXPECT_EQ(detail::HomeDirectory(), Known);
     }
     EXPECT_EQ(detail::UserRecord(3'999'999'999).Home, "");
 }

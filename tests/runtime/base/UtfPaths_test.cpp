@@ -82,20 +82,18 @@ void CheckUtf16(std::u16string_view AText, std::size_t AShift = 0) {
     const std::u32string Codes = reference::FromUtf16(AText, IsValid);
     const std::string Expected = reference::ToUtf8(Codes);
     for (const TUtfPath* Path : detail::UtfPaths()) {
-        SCOPED_TRACE(Path->Name);
         const std::size_t Length = Path->Utf16ToUtf8Length(Text);
-        ASSERT_EQ(Length, Expected.size()) << testing::PrintToString(Text);
-        ASSERT_EQ(Written<char>(Length, [&](char* ATo) { return Path->Utf16ToUtf8(Text, ATo); }), Expected)
-            << testing::PrintToString(Text);
-        ASSERT_EQ(Path->IsValidUtf16(Text), IsValid) << testing::PrintToString(Text);
-        ASSERT_EQ(Path->Utf16ToUtf32Length(Text), Codes.size()) << testing::PrintToString(Text);
+        const bool IsRight = Length == Expected.size() && Path->IsValidUtf16(Text) == IsValid &&
+            Path->Utf16ToUtf32Length(Text) == Codes.size() &&
+            Written<char>(Length, [&](char* ATo) { return Path->Utf16ToUtf8(Text, ATo); }) == Expected;
+        ASSERT_TRUE(IsRight) << Path->Name << ", shift " << AShift << ": " << testing::PrintToString(Text);
         for (const std::endian Order : cOrders) {
             const auto Write = [&](char* ATo) {
                 return reinterpret_cast<char*>(
                     Path->Utf16ToUtf32(Text, Order, reinterpret_cast<std::byte*>(ATo)));
             };
             ASSERT_EQ(Written<char>(4 * Codes.size(), Write), reference::ToUtf32(Codes, Order))
-                << testing::PrintToString(Text);
+                << Path->Name << ": " << testing::PrintToString(Text);
         }
     }
 }

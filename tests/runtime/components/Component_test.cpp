@@ -105,6 +105,7 @@ TEST_F(Components, NotificationMayEndOthers) {
     };
     Dying->Free();
     Second->Free();
+    FreeRoot();
 }
 
 TEST_F(Components, OneThatRefusesItsEndLivesOnWithoutOwner) {
