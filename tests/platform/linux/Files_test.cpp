@@ -1,27 +1,34 @@
 #include <qz/platform/Files.h>
 
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
 #include <cerrno>
 #include <string>
 
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <gtest/gtest.h>
-
 #include "tests/support/Child.h"
 #include "tests/support/TemporaryDirectory.h"
+#include <qz/platform/FileHandle.h>
 #include <qz/platform/linux/NativeText.h>
 
 namespace qz::platform {
 namespace {
 
-const std::vector<std::byte> cOld(10, std::byte{'o'});
-const std::vector<std::byte> cNew(2000, std::byte{'n'});
+const std::string cOld(10, 'o');
+const std::string cNew(2000, 'n');
 
-std::vector<std::byte> ContentOf(std::u16string_view APath) {
-    const auto Result = ReadWholeFile(APath);
-    EXPECT_TRUE(Result);
-    return *Result;
+TResult<> Write(std::u16string_view APath, std::string_view AText) {
+    return WriteWholeFile(APath, std::as_bytes(std::span(AText)));
+}
+
+std::string Read(std::u16string_view APath) {
+    const auto Bytes = ReadWholeFile(APath);
+    EXPECT_TRUE(Bytes);
+    return {reinterpret_cast<const char*>(Bytes->data()), Bytes->size()};
 }
 
 TEST(NativeText, ConvertsBothWays) {
@@ -46,34 +53,34 @@ TEST(FilesLinux, ReplacingKeepsRightsAndFollowsLinks) {
     const std::u16string Path = Directory / u"file";
     const std::u16string Link = Directory / u"link";
     const std::string Native = detail::ToNative(Path);
-    ASSERT_TRUE(WriteWholeFile(Path, cOld));
+    ASSERT_TRUE(Write(Path, cOld));
     ASSERT_EQ(chmod(Native.c_str(), 0751), 0);
     ASSERT_EQ(symlink("file", detail::ToNative(Link).c_str()), 0);
 
-    ASSERT_TRUE(WriteWholeFile(Path, cNew));
+    ASSERT_TRUE(Write(Path, cNew));
     struct stat Status;
     ASSERT_EQ(stat(Native.c_str(), &Status), 0);
     EXPECT_EQ(Status.st_mode & 07777, 0751u);
     const ino_t Kept = Status.st_ino;
 
-    ASSERT_TRUE(WriteWholeFile(Link, cOld));
+    ASSERT_TRUE(Write(Link, cOld));
     ASSERT_EQ(stat(Native.c_str(), &Status), 0);
     EXPECT_EQ(Status.st_ino, Kept);
-    EXPECT_EQ(ContentOf(Path), cOld);
+    EXPECT_EQ(Read(Path), cOld);
 }
 
 TEST(FilesLinux, NamesThatAreNotUtf8Survive) {
     const TTemporaryDirectory Directory;
-    ASSERT_TRUE(WriteWholeFile(Directory / u"x\xDCE4\xDCFF.txt", cOld));
+    ASSERT_TRUE(Write(Directory / u"x\xDCE4\xDCFF.txt", cOld));
     EXPECT_EQ(access((detail::ToNative(Directory.Path()) + "/x\xE4\xFF.txt").c_str(), F_OK), 0);
     EXPECT_EQ(ListDirectory(Directory.Path())->at(0).Name, u"x\xDCE4\xDCFF.txt");
 }
 
 TEST(FilesLinux, ReadsAndWritesWhatHasNoSize) {
-    EXPECT_GT(ContentOf(u"/proc/self/status").size(), 100u);
-    EXPECT_TRUE(WriteWholeFile(u"/dev/null", cNew));
+    EXPECT_GT(Read(u"/proc/self/status").size(), 100u);
+    EXPECT_TRUE(Write(u"/dev/null", cNew));
     EXPECT_TRUE(FileExists(u"/dev/null"));
-    EXPECT_EQ(WriteWholeFile(u"/dev/full", cNew).Code(), ENOSPC);
+    EXPECT_EQ(Write(u"/dev/full", cNew).Code(), ENOSPC);
 }
 
 // Root may do anything, so that the child becomes somebody else, who owns the directory and the locked file
@@ -85,8 +92,8 @@ TEST(FilesLinux, RightsAreRespected) {
     const std::u16string Open = Directory / u"open";
     const std::string Native = detail::ToNative(Directory.Path());
     const bool AsRoot = geteuid() == 0;
-    ASSERT_TRUE(WriteWholeFile(Locked, cOld));
-    ASSERT_TRUE(WriteWholeFile(Open, cOld));
+    ASSERT_TRUE(Write(Locked, cOld));
+    ASSERT_TRUE(Write(Open, cOld));
     ASSERT_EQ(chmod(detail::ToNative(Locked).c_str(), 0444), 0);
     ASSERT_EQ(chmod(detail::ToNative(Open).c_str(), 0666), 0);
     if (AsRoot) {
@@ -98,17 +105,72 @@ TEST(FilesLinux, RightsAreRespected) {
             (setresgid(cNobody, cNobody, cNobody) != 0 || setresuid(cNobody, cNobody, cNobody) != 0))
             return 1;
         // The directory would take a new file in place of the locked one.
-        if (WriteWholeFile(Locked, cNew).Code() != EACCES)
+        if (Write(Locked, cNew).Code() != EACCES)
             return 2;
         // It takes none now, but the open file may be written where it is.
         if (chmod(Native.c_str(), 0555) != 0)
             return 3;
-        return WriteWholeFile(Open, cNew) ? 0 : 4;
+        return Write(Open, cNew) ? 0 : 4;
     });
     ASSERT_EQ(chmod(Native.c_str(), 0700), 0);
     EXPECT_EQ(Result, 0);
-    EXPECT_EQ(ContentOf(Locked), cOld);
-    EXPECT_EQ(ContentOf(Open), cNew);
+    EXPECT_EQ(Read(Locked), cOld);
+    EXPECT_EQ(Read(Open), cNew);
+}
+
+class FileLocks : public testing::Test {
+protected:
+    TTemporaryDirectory Directory;
+    std::u16string Path = Directory / u"file";
+};
+
+// A lock of another program on the whole file covers the bytes of ours, too.
+TEST_F(FileLocks, ForeignLocksNeitherHangNorDeny) {
+    EXPECT_TRUE(Write(Path, "old"));
+    for (const short Type : {short{F_RDLCK}, short{F_WRLCK}}) {
+        const int Foreign = open(detail::ToNative(Path).c_str(), O_RDWR);
+        struct flock Whole {};
+        Whole.l_type = Type;
+        ASSERT_EQ(fcntl(Foreign, F_OFD_SETLK, &Whole), 0);
+        for (const TFileAccess Access : {TFileAccess::Read, TFileAccess::Write, TFileAccess::ReadWrite}) {
+            TFileHandle First, Second;
+            EXPECT_TRUE(First.Open(Path, Access, TFileCreation::Never, {true, true}));
+            EXPECT_TRUE(Second.Open(Path, Access, TFileCreation::Never, {true, true}));
+        }
+        EXPECT_EQ(Read(Path), "old");
+        EXPECT_TRUE(Write(Path, "old"));
+        close(Foreign);
+    }
+}
+
+TEST_F(FileLocks, ALinkLeadsToADeniedFileAndIsDeniedToo) {
+    EXPECT_TRUE(Write(Path, "old"));
+    const std::u16string Link = Directory / u"link";
+    ASSERT_EQ(symlink("file", detail::ToNative(Link).c_str()), 0);
+    {
+        TFileHandle Handle;
+        ASSERT_TRUE(Handle.Open(Path, TFileAccess::Read, TFileCreation::Never, {.Read = true}));
+        EXPECT_EQ(WriteWholeFile(Link, std::span<const std::byte>()).Code(), ETXTBSY);
+        EXPECT_EQ(Read(Path), "old");
+    }
+    EXPECT_TRUE(Write(Link, "new"));
+    EXPECT_EQ(Read(Path), "new");
+    ASSERT_EQ(unlink(detail::ToNative(Path).c_str()), 0);
+    EXPECT_TRUE(Write(Link, "made"));
+    EXPECT_EQ(Read(Path), "made") << "a link to nothing makes what it leads to";
+}
+
+TEST_F(FileLocks, ASavedFileKeepsItsNamesAndAttributes) {
+    EXPECT_TRUE(Write(Path, "old"));
+    const std::u16string Other = Directory / u"other";
+    ASSERT_EQ(link(detail::ToNative(Path).c_str(), detail::ToNative(Other).c_str()), 0);
+    EXPECT_TRUE(Write(Path, "new"));
+    EXPECT_EQ(Read(Other), "new");
+    ASSERT_EQ(unlink(detail::ToNative(Other).c_str()), 0);
+    const bool HasAttributes = setxattr(detail::ToNative(Path).c_str(), "user.note", "x", 1, 0) == 0;
+    EXPECT_TRUE(Write(Path, "newer"));
+    char Value = '\0';
+    EXPECT_EQ(HasAttributes ? 1 : -1, getxattr(detail::ToNative(Path).c_str(), "user.note", &Value, 1));
 }
 
 } // namespace
