@@ -81,6 +81,9 @@ TEST(FilesLinux, ReadsAndWritesWhatHasNoSize) {
     EXPECT_TRUE(Write(u"/dev/null", cNew));
     EXPECT_TRUE(FileExists(u"/dev/null"));
     EXPECT_EQ(Write(u"/dev/full", cNew).Code(), ENOSPC);
+    TFileHandle Null;
+    ASSERT_TRUE(Null.Open(u"/dev/null", TFileAccess::Write, TFileCreation::Never, {true, true}));
+    EXPECT_TRUE(Null.Flush()) << "a device has nothing to wait for";
 }
 
 // Root may do anything, so that the child becomes somebody else, who owns the directory and the locked file
@@ -156,6 +159,7 @@ TEST_F(FileLocks, ALinkLeadsToADeniedFileAndIsDeniedToo) {
     EXPECT_TRUE(Write(Link, "new"));
     EXPECT_EQ(Read(Path), "new");
     ASSERT_EQ(unlink(detail::ToNative(Path).c_str()), 0);
+    EXPECT_FALSE(ListDirectory(Directory.Path())->at(0).IsDirectory);
     EXPECT_TRUE(Write(Link, "made"));
     EXPECT_EQ(Read(Path), "made") << "a link to nothing makes what it leads to";
 }

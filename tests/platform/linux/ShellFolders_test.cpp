@@ -58,8 +58,9 @@ protected:
 
 TEST_F(ShellFoldersLinux, FoldersOfTheUserAreMadeForHimAlone) {
     const std::map<int, std::u16string> Cases = {
-        {5, u"/Documents"}, {0, u"/Desktop"}, {26, u"/.config"},      {28, u"/.local/share"},
-        {32, u"/.cache"},   {40, u""},        {34, u"/.local/state"}, {9, u"/.local/share/sendto"}};
+        {5, u"/Documents"},        {0, u"/Desktop"}, {26, u"/.config"},      {28, u"/.local/share"},
+        {32, u"/.cache"},          {40, u""},        {34, u"/.local/state"}, {9, u"/.local/share/sendto"},
+        {7, u"/.config/autostart"}};
     for (const auto& [Number, Path] : Cases) {
         EXPECT_EQ(Folder(Number), Home() + Path) << Number;
         EXPECT_EQ(ModeOf(Home() + Path), 0700u) << Number;

@@ -130,6 +130,8 @@ TEST_F(Bindings, ValuesConvertOrAreRefused) {
         EXPECT_EQ(VarToStr(GetPropValue(*To, Case[1].View().substr(2))), Case[2])
             << Case[0] << " to " << Case[1];
     }
+    TBindings::RemoveBinding(Bind(FA.get(), u"src", FB.get(), u"dst.Child", {TBindings::coEvaluate}));
+    EXPECT_EQ(FB->Child(), FA.get());
     FA->FBig = (1ull << 63) + 1025; // rounded once
     Move(FA.get(), u"Big", FA.get(), u"Float");
     EXPECT_EQ(FA->Float(), static_cast<double>(FA->FBig));
