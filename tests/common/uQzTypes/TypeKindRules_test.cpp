@@ -18,14 +18,17 @@ template <class T> bool Takes(TVarType ACode, T AValue) {
 }
 
 TEST(QzTypeRules, IntegersAreNamedByWidthAndSign) {
-    for (int I = rtkByte; I <= rtkInt64; ++I) {
+    for (int I = static_cast<int>(rtkByte); I <= static_cast<int>(rtkInt64); ++I) {
         const auto Kind = static_cast<TQzTypeKind>(I);
         const TVarType Code = TQzTypes::ToVarType(Kind);
         const bool IsSigned = Takes(Code, -1);
         unsigned Width = IsSigned ? 1 : 0;
         for (int Bit = 0; Bit < 64 && Takes(Code, std::uint64_t{1} << Bit); ++Bit)
             ++Width;
-        const UnicodeString Name = Width == 8 ? u"byte" : Width == 16 ? u"short" : Width == 32 ? u"int" : u"long";
+        const UnicodeString Name = Width == 8 ? u"byte"
+            : Width == 16                     ? u"short"
+            : Width == 32                     ? u"int"
+                                              : u"long";
         EXPECT_TRUE(SameText(TQzTypes::ToSchemaType(Kind), IsSigned ? Name : u"unsigned" + Name)) << Name;
         EXPECT_EQ(TQzTypes::ToTypeKind(Code), Kind);
         EXPECT_EQ(TQzTypes::ToMainTypeKind(Kind), mtkInteger);
@@ -33,8 +36,9 @@ TEST(QzTypeRules, IntegersAreNamedByWidthAndSign) {
 }
 
 TEST(QzTypeRules, CodesAreNamedAsTheirKindsButForBytesAndCurrencies) {
-    for (const TVarType Code : {varSmallint, varInteger, varSingle, varDouble, varDate, varOleStr, varBoolean,
-                                varShortInt, varWord, varLongWord, varInt64, varUInt64, varString, varUString})
+    for (const TVarType Code :
+         {varSmallint, varInteger, varSingle, varDouble, varDate, varOleStr, varBoolean, varShortInt, varWord,
+          varLongWord, varInt64, varUInt64, varString, varUString})
         EXPECT_EQ(TQzTypes::ToSchemaType(Code), TQzTypes::ToSchemaType(TQzTypes::ToTypeKind(Code))) << Code;
 }
 
