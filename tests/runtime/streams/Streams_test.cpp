@@ -38,7 +38,7 @@ TEST(MemoryStream, WritesReadsAndSeeks) {
     EXPECT_EQ(Stream.Read(&Byte, 1), 0);
     Stream.WriteBuffer("!", 1);
     Stream.SetPosition(4);
-    EXPECT_EQ(std::string("ef\0\0!", 5), Rest(Stream));
+    EXPECT_EQ(Rest(Stream), std::string("ef\0\0!", 5));
     Stream.SetSize(3);
     EXPECT_EQ(Stream.Position(), 3);
     EXPECT_THROW(Stream.Seek(-1, soFromBeginning), EStreamError);
