@@ -49,7 +49,10 @@ TEST(AnsiString, RefusesAPageThatTheSystemDoesNotKnow) {
 TEST(AnsiString, SharesUntilWrittenTo) {
     UTF8String A("abc");
     UTF8String B = A;
-    EXPECT_EQ(A.RefCount(), 2);
+    UTF8String C = A;
+    EXPECT_EQ(A.RefCount(), 3);
+    C.SetLength(2);
+    EXPECT_EQ(C.View(), "ab");
     B += "d";
     *B.UniqueData() = 'A';
     EXPECT_EQ(B.View(), "Abcd");
