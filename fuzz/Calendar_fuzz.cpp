@@ -30,8 +30,6 @@ void CheckDate(qz::TDateTime ADate, std::int32_t ANumber) {
         const qz::TDateTime Moved = qz::QzAddMonths(ADate, ANumber);
         Require(qz::QzDayOfMonth(Moved) <= qz::QzDayOfMonth(ADate) && MSecsOf(Moved) == MSecsOf(ADate));
     });
-    Try([=] { Require(MSecsOf(qz::QzAddYears(ADate, ANumber)) == MSecsOf(ADate)); });
-    Try([=] { qz::QzAddQuarters(ADate, ANumber); });
     Try([=] {
         const qz::TDateTime Rounded = qz::QzRoundTime(ADate, ANumber);
         Require(MSecsOf(Rounded) % 60000 == 0 && MSecsOf(Rounded) + 60000 > MSecsOf(ADate));
@@ -40,18 +38,13 @@ void CheckDate(qz::TDateTime ADate, std::int32_t ANumber) {
         const int Week = qz::QzWeekOfYear(ADate);
         Require(Week >= 1 && Week <= 53 && qz::QzWeekOfYear(ADate, true).size() == 6);
     });
-    Try([=] {
-        const int Day = qz::QzDayOfYear(ADate);
-        Require(Day >= 1 && Day <= qz::QzDaysInYear(ADate));
-    });
-    Try([=] { qz::QzClosestWeekDay(ADate, qz::wdNext); });
+    Try([=] { Require(qz::QzDayOfYear(ADate) >= 1 && qz::QzDayOfYear(ADate) <= qz::QzDaysInYear(ADate)); });
     Try([=] { Require(qz::QzDateCompare(ADate, ANumber) == -qz::QzDateCompare(ANumber, ADate)); });
 }
 
 void CheckNumbers(std::int32_t AYear, std::int32_t AOther) {
     Try([=] { Require(qz::QzEOMonth(AYear, AOther) - qz::QzBOMonth(AYear, AOther) >= 27); });
     Try([=] { Require(qz::DayOfWeek(qz::QzWeekToDate(AYear, AOther)) == 2); });
-    Try([=] { Require(qz::DayOfWeek(qz::QzEOWeek(AYear, AOther)) == 1); });
     Try([=] { Require(qz::QzEOYear(AYear) - qz::QzBOYear(AYear) + 1 == qz::QzDaysInYear(AYear)); });
 }
 
@@ -65,13 +58,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASi
     std::memcpy(&Value, AData, sizeof Value);
     std::memcpy(&Number, AData + sizeof Value, sizeof Number);
     CheckDate(Value, Number);
+    CheckDate(std::fmod(Value, 3e6), Number % 64); // a date of our time and its likes
     CheckNumbers(Number, static_cast<std::int8_t>(AData[0]));
-
-    // The same bytes as a date of our time and its likes, and as a small number.
-    std::int64_t Bits = 0;
-    std::memcpy(&Bits, AData, sizeof Bits);
-    const double Date = static_cast<double>(Bits % 300000000000) / 1e5;
-    CheckDate(Date, Number % 64);
     CheckNumbers(Number % 10001, Number / 10001 % 64);
     return 0;
 }

@@ -7,10 +7,9 @@
 
 namespace {
 
-constexpr std::uint16_t cPages[] = {0,     37,    437,   850,   866,   874,   932,   936,   949,
-                                    950,   1200,  1201,  1250,  1251,  1252,  1255,  1256,  1258,
-                                    1361,  10000, 12000, 12001, 20127, 20866, 20932, 28591, 28598,
-                                    28605, 50220, 50225, 51949, 52936, 54936, 57002, 65000, 65001};
+constexpr std::uint16_t cPages[] = {0,     37,    866,   874,   932,   936,   949,   1200,  1201,  1252,
+                                    1255,  1258,  1361,  10000, 12000, 12001, 20127, 20866, 20932, 28605,
+                                    50220, 50225, 51949, 52936, 54936, 57002, 65000, 65001};
 
 // The text in that page and back; nothing when the system cannot convert the page.
 void TryPage(const qz::UnicodeString& AText, std::uint16_t APage) {

@@ -38,13 +38,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASi
             Require(Stream.Size() == 0);
         }
         TrySaved(Stream);
-        Stream.SetPosition(AData[1] >> 1);
-        while (Stream.Position() < Stream.Size()) {
-            const std::int64_t Before = Stream.Position();
-            Stream.ReadWChar();
-            if (Stream.Position() == Before)
-                break; // half a unit is left
-        }
     }
     return 0;
 }

@@ -11,17 +11,16 @@ void CheckCharacters(const qz::UnicodeString& AText, const qz::UnicodeString& AD
     qz::QzTokenize(AText, Tokens, ADelimiters, &Found);
     const std::u16string_view Set = ADelimiters.empty() ? qz::cQzTokenDelimiters : ADelimiters.View();
     std::size_t Place = 0;
+    std::size_t Total = 0;
     for (const qz::UnicodeString& Token : Tokens) {
         Require(!Token.empty() && Token.View().find_first_of(Set) == std::u16string_view::npos);
         Place = AText.View().find(Token.View(), Place);
         Require(Place != std::u16string_view::npos);
         Place += Token.size();
+        Total += Token.size();
     }
-    std::size_t Total = 0;
     for (const qz::UnicodeString& Delimiter : Found)
         Require(Delimiter.size() == 1 && Set.find(Delimiter[0]) != std::u16string_view::npos);
-    for (const qz::UnicodeString& Token : Tokens)
-        Total += Token.size();
     Require(Total + static_cast<std::size_t>(Found.Count()) == AText.size());
 }
 

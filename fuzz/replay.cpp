@@ -21,9 +21,8 @@ constexpr std::size_t cLongestInput = 512;
 
 std::vector<TInput> ReadCorpus(const std::filesystem::path& AFolder) {
     std::vector<TInput> Result;
-    if (!std::filesystem::is_directory(AFolder))
-        return Result;
-    for (const auto& Entry : std::filesystem::directory_iterator(AFolder)) {
+    std::error_code Missing;
+    for (const auto& Entry : std::filesystem::directory_iterator(AFolder, Missing)) {
         std::ifstream File(Entry.path(), std::ios::binary);
         Result.emplace_back(std::istreambuf_iterator<char>(File), std::istreambuf_iterator<char>());
     }
@@ -53,11 +52,11 @@ private:
     }
 
     TInput Text() {
-        constexpr std::string_view Alphabet =
+        constexpr std::string_view cAlphabet =
             "aZ09 .,:;-+*?%$#&<>()[]{}|\\/'\"\t\r\n=_\xC3\xA4\xF0\x9F\x98\x80";
-        TInput Result(Below(Below(cLongestInput) + 1));
+        TInput Result = Noise();
         for (auto& Byte : Result)
-            Byte = static_cast<std::uint8_t>(Alphabet[Below(Alphabet.size())]);
+            Byte = static_cast<std::uint8_t>(cAlphabet[Byte % cAlphabet.size()]);
         return Result;
     }
 

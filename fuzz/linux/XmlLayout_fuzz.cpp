@@ -1,5 +1,6 @@
 // Any logger, message and value in strict XML make a document that another's parser takes, and takes for what went in. The
 // layout is the same on all systems; the parser is at hand on this one.
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <utility>
@@ -9,6 +10,7 @@
 
 #include "fuzz/Fuzz.h"
 #include <qz/common/uQzLogLayouts.h>
+#include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/base/Utf.h>
 
 namespace {
@@ -60,20 +62,6 @@ std::string AsRead(std::u16string AText, bool AKeepsZeros) {
     return qz::Utf16ToUtf8(AText);
 }
 
-std::string ValueAsRead(std::u16string AText) {
-    for (std::size_t I = 0; (I = AText.find(u"]]>", I)) != std::u16string::npos;)
-        AText.replace(I, 2, u"__");
-    return AsRead(std::move(AText), true);
-}
-
-bool IsBlank(std::u16string_view AText) {
-    for (const char16_t Char : AText) {
-        if (Char > u' ')
-            return false;
-    }
-    return true;
-}
-
 // An item, and one behind it that nothing of the first may reach.
 void Check(const std::u16string& ALogger, const std::u16string& AMessage, const std::u16string& AValue,
            qz::TQzLogLevel ALevel) {
@@ -96,16 +84,18 @@ void Check(const std::u16string& ALogger, const std::u16string& AMessage, const 
                           {"logLevel", std::to_string(static_cast<int>(ALevel))},
                           {"logIndent", "0"},
                           {"logMessage", AsRead(AMessage, false)}};
-    if (!IsBlank(AValue))
-        Expected.emplace_back("logValue", ValueAsRead(AValue));
-    for (const auto& [Name, Text] : TElements{{"item", ""},
-                                              {"timeStamp", ""},
-                                              {"threadID", ""},
-                                              {"loggerName", "root"},
-                                              {"logLevel", "3"},
-                                              {"logIndent", "1"},
-                                              {"logMessage", "next"}})
-        Expected.emplace_back(Name, Text);
+    if (std::ranges::any_of(AValue, [](char16_t AChar) { return AChar > u' '; }))
+        Expected.emplace_back(
+            "logValue",
+            AsRead(std::u16string(qz::StringReplace(AValue, u"]]>", u"__>", {qz::rfReplaceAll})), true));
+    for (const auto& Element : TElements{{"item", ""},
+                                         {"timeStamp", ""},
+                                         {"threadID", ""},
+                                         {"loggerName", "root"},
+                                         {"logLevel", "3"},
+                                         {"logIndent", "1"},
+                                         {"logMessage", "next"}})
+        Expected.push_back(Element);
     Require(Found == Expected);
 }
 

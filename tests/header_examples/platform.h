@@ -1,6 +1,9 @@
+// What the examples of this layer use without declaring it.
 #pragma once
 
 #include "tests/header_examples/Names.h"
+
+#include <qz/platform/FileHandle.h>
 
 namespace {
 
@@ -8,5 +11,12 @@ std::vector<std::byte> Bytes;
 std::array<std::byte, 64> Buffer;
 std::u16string Text;
 void* Address = nullptr;
+std::uint64_t Size, Count;
+qz::platform::TFileHandle File;
+qz::platform::TWritten Written;
+void ShowProgress() {}
+void ShowDetails() {}
+void TakeLocks() {}
+void ReleaseLocks() {}
 
 } // namespace

@@ -1,11 +1,10 @@
 // In a file that comes before the other tests of code pages, so that the pages have no tables yet.
 #include <barrier>
 #include <string>
-#include <thread>
-#include <vector>
 
 #include <gtest/gtest.h>
 
+#include "tests/support/AtOnce.h"
 #include <qz/platform/CodePages.h>
 
 namespace qz::platform {
@@ -21,18 +20,12 @@ std::u16string RoundTrip(uint32_t APage, std::u16string_view AText) {
 }
 
 TEST(CodePagesAtOnce, ManyThreadsMayComeFirst) {
-    constexpr int Count = 8;
-    std::barrier Start(Count);
-    std::vector<std::thread> Threads;
-    for (int I = 0; I < Count; ++I) {
-        Threads.emplace_back([&Start] {
-            Start.arrive_and_wait();
-            for (const uint32_t Page : {866u, 932u, 21866u, 936u, 1251u, 65001u})
-                EXPECT_EQ(RoundTrip(Page, u"Жж and ASCII"), u"Жж and ASCII") << Page;
-        });
-    }
-    for (std::thread& Thread : Threads)
-        Thread.join();
+    std::barrier Start(8);
+    AtOnce(8, [&Start](int) {
+        Start.arrive_and_wait();
+        for (const uint32_t Page : {866u, 932u, 21866u, 936u, 1251u, 65001u})
+            EXPECT_EQ(RoundTrip(Page, u"Жж and ASCII"), u"Жж and ASCII") << Page;
+    });
 }
 
 } // namespace

@@ -2,11 +2,10 @@
 
 #include <atomic>
 #include <memory>
-#include <thread>
-#include <vector>
 
 #include <gtest/gtest.h>
 
+#include "tests/support/AtOnce.h"
 #include <qz/platform/Threads.h>
 
 namespace qz::platform {
@@ -19,21 +18,16 @@ const TSlimLockFunctions& Lock = *SystemSlimLock();
 TEST(SlimLock, ThreadsThatSleepAreWoken) {
     TSlimLockWord Word;
     int Count = 0;
-    std::vector<std::thread> Threads;
-    Threads.reserve(6);
-    for (int Index = 0; Index < 6; ++Index)
-        Threads.emplace_back([&, Index] {
-            for (int Round = 0; Round < 10; ++Round) {
-                const bool Write = Index < 4 && Round < 8;
-                (Write ? Lock.AcquireExclusive : Lock.AcquireShared)(&Word);
-                if (Write)
-                    ++Count;
-                SleepMs(2);
-                (Write ? Lock.ReleaseExclusive : Lock.ReleaseShared)(&Word);
-            }
-        });
-    for (std::thread& Thread : Threads)
-        Thread.join();
+    AtOnce(6, [&](int AIndex) {
+        for (int Round = 0; Round < 10; ++Round) {
+            const bool Write = AIndex < 4 && Round < 8;
+            (Write ? Lock.AcquireExclusive : Lock.AcquireShared)(&Word);
+            if (Write)
+                ++Count;
+            SleepMs(2);
+            (Write ? Lock.ReleaseExclusive : Lock.ReleaseShared)(&Word);
+        }
+    });
     EXPECT_EQ(Count, 32);
     EXPECT_EQ(Word.Ptr, nullptr);
 }
@@ -46,29 +40,27 @@ TEST(SlimLock, ReaderThreadsDoNotStarveAWriter) {
     std::atomic<bool> Stop = false;
     std::atomic<int> Entered = 0;
     const uint64_t Start = TickCount64();
-    std::vector<std::thread> Readers;
-    Readers.reserve(3);
-    for (int Index = 0; Index < 3; ++Index)
-        Readers.emplace_back([&] {
-            while (!Stop && TickCount64() - Start < cGiveUp) {
-                Lock.AcquireShared(&Word);
-                const int Ticket = ++Entered;
-                const uint64_t Patience = TickCount64() + 50;
-                while (!Stop && Entered == Ticket && TickCount64() < Patience)
-                    SleepMs(1);
-                Lock.ReleaseShared(&Word);
-            }
-        });
-    while (Entered < 10)
-        SleepMs(1);
-    for (int Round = 0; Round < 5; ++Round) {
-        Lock.AcquireExclusive(&Word);
-        Lock.ReleaseExclusive(&Word);
-    }
-    EXPECT_LT(TickCount64() - Start, cGiveUp);
-    Stop = true;
-    for (std::thread& Reader : Readers)
-        Reader.join();
+    const auto Read = [&] {
+        while (!Stop && TickCount64() - Start < cGiveUp) {
+            Lock.AcquireShared(&Word);
+            const int Ticket = ++Entered;
+            const uint64_t Patience = TickCount64() + 50;
+            while (!Stop && Entered == Ticket && TickCount64() < Patience)
+                SleepMs(1);
+            Lock.ReleaseShared(&Word);
+        }
+    };
+    const auto Write = [&] {
+        while (Entered < 10)
+            SleepMs(1);
+        for (int Round = 0; Round < 5; ++Round) {
+            Lock.AcquireExclusive(&Word);
+            Lock.ReleaseExclusive(&Word);
+        }
+        EXPECT_LT(TickCount64() - Start, cGiveUp);
+        Stop = true;
+    };
+    AtOnce(4, [&](int AIndex) { AIndex == 0 ? Write() : Read(); });
 }
 
 // Whoever gets the lock last may free its memory, while the one before is still on its way out of the
@@ -90,53 +82,41 @@ TEST(SlimLock, ThreadsMayDestroyWhatTheyHoldLast) {
             Lock.ReleaseExclusive(&Shared->Word);
             const std::unique_ptr<TShared> Owner(Last ? Shared : nullptr);
         };
-        std::thread First(Leave, true);
-        std::thread Second(Leave, Round % 2 == 0);
-        Leave(true);
-        First.join();
-        Second.join();
+        AtOnce(3, [&](int AIndex) { Leave(AIndex == 1 || (AIndex == 2 && Round % 2 != 0)); });
     }
 }
 
 // The readers of one round see one state of two plain variables, which a race would tear.
 TEST(SlimLock, ThreadsNeverSeeHalfAWrite) {
-    constexpr int cWriters = 3;
-    constexpr int cReaders = 3;
     constexpr int cRounds = 3000;
     TSlimLockWord Word;
     long First = 0;
     long Second = 0;
     std::atomic<int> Torn = 0;
-    std::vector<std::thread> Threads;
-    Threads.reserve(cWriters + cReaders);
-    for (int Index = 0; Index < cWriters; ++Index)
-        Threads.emplace_back([&, Index] {
-            for (int Round = 0; Round < cRounds; ++Round) {
-                if (Round % 4 != 0 || !Lock.TryAcquireExclusive(&Word))
-                    Lock.AcquireExclusive(&Word);
-                ++First;
-                if (Round % 64 == Index)
-                    SleepMs(0); // other threads wait for the lock and sleep
-                ++Second;
-                Lock.ReleaseExclusive(&Word);
-            }
-        });
-    for (int Index = 0; Index < cReaders; ++Index)
-        Threads.emplace_back([&] {
-            for (int Round = 0; Round < cRounds; ++Round) {
-                if (Round % 4 != 0 || !Lock.TryAcquireShared(&Word))
-                    Lock.AcquireShared(&Word);
-                if (First != Second)
-                    ++Torn;
-                if (Round % 64 == 0)
-                    SleepMs(0);
-                Lock.ReleaseShared(&Word);
-            }
-        });
-    for (std::thread& Thread : Threads)
-        Thread.join();
+    const auto Write = [&](int ARound) {
+        if (ARound % 4 != 0 || !Lock.TryAcquireExclusive(&Word))
+            Lock.AcquireExclusive(&Word);
+        ++First;
+        if (ARound % 64 < 3)
+            SleepMs(0); // other threads wait for the lock and sleep
+        ++Second;
+        Lock.ReleaseExclusive(&Word);
+    };
+    const auto Read = [&](int ARound) {
+        if (ARound % 4 != 0 || !Lock.TryAcquireShared(&Word))
+            Lock.AcquireShared(&Word);
+        if (First != Second)
+            ++Torn;
+        if (ARound % 64 == 0)
+            SleepMs(0);
+        Lock.ReleaseShared(&Word);
+    };
+    AtOnce(6, [&](int AIndex) {
+        for (int Round = 0; Round < cRounds; ++Round)
+            AIndex < 3 ? Write(Round) : Read(Round);
+    });
     EXPECT_EQ(Torn, 0);
-    EXPECT_EQ(First, long{cWriters} * cRounds);
+    EXPECT_EQ(First, 3L * cRounds);
     EXPECT_EQ(Second, First);
     EXPECT_EQ(Word.Ptr, nullptr);
 }

@@ -1,10 +1,11 @@
 #include <qz/platform/Text.h>
 
-#include <atomic>
-#include <thread>
-#include <vector>
-
 #include <gtest/gtest.h>
+
+#include <set>
+
+#include "tests/support/AtOnce.h"
+#include <qz/platform/Locale.h>
 
 namespace qz::platform {
 namespace {
@@ -18,9 +19,7 @@ TEST(Text, MapsCaseOfWholeTexts) {
     };
     const TCase Cases[] = {
         {u"", u"", u""},
-        {u"Hello, World 42", u"HELLO, WORLD 42", u"hello, world 42"},
         {u"@[`{\x7F", u"@[`{\x7F", u"@[`{\x7F"},
-        {u"Ärger Ÿ ж", u"ÄRGER Ÿ Ж", u"ärger ÿ ж"},
         {u"Straße", cOnWindows ? u"STRAßE" : u"STRASSE", u"straße"},
         {std::u16string(u"a\0é", 3), std::u16string(u"A\0É", 3), std::u16string(u"a\0é", 3)},
         {u"é\xD800", u"É\xD800", u"é\xD800"},
@@ -33,12 +32,10 @@ TEST(Text, MapsCaseOfWholeTexts) {
 }
 
 TEST(Text, MapsUnitsOneToOne) {
-    struct TCase {
-        char16_t Upper, Lower;
-    };
-    for (const TCase& Case : {TCase{u'A', u'a'}, {u'Z', u'z'}, {u'Ä', u'ä'}, {u'Ÿ', u'ÿ'}, {u'Σ', u'σ'}}) {
-        EXPECT_EQ(UpperChar(Case.Lower), Case.Upper);
-        EXPECT_EQ(LowerChar(Case.Upper), Case.Lower);
+    const std::pair<char16_t, char16_t> cLetters[] = {{u'A', u'a'}, {u'Z', u'z'}, {u'Ÿ', u'ÿ'}, {u'Σ', u'σ'}};
+    for (const auto& [Upper, Lower] : cLetters) {
+        EXPECT_EQ(UpperChar(Lower), Upper);
+        EXPECT_EQ(LowerChar(Upper), Lower);
     }
     for (const char16_t Caseless :
          {u'@', u'[', u'`', u'{', u'\0', char16_t{0xD83D}, char16_t{0xDE00}, u'漢'}) {
@@ -65,21 +62,13 @@ TEST(Text, ComparesInAlphabeticalOrder) {
 }
 
 TEST(Text, ThreadsCompareAtTheSameTime) {
-    std::atomic<int> Wrong = 0;
-    std::vector<std::thread> Threads;
-    Threads.reserve(4);
-    for (int Index = 0; Index < 4; ++Index)
-        Threads.emplace_back([&Wrong] {
-            for (int Round = 0; Round < 500; ++Round) {
-                if (CompareStrings(u"Öl", u"öl", true) != 0 || CompareStrings(u"öl", u"Öl", false) >= 0)
-                    ++Wrong;
-                if (UpperCase(u"öl") != u"ÖL")
-                    ++Wrong;
-            }
-        });
-    for (std::thread& Thread : Threads)
-        Thread.join();
-    EXPECT_EQ(Wrong, 0);
+    AtOnce(4, [](int) {
+        for (int Round = 0; Round < 500; ++Round) {
+            ASSERT_EQ(CompareStrings(u"Öl", u"öl", true), 0);
+            ASSERT_LT(CompareStrings(u"öl", u"Öl", false), 0);
+            ASSERT_EQ(UpperCase(u"öl"), u"ÖL");
+        }
+    });
 }
 
 TEST(Text, KnowsKindsOfUnits) {
@@ -87,15 +76,11 @@ TEST(Text, KnowsKindsOfUnits) {
         char16_t Unit;
         std::string_view Kinds; // letter, digit, upper, lower, white space
     };
-    const TCase Cases[] = {
-        {u'a', "L--l-"},           {u'Z', "L-u--"},
-        {u'é', "L--l-"},           {u'Ж', "L-u--"},
-        {u'漢', "L----"},          {u'7', "-d---"},
-        {u' ', "----w"},           {u'\t', "----w"},
-        {char16_t{0xA0}, "----w"}, {u'_', "-----"},
-        {u'0', "-d---"},           {u'(', "-----"},
-        {u'\0', "-----"},          {char16_t{0xD83D}, "-----"},
-    };
+    const TCase Cases[] = {{u'a', "L--l-"},           {u'Ж', "L-u--"},
+                           {u'漢', "L----"},          {u'7', "-d---"},
+                           {u' ', "----w"},           {u'\t', "----w"},
+                           {char16_t{0xA0}, "----w"}, {u'_', "-----"},
+                           {u'\0', "-----"},          {char16_t{0xD83D}, "-----"}};
     for (const TCase& Case : Cases) {
         std::string Kinds;
         Kinds += IsLetter(Case.Unit) ? 'L' : '-';
@@ -105,6 +90,28 @@ TEST(Text, KnowsKindsOfUnits) {
         Kinds += IsWhiteSpace(Case.Unit) ? 'w' : '-';
         EXPECT_EQ(Kinds, Case.Kinds) << "unit " << static_cast<unsigned>(Case.Unit);
     }
+}
+
+bool Has(const std::u16string& AText, std::u16string_view APart) {
+    return AText.find(APart) != std::u16string::npos;
+}
+
+TEST(Locale, UserSettingsAreWhole) {
+    const TLocale Locale = UserLocale();
+    EXPECT_TRUE(Has(Locale.ShortDateFormat, u"d") && Has(Locale.ShortDateFormat, u"M") &&
+                Has(Locale.ShortDateFormat, u"y"));
+    EXPECT_TRUE(Has(Locale.LongDateFormat, u"MMMM") || Has(Locale.LongDateFormat, u"M"));
+    EXPECT_TRUE(Has(Locale.LongTimeFormat, u"s"));
+    EXPECT_FALSE(Has(Locale.ShortTimeFormat, u"s"));
+    EXPECT_NE(Locale.DecimalSeparator, Locale.ThousandSeparator);
+    EXPECT_LE(Locale.CurrencyFormat, 3);
+    EXPECT_LE(Locale.NegativeCurrencyFormat, 15);
+    const auto Distinct = [](const auto& ANames) {
+        return std::set<std::u16string>(ANames.begin(), ANames.end()).size();
+    };
+    EXPECT_EQ(Distinct(Locale.LongMonthNames), 12u);
+    EXPECT_EQ(Distinct(Locale.ShortMonthNames), 12u);
+    EXPECT_EQ(Distinct(Locale.LongDayNames), 7u);
 }
 
 } // namespace

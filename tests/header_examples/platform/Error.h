@@ -1,3 +1,1 @@
-#pragma once
-
 #include <qz/platform/Files.h>

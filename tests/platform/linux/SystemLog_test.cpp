@@ -4,7 +4,6 @@
 #include <cstring>
 #include <ctime>
 #include <regex>
-#include <set>
 #include <thread>
 
 #include <fcntl.h>
@@ -26,27 +25,26 @@ using namespace std::string_literals;
 // A daemon's socket. Nothing of it waits: what was sent is there, or it is not.
 class TDaemon {
 public:
-    TDaemon(std::string APath, int AType) : FPath(std::move(APath)) {
+    TDaemon(std::string APath, int AType) : FPath(std::move(APath)), FType(AType) {
         FSocket = socket(AF_UNIX, AType | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
         sockaddr_un Address{};
         Address.sun_family = AF_UNIX;
         std::memcpy(Address.sun_path, FPath.data(), FPath.size());
         EXPECT_EQ(bind(FSocket, reinterpret_cast<const sockaddr*>(&Address), sizeof Address), 0);
-        if (AType == SOCK_STREAM) {
-            EXPECT_EQ(listen(FSocket, 5), 0);
-        }
+        EXPECT_EQ(AType == SOCK_STREAM ? listen(FSocket, 5) : 0, 0);
     }
     TDaemon(const TDaemon&) = delete;
     TDaemon& operator=(const TDaemon&) = delete;
     ~TDaemon() {
         close(FSocket);
-        if (FConnection >= 0)
-            close(FConnection);
+        close(FConnection);
         unlink(FPath.c_str());
     }
 
-    // The next datagram, the content of the file that came in its place, or "-".
+    // The next datagram, the content of the file that came in its place, or "-"; of a stream, see TakeStream().
     std::string Take() {
+        if (FType == SOCK_STREAM)
+            return TakeStream();
         std::string Buffer(4 << 20, '\0');
         iovec Piece{Buffer.data(), Buffer.size()};
         alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int))> Control{};
@@ -62,12 +60,12 @@ public:
         if (Header == nullptr)
             return Buffer.substr(0, static_cast<size_t>(Length));
         EXPECT_EQ(Length, 0);
-        ++FFiles;
+        FHasSentFiles = true;
         int File = -1;
         std::memcpy(&File, CMSG_DATA(Header), sizeof File);
         return ContentOf(File);
     }
-    int Files() const { return FFiles; }
+    bool HasSentFiles() const { return FHasSentFiles; }
     // All bytes of the connection that have come, "-" when nobody has connected.
     std::string TakeStream() {
         if (FConnection < 0)
@@ -92,9 +90,10 @@ private:
     }
 
     std::string FPath;
+    int FType;
     int FSocket = -1;
     int FConnection = -1;
-    int FFiles = 0;
+    bool FHasSentFiles = false;
 };
 
 class SystemLogLinux : public testing::Test {
@@ -118,19 +117,13 @@ std::string Message(std::string_view AHead, std::string_view AText) {
 TEST_F(SystemLogLinux, JournalGetsFieldsOfBytes) {
     TDaemon Journal(Path(u"journal"), SOCK_DGRAM);
     const std::string Rest = "SYSLOG_IDENTIFIER=my [app]\nEVENT_ID=2\nMESSAGE";
-    const std::pair<TEventType, const char*> Types[] = {{TEventType::Error, "PRIORITY=3\n"},
-                                                        {TEventType::Warning, "PRIORITY=4\n"},
-                                                        {TEventType::Success, "PRIORITY=5\n"},
-                                                        {TEventType::Information, "PRIORITY=6\n"}};
-    for (const auto& [Type, Head] : Types) {
-        EXPECT_TRUE(Write(u"Straße \xD83D\xDE00", Type));
-        EXPECT_EQ(Message(Head + Rest + '=', "Straße \xF0\x9F\x98\x80"), Journal.Take());
-    }
+    EXPECT_TRUE(Write(u"Straße \xD83D\xDE00", TEventType::Error));
+    EXPECT_EQ(Journal.Take(), Message("PRIORITY=3\n" + Rest + '=', "Straße \xF0\x9F\x98\x80"));
     const std::string Head = "PRIORITY=6\n" + Rest;
     EXPECT_TRUE(Write(u"a\0\xD800z\xDC80"s));
-    EXPECT_EQ(Message(Head + '=', "a\0\xEF\xBF\xBDz\xEF\xBF\xBD"s), Journal.Take());
+    EXPECT_EQ(Journal.Take(), Message(Head + '=', "a\0\xEF\xBF\xBDz\xEF\xBF\xBD"s));
     EXPECT_TRUE(Write(u"x\nEVENT_ID=9\n"));
-    EXPECT_EQ(Message(Head, "\n\x0D\0\0\0\0\0\0\0x\nEVENT_ID=9\n"s), Journal.Take());
+    EXPECT_EQ(Journal.Take(), Message(Head, "\n\x0D\0\0\0\0\0\0\0x\nEVENT_ID=9\n"s));
     EXPECT_EQ(Journal.Take(), "-");
 }
 
@@ -145,23 +138,20 @@ TEST_F(SystemLogLinux, LongTextsArriveWhole) {
         EXPECT_TRUE(Content.starts_with("PRIORITY=6\n"));
         EXPECT_TRUE(Content.ends_with(detail::ToNative(Text) + '\n'));
     }
-    EXPECT_GE(Journal.Files(), 1);
+    EXPECT_TRUE(Journal.HasSentFiles());
 }
 
 TEST_F(SystemLogLinux, DaemonsComeAndGo) {
     EXPECT_FALSE(Write(u"nobody"));
-    for (const char16_t* Name : {u"journal", u"syslog"}) {
-        for (const int Type : {SOCK_DGRAM, SOCK_STREAM}) {
-            if (Type == SOCK_STREAM && Name == std::u16string_view(u"journal"))
-                continue;
-            for (int Round = 0; Round < 2; ++Round) {
-                TDaemon Daemon(Path(Name), Type);
-                EXPECT_TRUE(Write(u"hello"));
-                EXPECT_NE(std::string::npos,
-                          (Type == SOCK_DGRAM ? Daemon.Take() : Daemon.TakeStream()).find("hello"));
-            }
-            EXPECT_FALSE(Write(u"gone"));
+    const std::pair<const char16_t*, int> cDaemons[] = {
+        {u"journal", SOCK_DGRAM}, {u"syslog", SOCK_DGRAM}, {u"syslog", SOCK_STREAM}};
+    for (const auto& [Name, Type] : cDaemons) {
+        for (int Round = 0; Round < 2; ++Round) {
+            TDaemon Daemon(Path(Name), Type);
+            EXPECT_TRUE(Write(u"hello"));
+            EXPECT_NE(Daemon.Take().find("hello"), std::string::npos);
         }
+        EXPECT_FALSE(Write(u"gone"));
     }
     // A socket without a daemon is left behind.
     TDaemon Syslog(Path(u"syslog"), SOCK_DGRAM);
@@ -193,7 +183,6 @@ TEST_F(SystemLogLinux, BurstsWaitForTheDaemon) {
 TEST_F(SystemLogLinux, DescriptorsOfTheProgramAreLeftAlone) {
     for (const int Type : {SOCK_DGRAM, SOCK_STREAM}) {
         TDaemon Daemon(Path(u"syslog"), Type);
-        const auto Take = [&] { return Type == SOCK_DGRAM ? Daemon.Take() : Daemon.TakeStream(); };
         std::array<int, 2> Own{};
         ASSERT_EQ(socketpair(AF_UNIX, Type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, Own.data()), 0);
         const uintptr_t Other = Log.OpenSource(u"other");
@@ -206,12 +195,12 @@ TEST_F(SystemLogLinux, DescriptorsOfTheProgramAreLeftAlone) {
         for (const int Number : Free)
             close(Number);
         EXPECT_TRUE(Write(u"first"));
-        EXPECT_NE(std::string::npos, Take().find("first"));
+        EXPECT_NE(Daemon.Take().find("first"), std::string::npos);
         for (const int Number : Free)
             ASSERT_EQ(Number, dup2(Own[0], Number));
         EXPECT_TRUE(Write(u"second"));
         if (Type == SOCK_DGRAM) {
-            EXPECT_NE(std::string::npos, Daemon.Take().find("second"));
+            EXPECT_NE(Daemon.Take().find("second"), std::string::npos);
         }
         for (const int Number : Free)
             ASSERT_EQ(Number, dup2(Own[0], Number));
@@ -231,9 +220,8 @@ TEST_F(SystemLogLinux, LimitOfFilesIsNoEnd) {
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &Old), 0);
     const rlimit None{0, Old.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &None), 0);
-    const bool IsTaken = Write(std::u16string(9 << 20, u'x'));
+    EXPECT_FALSE(Write(std::u16string(9 << 20, u'x')));
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &Old), 0);
-    EXPECT_FALSE(IsTaken);
     EXPECT_TRUE(Write(u"y"));
 }
 
@@ -242,12 +230,11 @@ TEST_F(SystemLogLinux, FullQueueDoesNotHoldTheWriterUp) {
     int Count = 0;
     while (Write(u"x") && Count < 1'000'000)
         ++Count;
-    EXPECT_GT(Count, 0);
     EXPECT_LT(Count, 1'000'000);
     int Taken = 0;
     while (Journal.Take() != "-")
         ++Taken;
-    EXPECT_EQ(Count, Taken);
+    EXPECT_EQ(Taken, Count);
     EXPECT_TRUE(Write(u"y"));
     EXPECT_TRUE(Journal.Take().ends_with("MESSAGE=y\n"));
 }
@@ -257,21 +244,15 @@ TEST_F(SystemLogLinux, SyslogGetsLinesWithHeaders) {
     const std::string Process = std::to_string(getpid());
     const auto Line = [&](const std::string& ANumber, const std::string& AText) {
         return std::regex("<" + ANumber +
-                          ">(Jan|Feb|Mar|Apr|May|Jun|Jul|Aug|Sep|Oct|Nov|Dec) [ 1-3][0-9] "
-                          "[0-2][0-9]:[0-5][0-9]:[0-5][0-9] my__app_\\[" +
-                          Process + "\\]: " + AText);
+                          ">[A-Z][a-z]{2} [ 1-3][0-9] [0-2][0-9](:[0-5][0-9]){2} my__app_\\[" + Process +
+                          "\\]: " + AText);
     };
     EXPECT_TRUE(Write(u"full", TEventType::Error));
     EXPECT_TRUE(std::regex_match(Syslog.Take(), Line("11", "full")));
     const time_t Now = time(nullptr);
     EXPECT_TRUE(Log.Write(Source, TEventType::Error, 2, u"x", 3600));
-    std::set<std::string> Hours; // it may strike at this moment
-    for (const time_t Time : {Now, time(nullptr)}) {
-        char Text[16];
-        std::snprintf(Text, sizeof Text, " %02d:", static_cast<int>((Time / 3600 + 1) % 24));
-        Hours.insert(Text);
-    }
-    EXPECT_EQ(Hours.count(Syslog.Take().substr(10, 4)), 1u);
+    const int Hour = std::stoi(Syslog.Take().substr(11, 2));
+    EXPECT_TRUE(Hour == (Now / 3600 + 1) % 24 || Hour == (time(nullptr) / 3600 + 1) % 24) << Hour;
     EXPECT_TRUE(Write(u"a\nb\0\tc\xDC00\x7F"s));
     const std::string Escaped = Syslog.Take();
     EXPECT_TRUE(std::regex_match(Escaped, Line("14", "a#012b#000\tc\xEF\xBF\xBD#177"))) << Escaped;

@@ -19,19 +19,10 @@ TEST(DynArray, ElementWritesAreSharedAndResizesAreNot) {
     EXPECT_EQ(A, (TBytes{9, 2, 3, 0, 0}));
     A.SetLength(1);
     EXPECT_EQ(A, TBytes{9});
-    A.SetLength(0);
-    EXPECT_TRUE(A.IsEmpty());
     EXPECT_EQ(B, (TBytes{9, 2, 3}));
-}
-
-TEST(DynArray, CopiesAreCutToTheArray) {
-    const TBytes A = {1, 2, 3, 4};
-    EXPECT_FALSE(A.Copy().IsSameArray(A));
-    EXPECT_EQ(A.Copy(1, 2), (TBytes{2, 3}));
-    EXPECT_EQ(A.Copy(3, 9), TBytes{4});
-    EXPECT_TRUE(A.Copy(4).empty());
-    EXPECT_TRUE(A.Copy(9, 9).empty());
-    EXPECT_TRUE(TBytes().Copy().empty());
+    EXPECT_EQ(B.Copy(1, 1), TBytes{2});
+    EXPECT_EQ(B.Copy(2, 9), TBytes{3});
+    EXPECT_TRUE(B.Copy(3).empty());
 }
 
 // Counts its living copies, and refuses to be copied once too often.
@@ -78,15 +69,8 @@ TEST(Set, KeepsWhatIsPutIn) {
     EXPECT_EQ((TSet<TColour, 8>{TColour::Red, TColour::Blue}.ToBits()), 0x81);
 }
 
-TEST(Set, HoldsCharacters) {
-    constexpr TCharSet cDigits = TCharSet::Range('0', '9');
-    static_assert(cDigits.Contains('5') && !cDigits.Contains('a'));
-    EXPECT_FALSE(cDigits.Contains(0x100 + '5'));
-    EXPECT_TRUE((TCharSet{'\xFF'}).Contains(0xFF));
-    EXPECT_TRUE(TCharSet::Range('\0', '\xFF').Contains(0xFF));
-    EXPECT_TRUE((cDigits - cDigits).IsEmpty());
-    EXPECT_TRUE((cDigits + TCharSet{'-'}).Contains('-'));
-}
+static_assert(TCharSet::Range('0', '9').Contains('5') && !TCharSet::Range('0', '9').Contains(0x100 + '5'));
+static_assert(TCharSet::Range('\0', '\xFF').Contains(0xFF));
 
 } // namespace
 } // namespace qz

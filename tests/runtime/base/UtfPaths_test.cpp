@@ -43,17 +43,6 @@ template <class T, class TWrite> std::basic_string<T> Written(std::size_t ALengt
     return {Target.begin(), Target.end()};
 }
 
-template <class T> std::string Hex(std::basic_string_view<T> AText) {
-    std::string Result;
-    for (const T Unit : AText) {
-        char Digits[8];
-        std::snprintf(Digits, sizeof Digits, "%X ",
-                      static_cast<unsigned>(static_cast<std::make_unsigned_t<T>>(Unit)));
-        Result += Digits;
-    }
-    return Result;
-}
-
 void CheckUtf8(std::string_view AText, std::size_t AShift = 0) {
     const TExactCopy<char> Copy(AText, AShift);
     const std::string_view Text = Copy.View();
@@ -67,7 +56,7 @@ void CheckUtf8(std::string_view AText, std::size_t AShift = 0) {
             Path->AsciiBytes(Text) == static_cast<std::size_t>(First - AText.begin()) &&
             Written<char16_t>(Length, [&](char16_t* ATo) { return Path->Utf8ToUtf16(Text, ATo); }) ==
                 Expected;
-        ASSERT_TRUE(IsRight) << Path->Name << ", shift " << AShift << ": " << Hex(Text);
+        ASSERT_TRUE(IsRight) << Path->Name << ", shift " << AShift << ": " << testing::PrintToString(Text);
     }
 }
 
@@ -81,7 +70,7 @@ void CheckUtf32(std::string_view ABytes, std::size_t AShift) {
             const auto Write = [&](char16_t* ATo) { return Path->Utf32ToUtf16(Copy.Bytes(), Order, ATo); };
             ASSERT_TRUE(Length == Expected.size() && Path->IsValidUtf32(Copy.Bytes(), Order) == IsValid &&
                         Written<char16_t>(Length, Write) == Expected)
-                << Path->Name << ", shift " << AShift << ": " << Hex(ABytes);
+                << Path->Name << ", shift " << AShift << ": " << testing::PrintToString(ABytes);
         }
     }
 }
@@ -93,19 +82,18 @@ void CheckUtf16(std::u16string_view AText, std::size_t AShift = 0) {
     const std::u32string Codes = reference::FromUtf16(AText, IsValid);
     const std::string Expected = reference::ToUtf8(Codes);
     for (const TUtfPath* Path : detail::UtfPaths()) {
-        SCOPED_TRACE(Path->Name);
         const std::size_t Length = Path->Utf16ToUtf8Length(Text);
-        ASSERT_EQ(Length, Expected.size()) << Hex(Text);
-        ASSERT_EQ(Written<char>(Length, [&](char* ATo) { return Path->Utf16ToUtf8(Text, ATo); }), Expected)
-            << Hex(Text);
-        ASSERT_EQ(Path->IsValidUtf16(Text), IsValid) << Hex(Text);
-        ASSERT_EQ(Path->Utf16ToUtf32Length(Text), Codes.size()) << Hex(Text);
+        const bool IsRight = Length == Expected.size() && Path->IsValidUtf16(Text) == IsValid &&
+            Path->Utf16ToUtf32Length(Text) == Codes.size() &&
+            Written<char>(Length, [&](char* ATo) { return Path->Utf16ToUtf8(Text, ATo); }) == Expected;
+        ASSERT_TRUE(IsRight) << Path->Name << ", shift " << AShift << ": " << testing::PrintToString(Text);
         for (const std::endian Order : cOrders) {
             const auto Write = [&](char* ATo) {
                 return reinterpret_cast<char*>(
                     Path->Utf16ToUtf32(Text, Order, reinterpret_cast<std::byte*>(ATo)));
             };
-            ASSERT_EQ(Written<char>(4 * Codes.size(), Write), reference::ToUtf32(Codes, Order)) << Hex(Text);
+            ASSERT_EQ(Written<char>(4 * Codes.size(), Write), reference::ToUtf32(Codes, Order))
+                << Path->Name << ": " << testing::PrintToString(Text);
         }
     }
 }
@@ -148,12 +136,8 @@ private:
     std::mt19937 FRandom{20260401};
 };
 
-TEST(UtfPaths, TheBestOneIsAmongThem) {
-    EXPECT_STREQ(detail::UtfPaths().front()->Name, "portable");
-    EXPECT_EQ(detail::UtfPaths().back(), &detail::BestUtfPath());
-}
-
 TEST(UtfPaths, AllShortSequences) {
+    EXPECT_EQ(detail::UtfPaths().back(), &detail::BestUtfPath());
     for (unsigned First = 0; First < 0x100; ++First) {
         CheckUtf8(std::string{static_cast<char>(First)});
         std::string All;
@@ -184,36 +168,7 @@ TEST(UtfPaths, SequencesAtTheBordersOfWhatIsWellFormed) {
     }
 }
 
-// Each fault at each of so many places, among fillers of each length, at the end of the text and within it.
-template <class TText, class TCheck>
-void FaultsAtEveryPlace(const std::vector<TText>& AFaults, const std::vector<TText>& AFillers,
-                        std::size_t APlaces, TCheck ACheck) {
-    for (const TText& Filler : AFillers) {
-        for (const TText& Fault : AFaults) {
-            for (std::size_t Place = 0; Place < APlaces; ++Place) {
-                TText Text;
-                while (Text.size() < Place)
-                    Text += Filler;
-                Text += Fault;
-                ACheck(Text, 0);
-                while (Text.size() < APlaces + 120)
-                    Text += Filler;
-                ACheck(Text, Place % 32);
-            }
-            ASSERT_FALSE(testing::Test::HasFatalFailure());
-        }
-    }
-}
-
-TEST(UtfPaths, FaultsAtEveryPlaceOfAVector) {
-    FaultsAtEveryPlace<std::string>(
-        {"\x80", "\xC3", "\xE2\x82", "\xF0\x9F\x98", "\xF0\x9F", "\xED\xA0\x80", "\xFF"},
-        {"a", "\xC3\xA4", "\xE2\x82\xAC", "\xF0\x9F\x98\x80", "a\xF0\x9F\x98\x80"}, 140, CheckUtf8);
-    FaultsAtEveryPlace<std::u16string>(
-        {{0xD83D, 0xDE00}, {0xDE00}, {0xD83D}, {0xDE00, 0xD83D}, {0xD83D, 0xD83D, 0xDE00}},
-        {u"a", u"\u00E4", u"\u20AC", u"\U0001F600"}, 70, CheckUtf16);
-}
-
+// With faults at random places: of 19,000 texts of each form, enough for each place of a vector.
 TEST(UtfPaths, MixturesOfEveryLengthAndAlignment) {
     TTextMaker Maker;
     for (std::size_t Shift = 0; Shift < 32; ++Shift) {

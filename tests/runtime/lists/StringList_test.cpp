@@ -3,12 +3,10 @@
 #include "tests/support/Lines.h"
 #include "tests/support/Message.h"
 #include "tests/support/Rows.h"
+#include "tests/support/SampleTypes.h"
 #include "tests/support/TemporaryDirectory.h"
-#include "tests/support/Trace.h"
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/lists/StringList.h>
-#include <qz/runtime/objects/Describe.h>
-#include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
 namespace {
@@ -26,29 +24,21 @@ void Fill(TStringList& AList, const TLines& ALines) {
 }
 
 TEST(StringList, CommaTextIsWrittenAndRead) {
-    const struct {
-        TLines Lines;
-        const char16_t* Text;
-    } Cases[] = {
+    const std::pair<TLines, const char16_t*> Cases[] = {
         {{}, u""},
         {{u""}, u"\"\""},
         {{u"", u""}, u","},
-        {{u"a", u""}, u"a,"},
-        {{u"", u"a"}, u",a"},
         {{u"a", u"", u"b"}, u"a,,b"},
         {{u"one", u"two words", u"th,ree"}, u"one,\"two words\",\"th,ree\""},
         {{u"say \"hi\"", u"\""}, u"\"say \"\"hi\"\"\",\"\"\"\""},
-        {{u"\t", u"a\r\nb", UnicodeString(1, u'\0')}, nullptr},
+        {{u"\t", u"a\r\nb"}, u"\"\t\",\"a\r\nb\""},
     };
-    for (const auto& Case : Cases) {
+    for (const auto& [Lines, Text] : Cases) {
         TStringList List;
-        Fill(List, Case.Lines);
-        const UnicodeString Text = List.CommaText();
-        if (Case.Text != nullptr) {
-            EXPECT_EQ(Text, Case.Text);
-        }
+        Fill(List, Lines);
+        EXPECT_EQ(List.CommaText(), Text);
         List.SetCommaText(Text);
-        EXPECT_EQ(LinesOf(List), Case.Lines) << Text;
+        EXPECT_EQ(LinesOf(List), Lines) << UnicodeString(Text);
     }
 }
 
@@ -69,9 +59,9 @@ TEST(StringList, DelimitedTextFollowsItsSettings) {
         bool Strict;
         const char16_t* Text;
     } Cases[] = {
-        {u';', u'\'', false, u"'a b';;'c;d';'it''s';' '"},   {u';', u'\'', true, u"a b;;'c;d';'it''s'; "},
-        {u' ', u'"', false, u"\"a b\" \"\" c;d it's \" \""}, {u' ', u'"', true, u"\"a b\"  c;d it's \" \""},
-        {u'\t', u'"', true, u"a b\t\tc;d\tit's\t "},
+        {u';', u'\'', false, u"'a b';;'c;d';'it''s';' '"},
+        {u';', u'\'', true, u"a b;;'c;d';'it''s'; "},
+        {u' ', u'"', true, u"\"a b\"  c;d it's \" \""},
     };
     for (const auto& Case : Cases) {
         TStringList List;
@@ -97,8 +87,6 @@ TEST(StringList, TextReadsEveryLineEnd) {
     EXPECT_EQ(List.Text(), "a||b");
     List.SetText(u"c\nd|e|");
     EXPECT_EQ(LinesOf(List), (TLines{u"c\nd", u"e"})) << "a break of one's own is the only one";
-    List.SetText(u"");
-    EXPECT_EQ(List.Count(), 0);
 }
 
 TEST(StringList, SortedKeepsItsOrderAndDuplicatesRule) {
@@ -117,40 +105,37 @@ TEST(StringList, SortedKeepsItsOrderAndDuplicatesRule) {
     EXPECT_EQ(Place, 1);
     EXPECT_FALSE(List.Find(u"zebra", Place));
     EXPECT_EQ(Place, 4);
-    for (const std::function<void()>& Forbidden :
-         std::vector<std::function<void()>>{[&] { List.Insert(0, u"x"); }, [&] { List.SetString(0, u"x"); },
-                                            [&] { List.Exchange(0, 1); }, [&] { List.Move(0, 1); }})
-        EXPECT_EQ(Raised(Forbidden), "EStringListError: Operation not allowed on sorted list");
+    EXPECT_EQ(Raised([&] { List.Insert(0, u"x"); }),
+              "EStringListError: Operation not allowed on sorted list");
+    EXPECT_THROW(List.SetString(0, u"x"), EStringListError);
+    EXPECT_THROW(List.Exchange(0, 1), EStringListError);
+    EXPECT_THROW(List.Move(0, 1), EStringListError);
     List.SetUseLocale(false);
     List.SetCaseSensitive(true);
     EXPECT_EQ(LinesOf(List), (TLines{u"Apple", u"FIG", u"fig", u"pear"}));
-    EXPECT_EQ(List.IndexOf(u"PEAR"), -1);
 }
 
 TEST(StringList, IndexesAreChecked) {
     TStringList List;
     List.Add(u"a");
     EXPECT_EQ(Raised([&] { static_cast<void>(List[1]); }), "EStringListError: List index out of bounds (1)");
-    for (const std::function<void()>& Wrong : std::vector<std::function<void()>>{
-             [&] { List.Delete(-1); }, [&] { List.Insert(2, u"x"); }, [&] { List.SetString(1, u"x"); },
-             [&] { List.Move(0, 1); }, [&] { List.SetObject(1, nullptr); }, [&] { List.Exchange(0, 1); }})
-        EXPECT_THROW(Wrong(), EStringListError);
-    EXPECT_EQ(LinesOf(List), TLines{u"a"});
+    EXPECT_THROW(List.Delete(-1), EStringListError);
+    EXPECT_THROW(List.Insert(2, u"x"), EStringListError);
+    EXPECT_THROW(List.SetString(1, u"x"), EStringListError);
+    EXPECT_THROW(List.Move(0, 1), EStringListError);
+    EXPECT_THROW(List.SetObject(1, nullptr), EStringListError);
+    EXPECT_THROW(List.Exchange(0, 1), EStringListError);
 }
 
 TEST(StringList, NamesAndValues) {
     TStringList List;
     Fill(List, {u"plain", u"Color=red", u"empty=", u"two=a=b"});
     EXPECT_EQ(List.Values(u"color"), "red");
-    EXPECT_EQ(List.Values(u"two"), "a=b");
-    EXPECT_EQ(List.Values(u"plain"), "");
-    EXPECT_EQ(List.Names(0), "");
     EXPECT_EQ(List.Names(2), "empty");
     EXPECT_EQ(List.IndexOfName(u"plain"), -1);
     List.SetValue(u"color", u"blue");
     EXPECT_EQ(List[1], "color=blue");
     List.SetValue(u"color", u"");
-    EXPECT_EQ(List.IndexOfName(u"Color"), -1);
     List.SetValue(u"absent", u"");
     List.SetValue(u"new", u"1");
     List.SetValueFromIndex(3, u"2");
@@ -163,14 +148,14 @@ TEST(StringList, MovesAndSorts) {
     TStringList List;
     Fill(List, {u"b", u"c", u"a"});
     List.Move(0, 2);
-    EXPECT_EQ(LinesOf(List), (TLines{u"c", u"a", u"b"}));
+    EXPECT_EQ(Lines(List), u"c|a|b|");
     List.Move(2, 0);
     List.Exchange(0, 1);
-    EXPECT_EQ(LinesOf(List), (TLines{u"c", u"b", u"a"}));
+    EXPECT_EQ(Lines(List), u"c|b|a|");
     List.Sort();
-    EXPECT_EQ(LinesOf(List), (TLines{u"a", u"b", u"c"}));
+    EXPECT_EQ(Lines(List), u"a|b|c|");
     List.CustomSort([](const TStringList& Each, int A, int B) { return CompareStr(Each[B], Each[A]); });
-    EXPECT_EQ(LinesOf(List), (TLines{u"c", u"b", u"a"}));
+    EXPECT_EQ(Lines(List), u"c|b|a|");
 }
 
 TEST(StringList, TellsChangesOnceWithinAnUpdate) {
@@ -180,13 +165,11 @@ TEST(StringList, TellsChangesOnceWithinAnUpdate) {
     List.SetOnChange([&](TObject*) { Trace += u"+"; });
     List.Add(u"a");
     List.Delete(0);
-    EXPECT_EQ(std::exchange(Trace, {}), "-+-+");
     List.SetCommaText(u"a,b,c");
-    EXPECT_EQ(std::exchange(Trace, {}), "-+");
+    EXPECT_EQ(std::exchange(Trace, {}), "-+-+-+");
     List.BeginUpdate();
     List.Clear();
     List.SetText(u"x");
-    EXPECT_EQ(Trace, "-");
     List.EndUpdate();
     EXPECT_EQ(Trace, "-+");
     List.SetDuplicates(dupError);
@@ -197,111 +180,78 @@ TEST(StringList, TellsChangesOnceWithinAnUpdate) {
     EXPECT_EQ(Trace, "-+"); // the update that failed has ended
 }
 
-class TTag : public TObject {
-    QZ_CLASS(TTag, TObject)
-public:
-    explicit TTag(char16_t AName, bool ARefuses = false) : FName(AName), FRefuses(ARefuses) {}
-    ~TTag() override { GTrace += FName; }
-    void BeforeDestruction() override {
-        if (std::exchange(FRefuses, false))
-            throw EInvalidOperation(u"not now");
-    }
-
-private:
-    char16_t FName;
-    bool FRefuses;
-};
-constinit const TClassRec TTag::ClassRec = DescribeClass<TTag>(u"TTag", {.Unit = u"Test"});
-
 TEST(StringList, OwnedObjectsEndWithTheirLines) {
-    GTrace.Clear();
-    const auto Stubborn = TTag::Create(u's', true);
+    TakeTrace();
+    const auto Stubborn = TTraced::Create(u's', true);
     {
         TStringList List(true);
         for (const char16_t Name : {u'a', u'b', u'c', u'd'})
-            List.AddObject(Name, TTag::Create(Name).release());
+            List.AddObject(Name, TTraced::Create(Name).release());
         EXPECT_EQ(List.IndexOfObject(List.Objects(2)), 2);
         List.Move(0, 3);
         List.Exchange(0, 1);
         EXPECT_EQ(GTrace, "");
         List.SetObject(0, nullptr); // that of c
         List.Delete(2);             // d
-        EXPECT_EQ(GTrace, "cd");
+        EXPECT_EQ(TakeTrace(), "freed(c) freed(d) ");
         List.InsertObject(1, u"s", Stubborn.get());
         EXPECT_THROW(List.Clear(), EInvalidOperation);
         EXPECT_EQ(List.Count(), 0);
-        EXPECT_EQ(GTrace, "cdab");
-        List.AddObject(u"z", TTag::Create(u'z').release());
+        EXPECT_EQ(TakeTrace(), "freed(a) freed(b) ");
+        List.AddObject(u"z", TTraced::Create(u'z').release());
     }
-    EXPECT_EQ(GTrace, "cdabz");
+    EXPECT_EQ(TakeTrace(), "freed(z) ");
 }
 
 TEST(StringList, OwnedObjectsEndAlsoWhenAListenerRaises) {
-    GTrace.Clear();
+    TakeTrace();
     TStringList List(true);
     for (const char16_t Name : {u'a', u'b', u'c'})
-        List.AddObject(Name, TTag::Create(Name).release());
+        List.AddObject(Name, TTraced::Create(Name).release());
     List.SetOnChange([](TObject*) { throw EInvalidOperation(u"no"); });
     EXPECT_THROW(List.Delete(1), EInvalidOperation);
     EXPECT_THROW(List.SetObject(1, nullptr), EInvalidOperation);
     EXPECT_THROW(List.Clear(), EInvalidOperation);
-    EXPECT_EQ(GTrace, "bca");
+    EXPECT_EQ(TakeTrace(), "freed(b) freed(c) freed(a) ");
 }
 
-TEST(StringList, AssignTakesOrderAndRulesOfTheSource) {
-    TStringList From;
-    TStringList To;
+TEST(StringList, AssignTakesAllOfTheSource) {
+    TStringList From, To;
     From.SetDuplicates(dupAccept);
     From.SetCaseSensitive(true);
     From.SetUseLocale(false);
     From.SetSorted(true);
     for (const char* Line : {"b", "B", "a", "b"})
         From.Add(Line);
-    To.SetSorted(true);
-    To.Assign(&From);
-    EXPECT_TRUE(To.Equals(From));
-    EXPECT_TRUE(To.Sorted());
-    To.Add(u"C");
-    EXPECT_EQ(LinesOf(To), (TLines{u"B", u"C", u"a", u"b", u"b"}));
-}
-
-TEST(StringList, AssignsAndEquals) {
-    TStringList From, To;
-    Fill(From, {u"b", u"a"});
     From.SetDelimiter(u';');
-    TTag Tag(u't');
+    TTraced Tag;
     From.SetObject(1, &Tag);
     EXPECT_FALSE(To.Equals(From));
+    To.SetSorted(true);
     To.Assign(&From);
     To.Assign(&To);
     EXPECT_TRUE(To.Equals(From));
     EXPECT_EQ(To.Objects(1), &Tag);
-    EXPECT_EQ(To.DelimitedText(), "b;a");
-    EXPECT_EQ(To.ToStringArray(), (TDynArray<UnicodeString>{u"b", u"a"}));
+    To.Add(u"C");
+    EXPECT_EQ(To.DelimitedText(), "B;C;a;b;b");
     EXPECT_THROW(To.Assign(nullptr), EConvertError);
 }
 
-TEST(StringList, FilesAreUtf8) {
+TEST(StringList, FilesAreUtf8OrInTheirEncoding) {
     const platform::TTemporaryDirectory Directory;
     const std::u16string Path = Directory / u"list.txt";
-    TStringList List;
+    TStringList List, Read;
     Fill(List, {u"Zo\u00EB", u"", u"\U0001F600"});
     List.SaveToFile(Path);
     const auto Bytes = platform::ReadWholeFile(Path);
-    ASSERT_TRUE(Bytes);
     EXPECT_EQ(std::string_view(reinterpret_cast<const char*>(Bytes->data()), Bytes->size()),
               "Zo\xC3\xAB\r\n\r\n\xF0\x9F\x98\x80\r\n");
-    TStringList Read;
     Read.LoadFromFile(Path);
     EXPECT_TRUE(Read.Equals(List));
-    constexpr std::string_view cMarked = "\xEF\xBB\xBFx\ny";
-    ASSERT_TRUE(platform::WriteWholeFile(Path, std::as_bytes(std::span(cMarked))));
-    Read.LoadFromFile(Path);
-    EXPECT_EQ(LinesOf(Read), (TLines{u"x", u"y"}));
     for (const std::uint16_t Page : std::initializer_list<std::uint16_t>{1200, 1201, 12000, 65001}) {
         List.SaveToFile(Path, TEncoding(Page));
         Read.Clear();
-        Read.LoadFromFile(Path, TEncoding(1252));
+        Read.LoadFromFile(Path, TEncoding(1252)); // by the mark
         EXPECT_TRUE(Read.Equals(List)) << Page;
     }
     EXPECT_THROW(Read.LoadFromFile(Directory / u"none"), EFOpenError);

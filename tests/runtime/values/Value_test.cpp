@@ -5,11 +5,8 @@
 #include <cmath>
 
 #include "tests/support/Message.h"
+#include "tests/support/SampleTypes.h"
 #include "tests/support/SampleVariants.h"
-#include "tests/support/Trace.h"
-#include <qz/runtime/base/Set.h>
-#include <qz/runtime/objects/Describe.h>
-#include <qz/runtime/objects/InterfacedObject.h>
 #include <qz/runtime/text/FloatText.h>
 #include <qz/runtime/text/Format.h>
 #include <qz/runtime/text/NumberText.h>
@@ -17,41 +14,22 @@
 namespace qz {
 namespace {
 
-enum class TSize : std::int16_t { szNone = -1, szSmall, szLarge = 40 };
-enum class TSide : std::uint8_t { sdLeft, sdRight, sdTop };
-using TSides = TSet<TSide, 8>;
-using TManySides = TSet<TSide, 64>;
 using TNumbers = TDynArray<int>;
 using TQuad = std::array<std::int64_t, 4>;
 using TEvent = std::function<void()>;
 
-class IShape : public IInterface {
-public:
-    static constexpr TGUID IID = Guid("{3C4E0F1A-8C0B-4F5E-9D11-52B6A7E0C101}");
-};
-class IRound : public IShape {
+class IRound : public INamed {
 public:
     static constexpr TGUID IID = Guid("{3C4E0F1A-8C0B-4F5E-9D11-52B6A7E0C102}");
 };
-class IOther : public IInterface {
-public:
-    static constexpr TGUID IID = Guid("{3C4E0F1A-8C0B-4F5E-9D11-52B6A7E0C103}");
-};
-
 class TCircle : public TInterfacedObject, public IRound, public IOther {
     QZ_CLASS(TCircle, TInterfacedObject)
     QZ_INTERFACE_COUNTING(TInterfacedObject)
-
-protected:
-    ~TCircle() override { Note("freed", u"circle"); }
+public:
+    UnicodeString Name() override { return u"circle"; }
 };
 constinit const TClassRec TCircle::ClassRec = DescribeClass<TCircle>(
-    u"TCircle", {.Unit = u"Test", .Interfaces = Interfaces<TCircle, IRound, IShape, IOther>()});
-
-class TPlain : public TObject {
-    QZ_CLASS(TPlain, TObject)
-};
-constinit const TClassRec TPlain::ClassRec = DescribeClass<TPlain>(u"TPlain", {.Unit = u"Test"});
+    u"TCircle", {.Unit = u"Test", .Interfaces = Interfaces<TCircle, IRound, INamed, IOther>()});
 
 // Tells of its copies, and refuses them on demand. Bytes makes it large or small.
 inline bool GRefuse = false;
@@ -74,64 +52,39 @@ template <std::size_t Bytes> struct TNoted {
 };
 using TSmallNoted = TNoted<8>;
 using TLargeNoted = TNoted<40>;
-struct alignas(64) TAligned {
+struct alignas(64) TAligned { // a value also while what it holds is nothing
+    const char* Get() const { return nullptr; }
     double X = 0;
 };
 struct TMoveOnly {
     TMoveOnly() = default;
     TMoveOnly(TMoveOnly&&) = default;
     TMoveOnly& operator=(TMoveOnly&&) = default;
-    int X = 5;
 };
-struct THolder { // a value even while it holds nothing
-    const char* Get() const { return Held; }
-    const char* Held = nullptr;
-};
-enum class TSwitch : bool { swOff, swOn };
 
 } // namespace
 } // namespace qz
 
-QZ_TYPE_INFO(qz::TSize);
-QZ_TYPE_INFO(qz::TSide);
-QZ_TYPE_INFO(qz::TSides);
-QZ_TYPE_INFO(qz::TManySides);
 QZ_TYPE_INFO(qz::TNumbers);
 QZ_TYPE_INFO(qz::TQuad);
 QZ_TYPE_INFO(qz::TEvent);
-QZ_TYPE_INFO(qz::IShape);
 QZ_TYPE_INFO(qz::IRound);
-QZ_TYPE_INFO(qz::IOther);
 QZ_TYPE_INFO(qz::TSmallNoted);
 QZ_TYPE_INFO(qz::TLargeNoted);
 QZ_TYPE_INFO(qz::TAligned);
 QZ_TYPE_INFO(qz::TMoveOnly);
-QZ_TYPE_INFO(qz::THolder);
-QZ_TYPE_INFO(qz::TSwitch);
 QZ_TYPE_INFO(qz::ExceptionClass);
 
 namespace qz {
 
-template <class T> using TInfo = TTypeDescription<T>;
-constexpr TEnumItem cSizes[] = {{u"szNone", -1}, {u"szSmall", 0}, {u"szLarge", 40}};
-constexpr TEnumItem cSides[] = {{u"sdLeft", 0}, {u"sdRight", 1}, {u"sdTop", 2}};
-constinit const TTypeInfo TInfo<TSize>::Info = DescribeEnum<TSize>(u"TSize", u"Test", cSizes);
-constinit const TTypeInfo TInfo<TSide>::Info = DescribeEnum<TSide>(u"TSide", u"Test", cSides);
-constinit const TTypeInfo TInfo<TSides>::Info = DescribeOf<TSides, TSide>(tkSet, u"TSides", u"Test");
-constinit const TTypeInfo TInfo<TManySides>::Info =
-    DescribeOf<TManySides, TSide>(tkSet, u"TManySides", u"Test");
 constinit const TTypeInfo TInfo<TNumbers>::Info = DescribeOf<TNumbers, int>(tkDynArray, u"TNumbers", u"Test");
 constinit const TTypeInfo TInfo<TQuad>::Info = DescribeOf<TQuad, std::int64_t>(tkArray, u"TQuad", u"Test");
 constinit const TTypeInfo TInfo<TEvent>::Info = DescribeType<TEvent>(tkMethod, u"TEvent", u"Test");
-constinit const TTypeInfo TInfo<IShape>::Info = DescribeInterface<IShape>(u"IShape", u"Test");
-constinit const TTypeInfo TInfo<IRound>::Info = DescribeInterface<IRound, IShape>(u"IRound", u"Test");
-constinit const TTypeInfo TInfo<IOther>::Info = DescribeInterface<IOther>(u"IOther", u"Test");
+constinit const TTypeInfo TInfo<IRound>::Info = DescribeInterface<IRound, INamed>(u"IRound", u"Test");
 constinit const TTypeInfo TInfo<TSmallNoted>::Info = DescribeRecord<TSmallNoted>(u"TSmallNoted", u"Test");
 constinit const TTypeInfo TInfo<TLargeNoted>::Info = DescribeRecord<TLargeNoted>(u"TLargeNoted", u"Test");
 constinit const TTypeInfo TInfo<TAligned>::Info = DescribeRecord<TAligned>(u"TAligned", u"Test");
 constinit const TTypeInfo TInfo<TMoveOnly>::Info = DescribeRecord<TMoveOnly>(u"TMoveOnly", u"Test");
-constinit const TTypeInfo TInfo<THolder>::Info = DescribeRecord<THolder>(u"THolder", u"Test");
-constinit const TTypeInfo TInfo<TSwitch>::Info = DescribeEnum<TSwitch>(u"TSwitch", u"Test", {});
 constinit const TTypeInfo TInfo<ExceptionClass>::Info =
     DescribeOf<ExceptionClass, Exception>(tkClassRef, u"ExceptionClass", u"Test");
 
@@ -157,7 +110,7 @@ UnicodeString Address(const char16_t* AName, const void* APointer) {
 }
 
 TEST_F(Value, ReadsEachKindInEachWay) {
-    TPlain Plain;
+    TTraced Plain;
     const Ref<IRound> Round = TCircle::Create();
     const UnicodeString cZero = u" @ 0000000000000000)";
     const struct TRow {
@@ -167,39 +120,23 @@ TEST_F(Value, ReadsEachKindInEachWay) {
     } cRows[] = {
         {{}, u"(empty)", u"-", u"-", u"-", u"-", u""},
         {5, u"5", u"5", u"5", u"5", u"-", u"5"},
-        {std::int8_t{-5}, u"-5", u"-5", u"-5", u"-5", u"-", u"-5"},
-        {4000000000u, u"4000000000", u"-", u"4000000000", u"4000000000", u"-", u"4000000000"},
-        {7LL, u"7", u"7", u"7", u"7", u"-", u"7"},
         {UINT64_MAX, u"18446744073709551615", u"-", u"-1", u"1.84467440737096E19", u"-",
          u"18446744073709551615"},
         {'A', u"A", u"-", u"65", u"-", u"A", u"A"},
-        {u'Ä', u"Ä", u"-", u"196", u"-", u"Ä", u"Ä"},
         {true, u"True", u"-", u"1", u"-", u"-", u"True"},
-        {TSize::szLarge, u"szLarge", u"-", u"40", u"-", u"-", u"40"},
-        {TValue::FromOrdinal(TypeInfo<TSize>(), 7), u"7", u"-", u"7", u"-", u"-", u"7"},
-        {TSides{TSide::sdLeft, TSide::sdTop}, u"[sdLeft,sdTop]", u"-", u"5", u"-", u"-", u"5"},
-        {TManySides::FromBits(1ull << 40), u"[40]", u"-", u"1099511627776", u"-", u"-", u"1099511627776"},
-        {TCharSet{'A', 'z'}, u"[65,122]", u"-", u"-", u"-", u"-", u"-"},
-        {1.5f, u"1.5", u"-", u"-", u"1.5", u"-", u"1.5"},
+        {TDay::dySun, u"dySun", u"-", u"6", u"-", u"-", u"6"},
+        {TValue::FromOrdinal(TypeInfo<TDay>(), 3), u"3", u"-", u"3", u"-", u"-", u"3"},
+        {TDays{TDay::dyMon, TDay::dySun}, u"[dyMon,dySun]", u"-", u"65", u"-", u"-", u"65"},
+        {TManyDays::FromBits(1ull << 40), u"[40]", u"-", u"1099511627776", u"-", u"-", u"1099511627776"},
         {-2.25, u"-2.25", u"-", u"-", u"-2.25", u"-", u"-2.25"},
-        {Extended(2.5), u"2.5", u"-", u"-", u"2.5", u"-", u"2.5"},
         {Currency(2.5), u"2.5", u"-", u"-", u"2.5", u"-", u"2.5"},
         {TDate(45000), u"45000", u"-", u"-", u"45000", u"-", nullptr},
         {"täxt", u"täxt", u"-", u"-", u"-", u"täxt", u"täxt"},
-        {WideString(u"w"), u"w", u"-", u"-", u"-", u"w", u"w"},
-        {UTF8String(u"ü"), u"ü", u"-", u"-", u"-", u"ü", u"ü"},
-        {Variant(u"v"), u"v", u"-", u"-", u"-", u"-", u"v"},
-        {Variant::Null(), u"", u"-", u"-", u"-", u"-", u""},
-        {&Plain, Address(u"TPlain", &Plain), u"-", u"-", u"-", u"-", u"-"},
-        {static_cast<TPlain*>(nullptr), u"(TPlain" + cZero, u"-", u"-", u"-", u"-", u"-"},
+        {&Plain, Address(u"TTraced", &Plain), u"-", u"-", u"-", u"-", u"-"},
         {Round, Address(u"IRound", Round.Get()), u"-", u"-", u"-", u"-", u"(interface)"},
-        {ClassOf<TPlain>(), u"TPlain", u"-", u"-", u"-", u"-", u"-"},
+        {ClassOf<TTraced>(), u"TTraced", u"-", u"-", u"-", u"-", u"-"},
         {static_cast<void*>(nullptr), u"(Pointer" + cZero, u"-", u"-", u"-", u"-", u"-"},
         {TGUID(), u"(record)", u"-", u"-", u"-", u"-", u"-"},
-        {TNumbers{1}, u"(array)", u"-", u"-", u"-", u"-", u"-"},
-        {TQuad(), u"(array)", u"-", u"-", u"-", u"-", u"-"},
-        {TEvent(), u"(TEvent)", u"-", u"-", u"-", u"-", u"-"},
-        {TValue::From(TValue(5)), u"(record)", u"-", u"-", u"-", u"-", u"-"},
     };
     for (const TRow& Row : cRows) {
         const TValue& V = Row.Value;
@@ -223,7 +160,7 @@ TEST_F(Value, ReadsEachKindInEachWay) {
 }
 
 TEST_F(Value, CastsWhereNothingIsLost) {
-    TPlain Plain;
+    TTraced Plain;
     const Ref<IRound> Round = TCircle::Create();
     TObject* Object = dynamic_cast<TCircle*>(Round.Get());
     const TValue cAsObject = TValue::Make(&Object, TypeInfo<TObject>());
@@ -248,7 +185,6 @@ TEST_F(Value, CastsWhereNothingIsLost) {
     };
     Check(TypeInfo<std::uint8_t>(), 255, u"255", 256, u"-");
     Check(TypeInfo<std::uint64_t>(), -1, u"-");
-    Check(TypeInfo<std::int8_t>(), -129, u"-");
     Check(TypeInfo<std::int64_t>(), UINT64_MAX, u"-");
     Check(TypeInfo<double>(), UINT64_MAX, u"-", 1ull << 63, FloatToStr(cTwo63), INT64_MAX, u"-", 16777217,
           u"16777217", TDateTime(1.5), u"1.5", Currency(0.1), u"0.1",
@@ -257,25 +193,22 @@ TEST_F(Value, CastsWhereNothingIsLost) {
           u"-", std::nan(""), u"NAN", -INFINITY, u"-INF");
     Check(TypeInfo<Currency>(), 2.5, u"2.5", 0.00001, u"-", std::nan(""), u"-");
     Check(TypeInfo<int>(), 2.0, u"-", 'A', u"-", u"5", u"-", Variant(5), u"-", TValue(), u"-");
-    Check(TypeInfo<bool>(), 1, u"-");
-    Check(TypeInfo<AnsiString>(), u"t", u"t");
     Check(TypeInfo<WideString>(), UTF8String(u"ö"), u"ö");
-    Check(TypeInfo<RawByteString>(), u"ö", u"ö");
     Check(TypeInfo<char16_t>(), u"ö", u"ö", u"xy", u"-");
     Check(TypeInfo<char>(), u"ö", u"ö", u"Ж", u"-", Unreadable, u"-");
     Check(TypeInfo<UnicodeString>(), '\xE4', u"ä", Unreadable, u"-", 'x', u"x");
-    Check(TypeInfo<Variant>(), Unreadable, u"-", TSide::sdTop, u"2", TValue(), u"");
-    Check(TypeInfo<TObject>(), &Plain, Address(u"TPlain", &Plain));
+    Check(TypeInfo<Variant>(), Unreadable, u"-", TDay::dySun, u"6", TValue(), u"");
+    Check(TypeInfo<TObject>(), &Plain, Address(u"TTraced", &Plain));
     Check(TypeInfo<TCircle>(), &Plain, u"-", cAsObject, Address(u"TCircle", Object), Round, u"-");
-    Check(TypeInfo<IShape>(), cAsObject, Address(u"IShape", static_cast<IShape*>(Round.Get())), &Plain, u"-",
-          cNullObject, u"(IShape @ 0000000000000000)", Round, Address(u"IShape", Round.Get()));
-    Check(TypeInfo<TPlain>(), cNullObject, u"(TPlain @ 0000000000000000)", TValue(),
-          u"(TPlain @ 0000000000000000)");
+    Check(TypeInfo<INamed>(), cAsObject, Address(u"INamed", static_cast<INamed*>(Round.Get())), &Plain, u"-",
+          cNullObject, u"(INamed @ 0000000000000000)", Round, Address(u"INamed", Round.Get()));
+    Check(TypeInfo<TTraced>(), cNullObject, u"(TTraced @ 0000000000000000)", TValue(),
+          u"(TTraced @ 0000000000000000)");
     Check(TypeInfo<IOther>(), Round, Address(u"IOther", As<IOther>(Round).Get()));
     Check(TypeInfo<IRound>(), As<IOther>(Round), Address(u"IRound", Round.Get()));
-    Check(TypeInfo<ExceptionClass>(), ClassOf<EAbort>(), u"EAbort", ClassOf<TPlain>(), u"-");
+    Check(TypeInfo<ExceptionClass>(), ClassOf<EAbort>(), u"EAbort", ClassOf<TTraced>(), u"-");
     Check(TypeInfo<TClass>(), ExceptionClass::Of<EAbort>(), u"EAbort");
-    Check(TypeInfo<TSide>(), TSize::szSmall, u"-");
+    Check(TypeInfo<TDay>(), true, u"-");
     Check(TypeInfo<TNumbers>(), TGUID(), u"-");
     Check(nullptr, 5, u"-");
     EXPECT_EQ(Message([] { TValue(300).AsType<std::uint8_t>(); }),
@@ -283,29 +216,22 @@ TEST_F(Value, CastsWhereNothingIsLost) {
 }
 
 TEST_F(Value, GivesTypedValues) {
-    const TValue Text = u"text";
     UnicodeString Wide = u"before";
     int Number = 7;
-    EXPECT_FALSE(Text.TryAsType(Number));
-    EXPECT_EQ(Number, 7);
-    EXPECT_TRUE(Text.TryAsType(Wide));
-    EXPECT_EQ(Wide, u"text");
-    EXPECT_EQ(Text.AsType<WideString>(), u"text");
+    EXPECT_TRUE(TValue(u"text").TryAsType(Wide));
+    EXPECT_FALSE(TValue(Wide).TryAsType(Number));
+    EXPECT_EQ(Wide + IntToStr(Number), u"text7");
     EXPECT_EQ(TValue(std::int16_t{-3}).AsType<long long>(), -3);
     EXPECT_EQ(TValue(-3LL).AsType<long>(), -3);
-    EXPECT_EQ(TValue(TSize::szLarge).AsType<TSize>(), TSize::szLarge);
-    TPlain Plain;
-    EXPECT_EQ(TValue(static_cast<TObject*>(&Plain)).AsType<TPlain*>(), &Plain);
-    EXPECT_EQ(TValue().AsType<TPlain*>(), nullptr);
+    EXPECT_EQ(TValue(TDay::dySun).AsType<TDay>(), TDay::dySun);
+    EXPECT_EQ(TValue().AsType<TTraced*>(), nullptr);
     {
-        const TValue Round = Ref<IRound>(TCircle::Create());
-        const Ref<IOther> Other = Round.AsType<Ref<IOther>>();
-        EXPECT_EQ(As<IRound>(Other).Get(), Round.AsInterface());
+        const TValue Named = Ref<INamed>(TBoth::Create(u"x"));
+        EXPECT_EQ(As<INamed>(Named.AsType<Ref<IOther>>()).Get(), Named.AsInterface());
         EXPECT_EQ(TakeTrace(), u"");
     }
-    EXPECT_EQ(TakeTrace(), u"freed(circle) ");
+    EXPECT_EQ(TakeTrace(), u"freed(x) ");
     const TValue Nested = TValue::From(TValue(5));
-    EXPECT_TRUE(Nested.IsType<TValue>());
     EXPECT_EQ(Nested.AsType<TValue>().AsInteger(), 5);
     EXPECT_THROW(TValue(5).AsType<TValue>(), EInvalidCast);
 }
@@ -315,46 +241,28 @@ TEST_F(Value, TellsWhatIsEmpty) {
         for (const TValue& Each : {TValue(AValues)...})
             EXPECT_EQ(Each.IsEmpty(), AExpected) << Each.ToString();
     };
-    Check(true, TValue(), TNumbers(), TEvent(), TClass(), Ref<IShape>(), static_cast<TObject*>(nullptr),
+    Check(true, TValue(), TNumbers(), TEvent(), TClass(), Ref<INamed>(), static_cast<TObject*>(nullptr),
           ExceptionClass());
-    Check(false, 0, u"", Variant(), TNumbers{0}, TEvent([] {}), ClassOf<TPlain>(), TGUID(), THolder(),
-          TSides(), static_cast<void*>(&GRefuse));
+    Check(false, 0, u"", Variant(), TNumbers{0}, TEvent([] {}), ClassOf<TTraced>(), TGUID(), TAligned(),
+          TDays(), static_cast<void*>(&GRefuse));
 }
 
 TEST_F(Value, KnowsItsType) {
-    TPlain Plain;
+    TTraced Plain;
     const TValue AsObject = static_cast<TObject*>(&Plain);
-    EXPECT_TRUE(AsObject.IsType<TObject*>() && AsObject.IsType<TPlain*>() && !AsObject.IsType<TCircle*>());
-    const TValue Null = static_cast<TPlain*>(nullptr);
-    EXPECT_TRUE(Null.IsType<TObject*>());
-    EXPECT_EQ(TypeInfo<Ref<IRound>>(), TypeInfo<IRound*>());
-    EXPECT_EQ(TypeInfo<IRound>()->BaseType(), TypeInfo<IShape>());
+    EXPECT_TRUE(AsObject.IsType<TObject*>() && AsObject.IsType<TTraced*>() && !AsObject.IsType<TCircle*>());
+    EXPECT_TRUE(TValue(static_cast<TTraced*>(nullptr)).IsType<TObject*>());
     const TValue Round = Ref<IRound>();
-    EXPECT_TRUE(Round.IsType<IShape>() && !Round.IsType<IOther>());
+    EXPECT_TRUE(Round.IsType<INamed>() && !Round.IsType<IOther>());
     EXPECT_TRUE(TValue(5).IsType<int>() && !TValue(5).IsType<std::int64_t>() && !TValue().IsType(nullptr));
-}
-
-TEST_F(Value, TakesLiteralsAsTheirTypes) {
-    const struct TRow {
-        TValue Value;
-        PTypeInfo Type;
-    } cRows[] = {
-        {1L, sizeof(long) == 8 ? TypeInfo<std::int64_t>() : TypeInfo<int>()},
-        {1ULL, TypeInfo<std::uint64_t>()},
-        {u"x", TypeInfo<UnicodeString>()},
-        {std::string_view("x"), TypeInfo<UnicodeString>()},
-        {u8"x", TypeInfo<UnicodeString>()},
-        {UnicodeString(u"x")[0], TypeInfo<char16_t>()},
-        {TDateTime(1), TypeInfo<TDateTime>()},
-        {RawByteString(), TypeInfo<RawByteString>()},
-        {ClassRef<TObject>(), TypeInfo<TClass>()},
-    };
-    for (const TRow& Row : cRows)
-        EXPECT_EQ(Row.Value.TypeInfo(), Row.Type);
-    static_assert(!std::is_convertible_v<const TPlain*, TValue> &&
-                  !std::is_convertible_v<const TPlain*, Variant>);
+    EXPECT_EQ(TValue(1L).TypeInfo(), sizeof(long) == 8 ? TypeInfo<std::int64_t>() : TypeInfo<int>());
+    EXPECT_EQ(TValue(u8"x").TypeInfo(), TypeInfo<UnicodeString>());
+    EXPECT_EQ(TValue(UnicodeString(u"x")[0]).TypeInfo(), TypeInfo<char16_t>());
+    static_assert(!std::is_convertible_v<const TTraced*, TValue> &&
+                  !std::is_convertible_v<const TTraced*, Variant>);
     static_assert(!std::is_convertible_v<std::nullptr_t, TValue> && !std::is_convertible_v<wchar_t, TValue> &&
-                  !std::is_convertible_v<TPlain, TValue> && !std::is_convertible_v<std::vector<int>, TValue>);
+                  !std::is_convertible_v<TTraced, TValue> &&
+                  !std::is_convertible_v<std::vector<int>, TValue>);
 }
 
 TEST_F(Value, SharesLargeValuesAndMovesSmallOnes) {
@@ -397,7 +305,6 @@ TEST_F(Value, ARefusedCopyLeavesTheOldValue) {
     TValue Target = u"old";
     GRefuse = true;
     EXPECT_THROW(Target = Kept, EAbort);
-    EXPECT_THROW(Target = Small, EAbort);
     EXPECT_THROW(Target = Large, EAbort);
     EXPECT_THROW(TValue::Make(&Large, TypeInfo<TLargeNoted>()), EAbort);
     EXPECT_EQ(Target.AsString(), u"old");
@@ -406,31 +313,27 @@ TEST_F(Value, ARefusedCopyLeavesTheOldValue) {
 
 TEST_F(Value, MakesValuesFromRawData) {
     EXPECT_EQ(TValue::Make(nullptr, TypeInfo<double>()).AsExtended(), 0.0);
-    EXPECT_EQ(TValue::Make(nullptr, TypeInfo<UnicodeString>()).AsString(), u"");
-    EXPECT_EQ(TValue::Make(nullptr, TypeInfo<TPlain>()).ToString(), u"(TPlain @ 0000000000000000)");
     EXPECT_EQ(TValue::Make(nullptr, nullptr).Kind(), tkUnknown);
-    const std::uint8_t Byte = 2;
-    EXPECT_EQ(TValue::Make(&Byte, TypeInfo<TSide>()).ToString(), u"sdTop");
+    const std::uint8_t Byte = 6;
+    EXPECT_EQ(TValue::Make(&Byte, TypeInfo<TDay>()).ToString(), u"dySun");
     // Also a set of one byte is read as 32 bits.
     std::uint32_t Bits;
-    const TValue Sides = TSides{TSide::sdRight};
-    std::memcpy(&Bits, Sides.GetReferenceToRawData(), sizeof Bits);
+    const TValue Days = TDays{TDay::dyTue};
+    std::memcpy(&Bits, Days.GetReferenceToRawData(), sizeof Bits);
     EXPECT_EQ(Bits, 2u);
-    EXPECT_EQ(Sides.GetDataSize(), 1u);
-
-    EXPECT_EQ(TValue::FromOrdinal(TypeInfo<char16_t>(), 0xE4).AsString(), u"ä");
+    EXPECT_EQ(Days.GetDataSize(), 1u);
     EXPECT_EQ(TValue::FromOrdinal(TypeInfo<std::uint64_t>(), -1).ToString(), u"18446744073709551615");
     EXPECT_THROW(TValue::FromOrdinal(TypeInfo<std::int8_t>(), 128), ERangeError);
-    EXPECT_THROW(TValue::FromOrdinal(TypeInfo<TSides>(), 256), ERangeError);
+    EXPECT_THROW(TValue::FromOrdinal(TypeInfo<TDays>(), 256), ERangeError);
     EXPECT_THROW(TValue::FromOrdinal(TypeInfo<bool>(), 2), ERangeError);
-    EXPECT_THROW(TValue::FromOrdinal(TypeInfo<TSwitch>(), -1), ERangeError);
+    EXPECT_THROW(TValue::FromOrdinal(TypeInfo<bool>(), -1), ERangeError);
     EXPECT_THROW(TValue::FromOrdinal(TypeInfo<double>(), 1), EInvalidCast);
 }
 
 TEST_F(Value, AVariantKeepsItsTypeOnTheWayThroughAValue) {
-    TPlain Plain;
+    TTraced Plain;
     std::vector<Variant> Variants = SampleVariants();
-    Variants.insert(Variants.end(), {Variant(), Variant::Null(), Ref<IInterface>(TCircle::Create())});
+    Variants.insert(Variants.end(), {Variant(), Variant::Null(), Ref<IInterface>(TNamed::Create())});
     for (const Variant& Each : Variants) {
         const Variant Back = TValue::FromVariant(Each).AsVariant();
         EXPECT_EQ(VarType(Back), VarType(Each));
@@ -450,12 +353,10 @@ TEST_F(Value, ReachesTheElementsOfArrays) {
     EXPECT_THROW(Dynamic.SetArrayElement(0, u"text"), EInvalidCast);
     EXPECT_THROW(Dynamic.GetArrayElement(3), EArgumentOutOfRangeException);
     EXPECT_THROW(TValue(5).GetArrayLength(), EInvalidCast);
-
     TValue Fixed = TQuad{1, 2, 3, 4};
     const TValue Copy = Fixed;
     Fixed.SetArrayElement(0, 9);
-    EXPECT_EQ(Fixed.GetArrayElement(0).AsInt64(), 9);
-    EXPECT_EQ(Copy.GetArrayElement(0).AsInt64(), 1);
+    EXPECT_EQ(Fixed.GetArrayElement(0).AsInt64() * 10 + Copy.GetArrayElement(0).AsInt64(), 91);
 }
 
 } // namespace

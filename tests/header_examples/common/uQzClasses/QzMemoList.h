@@ -1,5 +1,3 @@
-#pragma once
-
 #include <qz/runtime/lists/StringList.h>
 
 inline qz::TQzMemoList* List;

@@ -1,5 +1,3 @@
-#pragma once
-
 namespace qz {
 
 inline TObject* FModel;

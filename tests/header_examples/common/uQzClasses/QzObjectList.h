@@ -1,5 +1,3 @@
-#pragma once
-
 #include <qz/runtime/objects/InterfacedObject.h>
 
 namespace qz {

@@ -1,3 +1,1 @@
-#pragma once
-
 using namespace qz::detail;

@@ -1,5 +1,3 @@
-#pragma once
-
 #include <qz/runtime/values/Value.h>
 
 inline qz::TValue Value;

@@ -1,5 +1,3 @@
-#pragma once
-
 #include <qz/common/uQzLogger.h>
 
 inline qz::Ref<qz::IQzLogger> Log;

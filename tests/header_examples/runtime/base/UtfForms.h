@@ -1,5 +1,3 @@
-#pragma once
-
 #include <vector>
 
 static std::u16string Wide;

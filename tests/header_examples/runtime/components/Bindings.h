@@ -1,3 +1,1 @@
-#pragma once
-
 #include "tests/header_examples/Model.h"

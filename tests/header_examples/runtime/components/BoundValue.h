@@ -1,5 +1,3 @@
-#pragma once
-
 #include "tests/header_examples/Model.h"
 #include <qz/runtime/reflection/Reflection.h>
 

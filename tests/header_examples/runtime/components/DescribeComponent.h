@@ -1,5 +1,3 @@
-#pragma once
-
 namespace qz {
 
 class TServer : public TComponent {

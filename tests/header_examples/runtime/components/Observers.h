@@ -1,5 +1,1 @@
-#pragma once
-
 #include <qz/runtime/components/Components.h>
-
-static qz::UnicodeString FText;

@@ -1,5 +1,3 @@
-#pragma once
-
 #include <qz/runtime/objects/Objects.h>
 
 namespace qz {

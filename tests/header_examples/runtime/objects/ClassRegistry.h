@@ -1,5 +1,3 @@
-#pragma once
-
 #include <qz/runtime/components/Components.h>
 
 namespace qz {

@@ -1,4 +1,2 @@
-#pragma once
-
 #include "tests/header_examples/Shapes.h"
 #include <qz/runtime/values/BasicTypes.h>

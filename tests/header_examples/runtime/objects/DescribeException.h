@@ -1,5 +1,3 @@
-#pragma once
-
 #include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {

@@ -1,5 +1,3 @@
-#pragma once
-
 #include "tests/header_examples/Shapes.h"
 
 inline qz::TShape* Shape;

@@ -1,5 +1,3 @@
-#pragma once
-
 #include "tests/header_examples/Model.h"
 
 extern qz::TObject& Object;

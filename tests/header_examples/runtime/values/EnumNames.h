@@ -1,5 +1,3 @@
-#pragma once
-
 #include "tests/header_examples/Shapes.h"
 #include <qz/runtime/base/Set.h>
 

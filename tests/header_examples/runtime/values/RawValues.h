@@ -1,4 +1,2 @@
-#pragma once
-
 extern const qz::TPropInfo& Prop;
 extern void* Room;

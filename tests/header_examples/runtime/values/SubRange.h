@@ -1,4 +1,2 @@
-#pragma once
-
 enum TDay { dSunday, dMonday, dTuesday, dFriday = 5 };
 inline TDay Other;

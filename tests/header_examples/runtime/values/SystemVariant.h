@@ -1,5 +1,3 @@
-#pragma once
-
 #include <qz/runtime/values/VariantArray.h>
 
 // As <windows.h> declares them.

@@ -1,5 +1,3 @@
-#pragma once
-
 #include "tests/header_examples/Shapes.h"
 
 inline std::unique_ptr<qz::TShape> Shape;

@@ -9,16 +9,6 @@
 namespace qz {
 namespace {
 
-TEST(FormatSettings, HoursCountToTwelveWhereTheLocaleDoes) {
-    const TDateTime Value = EncodeTime(14, 5, 9, 0);
-    const std::pair<const char*, const char16_t*> Cases[] = {
-        {"en_US.UTF-8", u"2:05:09 PM"}, {"de_DE.UTF-8", u"14:05:09"}, {"C", u"14:05:09"}};
-    for (const auto& [Name, Expected] : Cases) {
-        const TLocaleOfTheEnvironment Locale(Name);
-        EXPECT_EQ(TimeToStr(Value, TFormatSettings::Create()), Expected) << Name;
-    }
-}
-
 // Of those whose patterns hold no words.
 TEST(FormatSettings, DatesSurviveTheRoundTripInManyLocales) {
     for (const char* Name : {"C",     "en_US", "en_GB", "en_CA", "de_DE", "fr_FR", "es_ES", "hu_HU",

@@ -1,7 +1,0 @@
-#pragma once
-
-#include <qz/common/uQzClasses/TextParser.h>
-
-namespace qz {
-extern TQzTextParser& Parser;
-}

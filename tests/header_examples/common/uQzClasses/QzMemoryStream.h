@@ -1,3 +1,0 @@
-#pragma once
-
-static char Buffer[16];

@@ -1,5 +1,0 @@
-#pragma once
-
-#include <qz/runtime/streams/Streams.h>
-
-inline qz::TMemoryStream Memory;

@@ -1,4 +1,0 @@
-#pragma once
-
-#include <qz/common/uQzLogLayouts.h>
-#include <qz/common/uQzLogger.h>

@@ -1,4 +1,0 @@
-#pragma once
-
-#include <qz/common/uQzLogAppenders.h>
-#include <qz/common/uQzLogger.h>

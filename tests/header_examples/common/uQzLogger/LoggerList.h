@@ -1,5 +1,0 @@
-#pragma once
-
-#include <qz/common/uQzLogger.h>
-
-inline qz::Ref<qz::TQzLogger> Log;

@@ -1,3 +1,0 @@
-#pragma once
-
-inline qz::TDateTime Born;

@@ -1,5 +1,0 @@
-#pragma once
-
-#include <qz/common/uQzSysUtils/Strings.h>
-
-inline int Count;

@@ -1,5 +1,0 @@
-#pragma once
-
-#include <qz/runtime/lists/StringList.h>
-
-inline qz::TStringList Words, Fields;

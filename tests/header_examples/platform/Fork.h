@@ -1,4 +1,0 @@
-#pragma once
-
-static void TakeLocks() {}
-static void ReleaseLocks() {}

@@ -1,5 +1,0 @@
-#pragma once
-
-#include <qz/runtime/files/FileNames.h>
-
-static qz::UnicodeString Old, New;

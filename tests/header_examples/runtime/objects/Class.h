@@ -1,3 +1,0 @@
-#pragma once
-
-#include <qz/runtime/objects/Objects.h>
