@@ -48,6 +48,7 @@ class QZ_API TQzObject : public TCreateOnly<TObject>, public IQzObject {
 
 public:
     using TVirtualCreate = TVirtualConstructor<TQzObject, TQzObject*()>;
+    static constexpr bool cMustKeep = true; // the result of Create
 
     // True if the last reference destroys the object.
     virtual bool GetAutoDestroy() const;

@@ -1,8 +1,14 @@
 #include <qz/common/uQzLogger/LogTypes.h>
 
+#include <ostream>
+
 #include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
+
+std::ostream& operator<<(std::ostream& AStream, TQzLogLevel ALevel) {
+    return AStream << UnicodeString(QzLogLevelName(ALevel));
+}
 
 TQzLogLevel QzLogLevelOf(std::int32_t ANumber) {
     if (ANumber < static_cast<std::int32_t>(llAll) || ANumber > static_cast<std::int32_t>(llDoNotLog))

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <iosfwd>
 #include <string_view>
 
 #include <qz/platform/Export.h>
@@ -34,6 +35,9 @@ inline constexpr std::u16string_view QzLogLevels[] = {u"All",  u"Trace", u"Debug
 constexpr std::u16string_view QzLogLevelName(TQzLogLevel ALevel) noexcept {
     return ALevel <= llDoNotLog ? QzLogLevels[static_cast<int>(ALevel)] : std::u16string_view();
 }
+
+// Writes the name.
+QZ_API std::ostream& operator<<(std::ostream& AStream, TQzLogLevel ALevel);
 
 // The level of that number. Raises ERangeError, "9 is not a log level".
 QZ_API TQzLogLevel QzLogLevelOf(std::int32_t ANumber);

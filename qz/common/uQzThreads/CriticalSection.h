@@ -39,6 +39,11 @@ public:
     // tries once.
     bool TryEnter(std::uint32_t ATimeOut) noexcept;
 
+    // As std::lock_guard and its kin call them.
+    void lock() noexcept { Enter(); }
+    bool try_lock() noexcept { return TryEnter(0); }
+    void unlock() noexcept { Leave(); }
+
     // The id of the thread that holds the lock, 0 when it is free.
     std::int32_t GetLockedBy() const noexcept { return FLockedBy.load(std::memory_order_relaxed); }
     bool IsLocked() const noexcept { return GetLockedBy() != 0; }

@@ -70,6 +70,13 @@ public:
     // False when a reader or a writer holds the lock.
     bool TryBeginWrite() { return FSlots->TryAcquireExclusive(&FLock) != 0; }
     void EndWrite() { FSlots->ReleaseExclusive(&FLock); }
+    // As std::lock_guard, std::shared_lock and their kin call them.
+    void lock() { BeginWrite(); }
+    bool try_lock() { return TryBeginWrite(); }
+    void unlock() { EndWrite(); }
+    void lock_shared() { BeginRead(); }
+    bool try_lock_shared() { return TryBeginRead(); }
+    void unlock_shared() { EndRead(); }
 
     // The slots that the first constructor uses, and those of the fallback.
     static const TSRWLockSlots& Slots() noexcept;

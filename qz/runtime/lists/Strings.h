@@ -34,12 +34,14 @@ class QZ_API TStrings : public TPersistent {
 public:
     class TIterator {
     public:
-        using iterator_category = std::input_iterator_tag;
+        using iterator_concept = std::random_access_iterator_tag;
+        using iterator_category = std::input_iterator_tag; // since the lines come as values
         using value_type = UnicodeString;
         using difference_type = std::ptrdiff_t;
         using pointer = void;
         using reference = UnicodeString;
 
+        TIterator() noexcept = default;
         TIterator(const TStrings& AList, int AIndex) noexcept : FList(&AList), FIndex(AIndex) {}
         UnicodeString operator*() const { return FList->Strings(FIndex); }
         TIterator& operator++() noexcept {
@@ -47,11 +49,30 @@ public:
             return *this;
         }
         TIterator operator++(int) noexcept { return {*FList, FIndex++}; }
-        friend bool operator==(const TIterator&, const TIterator&) noexcept = default;
+        TIterator& operator--() noexcept { return *this -= 1; }
+        TIterator operator--(int) noexcept { return {*FList, FIndex--}; }
+        TIterator& operator+=(std::ptrdiff_t ACount) noexcept {
+            FIndex += static_cast<int>(ACount);
+            return *this;
+        }
+        TIterator& operator-=(std::ptrdiff_t ACount) noexcept { return *this += -ACount; }
+        UnicodeString operator[](std::ptrdiff_t AOffset) const { return *(*this + AOffset); }
+        friend TIterator operator+(TIterator AFrom, std::ptrdiff_t ACount) noexcept { return AFrom += ACount; }
+        friend TIterator operator+(std::ptrdiff_t ACount, TIterator AFrom) noexcept { return AFrom += ACount; }
+        friend TIterator operator-(TIterator AFrom, std::ptrdiff_t ACount) noexcept { return AFrom -= ACount; }
+        friend std::ptrdiff_t operator-(const TIterator& ALeft, const TIterator& ARight) noexcept {
+            return std::ptrdiff_t{ALeft.FIndex} - ARight.FIndex;
+        }
+        friend bool operator==(const TIterator& ALeft, const TIterator& ARight) noexcept {
+            return ALeft.FIndex == ARight.FIndex;
+        }
+        friend auto operator<=>(const TIterator& ALeft, const TIterator& ARight) noexcept {
+            return ALeft.FIndex <=> ARight.FIndex;
+        }
 
     private:
-        const TStrings* FList;
-        int FIndex;
+        const TStrings* FList = nullptr;
+        int FIndex = 0;
     };
 
     // What each list class implements.

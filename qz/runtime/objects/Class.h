@@ -16,6 +16,7 @@
 
 #include <concepts>
 #include <cstddef>
+#include <iosfwd>
 #include <span>
 #include <type_traits>
 #include <typeinfo>
@@ -63,6 +64,9 @@ struct TClassRec {
     // way.
     QZ_API const void* FindMaker(TMakerFamily AFamily) const noexcept;
 };
+
+// Writes the name.
+QZ_API std::ostream& operator<<(std::ostream& AStream, const TClassRec& AClass);
 
 // The record of T.
 template <class T> constexpr TClass ClassOf() noexcept {

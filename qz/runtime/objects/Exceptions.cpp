@@ -85,20 +85,6 @@ void RaiseLastOSError() {
     RaiseOSError(platform::LastError());
 }
 
-void HandleException(const std::function<void(Exception&)>& AHandler) {
-    try {
-        throw;
-    } catch (Exception& E) {
-        AHandler(E);
-    } catch (const std::exception& E) {
-        Exception Wrapped{UnicodeString(E.what())};
-        AHandler(Wrapped);
-    } catch (...) {
-        Exception Wrapped{UnicodeString(u"Unknown exception")};
-        AHandler(Wrapped);
-    }
-}
-
 void Abort() {
     throw EAbort(u"Operation aborted");
 }

@@ -152,8 +152,21 @@ private:
 QZ_API UnicodeString SysErrorMessage(std::int32_t ACode);
 
 // Hands the exception that is being handled to AHandler as an Exception; for use in a catch block. What is no
-// Exception comes as one with the same message, or "Unknown exception".
-QZ_API void HandleException(const std::function<void(Exception&)>& AHandler);
+// Exception comes as one with the same message, or "Unknown exception". Inline, since a library that is linked
+// dynamically by mingw cannot rethrow what its caller handles.
+inline void HandleException(const std::function<void(Exception&)>& AHandler) {
+    try {
+        throw;
+    } catch (Exception& E) {
+        AHandler(E);
+    } catch (const std::exception& E) {
+        Exception Wrapped{UnicodeString(E.what())};
+        AHandler(Wrapped);
+    } catch (...) {
+        Exception Wrapped{UnicodeString(u"Unknown exception")};
+        AHandler(Wrapped);
+    }
+}
 
 // Aborts the operation silently: raises EAbort, "Operation aborted".
 [[noreturn]] QZ_API void Abort();

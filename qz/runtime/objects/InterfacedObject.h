@@ -94,6 +94,8 @@ class QZ_API TInterfacedObject : public TCreateOnly<TObject>, public IInterface 
     QZ_CLASS(TInterfacedObject, TObject)
 
 public:
+    static constexpr bool cMustKeep = true; // the result of Create
+
     HRESULT QueryInterface(const TGUID& AIid, void** AObject) override;
     std::uint32_t _AddRef() override;
     // Destroys the object when the count reaches 0. References that come and go during the destruction

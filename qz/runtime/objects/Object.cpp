@@ -1,5 +1,7 @@
 #include <qz/runtime/objects/Object.h>
 
+#include <ostream>
+
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/objects/Interface.h>
@@ -20,6 +22,10 @@ const void* TClassRec::FindMaker(TMakerFamily AFamily) const noexcept {
         if (Entry.Family == AFamily)
             return Entry.Make;
     return nullptr;
+}
+
+std::ostream& operator<<(std::ostream& AStream, const TClassRec& AClass) {
+    return AStream << UnicodeString(AClass.Name());
 }
 
 TObject::~TObject() = default;

@@ -26,7 +26,14 @@ public:                                                                         
     qz::TClass ClassType() const noexcept override {                            \
         return &ClassRec;                                                       \
     }                                                                           \
-    template <class... TArgs> static auto Create(TArgs&&... AArgs) {            \
+    template <class... TArgs>                                                   \
+        requires(qz::detail::TMaker<AClass>::MayDiscard())                      \
+    static auto Create(TArgs&&... AArgs) {                                      \
+        return qz::detail::TMaker<AClass>::Make(std::forward<TArgs>(AArgs)...); \
+    }                                                                           \
+    template <class... TArgs>                                                   \
+        requires(!qz::detail::TMaker<AClass>::MayDiscard())                     \
+    [[nodiscard]] static auto Create(TArgs&&... AArgs) {                        \
         return qz::detail::TMaker<AClass>::Make(std::forward<TArgs>(AArgs)...); \
     }                                                                           \
                                                                                 \
@@ -139,6 +146,11 @@ template <class T> struct TMaker {
         } else {
             return TOwned<T>(Finish(new T(std::forward<TArgs>(AArgs)...)));
         }
+    }
+
+    // Whether an object whose pointer is discarded may have an owner: a component, or a thread.
+    static constexpr bool MayDiscard() noexcept {
+        return requires { T::cCreateOnly; } && !requires { T::cMustKeep; };
     }
 
 private:

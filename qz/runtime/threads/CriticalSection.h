@@ -31,6 +31,10 @@ public:
     void Leave() noexcept { FMutex.Leave(); }
     void Acquire() noexcept { Enter(); }
     void Release() noexcept { Leave(); }
+    // As std::lock_guard and its kin call them.
+    void lock() noexcept { Enter(); }
+    bool try_lock() noexcept { return TryEnter(); }
+    void unlock() noexcept { Leave(); }
 
 private:
     platform::TRecursiveMutex FMutex;
