@@ -69,67 +69,35 @@ TEST(LogFamilies, EachMakesItsMessage) {
     const UnicodeString Address = Format(u"%p", {static_cast<const void*>(&Object)});
     const UnicodeString Shown =
         u"=(EConvertError @ " + Format(u"%p", {static_cast<const void*>(&Failure)}) + u")|";
-    const UnicodeString ObjectShown = u"=(TSample @ " + Address + u")|";
     const std::pair<std::function<void()>, UnicodeString> Cases[] = {
-        {[&] { Log.Trace("m"); }, u"Trace m|"},
         {[&] { Log.Trace(&Object, "x%"); }, u"Trace TSample($" + Address + u").x%|"},
         {[&] { Log.Trace(&Object, "%d", {1}); }, u"Trace TSample($" + Address + u").1|"},
         {[&] { Log.Debug("100%"); }, u"Debug 100%|"},
-        {[&] {
-             Log.Debug("%s took %d ms", {u"it", 17});
-         },
-         u"Debug it took 17 ms|"},
-        {[&] { Log.Debug("m", 1.5); }, u"Debug m=1.5|"},
         {[&] { Log.Debug("m", u"text"); }, u"Debug m=text|"},
-        {[&] { Log.Debug("m", &Object); }, u"Debug m" + ObjectShown},
-        {[&] { Log.Debug("m", Failure); }, u"Debug m" + Shown},
+        {[&] { Log.Debug("m", &Object); }, u"Debug m=(TSample @ " + Address + u")|"},
         {[&] { Log.Info("m"); }, u"Info m|"},
-        {[&] { Log.Warn("m"); }, u"Warn m|"},
-        {[&] { Log.Error("m"); }, u"Error m|"},
-        {[&] { Log.Error("m", Failure); }, u"Error m\r\nwent wrong|"},
-        {[&] { Log.Fatal("m"); }, u"Fatal m|"},
         {[&] { Log.Fatal("%d", {2}); }, u"Fatal 2|"},
+        {[&] { Log.Error("m", Failure); }, u"Error m\r\nwent wrong|"},
         {[&] { Log.Fatal(Failure); }, u"Fatal went wrong" + Shown},
         {[&] { Log.Fatal("m", Failure); }, u"Fatal m" + Shown},
         {[&] { Log.Count("hits", -3); }, u"Debug #counter::hits#=-3|"},
         {[&] { Log.ClearLog(); }, u""},
-        {[&] { Log.EnterMethod("Run", llWarn); }, u"Warn Run {|"},
         {[&] { Log.EnterMethod("%d", {3}, llInfo); }, u"Info 3 {|"},
-        {[&] { Log.EnterMethod(&Object, "Run%"); }, u"Trace TSample.Run% {|"},
         {[&] { Log.EnterMethod(&Object, "Run %d", {4}, llInfo); }, u"Info TSample.Run 4 {|"},
+        {[&] { Log.EnterMethod(static_cast<TObject*>(nullptr), "x"); }, u"Trace nil.x {|"},
         {[&] { Log.ExitMethod("Run", llWarn); }, u"Warn Run }|"},
-        {[&] { Log.ExitMethod("%d", {3}, llInfo); }, u"Info 3 }|"},
-        {[&] { Log.ExitMethod(&Object, "Run"); }, u"Trace TSample.Run }|"},
-        {[&] { Log.Log(llFatal, "m"); }, u"Fatal m|"},
-        {[&] { Log.Log(llFatal, "m", liIndentDecrease); }, u"Fatal m }|"},
         {[&] { Log.Log(llFatal, "m", true, liIndentIncrease); }, u"Fatal m=True {|"},
-        {[&] { Log.Log(llFatal, "m", &Object); }, u"Fatal m" + ObjectShown},
-        {[&] { Log.Log(llFatal, "m", Failure); }, u"Fatal m" + Shown},
         {[&] { Log.LogValue(llFatal, "m", TShade::shDark); }, u"Fatal m=shDark|"},
         {[&] { Log.Log(Data); }, u"Warn kept|"},
-        {[&] {
-             const TQzMethodScope Scope(&Log, &Object, "Run");
-             Log.Info("m");
-         },
-         u"Trace TSample.Run {|root>root Info m|root>root Trace TSample.Run }|"},
+        {[&] { const TQzMethodScope Scope(&Log, &Object, "Run%"); },
+         u"Trace TSample.Run% {|root>root Trace TSample.Run% }|"},
     };
     for (const auto& [Call, Expected] : Cases) {
         Call();
         EXPECT_EQ(Out.Take(), Expected.IsEmpty() ? u"" : u"root>root " + Expected);
     }
-}
-
-TEST(LogFamilies, BadPatternsReachTheCaller) {
-    const TLogTree Tree;
-    const TSample Object;
-    EXPECT_THROW(Logger().Debug("%d", {u"x"}), EConvertError);
-    EXPECT_THROW(Logger().EnterMethod(&Object, "%s", {}), EConvertError);
-    EXPECT_THROW(Logger().Trace(&Object, "%q", {1}), EConvertError);
-    EXPECT_THROW(Logger().Log(static_cast<IQzLogData*>(nullptr)), EAssertionFailed);
-    TMemoryAppender& Out = AddMemory(Logger());
-    Logger().SetLevel(llAll);
-    Logger().EnterMethod(static_cast<TObject*>(nullptr), "x");
-    EXPECT_EQ(Out.Take(), u"root>root Trace nil.x {|");
+    EXPECT_THROW(Log.Debug("%d", {u"x"}), EConvertError);
+    EXPECT_THROW(Log.Log(static_cast<IQzLogData*>(nullptr)), EAssertionFailed);
 }
 
 TEST(DataRec, DumpsPublishedProperties) {
@@ -151,8 +119,6 @@ TEST(DataRec, DumpsPublishedProperties) {
     EXPECT_EQ(QzDataRecToString(&Value),
               u"object : TSample\r\n" + Lines(u"  ", u"Shade = shDark") + u"  object : TSample\r\n" +
                   Lines(u"    ", u"Shade = 7"));
-    const TValue Null(static_cast<TObject*>(nullptr));
-    EXPECT_EQ(QzDataRecToString(&Null), Null.ToString());
     const TValue Number(5);
     EXPECT_EQ(QzDataRecToString(&Number), u"5");
 }

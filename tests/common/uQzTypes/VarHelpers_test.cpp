@@ -173,78 +173,75 @@ TEST(VarStrict, CutsNumbersAndBoundsSmallintAboveAlone) {
     EXPECT_EQ(QzVarSmallint(std::uint16_t{40000}, 0), -25536);
     EXPECT_EQ(QzVarSmallint(32767, 0), 32767);
     EXPECT_THROW(QzVarSmallint(32768, 0), EConvertError);
-    EXPECT_EQ(QzVarShortint(std::uint8_t{255}, 0), -1);
     EXPECT_EQ(QzVarByte(std::int8_t{-1}, 0), 255);
     EXPECT_EQ(QzVarByte({}, 260), 4);
-    EXPECT_EQ(QzVarWord(std::int16_t{-1}, 0), 65535);
-    EXPECT_EQ(QzVarLongword(4294967295U, 0), 4294967295U);
     EXPECT_EQ(QzVarInt64(4294967295U, 0), 4294967295);
     EXPECT_THROW(QzVarInt(4294967295U, 0), EVariantOverflowError);
     EXPECT_TRUE(QzVarBool(256, false));
-    EXPECT_TRUE(QzVarBool(u"Yes", false));
     EXPECT_TRUE(QzVarBool(AnsiString("1"), false));
     EXPECT_FALSE(QzVarBool(u"", true));
-    EXPECT_EQ(QzVarStr(u"", u"x"), u"");
 }
 
 TEST(VarTolerant, CutsNumbersAndReadsTexts) {
     EXPECT_EQ(QzVarToShortint(std::int16_t{999}, 0, true), -25);
     EXPECT_EQ(QzVarToSmallint(u"$FFFF", 0, true), -1);
-    EXPECT_EQ(QzVarToByte(u"-1", 0, true), 255);
     EXPECT_EQ(QzVarToInt64(u"5000000000", 0, true), 5000000000);
     EXPECT_EQ(QzVarToLongword(u"4294967295", 7, false), 7U);
     EXPECT_FALSE(QzVarToBool(256, true, true));
     EXPECT_TRUE(QzVarToBool(511, false, true));
-    EXPECT_EQ(QzVarToLongInt(u"abc", 7, false), 7);
-    EXPECT_EQ(QzVarToInt(5000000000, 7, false), 7);
-    EXPECT_THROW(QzVarToInt(5000000000, 7, true), EVariantOverflowError);
-    EXPECT_EQ(QzVarToByte(u"", 263, false), 7);
-    EXPECT_TRUE(std::isinf(QzVarToSingle(1e300, 0, true)));
     EXPECT_TRUE(QzVarToBool(4294967297, true, false)); // the default: it has no 32 bits
     EXPECT_FALSE(QzVarToBool(4294967297, false, false));
+    EXPECT_EQ(QzVarToInt(5000000000, 7, false), 7);
+    EXPECT_THROW(QzVarToInt(5000000000, 7, true), EVariantOverflowError);
+    EXPECT_TRUE(std::isinf(QzVarToSingle(1e300, 0, true)));
     EXPECT_EQ(QzVarToSingle(u"1,5", 0, true), 1.5F);
     EXPECT_EQ(QzVarToDouble(AnsiString("1,5"), 0, true), 1.5);
     EXPECT_EQ(QzVarToExtended(u"1,5", 7, false), 7.0);
-    EXPECT_EQ(QzVarToStr(VarAsType(u"1.50", varDecimal), u"", true), u"1.5");
     EXPECT_EQ(QzVarToStr(std::numeric_limits<std::uint64_t>::max(), u"x", false), u"x");
-    const std::pair<UnicodeString, UnicodeString> Errors[] = {
-        {u"'abc' is not a valid integer value", Message([] { QzVarToLongInt(u"abc", 7, true); })},
-        {u"'5000000000' is not a valid integer value",
-         Message([] { QzVarToLongword(u"5000000000", 7, true); })},
-        {u"'x' is not a valid integer value", Message([] { QzVarToInt64(u"x", 7, true); })},
-        {u"'1,2,3' is not a valid floating point value", Message([] { QzVarToDouble(u"1,2,3", 7, true); })},
-        {u"'tomorrow' is not a valid date and time", Message([] { QzVarToDate(u"tomorrow", 7, true); })},
-    };
-    for (const auto& [Expected, Actual] : Errors)
-        EXPECT_EQ(Actual, Expected);
+    EXPECT_EQ(Message([] { QzVarToLongInt(u"abc", 7, true); }), u"'abc' is not a valid integer value");
+    EXPECT_EQ(Message([] { QzVarToDouble(u"1,2,3", 7, true); }),
+              u"'1,2,3' is not a valid floating point value");
+    EXPECT_EQ(Message([] { QzVarToDate(u"tomorrow", 7, true); }), u"'tomorrow' is not a valid date and time");
 }
 
-TEST(VarTolerant, ReadsIsoDatesWhateverTheSettings) {
-    const TDateTime Day = EncodeDate(2016, 2, 29);
-    EXPECT_EQ(QzVarToDate(u"2016-02-29", 0, true), Day);
-    EXPECT_EQ(Day + 0.5, QzVarToDate(AnsiString("2016-02-29 12:00"), 0, true));
-    EXPECT_EQ(QzVarToDate(DateTimeToStr(Day), 0, true), Day);
-    EXPECT_EQ(QzVarToDate(u"2016-02-30", 5, false), 5.0);
-    EXPECT_EQ(QzVarToDate(u"016-02-29", 5, false), 5.0);
-    EXPECT_EQ(QzVarToDate(u"2016-02/29", 5, false), 5.0);
+class Settings : public testing::Test {
+protected:
+    ~Settings() override { SetDefaultFormatSettings(Before); }
     const TFormatSettings Before = DefaultFormatSettings();
     TFormatSettings Other = Before;
+};
+
+TEST_F(Settings, IsoDatesAreReadWhateverTheyAre) {
+    const TDateTime Day = EncodeDate(2016, 2, 29);
+    EXPECT_EQ(QzVarToDate(AnsiString("2016-02-29 12:00"), 0, true), Day + 0.5);
+    EXPECT_EQ(QzVarToDate(DateTimeToStr(Day), 0, true), Day);
+    for (const char16_t* Bad : {u"2016-02-30", u"016-02-29", u"2016-02/29"})
+        EXPECT_EQ(QzVarToDate(Bad, 5, false), 5.0);
     Other.DateSeparator = u'-';
     Other.ShortDateFormat = u"dd-mm-yyyy";
     SetDefaultFormatSettings(Other);
     EXPECT_EQ(QzVarToDate(u"2016-02-29", 0, true), Day);
     EXPECT_EQ(QzVarToDate(u"29-02-2016", 0, true), Day);
-    SetDefaultFormatSettings(Before);
+}
+
+// The other separator is that of the system, whatever the process has.
+TEST_F(Settings, TheSecondTryGoesByTheSystem) {
+    EXPECT_EQ(QzStrToFloat(u"1.5") + QzStrToFloat(u"1,5"), 3);
+    EXPECT_EQ(QzStrToFloatDef(u"1.5.2", -2), -2.0);
+    EXPECT_EQ(Message([] { QzStrToFloat(u"1;5"); }), u"'1;5' is not a valid floating point value");
+    Other.DecimalSeparator = u';';
+    SetDefaultFormatSettings(Other);
+    const bool HasPoint = TFormatSettings::Create().DecimalSeparator == u'.';
+    EXPECT_EQ(QzStrToFloatDef(u"1,5", 7), HasPoint ? 1.5 : 7);
+    EXPECT_EQ(QzStrToFloatDef(u"1.5", 7), HasPoint ? 7 : 1.5);
+    EXPECT_EQ(QzStrToFloat(u"1;5"), 1.5);
 }
 
 TEST(VarTolerant, WritesArraysLineByLine) {
-    EXPECT_EQ(QzVarToStr(VarArrayOf({1, 2}), u"", true), u"1\r\n2\r\n");
+    const Variant Table = VarArrayCreate({0, 1, 0, 1}, varInteger);
     EXPECT_EQ(
         QzVarToStr(VarArrayOf({1, VarArrayOf({u"a", u"b"}), VarArrayOf({}), Variant(), true}), u"-", true),
         u"1\r\na\r\nb\r\n\r\n\r\n-\r\nTrue\r\n");
-    Variant Odd = VarArrayCreate({-5, -4}, varInteger);
-    EXPECT_EQ(QzVarToStr(Odd, u"", true), u"0\r\n0\r\n");
-    const Variant Table = VarArrayCreate({0, 1, 0, 1}, varInteger);
     EXPECT_EQ(QzVarToStr(Table, u"-", false), u"-");
     EXPECT_EQ(Message([&] { QzVarToStr(Table, u"", true); }),
               u"The given array is not a to-string convertable value!");
@@ -256,7 +253,7 @@ TEST(VarTolerant, WritesArraysLineByLine) {
     Variant Deep = 1;
     for (int I = 0; I < 50000; ++I)
         Deep = VarArrayOf({Deep});
-    EXPECT_EQ(1 + 2 * 50000, QzVarToStr(Deep, u"", true).Length());
+    EXPECT_EQ(QzVarToStr(Deep, u"", true).Length(), 1 + 2 * 50000);
 }
 
 TEST(VarQueries, EmptyCountedAndNullable) {
@@ -264,73 +261,37 @@ TEST(VarQueries, EmptyCountedAndNullable) {
         for (const Variant& Value : {Variant(AValues)...})
             EXPECT_EQ(QzVarIsEmpty(Value), AExpected) << VarType(Value);
     };
-    Check(true, 0, 0.0, -0.0, TDateTime(0), u"   ", AnsiString(" \t"), Variant(), Variant::Null(),
-          Currency(0), VarArrayOf({}), VarArrayCreate({-3, -1}, varByte));
-    Check(false, false, true, 1, u" x", Variant::Error(0), std::nan(""), VarArrayOf({1}),
+    Check(true, 0, -0.0, TDateTime(0), u"   ", AnsiString(" \t"), Variant(), Variant::Null(), Currency(0),
+          VarArrayOf({}));
+    Check(false, false, 1, u" x", Variant::Error(0), std::nan(""), VarArrayOf({1}),
           static_cast<TObject*>(nullptr));
-    EXPECT_EQ(QzVarArrayCount(VarArrayOf({1, 2, 3})), 3);
     EXPECT_EQ(QzVarArrayCount(VarArrayCreate({9, 10}, varByte)), 11);
     EXPECT_EQ(QzVarArrayCount(VarArrayCreate({-3, -1}, varByte)), 0);
     EXPECT_EQ(QzVarArrayCount(u"x"), 0);
-    EXPECT_EQ(QzVarArrayCount(Variant::Null()), 0);
     EXPECT_EQ(QzNullableBool(true), nbYes);
     EXPECT_EQ(QzNullableBool(false), nbNo);
     EXPECT_EQ(QzNullableBool(1), nbNull);
-}
-
-TEST(TextValues, BooleansAndFloats) {
-    for (const char16_t* Yes : {u"1", u"True", u"Y", u"tea", u"y?"})
+    for (const char16_t* Yes : {u"1", u"True", u"y?"})
         EXPECT_TRUE(QzStrToBool(Yes));
-    for (const char16_t* No : {u"", u"no", u"0", u" 1", u"-1", u"J"})
+    for (const char16_t* No : {u"", u"no", u" 1"})
         EXPECT_FALSE(QzStrToBool(No));
     EXPECT_EQ(QzBoolToStr(false, u"open", u"shut"), u"shut");
-    EXPECT_EQ(QzStrToFloat(u"1.5"), 1.5);
-    EXPECT_EQ(QzStrToFloat(u"1,5"), 1.5);
-    EXPECT_EQ(QzStrToFloatDef(u"1.5.2", -2), -2.0);
-    EXPECT_EQ(Message([] { QzStrToFloat(u"1;5"); }), u"'1;5' is not a valid floating point value");
 }
 
-// The other separator is that of the system, whatever the process has.
-TEST(TextValues, TheSecondTryGoesByTheSystem) {
-    const TFormatSettings Before = DefaultFormatSettings();
-    TFormatSettings Other = Before;
-    Other.DecimalSeparator = u';';
-    SetDefaultFormatSettings(Other);
-    const bool HasPoint = TFormatSettings::Create().DecimalSeparator == u'.';
-    EXPECT_EQ(HasPoint ? 1.5 : 7, QzStrToFloatDef(u"1,5", 7));
-    EXPECT_EQ(HasPoint ? 7 : 1.5, QzStrToFloatDef(u"1.5", 7));
-    EXPECT_EQ(QzStrToFloat(u"1;5"), 1.5);
-    SetDefaultFormatSettings(Before);
-}
-
-TEST(RawStrings, ConvertByTheSystemsCodePage) {
+TEST(RawStrings, AreCopiesInTheSystemsCodePageWithATerminator) {
     const TSystemPage Page(1252);
     char* const Narrow = QzStrNewA(WideString(u"\u20AC"));
     EXPECT_STREQ(Narrow, "\x80");
     QzStrDispose(Narrow);
-    char16_t* const Wide = QzStrNewW(AnsiString("\x80"));
-    EXPECT_EQ(Wide, UnicodeString(u"\u20AC"));
+    char16_t* const Wide = QzStrNew(WideString(std::u16string_view(u"a\0b", 3)));
+    EXPECT_EQ(std::u16string_view(Wide, 4), std::u16string_view(u"a\0b", 4));
     QzStrDispose(Wide);
-    EXPECT_EQ(QzVarStrA(u"\u20AC", {}).View(), "\x80");
-}
-
-TEST(RawStrings, AreCopiesThatEndWithATerminator) {
     EXPECT_EQ(QzStrNew(WideString()), nullptr);
     EXPECT_EQ(QzStrNewW(AnsiString()), nullptr);
-    QzStrDispose(static_cast<char*>(nullptr));
-    QzStrDispose(static_cast<char16_t*>(nullptr));
-    char16_t* const Wide = QzStrNew(WideString(std::u16string_view(u"a\0b", 3)));
-    EXPECT_EQ(std::u16string_view(u"a\0b", 4), std::u16string_view(Wide, 4));
-    QzStrDispose(Wide);
     char* const Empty = QzStrNew(AnsiString());
     EXPECT_STREQ(Empty, "");
     QzStrDispose(Empty);
-    char* const Narrow = QzStrNewA(AnsiString(std::string_view("a\0b", 3)));
-    EXPECT_STREQ(Narrow, "a");
-    QzStrDispose(Narrow);
-    char* const Converted = QzStrNewA(WideString(u"abc"));
-    EXPECT_STREQ(Converted, "abc");
-    QzStrDispose(Converted);
+    QzStrDispose(static_cast<char*>(nullptr));
 }
 
 TEST(Designing, IsByTheNameOfTheProgram) {
@@ -338,7 +299,6 @@ TEST(Designing, IsByTheNameOfTheProgram) {
     QzSetDesignHost(u"TESTS_common");
     EXPECT_TRUE(IsDesigning());
     QzSetDesignHost(u"");
-    EXPECT_FALSE(IsDesigning());
 }
 
 } // namespace
