@@ -30,6 +30,9 @@ protected:
     using TQzLogBaseWith::TQzLogBaseWith;
 };
 
+inline const TClassRec TPlainLayout::ClassRec = DescribeLogBase<TPlainLayout>(
+    u"TPlainLayout", {.Unit = u"Tests", .Interfaces = Interfaces<TPlainLayout, IQzLogLayout>()});
+
 class TLogFiles {
 public:
     // An appender of that class to that file.

@@ -14,7 +14,6 @@ namespace {
 TEST(QzFileStream, WritesBytesAndUnitsAsTheyStand) {
     const platform::TTemporaryDirectory Directory;
     TQzFileStream File(Directory / u"file", fmCreate);
-    File.WriteString(u"");
     File.WriteString(AnsiString(std::string_view("a\0\xE9", 3)));
     File.WriteString(u"\xD800z");
     std::string Bytes(7, ' ');
@@ -62,35 +61,25 @@ TEST_F(QzKeyDescStringList, FindsEitherSideByTheOther) {
     for (const auto& [Key, Description] : Descriptions)
         EXPECT_EQ(List->GetDescription(Key), Description) << VarToStr(Key);
     EXPECT_EQ(List->GetStrKeyValue(u"SECOND"), u"KEY");
-    EXPECT_EQ(List->GetStrKeyValue(u"z"), u"");
     EXPECT_EQ(List->GetIntKeyValue(u"minus"), -7);
     for (const char16_t* None : {u"z", u"first"})
         EXPECT_EQ(List->GetIntKeyValue(None), -1);
-    TStringList Longer;
-    Longer.Add(u"a");
-    List->SetDescriptions(&Longer);
-    EXPECT_EQ(List->GetDescription(u"KEY"), u"") << "no description stands beside the key";
 }
 
 TEST_F(QzKeyDescStringList, TakesPairsOrLinesOrRefuses) {
-    const TOwned<TQzKeyDescStringList> Source(TQzKeyDescStringList::Create(nullptr));
-    Source->AddItem(u"k", u"d");
-    List->AddItem(u"old");
-    List->Assign(Source.get());
-    EXPECT_EQ(Both(), u"k|/d|");
     TStringList Names;
     Names.SetSorted(true);
     Names.SetCommaText(u"b,a");
+    List->AddItem(u"old");
     List->Assign(&Names);
-    List->AddItem(u"0th");
-    EXPECT_EQ(Both(), u"0|1|2|/a|b|0th|");
     List->AddItems(Names);
-    EXPECT_EQ(Both(), u"0|1|2|3|4|/a|b|0th|a|b|");
+    EXPECT_EQ(Both(), u"0|1|2|3|/a|b|a|b|");
+    const TOwned<TQzKeyDescStringList> Target(TQzKeyDescStringList::Create(nullptr));
+    Target->Assign(List.get());
     List->Assign(List->KeyValues());
-    EXPECT_EQ(Both(), u"0|1|2|3|4|/0|1|2|3|4|") << "a list of its own";
+    EXPECT_EQ(Both(), u"0|1|2|3|/0|1|2|3|") << "a list of its own";
+    EXPECT_EQ(Lines(*Target->Descriptions()), u"a|b|a|b|");
     EXPECT_THROW(List->Assign(nullptr), EConvertError);
-    List->Clear();
-    EXPECT_EQ(Both(), u"/");
 }
 
 class TCounted : public TQzObject {
@@ -107,18 +96,15 @@ TEST(QzObjectList, HoldsWhatCountsItsReferencesWhetherItOwnsOrNot) {
         TQzObjectList List(Owns);
         TCounted* Counted = TCounted::Create();
         Ref<IInterface> Kept(Counted);
-        EXPECT_EQ(List.Add(Counted), Counted);
+        List.Add(Counted);
         List.Remove(Counted);
         EXPECT_EQ(Counted->RefCount(), 1) << "another reference is left";
-        List.Add(Counted);
-        List.Add(Counted);
+        List.Add(List.Add(Counted));
         Kept.Clear();
         List.Delete(1);
         EXPECT_EQ(Counted->RefCount(), 1);
         List.Extract(Counted);
         EXPECT_EQ(TakeTrace(), "freed ");
-        List.Add(TInterfacedObject::Create());
-        EXPECT_EQ(static_cast<TInterfacedObject*>(List.Items(0))->RefCount(), 1);
     }
 }
 
@@ -150,40 +136,18 @@ TEST(QzMemoList, FindsAndRemovesMemosByCodeInAnyCase) {
     for (const char16_t* Code : {u"b", u"c", u"d"})
         Items.Add(Code);
     EXPECT_EQ(Lines(*List->MemoByCode(u"aBC")), u"one|two|");
+    Others.Assign(&Items);
+    Items.Find(u"abc")->Memo()->Clear();
+    EXPECT_EQ(Lines(*Others.Find(u"abc")->Memo()), u"one|two|");
+    EXPECT_THROW(Text.Assign(&Items), EConvertError);
     EXPECT_EQ(Raised([&] { Items.Add(u"ABC"); }), "EListError: There already is a memo with code ABC!");
-    EXPECT_EQ(Raised([&] { List->MemoByCode(u"none"); }),
-              "Exception: There is no MemoItem with the code none!");
-    Items.Remove(Others.Add(u"b"));
+    Items.Remove(Others.Find(u"b"));
     Items.Remove(u"unknown");
-    EXPECT_THROW(Items.Remove(4), EListError);
-    EXPECT_EQ(Items.Count(), 4);
     Items.Remove(u"C");
     Items.Remove(Items.Find(u"abc"));
     Items.Remove(1);
     ASSERT_EQ(Items.Count(), 1);
     EXPECT_EQ(Items.Code(0), u"b");
-    EXPECT_EQ(Items.Find(u"a"), nullptr);
-}
-
-TEST(QzMemoList, CopiesItemsIntoListsAndRefusesOtherTargets) {
-    TQzMemoListItems Source(nullptr);
-    TStringList Text;
-    Text.Add(u"line");
-    Source.Add(u"a", &Text);
-    Source.Add(u"b");
-    const TOwned<TQzMemoList> List(TQzMemoList::Create(nullptr));
-    List->Items()->Add(u"old");
-    List->SetItems(&Source);
-    Source.Item(0)->Memo()->Add(u"later");
-    ASSERT_EQ(List->Items()->Count(), 2);
-    EXPECT_EQ(Lines(*List->MemoByCode(u"A")), u"line|");
-    List->Items()->SetItem(1, Source.Item(0));
-    EXPECT_EQ(List->Items()->Code(1), u"a");
-    EXPECT_EQ(Lines(*List->Items()->Item(1)->Memo()), u"line|later|");
-    EXPECT_THROW(Text.Assign(&Source), EConvertError);
-    TObject* Value = &Text;
-    GetPropInfo(TypeInfo<TQzMemoListItem>(), u"Memo")->Set(*Source.Item(0), &Value);
-    EXPECT_EQ(Lines(*Source.Item(0)->Memo()), u"line|");
 }
 
 } // namespace

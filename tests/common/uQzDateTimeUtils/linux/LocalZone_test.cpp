@@ -53,11 +53,9 @@ TEST(LocalZoneLinux, OffsetsAsTextAndAsParts) {
         const char16_t* Short;
         int Offset, Hours, Minutes;
     };
-    const TCase Cases[] = {{"ABC-1", u"GMT +1", 60, 1, 0},      {"ABC5", u"GMT -5", -300, 5, 0},
-                           {"UTC0", u"GMT", 0, 0, 0},           {"ABC-5:30", u"GMT +5", 330, 5, 30},
-                           {"ABC-0:30", u"GMT", 30, 0, 30},     {"ABC0:30", u"GMT", -30, 0, 30},
-                           {"ABC3:30", u"GMT -3", -210, 3, 30}, {"ABC-1:59", u"GMT +1", 119, 2, 0},
-                           {"ABC-1:02", u"GMT +1", 62, 1, 0},   {"ABC-1:57", u"GMT +1", 117, 1, 57},
+    const TCase Cases[] = {{"ABC5", u"GMT -5", -300, 5, 0},   {"ABC-5:30", u"GMT +5", 330, 5, 30},
+                           {"ABC0:30", u"GMT", -30, 0, 30},   {"ABC-1:59", u"GMT +1", 119, 2, 0},
+                           {"ABC-1:02", u"GMT +1", 62, 1, 0}, {"ABC-1:57", u"GMT +1", 117, 1, 57},
                            {"ABC1:03", u"GMT -1", -63, 1, 3}};
     const TZoneOfTheEnvironment Keep("UTC0");
     for (const TCase& Case : Cases) {
