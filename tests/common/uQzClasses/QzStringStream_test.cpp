@@ -82,11 +82,12 @@ TEST_F(QzStringStream, AddsAnotherStreamAndTakesItOver) {
     Other.SetPosition(1);
     Stream.Add(Other);
     EXPECT_EQ(Content(Stream), "€z");
+    Other.Add(Stream);
     Stream.Assign(Other);
     Stream.Assign(Stream);
-    EXPECT_EQ(Content(Stream), "\x80z");
+    EXPECT_EQ(Content(Stream), "\x80\x80z");
     EXPECT_EQ(Stream.FCodePage, 0);
-    EXPECT_EQ(Stream.Position(), 1);
+    EXPECT_EQ(Stream.Position(), 3);
 }
 
 TEST_F(QzStringStream, ChangesItsCodePageWithOrWithoutItsContent) {

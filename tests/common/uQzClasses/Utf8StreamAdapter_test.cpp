@@ -69,10 +69,6 @@ TEST(Utf8StreamAdapter, WritesAMarkOnceAndTellsWhetherAllWasTaken) {
     EXPECT_EQ(Adapter.Seek(-2, soCurrent), 14);
     Target.SetPosition(8);
     EXPECT_EQ(Adapter.Write(u"abc", 6), 0);
-    TSmallStream Full(2);
-    TQzUTF8StreamAdapter First(&Full, false);
-    EXPECT_EQ(First.Write(u"a", 2), 0);
-    EXPECT_TRUE(First.FWriteUTF8Prefix);
     TQzMemoryStream Plain(16);
     TQzUTF8StreamAdapter(&Plain, false, false).Write(u"\U0001F600", 4);
     EXPECT_EQ(Content(Plain), "\U0001F600");

@@ -198,7 +198,6 @@ TEST(Calendar, BadInputIsRefused) {
 // A sum of a date and days is a double, and is a date.
 TEST(Calendar, IntegersAreYearsAndFloatsAreDates) {
     EXPECT_EQ(QzBOYear(At(20231231, 12) + 1), At(20240101));
-    EXPECT_EQ(QzEOYear(TDate(At(20231231, 12))), At(20231231));
     EXPECT_EQ(QzDaysInYear(2024L), 366);
     constexpr std::uint16_t cMost = 65535;
     EXPECT_EQ(QzEncodeDuration(cMost, cMost, cMost, cMost, cMost, cMost, cMost, true),

@@ -26,41 +26,33 @@ public:
         EXPECT_EQ(AProgram, ProgramFileName());
     }
     std::uintptr_t OpenSource(std::u16string_view AName) noexcept override {
-        const TCall Call(*this);
-        Trace += Format(u"open(%s) ", {AName});
+        Record(Format(u"open(%s) ", {AName}));
         return Refuses ? 0 : ++Sources;
     }
     void CloseSource(std::uintptr_t ASource) noexcept override {
-        const TCall Call(*this);
-        if (ASource != 0)
-            Trace += Format(u"close(%d) ", {static_cast<int>(ASource)});
+        Record(ASource == 0 ? UnicodeString() : Format(u"close(%d) ", {static_cast<int>(ASource)}));
     }
     bool Write(std::uintptr_t ASource, platform::TEventType AType, std::uint32_t AId,
                std::u16string_view AText, std::int32_t) noexcept override {
-        const TCall Call(*this);
-        Trace += Format(u"%d:%d,%d,%s ", {static_cast<int>(ASource), static_cast<int>(AType), AId, AText});
+        Record(Format(u"%d:%d,%d,%s ", {static_cast<int>(ASource), static_cast<int>(AType), AId, AText}));
         return !Loses;
     }
     UnicodeString Take() { return std::exchange(Trace, {}); }
 
-    UnicodeString Trace;
     std::uintptr_t Sources = 0;
     bool Refuses = false;
     bool Loses = false;
-    std::atomic<int> Calls{0};
     std::atomic<int> Overlaps{0};
 
 private:
-    struct TCall {
-        explicit TCall(TRecorder& ALog) : Log(ALog) {
-            Log.Overlaps += Log.Calls++;
-            std::this_thread::yield();
-        }
-        TCall(const TCall&) = delete;
-        TCall& operator=(const TCall&) = delete;
-        ~TCall() { --Log.Calls; }
-        TRecorder& Log;
-    };
+    void Record(const UnicodeString& ACall) {
+        Overlaps += Calls++;
+        std::this_thread::yield();
+        Trace += ACall;
+        --Calls;
+    }
+    UnicodeString Trace;
+    std::atomic<int> Calls{0};
 };
 
 TRecorder* GRecorder = nullptr;

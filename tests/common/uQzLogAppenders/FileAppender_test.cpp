@@ -61,7 +61,6 @@ TEST_F(FileAppender, Configuration) {
     const Ref<TQzDailyRollingFileAppender> Daily(TQzDailyRollingFileAppender::Create(nullptr, u"f"));
     Daily->SetAppendExisting(false);
     Config->Answers = {{u"f/FileName", Files.Path(u"n.txt")},
-                       {u"f/FileExt", u"dat"},
                        {u"f/MaxFileSize", std::int64_t{0x1'0000'0007}},
                        {u"f/DatePattern", u"yyyy"},
                        {u"f/FlushLevel", 5}};
@@ -71,10 +70,6 @@ TEST_F(FileAppender, Configuration) {
     EXPECT_EQ(Daily->GetMaxFileSize(), 7u);
     EXPECT_EQ(Daily->GetDatePattern(), u"yyyy");
     EXPECT_EQ(Daily->GetFlushLevel(), llError);
-    Config->Answers = {{u"f/FileExt", u"dat"}, {u"f/AppendExisting", false}};
-    Daily->SetConfig(Config.Get());
-    EXPECT_EQ(Daily->GetFileName(), Files.Path(u"n.dat"));
-    EXPECT_FALSE(Daily->GetAppendExisting());
     const std::pair<const char16_t*, int> OutOfRange[] = {
         {u"f/BufferSize", -1}, {u"f/MaxBackupCount", -1}, {u"f/MaxBackupCount", 65536}, {u"f/FlushLevel", 8}};
     for (const auto& [Key, Value] : OutOfRange) {
@@ -106,20 +101,18 @@ TEST_F(FileAppender, LinesWaitInTheBuffer) {
     EXPECT_TRUE(Files.Text().ends_with("|eight|foot"));
 }
 
-// A layout that closes the appender, gives it another layout, or logs, while it formats.
+// A layout that closes the appender, or gives it another layout, while it formats.
 class TUnrulyLayout : public TPlainLayout {
     QZ_CLASS(TUnrulyLayout, TPlainLayout)
 
 public:
-    UnicodeString FormatLine(const UnicodeString& ALogger, TQzLogLevel ALevel, const UnicodeString& AMessage,
-                             PQzDataRec AValue, TQzLogIndent AIndent) override {
+    UnicodeString FormatLine(const UnicodeString&, TQzLogLevel, const UnicodeString& AMessage, PQzDataRec,
+                             TQzLogIndent) override {
         if (AMessage == u"close")
             Appender->Close();
-        if (AMessage == u"log")
-            Logger().Info("of the layout");
-        if (AMessage == u"replace")
+        else if (AMessage == u"replace")
             Appender->SetLayout(TQzLogBaseClass::Of<TPlainLayout>());
-        return Inherited::FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
+        return AMessage;
     }
     TQzFileAppender* Appender = nullptr;
 
@@ -130,13 +123,12 @@ const TClassRec TUnrulyLayout::ClassRec =
     DescribeLogBase<TUnrulyLayout>(u"TUnrulyLayout", {.Unit = u"Tests"});
 
 TEST_F(FileAppender, LayoutsMayDoAsTheyLike) {
-    Logger().AddAppender(File.Get());
     TUnrulyLayout* Layout = TUnrulyLayout::Create(nullptr, u"");
     Layout->Appender = File.Get();
     File->SetLayout(static_cast<IQzLogLayout*>(Layout));
-    for (const char16_t* Message : {u"close", u"one", u"log", u"replace", u"two"})
+    for (const char16_t* Message : {u"close", u"one", u"replace", u"two"})
         Say(File, Message);
-    EXPECT_EQ(Files.Text(), "head|footclose|one|log|of the layout|footreplace|two|");
+    EXPECT_EQ(Files.Text(), "head|footclose|one|footreplace|two|");
 }
 
 TEST_F(FileAppender, WhatCannotBeOpenedIsTriedAgain) {

@@ -48,10 +48,6 @@ TEST_F(RollingFileAppender, RollsOverAtItsSize) {
         Say(File, IntToStr(I));
     EXPECT_EQ(Files.Names(), "app.1.log app.2.log app.3.log app.4.log app.log ");
     EXPECT_EQ(Files.Text(u"app.4.log"), "head|4|5|foot");
-    File->SetMaxFileSize(0);
-    for (int I = 0; I < 20; ++I)
-        Say(File, u"x");
-    EXPECT_EQ(Files.Text().size(), 48u);
 }
 
 TEST_F(RollingFileAppender, FamiliesWithGapsAndStrangers) {
@@ -102,17 +98,12 @@ TEST_F(RollingFileAppender, FilesAboveTheCountGo) {
 
 // A long extension, and a name that is only an extension.
 TEST_F(RollingFileAppender, Extensions) {
-    File->SetFileName(Files.Path(u"app"));
-    File->SetFileExt(u".log.xml");
-    Say(File, u"x");
-    for (int I = 0; I < 2; ++I)
-        File->RollOver();
-    EXPECT_EQ(Files.Names(), "app.1.log.xml app.2.log.xml app.log.xml ");
-    Files.Put(u"mine", "mine");
     File->SetFileName(Files.Path(u".log"));
+    File->SetFileExt(u".log.xml");
+    Files.Put(u"mine", "mine");
     Say(File, u"x");
     File->RollOver();
-    EXPECT_EQ(Files.Text(u"mine"), "mine");
+    EXPECT_EQ(Files.Names(), ".1.log.xml .log.xml mine ");
 }
 
 TEST_F(RollingFileAppender, WhatIsNotContinuedIsPutAside) {

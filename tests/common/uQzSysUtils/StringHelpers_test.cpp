@@ -171,19 +171,11 @@ TEST(Compare, Texts) {
 }
 
 TEST(Compare, VariantsByValueAndType) {
-    const auto Check = [](bool AEqual, bool ASame, const auto&... AValues) {
-        const Variant Values[] = {Variant(AValues)...}; // by pairs
-        for (std::size_t I = 0; I < std::size(Values); I += 2) {
-            SCOPED_TRACE(VarToStr(Values[I]) + u" and " + VarToStr(Values[I + 1]));
-            EXPECT_EQ(Values[I] == Values[I + 1], AEqual);
-            EXPECT_EQ(Values[I + 1] == Values[I], AEqual);
-            EXPECT_EQ(QzSameVar(Values[I], Values[I + 1]), ASame);
-        }
-    };
-    Check(true, true, 1, 1, Variant::Null(), Variant::Null());
-    Check(true, false, 1, 1.0, 1, u"1", -1, true, u"é", AnsiString(UnicodeString(u"é")), Variant(), 0);
-    Check(false, false, -1, UINT64_MAX, u"a", u"A", Variant::Null(), Variant(), NAN, NAN);
-    EXPECT_THROW(static_cast<void>(Variant(1) == Variant(u"one")), EVariantTypeCastError);
+    EXPECT_TRUE(QzSameVar(1, 1) && QzSameVar(Variant::Null(), Variant::Null()));
+    const std::pair<Variant, Variant> Others[] = {
+        {1, 1.0}, {1, u"1"}, {Variant(), 0}, {u"a", u"A"}, {Variant::Null(), Variant()}, {NAN, NAN}};
+    for (const auto& [Left, Right] : Others)
+        EXPECT_FALSE(QzSameVar(Left, Right)) << VarToStr(Left);
     EXPECT_THROW(static_cast<void>(QzSameVar(VarArrayOf({}), VarArrayOf({}))), EVariantInvalidOpError);
 }
 

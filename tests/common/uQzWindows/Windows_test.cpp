@@ -30,8 +30,7 @@ TEST(WindowsVersion, NumberFollowsTheFacts) {
     struct TCase {
         std::uint32_t Major, Minor, Pack;
         bool IsWorkstation;
-        const char16_t* Build;
-        const char16_t* Version;
+        const char16_t *Build, *Version;
         int Expected;
     };
     const TCase Cases[] = {
@@ -97,7 +96,6 @@ TEST(FileTimes, AreDatesInUtc) {
         EXPECT_EQ(Parts(Date), std::pair(Day, MSecs));
         EXPECT_EQ(QzDateTimeToFileTime(Date), FileTime);
     }
-    EXPECT_EQ(Parts(QzFileTimeToDateTime(c1970 + 10'000)), Parts(QzFileTimeToDateTime(c1970 + 19'999)));
     EXPECT_THROW(QzFileTimeToDateTime(-1), EOSError);
     EXPECT_THROW(QzFileTimeToDateTime(std::numeric_limits<std::int64_t>::max()), EConvertError);
     EXPECT_THROW(QzDateTimeToFileTime(EncodeDate(1600, 12, 31)), EOSError);
@@ -147,11 +145,9 @@ TEST(FileNames, LoseWhatNoSystemTakes) {
         EXPECT_EQ(QzCleanupFileName(Name, Extra), Expected);
 }
 
-TEST(Accounts, UserComputerAndThreadAreKnown) {
+TEST(Accounts, UserAndComputerAreKnown) {
     UnicodeString Domain;
-    EXPECT_FALSE(QzGetComputerName().IsEmpty());
-    EXPECT_FALSE(QzGetUserName(Domain).IsEmpty());
-    EXPECT_FALSE(Domain.IsEmpty());
+    EXPECT_FALSE(QzGetComputerName().IsEmpty() || QzGetUserName(Domain).IsEmpty() || Domain.IsEmpty());
     EXPECT_NE(QzGetElevationLevel(), elDefault);
 }
 
