@@ -96,6 +96,8 @@ TEST(TextParser, LooksAheadBeyondControlCharacters) {
         AParser.NextChar();
         EXPECT_EQ(AParser.ReadChar(), u'b');
         EXPECT_EQ(AParser.CurrChar(), u'\t');
+        EXPECT_EQ(AParser.PeekCharA(), 'c');
+        EXPECT_EQ(AParser.PrevCharA(), 'b');
         AParser.NextChar();
         EXPECT_EQ(AParser.PeekChar(), u'\0');
         EXPECT_FALSE(AParser.Eof());

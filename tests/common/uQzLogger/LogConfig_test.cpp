@@ -120,15 +120,6 @@ TEST_F(LogConfig, AListKeepsEachAppenderOnce) {
     EXPECT_EQ(List.GetAppender(0), Second);
 }
 
-TEST_F(LogConfig, AFreedAppenderLeavesAllLists) {
-    const Ref<IQzLogger> Log = Logger().GetLogger("a");
-    TMemoryAppender* const Freed = TMemoryAppender::Create(nullptr, u"");
-    Log->AddAppender(Freed);
-    Logger().AddAppender(Freed);
-    Freed->Free();
-    EXPECT_EQ(Log->GetAppenders()->Count() + Logger().GetAppenders()->Count(), 0);
-}
-
 // While another reference exists, Free raises, and the appender may be added again.
 TEST_F(LogConfig, ARefusedAppenderMayBeAddedAgain) {
     Logger().SetLevel(llAll);

@@ -174,19 +174,6 @@ TEST_F(LoggerAppenders, AppendersMayEndBadly) {
     EXPECT_EQ(Logger().GetAppenders()->Count(), 0);
 }
 
-TEST_F(LoggerAppenders, AThreadThatHoldsALockLogsAtOnce) {
-    Log->LockAppenders();
-    Top.LockAppenders();
-    Log->Info("x");
-    EXPECT_EQ(Root.Take(), u"root.a>root Info x|");
-    Top.UnLockAppenders();
-    Log->UnLockAppenders();
-    Top.Lock(u"", true);
-    Log->Info("y");
-    EXPECT_EQ(Root.Take(), u"root.a>root Info y|");
-    Top.Unlock();
-}
-
 TEST_F(LoggerAppenders, LoggersOutliveTheirTree) {
     const Ref<IQzLogger> Child = Log->GetLogger("b");
     Top.SetLevel(llFatal);
