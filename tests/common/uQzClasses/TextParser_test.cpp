@@ -113,6 +113,7 @@ TEST(TextParser, RaisesWhereTheEndCutsAForm) {
     Parser.Next();
     EXPECT_THROW(Parser.CurrChar(), EQzTextParserEOF);
     EXPECT_THROW(Parser.SkipWhile(sopGt, u' '), EQzTextParserEOF);
+    EXPECT_THROW(Parser.Next(), EQzTextParserEOF);
     Parser.First();
     EXPECT_THROW(Parser.PeekChar(), EQzTextParserEOF);
     EXPECT_EQ(Parser.ReadChar(), u'a');

@@ -133,14 +133,8 @@ TEST(Calendar, MovesKeepTheTimeOfDay) {
 }
 
 TEST(Calendar, WeeksByNumber) {
-    const struct {
-        int Date;
-        std::u16string_view Text;
-    } cCases[] = {{20181231, u"201853"}, {10101, u"000101"}};
-    for (const auto& Case : cCases) {
-        EXPECT_EQ(QzWeekOfYear(At(Case.Date), true), Case.Text);
-        EXPECT_EQ(QzWeekOfYear(At(Case.Date), false), Case.Text.substr(4));
-    }
+    EXPECT_EQ(QzWeekOfYear(At(20181231), true), u"201853");
+    EXPECT_EQ(QzWeekOfYear(At(10101), true) + QzWeekOfYear(At(10101), false), u"00010101");
     EXPECT_EQ(QzWeekToDate(2021, 1), At(20210104));
     EXPECT_EQ(QzEOWeek(2021, 1), At(20210110));
     EXPECT_EQ(QzWeekToDate(2020, 0), At(20191223));
@@ -161,14 +155,10 @@ TEST(Calendar, AgesAndDifferences) {
 }
 
 TEST(Calendar, TimesRoundedUp) {
-    const std::tuple<TDateTime, int, TDateTime> Cases[] = {
-        {At(20240229, 10, 50, 30), 15, At(20240229, 11)},
-        {At(20240229, 12, 0, 59, 999), 1, At(20240229, 12)},
-        {At(18500228, 10, 46), 15, At(18500228, 11)},
-        {At(20240229, 10, 0, 7), INT32_MAX, At(20240229, 10)},
-    };
-    for (const auto& [Time, Interval, Rounded] : Cases)
-        EXPECT_EQ(QzRoundTime(Time, Interval), Rounded) << Time << " " << Interval;
+    EXPECT_EQ(QzRoundTime(At(20240229, 10, 50, 30), 15), At(20240229, 11));
+    EXPECT_EQ(QzRoundTime(At(20240229, 12, 0, 59, 999), 1), At(20240229, 12));
+    EXPECT_EQ(QzRoundTime(At(18500228, 10, 46), 15), At(18500228, 11));
+    EXPECT_EQ(QzRoundTime(At(20240229, 10, 0, 7), INT32_MAX), At(20240229, 10));
 }
 
 TEST(Calendar, BadInputIsRefused) {

@@ -2,20 +2,10 @@
 
 #include "tests/common/support/MemoryAppender.h"
 #include "tests/support/Message.h"
+#include <qz/common/uQzDateTimeUtils.h>
 #include <qz/common/uQzLogger.h>
 #include <qz/runtime/text/Format.h>
 #include <qz/runtime/values/VariantArray.h>
-
-namespace qz {
-namespace {
-
-enum class TShade : std::uint8_t { shLight, shDark };
-constexpr TEnumItem cShades[] = {{u"shLight", 0}, {u"shDark", 1}};
-
-} // namespace
-} // namespace qz
-
-template <> struct qz::TTypeDescription<qz::TShade> { static const qz::TTypeInfo Info; };
 
 namespace qz {
 namespace {
@@ -31,7 +21,7 @@ public:
 
     std::int32_t FNumber = 17;
     double FRatio = 0.5;
-    TShade FShade = TShade::shDark;
+    TQzDatePeriod FPeriod = dpDay;
     UnicodeString FText = u"16 bits are not shown";
     AnsiString FNarrow{AnsiString("eight bits")};
     std::int64_t FLong = 1;
@@ -44,7 +34,7 @@ constexpr TPropInfo cSampleProps[] = {
     Property<&TSample::GetBad, &TSample::SetBad>(u"Bad"),
     ReadOnly<&TSample::GetFixed>(u"Fixed"),
     Property<&TSample::FRatio, &TSample::FRatio>(u"Ratio"),
-    Property<&TSample::FShade, &TSample::FShade>(u"Shade"),
+    Property<&TSample::FPeriod, &TSample::FPeriod>(u"Period"),
     Property<&TSample::FText, &TSample::FText>(u"Text"),
     Property<&TSample::FNarrow, &TSample::FNarrow>(u"Narrow"),
     Property<&TSample::FLong, &TSample::FLong>(u"Long"),
@@ -78,7 +68,7 @@ TEST(LogFamilies, EachMakesItsMessage) {
         {[&] { Log.EnterMethod(&Object, "Run %d", {4}, llInfo); }, u"Info TSample.Run 4 {|"},
         {[&] { Log.EnterMethod(static_cast<TObject*>(nullptr), "x"); }, u"Trace nil.x {|"},
         {[&] { Log.Log(llFatal, "m", true, liIndentIncrease); }, u"Fatal m=True {|"},
-        {[&] { Log.LogValue(llFatal, "m", TShade::shDark); }, u"Fatal m=shDark|"},
+        {[&] { Log.LogValue(llFatal, "m", dpDay); }, u"Fatal m=dpDay|"},
         {[&] { Log.Log(Data); }, u"Warn kept|"},
         {[&] { const TQzMethodScope Scope(&Log, &Object, "Run%"); },
          u"Trace TSample.Run% {|root>root Trace TSample.Run% }|"},
@@ -96,26 +86,24 @@ TEST(DataRec, DumpsPublishedProperties) {
     TSample Inner;
     Outer.FInner = &Inner;
     Inner.FInner = &Outer; // a cycle ends at its first object
-    Inner.FShade = static_cast<TShade>(7);
-    const auto Lines = [](const UnicodeString& AIndent, const char16_t* AShade) {
+    Inner.FPeriod = static_cast<TQzDatePeriod>(77);
+    const auto Lines = [](const UnicodeString& AIndent, const char16_t* APeriod) {
         UnicodeString Result;
         for (const UnicodeString Line :
              {u"Number = 17",
               u"Exception EConvertError(no value) was raised while trying to read property: Bad",
-              u"Ratio = 0.5", AShade, u"Narrow = eight bits", u"Any = 1\r\ntwo\r\n"})
+              u"Ratio = 0.5", APeriod, u"Narrow = eight bits", u"Any = 1\r\ntwo\r\n"})
             Result += AIndent + Line + u"\r\n";
         return Result;
     };
     const TValue Value(static_cast<TObject*>(&Outer));
     EXPECT_EQ(QzDataRecToString(&Value),
-              u"object : TSample\r\n" + Lines(u"  ", u"Shade = shDark") + u"  object : TSample\r\n" +
-                  Lines(u"    ", u"Shade = 7"));
+              u"object : TSample\r\n" + Lines(u"  ", u"Period = dpDay") + u"  object : TSample\r\n" +
+                  Lines(u"    ", u"Period = 77"));
     const TValue Number(5);
     EXPECT_EQ(QzDataRecToString(&Number), u"5");
 }
 
 } // namespace
-
-const TTypeInfo TTypeDescription<TShade>::Info = DescribeEnum<TShade>(u"TShade", u"Tests", cShades);
 
 } // namespace qz

@@ -108,8 +108,7 @@ TEST(QzEncoding, LengthMinusOneEndsBeforeTheTerminator) {
 
 TEST(QzEncoding, IsStrictOnlyWhereItFillsATarget) {
     char16_t Target[8];
-    const char Torn[] = "a\x81"; // a lead byte of page 932
-    EXPECT_THROW(TQzEncoding::ConvertA(Torn, 2, 932, Target, 8), EOSError);
+    EXPECT_THROW(TQzEncoding::ConvertA("a\x81", 2, 932, Target, 8), EOSError); // a lead byte
     const char Overlong[] = "\xC0\xAF\xED\xA0\x80\xF4\x90\x80\x80\xE2\x82";
     EXPECT_EQ(TQzEncoding::ConvertA(Overlong, 11, 65001), UnicodeString(10, u'\uFFFD'));
     EXPECT_EQ(TQzEncoding::ConvertA(Overlong, 11, 65001, nullptr, 0), 10) << "UTF-8 knows no strictness";
@@ -117,7 +116,6 @@ TEST(QzEncoding, IsStrictOnlyWhereItFillsATarget) {
     EXPECT_EQ(TQzEncoding::ConvertB("a\0b\0c", 5, 1200), u"ab") << "half a unit is passed over";
     char Narrow[8];
     EXPECT_EQ(TQzEncoding::ConvertW(u"cafe\u0301", 5, Narrow, 8, 28591), 4) << "a mark is joined";
-    EXPECT_EQ(TQzEncoding::ConvertW(u"cafe\u0301", 5, nullptr, 0, 28591), 4);
     EXPECT_THROW(TQzEncoding::ConvertW(u"cafe\u0301", 5, Narrow, 3, 28591), EOSError);
 }
 
