@@ -57,9 +57,15 @@ public:
         }
         TIterator& operator-=(std::ptrdiff_t ACount) noexcept { return *this += -ACount; }
         UnicodeString operator[](std::ptrdiff_t AOffset) const { return *(*this + AOffset); }
-        friend TIterator operator+(TIterator AFrom, std::ptrdiff_t ACount) noexcept { return AFrom += ACount; }
-        friend TIterator operator+(std::ptrdiff_t ACount, TIterator AFrom) noexcept { return AFrom += ACount; }
-        friend TIterator operator-(TIterator AFrom, std::ptrdiff_t ACount) noexcept { return AFrom -= ACount; }
+        friend TIterator operator+(TIterator AFrom, std::ptrdiff_t ACount) noexcept {
+            return AFrom += ACount;
+        }
+        friend TIterator operator+(std::ptrdiff_t ACount, TIterator AFrom) noexcept {
+            return AFrom += ACount;
+        }
+        friend TIterator operator-(TIterator AFrom, std::ptrdiff_t ACount) noexcept {
+            return AFrom -= ACount;
+        }
         friend std::ptrdiff_t operator-(const TIterator& ALeft, const TIterator& ARight) noexcept {
             return std::ptrdiff_t{ALeft.FIndex} - ARight.FIndex;
         }

@@ -78,9 +78,7 @@ public:
     // Sets the mark. False if it was set.
     bool BeginEnd() noexcept { return (FWord.fetch_or(cEnding, std::memory_order_acq_rel) & cEnding) == 0; }
     // Takes the mark away. True if no reference is left: the last one has gone meanwhile without effect.
-    bool CancelEnd() noexcept {
-        return CountOf(FWord.fetch_and(~cEnding, std::memory_order_acq_rel)) == 0;
-    }
+    bool CancelEnd() noexcept { return CountOf(FWord.fetch_and(~cEnding, std::memory_order_acq_rel)) == 0; }
 
 private:
     static constexpr std::int32_t cEnding = 1 << 30;

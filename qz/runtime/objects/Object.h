@@ -150,7 +150,12 @@ template <class T> struct TMaker {
 
     // Whether an object whose pointer is discarded may have an owner: a component, or a thread.
     static constexpr bool MayDiscard() noexcept {
-        return requires { T::cCreateOnly; } && !requires { T::cMustKeep; };
+        return requires {
+            T::cCreateOnly;
+        }
+        &&!requires {
+            T::cMustKeep;
+        };
     }
 
 private:

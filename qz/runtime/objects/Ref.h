@@ -51,11 +51,12 @@ public:
     // From an object that has the interface by several bases: the one that its class lists.
     template <class T>
         requires(!std::convertible_to<T*, I*> && std::is_base_of_v<I, T> && std::is_base_of_v<TObject, T>)
-    Ref(T* AObject) noexcept
-        : Ref(AObject == nullptr ? nullptr : static_cast<I*>(AObject->FindInterface(I::IID))) {}
+    Ref(T* AObject)
+    noexcept : Ref(AObject == nullptr ? nullptr : static_cast<I*>(AObject->FindInterface(I::IID))) {}
     Ref(const Ref& AOther) noexcept : Ref(AOther.FObject) {}
     Ref(Ref&& AOther) noexcept : FObject(std::exchange(AOther.FObject, nullptr)) {}
-    template <detail::CPointsTo<I> J> Ref(const Ref<J>& AOther) noexcept : Ref(static_cast<I*>(AOther.Get())) {}
+    template <detail::CPointsTo<I> J>
+    Ref(const Ref<J>& AOther) noexcept : Ref(static_cast<I*>(AOther.Get())) {}
     template <detail::CPointsTo<I> J> Ref(Ref<J>&& AOther) noexcept : FObject(AOther.Detach()) {}
     // Assignment takes the new reference before it drops the old one.
     Ref& operator=(Ref AOther) noexcept {

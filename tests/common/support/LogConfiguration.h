@@ -5,6 +5,7 @@
 #include <map>
 
 #include <qz/common/uQzLogger.h>
+#include <qz/runtime/text/NumberText.h>
 
 namespace qz {
 
@@ -35,5 +36,16 @@ private:
     Variant Answer(const UnicodeString& AName, const UnicodeString& AKey, TQzMainTypeKind AKind,
                    const Variant& ADefault);
 };
+
+inline const TClassRec TConfiguration::ClassRec = DescribeClass<TConfiguration>(
+    u"TConfiguration",
+    {.Unit = u"Tests", .Interfaces = Interfaces<TConfiguration, IQzLogConfiguratorEx, IQzLogConfigurator>()});
+
+inline Variant TConfiguration::Answer(const UnicodeString& AName, const UnicodeString& AKey,
+                                      TQzMainTypeKind AKind, const Variant& ADefault) {
+    Asked += AName + u'/' + AKey + u':' + IntToStr(static_cast<int>(AKind)) + u' ';
+    const auto Found = Answers.find(AName + u'/' + AKey);
+    return Found == Answers.end() ? ADefault : Found->second;
+}
 
 } // namespace qz

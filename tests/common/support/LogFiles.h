@@ -2,6 +2,9 @@
 #pragma once
 
 #include <algorithm>
+#include <cstdio>
+#include <map>
+#include <sstream>
 #include <string>
 
 #include "tests/support/TemporaryDirectory.h"
@@ -26,6 +29,9 @@ public:
 protected:
     using TQzLogBaseWith::TQzLogBaseWith;
 };
+
+inline const TClassRec TPlainLayout::ClassRec = DescribeLogBase<TPlainLayout>(
+    u"TPlainLayout", {.Unit = u"Tests", .Interfaces = Interfaces<TPlainLayout, IQzLogLayout>()});
 
 class TLogFiles {
 public:
@@ -67,10 +73,28 @@ private:
     platform::TTemporaryDirectory FDirectory;
 };
 
-// Writes as a logger does.
-inline void Say(IQzLogAppender& AAppender, const UnicodeString& AMessage, TQzLogLevel ALevel = llInfo) {
-    AAppender.Write(u"root", u"root", ALevel, AMessage, nullptr, liIndentNone);
+// The parts between the bars.
+inline std::vector<std::string> LinesOf(const std::string& AText) {
+    std::vector<std::string> Result;
+    std::istringstream Stream(AText);
+    for (std::string Line; std::getline(Stream, Line, '|');)
+        Result.push_back(Line);
+    return Result;
 }
+
+// Counts lines "thread:number" between header and footer. Each must be whole and the next of its thread.
+inline void CountInOrder(const std::string& AText, std::map<int, int>& ANext) {
+    for (const std::string& Line : LinesOf(AText)) {
+        int Thread = 0, Number = 0, Length = 0;
+        if (Line == "head" || Line == "foot")
+            continue;
+        ASSERT_EQ(std::sscanf(Line.c_str(), "%d:%d%n", &Thread, &Number, &Length), 2) << Line;
+        ASSERT_EQ(static_cast<std::size_t>(Length), Line.size()) << Line;
+        ASSERT_EQ(Number, ANext[Thread]++);
+    }
+}
+
+// Writes as a logger does.
 template <class T>
 void Say(const Ref<T>& AAppender, const UnicodeString& AMessage, TQzLogLevel ALevel = llInfo) {
     AAppender->Write(u"root", u"root", ALevel, AMessage, nullptr, liIndentNone);

@@ -53,6 +53,9 @@ protected:
     using TQzBaseAppender::TQzBaseAppender;
 };
 
+inline const TClassRec TMemoryAppender::ClassRec =
+    DescribeLogBase<TMemoryAppender>(u"TMemoryAppender", {.Unit = u"Tests"});
+
 // A tree of loggers for one test.
 class TLogTree {
 public:

@@ -41,8 +41,8 @@ void CheckPeriods(TDateTime ADate, year_month_day ACivil) {
     ASSERT_EQ(QzDaysInMonth(ADate), static_cast<unsigned>(MonthEnd.day()));
     ASSERT_EQ(QzDaysInYear(ADate), Year.is_leap() ? 366 : 365);
     ASSERT_EQ(QzDecodeDate(ADate, dtYear), static_cast<int>(Year));
-    ASSERT_EQ(QzDecodeDate(ADate, dtMonth), static_cast<int>(static_cast<unsigned>(ACivil.month())));
-    ASSERT_EQ(QzDecodeDate(ADate, dtDayOfMonth), static_cast<int>(static_cast<unsigned>(ACivil.day())));
+    ASSERT_EQ(static_cast<unsigned>(QzDecodeDate(ADate, dtMonth)), static_cast<unsigned>(ACivil.month()));
+    ASSERT_EQ(static_cast<unsigned>(QzDecodeDate(ADate, dtDayOfMonth)), static_cast<unsigned>(ACivil.day()));
     ASSERT_EQ(QzDecodeDate(ADate, dtDayOfYear), Of(ACivil) - NewYear + 1);
 }
 
@@ -116,69 +116,38 @@ TEST(Calendar, MonthsAddedKeepTheDayThatExists) {
 
 TEST(Calendar, MovesKeepTheTimeOfDay) {
     const TDateTime Fine = 45000.123456789; // not in whole milliseconds
-    const TDateTime Added[][2] = {
+    const TDateTime Noon = At(20240229, 12);
+    const std::pair<TDateTime, TDateTime> Moved[] = {
         {QzAddMonths(At(20240131, 23, 59, 59, 999), 1), At(20240229, 23, 59, 59, 999)},
-        {QzAddMonths(At(20240131), 13), At(20250228)},
-        {QzAddMonths(At(20240331), -1), At(20240229)},
-        {QzAddMonths(At(18991231, 6), -1), At(18991130, 6)},
         {QzAddMonths(Fine, 0), Fine},
-        {QzAddQuarters(Fine, 0), Fine},
-        {QzAddYears(At(20240229, 7, 8, 9, 10), 1), At(20250228, 7, 8, 9, 10)},
-        {QzAddYears(At(20240229), 4), At(20280229)},
         {QzAddYears(At(20240229, 6), -200), At(18240229, 6)},
         {QzAddWeeks(Fine, -3), Fine - 21},
-        {QzAddDays(At(20240228, 6), 2), At(20240301, 6)},
         {QzAddWeeks(0, INT32_MAX), 7.0 * INT32_MAX},
-        {QzClosestWeekDay(0, wdNext), 0},
+        {QzAddHrs(Noon, -36), At(20240228)},
+        {QzAddMins(Noon, 721), At(20240301, 0, 1)},
+        {QzAddSecs(Noon, 90), At(20240229, 12, 1, 30)},
+        {QzAddMSecs(Noon, -1), At(20240229, 11, 59, 59, 999)},
     };
-    for (const auto& [Result, Expected] : Added)
-        EXPECT_EQ(Result, Expected) << "case " << &Result - &Added[0][0];
-
-    const TDateTime Noon = At(20240229, 12);
-    for (const auto& [Result, Expected] :
-         {std::pair{QzAddHrs(Noon, -36), At(20240228)}, std::pair{QzAddMins(Noon, 721), At(20240301, 0, 1)},
-          std::pair{QzAddSecs(Noon, 90), At(20240229, 12, 1, 30)},
-          std::pair{QzAddMSecs(Noon, -1), At(20240229, 11, 59, 59, 999)}})
-        EXPECT_NEAR(Result, Expected, 1e-9);
+    for (const auto& [Result, Expected] : Moved)
+        EXPECT_NEAR(Result, Expected, 1e-9) << Expected;
 }
 
 TEST(Calendar, WeeksByNumber) {
-    const struct {
-        int Date, Week;
-        std::u16string_view Text;
-    } cCases[] = {
-        {20210101, 1, u"202101"},  {20210104, 1, u"202101"},  {20181231, 53, u"201853"},
-        {20151231, 53, u"201553"}, {20170101, 1, u"201701"},  {20200106, 2, u"202002"},
-        {10101, 1, u"000101"},     {99991231, 52, u"999952"},
-    };
-    for (const auto& Case : cCases) {
-        EXPECT_EQ(QzWeekOfYear(At(Case.Date, 23, 59)), Case.Week) << Case.Date;
-        EXPECT_EQ(QzWeekOfYear(At(Case.Date), true), Case.Text);
-        EXPECT_EQ(QzWeekOfYear(At(Case.Date), false), Case.Text.substr(4));
-    }
+    EXPECT_EQ(QzWeekOfYear(At(20181231), true), u"201853");
+    EXPECT_EQ(QzWeekOfYear(At(10101), true) + QzWeekOfYear(At(10101), false), u"00010101");
     EXPECT_EQ(QzWeekToDate(2021, 1), At(20210104));
     EXPECT_EQ(QzEOWeek(2021, 1), At(20210110));
-    EXPECT_EQ(QzWeekToDate(2020, 1), At(20191230));
     EXPECT_EQ(QzWeekToDate(2020, 0), At(20191223));
-    EXPECT_EQ(QzWeekToDate(2020, 54), At(20210104));
 }
 
 TEST(Calendar, AgesAndDifferences) {
     const struct {
         int Reference, Birth, Age;
-    } cCases[] = {
-        {20240228, 20000229, 23}, {20240229, 20000229, 24},  {20230228, 20000229, 22},
-        {20230301, 20000229, 23}, {20001231, 20000101, 0},   {20000101, 20000229, -1},
-        {19990301, 20000229, -1}, {20240229, 18991230, 124}, {20240229, 18000101, 0},
-    };
+    } cCases[] = {{20240228, 20000229, 23}, {20240229, 20000229, 24},  {20230301, 20000229, 23},
+                  {20000101, 20000229, -1}, {20240229, 18991230, 124}, {20240229, 18000101, 0}};
     for (const auto& Case : cCases)
         EXPECT_EQ(QzAge(At(Case.Reference), At(Case.Birth, 12)), Case.Age) << Case.Reference << Case.Birth;
-    EXPECT_EQ(QzAge(At(20240229), 0), 0);
-    EXPECT_EQ(QzAge(QzAddYears(Now(), -30)), 30);
     EXPECT_EQ(QzCalculateAge(QzAddDays(QzAddYears(Now(), -30), 2)), 29);
-
-    EXPECT_EQ(QzDateCompare(At(20240229, 23, 59, 59, 999), At(20240229)), 0);
-    EXPECT_EQ(QzDateCompare(At(20240228, 23), At(20240301)), -2);
     EXPECT_EQ(QzDateCompare(At(18991230, 18), At(18991229, 18)), 1);
     EXPECT_EQ(QzDateCompare(MaxDateTime, MinDateTime), 3652058);
     EXPECT_EQ(QzDateCompare(At(20240301) - 1e-9, At(20240301)), -1); // cut off
@@ -186,81 +155,40 @@ TEST(Calendar, AgesAndDifferences) {
 }
 
 TEST(Calendar, TimesRoundedUp) {
-    const struct {
-        TDateTime Time;
-        int Interval;
-        TDateTime Rounded;
-    } cCases[] = {
-        {At(20240229, 10, 50, 30), 15, At(20240229, 11)},
-        {At(20240229, 10, 45, 30), 15, At(20240229, 10, 45)},
-        {At(20240229, 12, 0, 59, 999), 1, At(20240229, 12)},
-        {At(20240229, 10, 1), 60, At(20240229, 11)},
-        {At(20240229, 10, 1), 25, At(20240229, 10, 25)},
-        {At(18500228, 10, 46), 15, At(18500228, 11)},
-        {At(20240229, 10, 0, 7), INT32_MAX, At(20240229, 10)},
-    };
-    for (const auto& Case : cCases)
-        EXPECT_EQ(QzRoundTime(Case.Time, Case.Interval), Case.Rounded) << Case.Time << " " << Case.Interval;
+    EXPECT_EQ(QzRoundTime(At(20240229, 10, 50, 30), 15), At(20240229, 11));
+    EXPECT_EQ(QzRoundTime(At(20240229, 12, 0, 59, 999), 1), At(20240229, 12));
+    EXPECT_EQ(QzRoundTime(At(18500228, 10, 46), 15), At(18500228, 11));
+    EXPECT_EQ(QzRoundTime(At(20240229, 10, 0, 7), INT32_MAX), At(20240229, 10));
 }
 
 TEST(Calendar, BadInputIsRefused) {
     const TDateTime Leap = At(20240229, 23, 46);
-    int Index = 0;
-    for (const auto& Call :
-         std::vector<std::function<void()>>{[] { QzBOMonth(0, 1); },
-                                            [] { QzEOMonth(10000, 1); },
-                                            [] { QzDaysInMonth(2024, 13); },
-                                            [] { QzDaysInMonth(2024, 0); },
-                                            [] { QzBOYear(0); },
-                                            [] { QzEOYear(10000); },
-                                            [] { QzBOYear(std::int64_t{1} << 32); },
-                                            [] { QzWeekToDate(2024, INT32_MAX); },
-                                            [] { QzEOWeek(9999, 52); },
-                                            [=] { QzBOWeek(Leap, 0); },
-                                            [=] { QzBOWeek(Leap, 8); },
-                                            [] { QzBOWeek(MinDateTime, 1); },
-                                            [] { QzEOWeek(MaxDateTime - 1); },
-                                            [=] { QzAddYears(Leap, 7976); },
-                                            [=] { QzAddYears(Leap, INT32_MIN); },
-                                            [=] { QzAddQuarters(Leap, INT32_MAX); },
-                                            [=] { QzRoundTime(Leap, 0); },
-                                            [=] { QzRoundTime(Leap, -15); },
-                                            [=] { QzRoundTime(Leap, 15); },
-                                            [] { QzRoundTime(At(20240229, 10, 51), 25); },
-                                            [=] { QzDecodeDate(Leap, static_cast<TQzDecodeType>(9)); }})
-        EXPECT_THROW(Call(), EConvertError) << "call " << Index++;
-    for (const TDateTime Bad : {std::nan(""), double{INFINITY}, -1e300, MinDateTime - 1, 2958466.0}) {
+    const std::function<void()> Calls[] = {[] { QzBOMonth(0, 1); },
+                                           [] { QzBOYear(std::int64_t{1} << 32); },
+                                           [] { QzWeekToDate(2024, INT32_MAX); },
+                                           [] { QzEOWeek(9999, 52); },
+                                           [=] { QzBOWeek(Leap, 8); },
+                                           [] { QzBOWeek(MinDateTime, 1); },
+                                           [] { QzEOWeek(MaxDateTime - 1); },
+                                           [=] { QzAddYears(Leap, 7976); },
+                                           [=] { QzAddQuarters(Leap, INT32_MAX); },
+                                           [=] { QzRoundTime(Leap, 0); },
+                                           [=] { QzRoundTime(Leap, 15); },
+                                           [] { QzRoundTime(At(20240229, 10, 51), 25); },
+                                           [=] { QzDecodeDate(Leap, static_cast<TQzDecodeType>(9)); }};
+    for (const auto& Call : Calls)
+        EXPECT_THROW(Call(), EConvertError) << "call " << &Call - Calls;
+    for (const TDateTime Bad : {std::nan(""), double{INFINITY}, MinDateTime - 1, 2958466.0}) {
         EXPECT_THROW(QzBOMonth(Bad), EConvertError) << Bad;
-        EXPECT_THROW(QzBOWeek(Bad, 1), EConvertError) << Bad;
-        EXPECT_THROW(QzAddMonths(Bad, 0), EConvertError) << Bad;
         EXPECT_THROW(QzDateCompare(0, Bad), EConvertError) << Bad;
         EXPECT_THROW(QzRoundTime(Bad, 5), EConvertError) << Bad;
-        EXPECT_THROW(QzAge(Bad, 1), EConvertError) << Bad;
     }
-    EXPECT_EQ(QzDaysInMonth(-4, 2), 29); // the rule for leap years goes on
 }
 
 // A sum of a date and days is a double, and is a date.
 TEST(Calendar, IntegersAreYearsAndFloatsAreDates) {
-    const TDateTime Last = At(20231231, 12);
-    EXPECT_EQ(QzBOYear(Last + 1), At(20240101));
-    EXPECT_EQ(QzDaysInYear(Last + 1), 366);
-    EXPECT_EQ(QzEOYear(TDate(Last)), At(20231231));
-    EXPECT_EQ(QzFirstThursdayOfYear(TQzUTCDate(Last)), At(20230105));
-    EXPECT_EQ(QzBOYear(std::uint16_t{2024}), At(20240101));
+    EXPECT_EQ(QzBOYear(At(20231231, 12) + 1), At(20240101));
     EXPECT_EQ(QzDaysInYear(2024L), 366);
-}
-
-TEST(Calendar, TypesAreTypesOfTheirOwn) {
-    static_assert(!std::is_same_v<TQzUTCDateTime, TDateTime> && sizeof(TQzUTCDate) == sizeof(TDateTime));
-    EXPECT_EQ(TypeInfo<TQzUTCDateTime>()->QualifiedName(), u"uQzDateTimeUtils.TQzUTCDateTime");
-    EXPECT_EQ(TypeInfo<TQzUTCTime>()->Kind, tkFloat);
-    EXPECT_EQ(TypeInfo<TQzDatePeriod>()->Items[7].Name, u"dpDay");
-    const auto Fields = TypeInfo<TQzDuration>()->Fields;
-    ASSERT_EQ(Fields.size(), 3u);
-    EXPECT_EQ(Fields[1].Offset(), offsetof(TQzDuration, Months));
-
-    EXPECT_EQ(QzEncodeDuration(1, 2, 3, 0, 0, 1, 500, false), TQzDuration(14, 259201.5, false));
     constexpr std::uint16_t cMost = 65535;
     EXPECT_EQ(QzEncodeDuration(cMost, cMost, cMost, cMost, cMost, cMost, cMost, true),
               TQzDuration(851955, 5902147700.535, true));

@@ -4,6 +4,7 @@
 #include <set>
 #include <thread>
 
+#include "tests/common/support/LogConfiguration.h"
 #include "tests/common/support/MemoryAppender.h"
 #include <qz/common/uQzLogger.h>
 
@@ -39,6 +40,7 @@ private:
 TEST(LoggerThreads, LevelsAndListsChangeWhileOthersLog) {
     const TLogTree Tree;
     const Ref<IQzLogger> Parent = Logger().GetLogger("a");
+    TQzLoggerList& List = *Logger().GetChildLoggers();
     const TLoggingThreads Threads;
     for (int I = 0; I < 200; ++I) {
         const Ref<IQzLogger> Log = Logger().GetLogger("a.b");
@@ -47,6 +49,10 @@ TEST(LoggerThreads, LevelsAndListsChangeWhileOthersLog) {
         Log->SetLevel(I % 2 == 0 ? llDoNotLog : llAll);
         Parent->SetAdditive(I % 3 == 0);
         Parent->SetParentLevel(I % 5 == 0);
+        List.Lock(u"walk", true);
+        for (int Child = 0; Child < List.Count(); ++Child)
+            EXPECT_EQ(List.GetLogger(Child)->GetFullName(), u"root.a");
+        List.Unlock();
         Logger().LockAppenders()->Count();
         Logger().UnLockAppenders();
         if (I % 2 == 0)
@@ -101,43 +107,14 @@ TEST(LoggerThreads, AppendersThatLogCrosswiseDoNotStop) {
     Right->ClearAppenders();
 }
 
-TEST(LoggerThreads, ChildrenAreWalkedWhileTheyComeAndGo) {
-    const TLogTree Tree;
-    const TLoggingThreads Threads;
-    TQzLoggerList& List = *Logger().GetChildLoggers();
-    for (int I = 0; I < 500; ++I) {
-        List.Lock(u"walk", true);
-        for (int Child = 0; Child < List.Count(); ++Child)
-            EXPECT_EQ(List.GetLogger(Child)->GetFullName(), u"root.a");
-        List.Unlock();
-    }
-}
-
-// Sets llAll and logs each question.
-class TTalkingConfiguration : public TInterfacedObject, public IQzLogConfigurator {
-    QZ_CLASS(TTalkingConfiguration, TInterfacedObject)
-    QZ_INTERFACE_COUNTING(TInterfacedObject)
-
-public:
-    Variant GetLoggerValue(const UnicodeString& ALogger, const UnicodeString& AKey, TQzMainTypeKind,
-                           const Variant& ADefault) override {
-        Logger().Info(u"asked by " + ALogger);
-        return AKey == UnicodeString(u"Level") ? Variant(0) : ADefault;
-    }
-    Variant GetAppenderValue(const UnicodeString&, const UnicodeString&, TQzMainTypeKind,
-                             const Variant& ADefault) override {
-        return ADefault;
-    }
-};
-
-const TClassRec TTalkingConfiguration::ClassRec = DescribeClass<TTalkingConfiguration>(
-    u"TTalkingConfiguration",
-    {.Unit = u"Tests", .Interfaces = Interfaces<TTalkingConfiguration, IQzLogConfigurator>()});
-
 // The configurator logs under the tree lock while the appender gets a logger under the gate.
 TEST(LoggerThreads, ConfiguratorsAndAppendersDoNotWaitForEachOther) {
     const TLogTree Tree;
-    const Ref<IQzLogConfigurator> Configuration = TTalkingConfiguration::Create();
+    const Ref<TConfiguration> Configuration = TConfiguration::Create();
+    Configuration->OnConfigure = [](TQzLogger& ALogger) {
+        ALogger.SetLevel(llAll);
+        Logger().Info(u"configures " + ALogger.GetFullName());
+    };
     AddMemory(Logger()).OnWrite = [](const UnicodeString&) { Logger().GetLogger("of.appender"); };
     Logger().SetConfig(Configuration.Get());
     const TLoggingThreads Threads;

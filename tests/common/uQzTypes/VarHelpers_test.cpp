@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <functional>
 #include <limits>
-#include <map>
-#include <set>
 
 #include "tests/support/Message.h"
 #include "tests/support/SystemPage.h"
@@ -39,212 +36,141 @@ UnicodeString Show(bool AValue) {
 UnicodeString Show(double AValue) {
     return FloatToStr(AValue);
 }
-// What a function makes of each type: a default for those of no kind, the number for those listed, the text of Others
-// where it is another, its message for all the rest.
-struct TRow {
-    const char* Name;
-    std::function<UnicodeString(const Variant&, bool ARaise)> Call;
-    std::set<int> Takes;
-    UnicodeString Message;
-    std::map<int, UnicodeString> Others{};
-};
-
-template <class T, class TDefault> auto Strict(T (*AFunction)(const Variant&, TDefault), TDefault ADefault) {
-    return [=](const Variant& AValue, bool) { return Show(AFunction(AValue, ADefault)); };
-}
-template <class T, class TDefault>
-auto Tolerant(T (*AFunction)(const Variant&, TDefault, bool), TDefault ADefault) {
-    return [=](const Variant& AValue, bool ARaise) { return Show(AFunction(AValue, ADefault, ARaise)); };
+const UnicodeString& Show(const UnicodeString& AValue) {
+    return AValue;
 }
 
-std::set<int> With(std::set<int> AMore) {
-    AMore.insert({2, 3, 16, 17, 18, 19});
-    return AMore;
-}
-
-// What the two functions for Booleans make of the samples: of texts the first character counts.
-const std::map<int, UnicodeString> cTruths = {{0, u"True"},   {2, u"True"},  {3, u"True"},  {8, u"False"},
-                                              {11, u"True"},  {16, u"True"}, {17, u"True"}, {18, u"True"},
-                                              {19, u"True"},  {20, u"True"}, {21, u"True"}, {256, u"False"},
-                                              {258, u"False"}};
-
-void CheckSample(const TRow& ARow, const Variant& ASample, bool AIsStrict) {
-    const bool HasBools = ARow.Others.contains(0);
-    const int Code = VarType(ASample);
-    const bool IsUnknown = std::set<int>{0, 1, 10, 73}.contains(Code);
-    const UnicodeString Default = HasBools ? u"True" : u"99";
-    const auto Other = ARow.Others.find(Code);
-    const bool Raises = !IsUnknown && Other == ARow.Others.end() && !ARow.Takes.contains(Code);
-    const UnicodeString Expected = IsUnknown ? Default
-        : Other != ARow.Others.end()         ? Other->second
-        : Raises                             ? UnicodeString()
-                                             : IntToStr(Code % 100);
-    UnicodeString Actual;
-    const UnicodeString Raised = Message([&] { Actual = ARow.Call(ASample, true); });
-    EXPECT_EQ(Raises ? u"The given value is not a valid " + ARow.Message + u" value!" : u"", Raised)
-        << ARow.Name << " of type " << Code;
-    EXPECT_EQ(Actual, Expected) << ARow.Name << " of type " << Code;
-    if (!AIsStrict) {
-        EXPECT_EQ(Raises ? Default : Expected, ARow.Call(ASample, false)) << ARow.Name << " of type " << Code;
+// What a function makes of each sample: its number (=), the default (d), a truth (T, F), another text (?), an error (!).
+template <class TCall> std::string Marks(const UnicodeString& AKind, TCall ACall) {
+    std::string Result;
+    for (const Variant& Sample : Samples()) {
+        UnicodeString Text;
+        const UnicodeString Error = Message([&] { Text = Show(ACall(Sample)); });
+        EXPECT_TRUE(Error.IsEmpty() || Error == u"The given value is not a valid " + AKind + u" value!")
+            << Error;
+        Result += !Error.IsEmpty()                    ? '!'
+            : Text == u"99"                           ? 'd'
+            : Text == IntToStr(VarType(Sample) % 100) ? '='
+            : Text == u"1" || Text == u"True"         ? 'T'
+            : Text == u"False"                        ? 'F'
+                                                      : '?';
     }
+    return Result;
 }
 
-void CheckRow(const TRow& ARow, bool AIsStrict) {
-    for (const Variant& Sample : Samples())
-        CheckSample(ARow, Sample, AIsStrict);
+template <class T, class TDefault>
+void ExpectStrict(T (*AFunction)(const Variant&, TDefault), std::type_identity_t<TDefault> ADefault,
+                  const UnicodeString& AKind, const std::string& AMarks) {
+    EXPECT_EQ(Marks(AKind, [&](const Variant& AValue) { return AFunction(AValue, ADefault); }), AMarks)
+        << AKind;
+}
+
+// Without the wish to raise, the default takes the place of an error.
+template <class T, class TDefault>
+void ExpectTolerant(T (*AFunction)(const Variant&, TDefault, bool), std::type_identity_t<TDefault> ADefault,
+                    const UnicodeString& AKind, std::string AMarks) {
+    for (const bool Raises : {true, false}) {
+        EXPECT_EQ(Marks(AKind, [&](const Variant& AValue) { return AFunction(AValue, ADefault, Raises); }),
+                  AMarks)
+            << AKind;
+        std::replace(AMarks.begin(), AMarks.end(), '!', std::is_same_v<T, bool> ? 'T' : 'd');
+    }
 }
 
 TEST(VarStrict, TakesWhatFitsAndNothingElse) {
-    const TRow Rows[] = {
-        {"Shortint", Strict(QzVarShortint, 99), {16, 17}, u"shortint"},
-        {"Byte", Strict(QzVarByte, 99), {16, 17}, u"byte"},
-        {"Smallint", Strict(QzVarSmallint, 99), {2, 3, 16, 17, 18}, u"smallint"},
-        {"Word", Strict(QzVarWord, 99), {2, 16, 17, 18}, u"word"},
-        {"LongInt", Strict(QzVarLongInt, 99), With({}), u"longword"},
-        {"Int", Strict(QzVarInt, 99), With({}), u"longword"},
-        {"Longword", Strict(QzVarLongword, 99), With({}), u"longword"},
-        {"Int64", Strict(QzVarInt64, 99), With({20}), u"int64"},
-        {"Single", Strict(QzVarSingle, 99.0F), With({4}), u"single"},
-        {"Double", Strict(QzVarDouble, 99.0), With({4, 5, 14}), u"double"},
-        {"Extended", Strict(QzVarExtended, Extended(99)), With({4, 5, 6, 14}), u"extended"},
-        {"Date", Strict(QzVarDate, TDateTime(99)), With({4, 5, 7, 14}), u"datetime"},
-        {"Str", [](const Variant& V, bool) { return QzVarStr(V, u"99"); }, {8, 256, 258}, u"string"},
-        {"StrA",
-         [](const Variant& V, bool) { return QzVarStrA(V, AnsiString("99")).ToUnicode(); },
-         {8, 256, 258},
-         u"string"},
-        {"StrW", [](const Variant& V, bool) { return QzVarStrW(V, u"99"); }, {8, 256, 258}, u"string"},
-        {"Bool", Strict(QzVarBool, true), {}, u"boolean", cTruths},
-    };
-    for (const TRow& Row : Rows)
-        CheckRow(Row, true);
+    ExpectStrict(QzVarShortint, 99, u"shortint", "dd!!!!!!!!d!!!==!!!!d!!!");
+    ExpectStrict(QzVarByte, 99, u"byte", "dd!!!!!!!!d!!!==!!!!d!!!");
+    ExpectStrict(QzVarSmallint, 99, u"smallint", "dd==!!!!!!d!!!===!!!d!!!");
+    ExpectStrict(QzVarWord, 99, u"word", "dd=!!!!!!!d!!!===!!!d!!!");
+    ExpectStrict(QzVarInt, 99, u"longword", "dd==!!!!!!d!!!====!!d!!!");
+    ExpectStrict(QzVarLongword, 99, u"longword", "dd==!!!!!!d!!!====!!d!!!");
+    ExpectStrict(QzVarInt64, 99, u"int64", "dd==!!!!!!d!!!=====!d!!!");
+    ExpectStrict(QzVarSingle, 99.0F, u"single", "dd===!!!!!d!!!====!!d!!!");
+    ExpectStrict(QzVarDouble, 99.0, u"double", "dd====!!!!d!!=====!!d!!!");
+    ExpectStrict(QzVarExtended, Extended(99), u"extended", "dd=====!!!d!!=====!!d!!!");
+    ExpectStrict(QzVarDate, TDateTime(99), u"datetime", "dd====!=!!d!!=====!!d!!!");
+    ExpectStrict(QzVarStr, u"99", u"string", "dd!!!!!!=!d!!!!!!!!!d==!");
+    ExpectStrict(QzVarBool, true, u"boolean", "TTTT!!!!F!TT!!TTTTTTTFF!");
 }
 
 TEST(VarTolerant, ConvertsWhatCanBeConverted) {
-    const std::set<int> Integers = With({8, 20, 21, 256, 258});
-    const std::set<int> Floats = With({4, 5, 6, 8, 14, 20, 21, 256, 258});
-    std::set<int> Dates = Floats;
-    Dates.insert(7);
-    const std::map<int, UnicodeString> Truth = {{11, u"1"}};
-    const UnicodeString Day = DateTimeToStr(7);
-    const TRow Rows[] = {
-        {"Shortint", Tolerant(QzVarToShortint, 99), Integers, u"shortint", Truth},
-        {"Smallint", Tolerant(QzVarToSmallint, 99), Integers, u"smalling", Truth},
-        {"LongInt", Tolerant(QzVarToLongInt, 99), Integers, u"LongInt", Truth},
-        {"Int", Tolerant(QzVarToInt, 99), Integers, u"LongInt", Truth},
-        {"Int64", Tolerant(QzVarToInt64, 99), Integers, u"Int64", Truth},
-        {"Byte", Tolerant(QzVarToByte, 99), Integers, u"Byte", Truth},
-        {"Word", Tolerant(QzVarToWord, 99), Integers, u"Word", Truth},
-        {"Longword", Tolerant(QzVarToLongword, 99), Integers, u"LongWord", Truth},
-        {"Single", Tolerant(QzVarToSingle, 99.0F), Floats, u"Single"},
-        {"Double", Tolerant(QzVarToDouble, 99.0), Dates, u"Double"},
-        {"Extended", Tolerant(QzVarToExtended, Extended(99)), Dates, u"Extended"},
-        {"Str",
-         [](const Variant& V, bool R) { return QzVarToStr(V, u"99", R); },
-         Floats,
-         u"String",
-         {{7, Day}, {11, u"True"}, {8192 + 12, u"92\r\n"}}},
-        {"AStr",
-         [](const Variant& V, bool R) { return QzVarToAStr(V, AnsiString("99"), R).ToUnicode(); },
-         Floats,
-         u"AnsiString",
-         {{7, Day}, {11, u"True"}}},
-        {"WStr",
-         [](const Variant& V, bool R) { return QzVarToWStr(V, u"99", R); },
-         Floats,
-         u"WideString",
-         {{7, Day}, {11, u"True"}}},
-        {"Bool", Tolerant(QzVarToBool, true), {}, u"Boolean", cTruths},
-    };
-    for (const TRow& Row : Rows)
-        CheckRow(Row, false);
-    // A date is not written as a number.
-    for (const Variant& Sample : Samples()) {
-        const int Code = VarType(Sample);
-        if (Code != 8 && Code < 256)
-            CheckSample(
-                {"Date", Tolerant(QzVarToDate, TDateTime(99)), With({4, 5, 6, 7, 14, 20, 21}), u"Date"},
-                Sample, false);
-    }
+    ExpectTolerant(QzVarToShortint, 99, u"shortint", "dd==!!!!=!dT!!======d==!");
+    ExpectTolerant(QzVarToSmallint, 99, u"smalling", "dd==!!!!=!dT!!======d==!");
+    ExpectTolerant(QzVarToInt, 99, u"LongInt", "dd==!!!!=!dT!!======d==!");
+    ExpectTolerant(QzVarToInt64, 99, u"Int64", "dd==!!!!=!dT!!======d==!");
+    ExpectTolerant(QzVarToByte, 99, u"Byte", "dd==!!!!=!dT!!======d==!");
+    ExpectTolerant(QzVarToWord, 99, u"Word", "dd==!!!!=!dT!!======d==!");
+    ExpectTolerant(QzVarToLongword, 99, u"LongWord", "dd==!!!!=!dT!!======d==!");
+    ExpectTolerant(QzVarToSingle, 99.0F, u"Single", "dd=====!=!d!!=======d==!");
+    ExpectTolerant(QzVarToDouble, 99.0, u"Double", "dd=======!d!!=======d==!");
+    ExpectTolerant(QzVarToExtended, Extended(99), u"Extended", "dd=======!d!!=======d==!");
+    ExpectTolerant(QzVarToStr, u"99", u"String", "dd=====?=!dT!=======d==?");
+    ExpectTolerant(QzVarToBool, true, u"Boolean", "TTTT!!!!F!TT!!TTTTTTTFF!");
+    EXPECT_EQ(QzVarToStr(TDateTime(7), u"", true), DateTimeToStr(7));
 }
 
 TEST(VarStrict, CutsNumbersAndBoundsSmallintAboveAlone) {
     EXPECT_EQ(QzVarSmallint(-40000, 0), 25536);
     EXPECT_EQ(QzVarSmallint(std::uint16_t{40000}, 0), -25536);
-    EXPECT_EQ(QzVarSmallint(32767, 0), 32767);
     EXPECT_THROW(QzVarSmallint(32768, 0), EConvertError);
-    EXPECT_EQ(QzVarShortint(std::uint8_t{255}, 0), -1);
-    EXPECT_EQ(QzVarByte(std::int8_t{-1}, 0), 255);
     EXPECT_EQ(QzVarByte({}, 260), 4);
-    EXPECT_EQ(QzVarWord(std::int16_t{-1}, 0), 65535);
-    EXPECT_EQ(QzVarLongword(4294967295U, 0), 4294967295U);
-    EXPECT_EQ(QzVarInt64(4294967295U, 0), 4294967295);
     EXPECT_THROW(QzVarInt(4294967295U, 0), EVariantOverflowError);
     EXPECT_TRUE(QzVarBool(256, false));
-    EXPECT_TRUE(QzVarBool(u"Yes", false));
-    EXPECT_TRUE(QzVarBool(AnsiString("1"), false));
     EXPECT_FALSE(QzVarBool(u"", true));
-    EXPECT_EQ(QzVarStr(u"", u"x"), u"");
 }
 
 TEST(VarTolerant, CutsNumbersAndReadsTexts) {
     EXPECT_EQ(QzVarToShortint(std::int16_t{999}, 0, true), -25);
     EXPECT_EQ(QzVarToSmallint(u"$FFFF", 0, true), -1);
-    EXPECT_EQ(QzVarToByte(u"-1", 0, true), 255);
-    EXPECT_EQ(QzVarToInt64(u"5000000000", 0, true), 5000000000);
-    EXPECT_EQ(QzVarToLongword(u"4294967295", 7, false), 7U);
     EXPECT_FALSE(QzVarToBool(256, true, true));
-    EXPECT_TRUE(QzVarToBool(511, false, true));
-    EXPECT_EQ(QzVarToLongInt(u"abc", 7, false), 7);
-    EXPECT_EQ(QzVarToInt(5000000000, 7, false), 7);
-    EXPECT_THROW(QzVarToInt(5000000000, 7, true), EVariantOverflowError);
-    EXPECT_EQ(QzVarToByte(u"", 263, false), 7);
-    EXPECT_TRUE(std::isinf(QzVarToSingle(1e300, 0, true)));
     EXPECT_TRUE(QzVarToBool(4294967297, true, false)); // the default: it has no 32 bits
     EXPECT_FALSE(QzVarToBool(4294967297, false, false));
+    EXPECT_THROW(QzVarToInt(5000000000, 7, true), EVariantOverflowError);
+    EXPECT_TRUE(std::isinf(QzVarToSingle(1e300, 0, true)));
     EXPECT_EQ(QzVarToSingle(u"1,5", 0, true), 1.5F);
-    EXPECT_EQ(QzVarToDouble(AnsiString("1,5"), 0, true), 1.5);
     EXPECT_EQ(QzVarToExtended(u"1,5", 7, false), 7.0);
-    EXPECT_EQ(QzVarToStr(VarAsType(u"1.50", varDecimal), u"", true), u"1.5");
-    EXPECT_EQ(QzVarToStr(std::numeric_limits<std::uint64_t>::max(), u"x", false), u"x");
-    const std::pair<UnicodeString, UnicodeString> Errors[] = {
-        {u"'abc' is not a valid integer value", Message([] { QzVarToLongInt(u"abc", 7, true); })},
-        {u"'5000000000' is not a valid integer value",
-         Message([] { QzVarToLongword(u"5000000000", 7, true); })},
-        {u"'x' is not a valid integer value", Message([] { QzVarToInt64(u"x", 7, true); })},
-        {u"'1,2,3' is not a valid floating point value", Message([] { QzVarToDouble(u"1,2,3", 7, true); })},
-        {u"'tomorrow' is not a valid date and time", Message([] { QzVarToDate(u"tomorrow", 7, true); })},
-    };
-    for (const auto& [Expected, Actual] : Errors)
-        EXPECT_EQ(Actual, Expected);
+    EXPECT_EQ(Message([] { QzVarToLongInt(u"abc", 7, true); }), u"'abc' is not a valid integer value");
+    EXPECT_EQ(Message([] { QzVarToDate(u"tomorrow", 7, true); }), u"'tomorrow' is not a valid date and time");
 }
 
-TEST(VarTolerant, ReadsIsoDatesWhateverTheSettings) {
-    const TDateTime Day = EncodeDate(2016, 2, 29);
-    EXPECT_EQ(QzVarToDate(u"2016-02-29", 0, true), Day);
-    EXPECT_EQ(Day + 0.5, QzVarToDate(AnsiString("2016-02-29 12:00"), 0, true));
-    EXPECT_EQ(QzVarToDate(DateTimeToStr(Day), 0, true), Day);
-    EXPECT_EQ(QzVarToDate(u"2016-02-30", 5, false), 5.0);
-    EXPECT_EQ(QzVarToDate(u"016-02-29", 5, false), 5.0);
-    EXPECT_EQ(QzVarToDate(u"2016-02/29", 5, false), 5.0);
+class Settings : public testing::Test {
+protected:
+    ~Settings() override { SetDefaultFormatSettings(Before); }
     const TFormatSettings Before = DefaultFormatSettings();
     TFormatSettings Other = Before;
+};
+
+TEST_F(Settings, IsoDatesAreReadWhateverTheyAre) {
+    const TDateTime Day = EncodeDate(2016, 2, 29);
+    EXPECT_EQ(QzVarToDate(AnsiString("2016-02-29 12:00"), 0, true), Day + 0.5);
+    EXPECT_EQ(QzVarToDate(DateTimeToStr(Day), 0, true), Day);
+    for (const char16_t* Bad : {u"2016-02-30", u"016-02-29", u"2016-02/29"})
+        EXPECT_EQ(QzVarToDate(Bad, 5, false), 5.0);
     Other.DateSeparator = u'-';
     Other.ShortDateFormat = u"dd-mm-yyyy";
     SetDefaultFormatSettings(Other);
     EXPECT_EQ(QzVarToDate(u"2016-02-29", 0, true), Day);
     EXPECT_EQ(QzVarToDate(u"29-02-2016", 0, true), Day);
-    SetDefaultFormatSettings(Before);
+}
+
+// The other separator is that of the system, whatever the process has.
+TEST_F(Settings, TheSecondTryGoesByTheSystem) {
+    EXPECT_EQ(QzStrToFloat(u"1.5") + QzStrToFloat(u"1,5"), 3);
+    EXPECT_EQ(QzStrToFloatDef(u"1.5.2", -2), -2.0);
+    EXPECT_EQ(Message([] { QzStrToFloat(u"1;5"); }), u"'1;5' is not a valid floating point value");
+    Other.DecimalSeparator = u';';
+    SetDefaultFormatSettings(Other);
+    const bool HasPoint = TFormatSettings::Create().DecimalSeparator == u'.';
+    EXPECT_EQ(QzStrToFloatDef(u"1,5", 7), HasPoint ? 1.5 : 7);
+    EXPECT_EQ(QzStrToFloatDef(u"1.5", 7), HasPoint ? 7 : 1.5);
+    EXPECT_EQ(QzStrToFloat(u"1;5"), 1.5);
 }
 
 TEST(VarTolerant, WritesArraysLineByLine) {
-    EXPECT_EQ(QzVarToStr(VarArrayOf({1, 2}), u"", true), u"1\r\n2\r\n");
+    const Variant Table = VarArrayCreate({0, 1, 0, 1}, varInteger);
     EXPECT_EQ(
         QzVarToStr(VarArrayOf({1, VarArrayOf({u"a", u"b"}), VarArrayOf({}), Variant(), true}), u"-", true),
         u"1\r\na\r\nb\r\n\r\n\r\n-\r\nTrue\r\n");
-    Variant Odd = VarArrayCreate({-5, -4}, varInteger);
-    EXPECT_EQ(QzVarToStr(Odd, u"", true), u"0\r\n0\r\n");
-    const Variant Table = VarArrayCreate({0, 1, 0, 1}, varInteger);
     EXPECT_EQ(QzVarToStr(Table, u"-", false), u"-");
     EXPECT_EQ(Message([&] { QzVarToStr(Table, u"", true); }),
               u"The given array is not a to-string convertable value!");
@@ -256,7 +182,7 @@ TEST(VarTolerant, WritesArraysLineByLine) {
     Variant Deep = 1;
     for (int I = 0; I < 50000; ++I)
         Deep = VarArrayOf({Deep});
-    EXPECT_EQ(1 + 2 * 50000, QzVarToStr(Deep, u"", true).Length());
+    EXPECT_EQ(QzVarToStr(Deep, u"", true).Length(), 1 + 2 * 50000);
 }
 
 TEST(VarQueries, EmptyCountedAndNullable) {
@@ -264,81 +190,30 @@ TEST(VarQueries, EmptyCountedAndNullable) {
         for (const Variant& Value : {Variant(AValues)...})
             EXPECT_EQ(QzVarIsEmpty(Value), AExpected) << VarType(Value);
     };
-    Check(true, 0, 0.0, -0.0, TDateTime(0), u"   ", AnsiString(" \t"), Variant(), Variant::Null(),
-          Currency(0), VarArrayOf({}), VarArrayCreate({-3, -1}, varByte));
-    Check(false, false, true, 1, u" x", Variant::Error(0), std::nan(""), VarArrayOf({1}),
+    Check(true, 0, -0.0, TDateTime(0), u"   ", AnsiString(" \t"), Variant(), Variant::Null(), Currency(0),
+          VarArrayOf({}));
+    Check(false, false, 1, u" x", Variant::Error(0), std::nan(""), VarArrayOf({1}),
           static_cast<TObject*>(nullptr));
-    EXPECT_EQ(QzVarArrayCount(VarArrayOf({1, 2, 3})), 3);
     EXPECT_EQ(QzVarArrayCount(VarArrayCreate({9, 10}, varByte)), 11);
     EXPECT_EQ(QzVarArrayCount(VarArrayCreate({-3, -1}, varByte)), 0);
     EXPECT_EQ(QzVarArrayCount(u"x"), 0);
-    EXPECT_EQ(QzVarArrayCount(Variant::Null()), 0);
-    EXPECT_EQ(QzNullableBool(true), nbYes);
-    EXPECT_EQ(QzNullableBool(false), nbNo);
     EXPECT_EQ(QzNullableBool(1), nbNull);
-}
-
-TEST(TextValues, BooleansAndFloats) {
-    for (const char16_t* Yes : {u"1", u"True", u"Y", u"tea", u"y?"})
+    for (const char16_t* Yes : {u"1", u"True", u"y?"})
         EXPECT_TRUE(QzStrToBool(Yes));
-    for (const char16_t* No : {u"", u"no", u"0", u" 1", u"-1", u"J"})
+    for (const char16_t* No : {u"", u"no", u" 1"})
         EXPECT_FALSE(QzStrToBool(No));
-    EXPECT_EQ(QzBoolToStr(false, u"open", u"shut"), u"shut");
-    EXPECT_EQ(QzStrToFloat(u"1.5"), 1.5);
-    EXPECT_EQ(QzStrToFloat(u"1,5"), 1.5);
-    EXPECT_EQ(QzStrToFloatDef(u"1.5.2", -2), -2.0);
-    EXPECT_EQ(Message([] { QzStrToFloat(u"1;5"); }), u"'1;5' is not a valid floating point value");
 }
 
-// The other separator is that of the system, whatever the process has.
-TEST(TextValues, TheSecondTryGoesByTheSystem) {
-    const TFormatSettings Before = DefaultFormatSettings();
-    TFormatSettings Other = Before;
-    Other.DecimalSeparator = u';';
-    SetDefaultFormatSettings(Other);
-    const bool HasPoint = TFormatSettings::Create().DecimalSeparator == u'.';
-    EXPECT_EQ(HasPoint ? 1.5 : 7, QzStrToFloatDef(u"1,5", 7));
-    EXPECT_EQ(HasPoint ? 7 : 1.5, QzStrToFloatDef(u"1.5", 7));
-    EXPECT_EQ(QzStrToFloat(u"1;5"), 1.5);
-    SetDefaultFormatSettings(Before);
-}
-
-TEST(RawStrings, ConvertByTheSystemsCodePage) {
+TEST(RawStrings, AreCopiesInTheSystemsCodePageWithATerminator) {
     const TSystemPage Page(1252);
     char* const Narrow = QzStrNewA(WideString(u"\u20AC"));
     EXPECT_STREQ(Narrow, "\x80");
     QzStrDispose(Narrow);
-    char16_t* const Wide = QzStrNewW(AnsiString("\x80"));
-    EXPECT_EQ(Wide, UnicodeString(u"\u20AC"));
+    char16_t* const Wide = QzStrNew(WideString(std::u16string_view(u"a\0b", 3)));
+    EXPECT_EQ(std::u16string_view(Wide, 4), std::u16string_view(u"a\0b", 4));
     QzStrDispose(Wide);
-    EXPECT_EQ(QzVarStrA(u"\u20AC", {}).View(), "\x80");
-}
-
-TEST(RawStrings, AreCopiesThatEndWithATerminator) {
     EXPECT_EQ(QzStrNew(WideString()), nullptr);
     EXPECT_EQ(QzStrNewW(AnsiString()), nullptr);
-    QzStrDispose(static_cast<char*>(nullptr));
-    QzStrDispose(static_cast<char16_t*>(nullptr));
-    char16_t* const Wide = QzStrNew(WideString(std::u16string_view(u"a\0b", 3)));
-    EXPECT_EQ(std::u16string_view(u"a\0b", 4), std::u16string_view(Wide, 4));
-    QzStrDispose(Wide);
-    char* const Empty = QzStrNew(AnsiString());
-    EXPECT_STREQ(Empty, "");
-    QzStrDispose(Empty);
-    char* const Narrow = QzStrNewA(AnsiString(std::string_view("a\0b", 3)));
-    EXPECT_STREQ(Narrow, "a");
-    QzStrDispose(Narrow);
-    char* const Converted = QzStrNewA(WideString(u"abc"));
-    EXPECT_STREQ(Converted, "abc");
-    QzStrDispose(Converted);
-}
-
-TEST(Designing, IsByTheNameOfTheProgram) {
-    EXPECT_FALSE(IsDesigning());
-    QzSetDesignHost(u"TESTS_common");
-    EXPECT_TRUE(IsDesigning());
-    QzSetDesignHost(u"");
-    EXPECT_FALSE(IsDesigning());
 }
 
 } // namespace

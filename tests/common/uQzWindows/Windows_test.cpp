@@ -1,18 +1,14 @@
 #include <qz/common/uQzWindows.h>
 
 #include <cmath>
-#include <filesystem>
 #include <string>
-#include <thread>
 
 #include <gtest/gtest.h>
 
 #include "tests/support/Message.h"
 #include "tests/support/TemporaryDirectory.h"
-#include "tests/support/Variables.h"
 #include <qz/common/uQzWindows/VersionNumber.h>
 #include <qz/platform/Accounts.h>
-#include <qz/platform/Environment.h>
 #include <qz/platform/FileTimes.h>
 #include <qz/platform/Module.h>
 
@@ -24,12 +20,6 @@ using platform::TWindowsFacts;
 constexpr std::int64_t cDaySteps = 864'000'000'000;
 constexpr std::int64_t c1970 = 116'444'736'000'000'000;
 
-std::u16string MakeFile(const platform::TTemporaryDirectory& ADirectory) {
-    const std::u16string Path = ADirectory / u"file";
-    EXPECT_TRUE(platform::WriteWholeFile(Path, std::span<const std::byte>()));
-    return Path;
-}
-
 // The days from 1899-12-30 and the milliseconds of the day.
 std::pair<std::int32_t, std::int32_t> Parts(TDateTime ADate) {
     const TDayAndTime Split = SplitDateTime(ADate);
@@ -40,21 +30,18 @@ TEST(WindowsVersion, NumberFollowsTheFacts) {
     struct TCase {
         std::uint32_t Major, Minor, Pack;
         bool IsWorkstation;
-        const char16_t* Build;
-        const char16_t* Version;
+        const char16_t *Build, *Version;
         int Expected;
     };
     const TCase Cases[] = {
         {10, 0, 0, true, u"22631", u"6.3", 621}, {10, 0, 0, false, u"20348", u"6.3", 620},
         {6, 2, 0, true, u"22000", u"6.3", 640},  {6, 2, 0, true, u"21999", u"6.3", 630},
-        {6, 3, 0, true, u"9600", u"6.3", 630},   {6, 2, 0, true, u"9200", u"6.2", 621},
-        {6, 2, 0, true, u"", u"", 621},          {6, 2, 0, false, u"26100", u"6.3", 620},
-        {6, 1, 1, true, u"", u"", 611},          {6, 1, 1, false, u"", u"", 610},
-        {6, 0, 0, false, u"", u"", 602},         {6, 0, 0, true, u"", u"", 601},
-        {5, 2, 0, true, u"", u"", 520},          {5, 1, 4, true, u"", u"", 517},
-        {5, 1, 3, true, u"", u"", 517},          {5, 1, 2, true, u"", u"", 515},
-        {5, 1, 1, true, u"", u"", 513},          {5, 1, 0, true, u"", u"", 511},
-        {5, 0, 4, true, u"", u"", 500},          {4, 0, 6, true, u"", u"", 11},
+        {6, 2, 0, true, u"9200", u"6.2", 621},   {6, 2, 0, true, u"", u"", 621},
+        {6, 2, 0, false, u"26100", u"6.3", 620}, {6, 1, 1, true, u"", u"", 611},
+        {6, 1, 1, false, u"", u"", 610},         {6, 0, 0, false, u"", u"", 602},
+        {6, 0, 0, true, u"", u"", 601},          {5, 2, 0, true, u"", u"", 520},
+        {5, 1, 4, true, u"", u"", 517},          {5, 1, 2, true, u"", u"", 515},
+        {5, 1, 0, true, u"", u"", 511},          {5, 0, 4, true, u"", u"", 500},
     };
     for (const TCase& Case : Cases) {
         const TWindowsFacts Facts{.HasKernel = true,
@@ -91,67 +78,38 @@ TEST(WindowsVersion, FunctionsTellWhereTheVersionIsSilent) {
         Facts.*Function = true;
         EXPECT_EQ(detail::VersionNumber(Facts), Expected);
     }
-    EXPECT_GE(QzGetWindowsVersion(), 601);
 }
 
 TEST(ShellFolders, AreThereAndUnknownOnesAreRefused) {
-    // A home of the test's own, where HOME counts.
-    const platform::TTemporaryDirectory Directory;
-    const struct THome {
-        ~THome() { std::filesystem::remove_all(Path); }
-        std::filesystem::path Path;
-    } Home{Directory / u"home"};
-    platform::TVariables Variables;
-    Variables.Set(u"HOME", Home.Path.u16string());
-    for (const char16_t* Name :
-         {u"XDG_CONFIG_HOME", u"XDG_DATA_HOME", u"XDG_CACHE_HOME", u"XDG_STATE_HOME", u"STATE_DIRECTORY"})
-        Variables.Set(Name, Home.Path.u16string());
-    for (const int Number : {5, 26, 28, 35, 40, 46})
-        EXPECT_TRUE(platform::DirectoryExists(QzGetShellFolder(Number))) << Number;
+    EXPECT_TRUE(platform::DirectoryExists(QzGetShellFolder(5)));
     EXPECT_EQ(QzGetShellFolder(5), QzGetMyDocumentsFolder());
     EXPECT_EQ(Message([] { QzGetShellFolder(200); }), u"Invalid pidl");
 }
 
 TEST(FileTimes, AreDatesInUtc) {
-    struct TCase {
-        std::int64_t FileTime;
-        std::int32_t Day, MSecs;
-    };
-    for (const TCase& Case : {TCase{0, -109205, 0},
-                              {cDaySteps - 10'000, -109205, 86'399'999},
-                              {c1970, 25569, 0},
-                              {c1970 + 19'876 * cDaySteps + 12'340'000, 45445, 1234}}) {
-        const TDateTime Date = QzFileTimeToDateTime(Case.FileTime);
-        EXPECT_EQ(std::pair(Case.Day, Case.MSecs), Parts(Date));
-        EXPECT_EQ(QzDateTimeToFileTime(Date), Case.FileTime);
+    const std::tuple<std::int64_t, std::int32_t, std::int32_t> Cases[] = {
+        {0, -109205, 0},
+        {cDaySteps - 10'000, -109205, 86'399'999},
+        {c1970 + 19'876 * cDaySteps + 12'340'000, 45445, 1234}};
+    for (const auto& [FileTime, Day, MSecs] : Cases) {
+        const TDateTime Date = QzFileTimeToDateTime(FileTime);
+        EXPECT_EQ(Parts(Date), std::pair(Day, MSecs));
+        EXPECT_EQ(QzDateTimeToFileTime(Date), FileTime);
     }
-    EXPECT_EQ(Parts(QzFileTimeToDateTime(c1970 + 10'000)), Parts(QzFileTimeToDateTime(c1970 + 19'999)));
     EXPECT_THROW(QzFileTimeToDateTime(-1), EOSError);
     EXPECT_THROW(QzFileTimeToDateTime(std::numeric_limits<std::int64_t>::max()), EConvertError);
     EXPECT_THROW(QzDateTimeToFileTime(EncodeDate(1600, 12, 31)), EOSError);
     EXPECT_THROW(QzDateTimeToFileTime(std::nan("")), EConvertError);
 }
 
-TEST(FileTimes, OfFilesAreLocalOnEvenSeconds) {
+TEST(FileTimes, OfFilesAreSetInUtcAndReadOnEvenSeconds) {
     const platform::TTemporaryDirectory Directory;
-    constexpr double cSecond = 1.0 / SecsPerDay;
-    const double Before = Now();
-    const UnicodeString Path = MakeFile(Directory);
-    const double After = Now();
-    for (const TDateTime Time : {QzGetFileCreated(Path), QzGetFileLastModified(Path)}) {
-        EXPECT_GE(Time, Before - 2.1 * cSecond);
-        EXPECT_LE(Time, After + 0.1 * cSecond);
-        EXPECT_EQ(Parts(Time).second % 2000, 0);
-    }
-    EXPECT_EQ(QzGetFileCreated(Directory.Path()), 0.0);
-    EXPECT_EQ(QzGetFileLastModified(Directory / u"none"), 0.0);
-    EXPECT_EQ(QzGetFileLastModified(Directory / u"fil*"), 0.0);
-    EXPECT_EQ(QzGetFileLastModified(Directory / u"?ile"), 0.0);
-}
-
-TEST(FileTimes, CreationIsSetInUtc) {
-    const platform::TTemporaryDirectory Directory;
-    const UnicodeString Path = MakeFile(Directory);
+    const std::u16string Path = Directory / u"file";
+    ASSERT_TRUE(platform::WriteWholeFile(Path, std::span<const std::byte>()));
+    EXPECT_NEAR(QzGetFileLastModified(Path), Now(), 1.0 / 24 / 60);
+    EXPECT_EQ(Parts(QzGetFileLastModified(Path)).second % 2000, 0);
+    for (const char16_t* Name : {u"", u"none", u"fil*", u"?ile"})
+        EXPECT_EQ(QzGetFileLastModified(Directory / Name), 0.0);
     const TDateTime Date = EncodeDateTime(2019, 5, 6, 7, 8, 9, 10);
     QzSetFileCreated(Path, Date);
     EXPECT_THROW(QzSetFileCreated(Path, EncodeDate(1600, 12, 31)), EOSError);
@@ -166,32 +124,18 @@ TEST(FileTimes, CreationIsSetInUtc) {
 
 TEST(FileNames, LoseWhatNoSystemTakes) {
     const std::tuple<std::u16string, TCharSet, const char16_t*> Cases[] = {
-        {u"a:b*c.txt", {}, u"abc.txt"},
         {u"a:b*c.txt", {'.'}, u"abctxt"},
         {u"\"*/:<>?\\|", {}, u""},
         {u"\x01 \x1Fx\x7F", {}, u" x\x7F"},
-        {u"ä€\xD83D\xDE00\x013A\x022E",
-         {},
-         u"ä€\xD83D\xDE00\x013A\x022E"}, // the low bytes of two are ":" and "."
-        {u"ä€", {'\xE4', '\xAC'}, u"€"},
-        {u"plain", {}, u"plain"},
-    };
+        {u"ä€\x013A\x022E", {'\xE4', '\xAC'}, u"€\x013A\x022E"}}; // the low bytes of two are ":" and "."
     for (const auto& [Name, Extra, Expected] : Cases)
         EXPECT_EQ(QzCleanupFileName(Name, Extra), Expected);
-    EXPECT_EQ(QzCleanupFileName(std::u16string(u"a\0b", 3), {}), u"ab");
 }
 
-TEST(Accounts, UserComputerAndThreadAreKnown) {
+TEST(Accounts, UserAndComputerAreKnown) {
     UnicodeString Domain;
-    EXPECT_FALSE(QzGetComputerName().IsEmpty());
-    EXPECT_FALSE(QzGetUserName().IsEmpty());
-    EXPECT_EQ(QzGetUserName(), QzGetUserName(Domain));
-    EXPECT_FALSE(Domain.IsEmpty());
+    EXPECT_FALSE(QzGetComputerName().IsEmpty() || QzGetUserName(Domain).IsEmpty() || Domain.IsEmpty());
     EXPECT_NE(QzGetElevationLevel(), elDefault);
-    std::uint32_t Other = 0;
-    std::thread([&] { Other = QzGetCurrentThreadId(); }).join();
-    EXPECT_NE(Other, 0u);
-    EXPECT_NE(QzGetCurrentThreadId(), Other);
 }
 
 } // namespace

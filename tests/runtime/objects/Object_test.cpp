@@ -81,8 +81,8 @@ TEST_F(Objects, QueryInterfaceKeepsIdentity) {
 }
 
 TEST_F(Objects, FailedConstructionLeaksNothing) {
-    EXPECT_EQ(Raised([] { TFaulty::Create(u"a", true); }), "EInvalidOperation: early");
-    EXPECT_EQ(Raised([] { TFaulty::Create(u"b", false); }), "EInvalidOperation: late");
+    EXPECT_EQ(Raised([] { std::ignore = TFaulty::Create(u"a", true); }), "EInvalidOperation: early");
+    EXPECT_EQ(Raised([] { std::ignore = TFaulty::Create(u"b", false); }), "EInvalidOperation: late");
     EXPECT_EQ(TakeTrace(), "freed(a) freed(b) ");
 }
 

@@ -7,69 +7,51 @@
 
 #include "tests/support/ZoneOfTheEnvironment.h"
 #include <qz/common/uQzDateTimeUtils/TimeZoneTable.h>
+#include <qz/runtime/time/DateTimeText.h>
 
 namespace qz {
 namespace {
 
 TEST(LocalZoneLinux, RulesOfTheYear) {
-    struct TCase {
-        const char* Zone;
-        int StandardMonth, StandardHour, DaylightMonth, DaylightHour, Bias;
-    };
-    const TCase Cases[] = {{"Europe/Berlin", 10, 3, 3, 2, -60},
-                           {"CET-1CEST,M3.5.0,M10.5.0/3", 10, 3, 3, 2, -60},
-                           {"America/New_York", 11, 2, 3, 2, -60},
-                           {"Australia/Lord_Howe", 4, 2, 10, 2, -30},
-                           {"AAA-2BBB-4,J32/0,J300/24", 10, 0, 2, 0, -120},
-                           {"Europe/Dublin", 3, 1, 10, 2, 60},
-                           {"Asia/Tokyo", 0, 0, 0, 0, 0},
-                           {"<+0545>-5:45", 0, 0, 0, 0, 0}};
+    const std::tuple<const char*, UnicodeString, UnicodeString, int> Cases[] = {
+        {"Europe/Berlin", u"10 03:00", u"03 02:00", -60},
+        {"CET-1CEST,M3.5.0,M10.5.0/3", u"10 03:00", u"03 02:00", -60},
+        {"Australia/Lord_Howe", u"04 02:00", u"10 02:00", -30},
+        {"AAA-2BBB-4,J32/0,J300/24", u"10 00:00", u"02 00:00", -120},
+        {"Europe/Dublin", u"03 01:00", u"10 02:00", 60},
+        {"<+0545>-5:45", u"12 00:00", u"12 00:00", 0}};
     const TZoneOfTheEnvironment Keep("UTC0");
-    for (const TCase& Case : Cases) {
-        TZoneOfTheEnvironment::Set(Case.Zone);
+    for (const auto& [Name, Standard, Daylight, Bias] : Cases) {
+        SCOPED_TRACE(Name);
+        TZoneOfTheEnvironment::Set(Name);
+        const TTimeZone& Zone = TTimeZone::Local();
         const TQzTimeZoneInfo Info = QzLocalTimeZone();
-        EXPECT_EQ(Info.Bias, TTimeZone::Local().UtcOffset().TotalMinutes()) << Case.Zone;
-        EXPECT_EQ(Info.DaylightBias, Case.Bias) << Case.Zone;
-        for (const auto& [Date, Month, Hour] :
-             {std::tuple(Info.StandardDate, Case.StandardMonth, Case.StandardHour),
-              {Info.DaylightDate, Case.DaylightMonth, Case.DaylightHour}}) {
-            EXPECT_EQ(Date == 0, Month == 0) << Case.Zone;
-            if (Month == 0)
-                continue;
-            std::uint16_t Year, ItsMonth, Day, ItsHour, Minute, Second, MSec;
-            DecodeDateTime(Date, Year, ItsMonth, Day, ItsHour, Minute, Second, MSec);
-            EXPECT_EQ(ItsMonth, Month) << Case.Zone;
-            EXPECT_EQ(ItsHour * 60 + Minute, Hour * 60) << Case.Zone;
-            // The clocks really change then.
-            const TTimeZone& Zone = TTimeZone::Local();
-            EXPECT_NE(Zone.GetUtcOffset(Date - 1).Ticks, Zone.GetUtcOffset(Date + 1).Ticks) << Case.Zone;
-        }
+        EXPECT_EQ(Info.Bias, Zone.UtcOffset().TotalMinutes());
+        EXPECT_EQ(Info.DaylightBias, Bias);
+        EXPECT_EQ(FormatDateTime(u"mm hh:nn", Info.StandardDate), Standard);
+        EXPECT_EQ(FormatDateTime(u"mm hh:nn", Info.DaylightDate), Daylight);
+        // The clocks really change then; without a rule the dates are 0, which is 1899-12-30.
+        for (const TDateTime Date : {Info.StandardDate, Info.DaylightDate})
+            EXPECT_EQ(Zone.GetUtcOffset(Date - 1).Ticks != Zone.GetUtcOffset(Date + 1).Ticks, Bias != 0);
     }
 }
 
 TEST(LocalZoneLinux, OffsetsAsTextAndAsParts) {
-    struct TCase {
-        const char* Zone;
-        const char16_t* Short;
-        int Offset, Hours, Minutes;
-    };
-    const TCase Cases[] = {{"ABC-1", u"GMT +1", 60, 1, 0},      {"ABC5", u"GMT -5", -300, 5, 0},
-                           {"UTC0", u"GMT", 0, 0, 0},           {"ABC-5:30", u"GMT +5", 330, 5, 30},
-                           {"ABC-0:30", u"GMT", 30, 0, 30},     {"ABC0:30", u"GMT", -30, 0, 30},
-                           {"ABC3:30", u"GMT -3", -210, 3, 30}, {"ABC-1:59", u"GMT +1", 119, 2, 0},
-                           {"ABC-1:02", u"GMT +1", 62, 1, 0},   {"ABC-1:57", u"GMT +1", 117, 1, 57},
-                           {"ABC1:03", u"GMT -1", -63, 1, 3}};
+    const std::tuple<const char*, UnicodeString, int, int, int> Cases[] = {
+        {"ABC5", u"GMT -5", -300, 5, 0},   {"ABC-5:30", u"GMT +5", 330, 5, 30},
+        {"ABC0:30", u"GMT", -30, 0, 30},   {"ABC-1:59", u"GMT +1", 119, 2, 0},
+        {"ABC-1:02", u"GMT +1", 62, 1, 0}, {"ABC-1:57", u"GMT +1", 117, 1, 57},
+        {"ABC1:03", u"GMT -1", -63, 1, 3}};
     const TZoneOfTheEnvironment Keep("UTC0");
-    for (const TCase& Case : Cases) {
-        TZoneOfTheEnvironment::Set(Case.Zone);
-        EXPECT_EQ(QzGetTimeZone(), UnicodeString(Case.Short)) << Case.Zone;
+    for (const auto& [Zone, Short, Minutes, Hour, Minute] : Cases) {
+        TZoneOfTheEnvironment::Set(Zone);
+        EXPECT_EQ(QzGetTimeZone(), Short) << Zone;
         for (int Step = -50; Step < 50; ++Step) { // on both sides of day 0
             std::int32_t Offset;
-            std::uint16_t Hours, Minutes;
-            QzCalcTimeZoneOffset(Step * 1000.25 + (Step < 0 ? -2.125 : 2.125), Offset, Hours, Minutes);
-            EXPECT_EQ(Offset, Case.Offset) << Case.Zone << ' ' << Step;
-            EXPECT_EQ(Hours, Case.Hours) << Case.Zone << ' ' << Step;
-            EXPECT_EQ(Minutes, Case.Minutes) << Case.Zone << ' ' << Step;
+            std::uint16_t ItsHour, ItsMinute;
+            QzCalcTimeZoneOffset(Step * 1000.25 + (Step < 0 ? -2.125 : 2.125), Offset, ItsHour, ItsMinute);
+            EXPECT_EQ(std::tuple(Offset, int(ItsHour), int(ItsMinute)), std::tuple(Minutes, Hour, Minute))
+                << Zone;
         }
     }
 }

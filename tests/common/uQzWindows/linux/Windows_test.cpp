@@ -1,7 +1,5 @@
 #include <qz/common/uQzWindows.h>
 
-#include <unistd.h>
-
 #include <gtest/gtest.h>
 
 #include "tests/support/TemporaryDirectory.h"
@@ -31,22 +29,6 @@ TEST(FileTimesLinux, CreationIsLocalTimeOfItsMoment) {
         QzSetFileCreated(Path, Utc);
         EXPECT_EQ(Local, QzGetFileCreated(Path));
     }
-}
-
-TEST(AccountsLinux, NamesFollowTheProcess) {
-    if (geteuid() != 0) { // who cannot act as others
-        EXPECT_EQ(QzGetElevationLevel(), elLimited);
-        return;
-    }
-    const UnicodeString Own = QzGetUserName();
-    ASSERT_EQ(QzGetElevationLevel(), elFull);
-    ASSERT_EQ(seteuid(3'999'999), 0);
-    const UnicodeString Other = QzGetUserName();
-    const TQzElevationLevel Level = QzGetElevationLevel();
-    ASSERT_EQ(seteuid(0), 0);
-    EXPECT_EQ(Other, u"3999999");
-    EXPECT_EQ(Level, elLimited);
-    EXPECT_EQ(QzGetUserName(), Own);
 }
 
 } // namespace
