@@ -191,7 +191,7 @@ inline constexpr TMakerEntry cLogBaseMaker[] = {Maker<TQzLogBase::TVirtualCreate
 
 // The class record of an appender or layout, by which the registries can make it.
 template <std::derived_from<TQzLogBase> T>
-constexpr TClassRec DescribeLogBase(std::u16string_view AName, TClassDescription AMore) noexcept {
+consteval TClassRec DescribeLogBase(std::u16string_view AName, TClassDescription AMore) {
     if (AMore.Makers.empty())
         AMore.Makers = detail::cLogBaseMaker<T>;
     return DescribeClass<T>(AName, AMore);

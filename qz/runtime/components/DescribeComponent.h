@@ -22,7 +22,7 @@ inline constexpr TMakerEntry cComponentMaker[] = {Maker<TComponent::TVirtualCrea
 
 // AMore lists what the class adds; its makers are those of a component unless it names its own.
 template <std::derived_from<TComponent> T>
-constexpr TClassRec DescribeComponent(std::u16string_view AName, TClassDescription AMore) noexcept {
+consteval TClassRec DescribeComponent(std::u16string_view AName, TClassDescription AMore) {
     if (AMore.Makers.empty())
         AMore.Makers = detail::cComponentMaker<T>;
     return DescribeClass<T>(AName, AMore);

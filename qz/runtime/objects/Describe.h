@@ -157,9 +157,33 @@ struct TClassDescription {
     bool IsPublic = true;
 };
 
-// The record of class T under its registered name.
+namespace detail {
+
+// Whether T has interfaces that its parent has not: the counting operations are declared in T, or in what
+// mixes the interfaces in, or are ambiguous.
+template <class T> struct TMemberOwner;
+template <class C> struct TMemberOwner<std::uint32_t (C::*)()> {
+    using TType = C;
+};
+template <class T> constexpr bool AddsInterfaces() noexcept {
+    if constexpr (!std::is_base_of_v<IInterface, T> || !requires { typename T::Inherited; })
+        return false;
+    else if constexpr (!requires { &T::_AddRef; })
+        return true;
+    else
+        return !std::is_base_of_v<typename TMemberOwner<decltype(&T::_AddRef)>::TType, typename T::Inherited>;
+}
+// A call stops the compilation with its name in the message.
+void InterfacesAreMissing();
+
+} // namespace detail
+
+// The record of class T under its registered name. Does not compile if T adds interfaces to those of its
+// parent and AMore lists none.
 template <class T>
-constexpr TClassRec DescribeClass(std::u16string_view AName, const TClassDescription& AMore) noexcept {
+consteval TClassRec DescribeClass(std::u16string_view AName, const TClassDescription& AMore) {
+    if (detail::AddsInterfaces<T>() && AMore.Interfaces.empty())
+        detail::InterfacesAreMissing();
     TClassRec Class;
     Class.Info.Kind = tkClass;
     Class.Info.Ops = &detail::cOps<TObject*>;

@@ -43,7 +43,7 @@ template <class T> constexpr std::span<const TMakerEntry> ExceptionMakers() noex
 } // namespace detail
 
 template <std::derived_from<Exception> T>
-constexpr TClassRec DescribeException(std::u16string_view AName, std::u16string_view AUnit) noexcept {
+consteval TClassRec DescribeException(std::u16string_view AName, std::u16string_view AUnit) {
     return DescribeClass<T>(AName, {.Unit = AUnit, .Makers = detail::ExceptionMakers<T>()});
 }
 

@@ -146,8 +146,7 @@ constexpr bool IsSmallSize(std::size_t ASize, std::size_t AAlign) noexcept {
 // What TTypeOps::IsSmall says.
 template <class T>
 inline constexpr bool cIsSmall = // NOLINTNEXTLINE(bugprone-sizeof-expression): T may well be a pointer
-    IsSmallSize(sizeof(T), alignof(T)) && std::is_nothrow_move_constructible_v<T> &&
-    (std::is_nothrow_copy_constructible_v<T> || !std::is_copy_constructible_v<T>);
+    IsSmallSize(sizeof(T), alignof(T)) && std::is_nothrow_copy_constructible_v<T>;
 
 template <class T>
 concept CHasClassRec = requires {

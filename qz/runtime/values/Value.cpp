@@ -34,13 +34,11 @@ void TValueBlock::Free(TValueBlock* ABlock) noexcept {
 
 } // namespace detail
 
-void TValue::CopyFrom(const TValue& AOther) {
+void TValue::CopyFrom(const TValue& AOther) noexcept {
     if (!AOther.FType->Ops->IsSmall) {
         AOther.Block()->RefCount.fetch_add(1, std::memory_order_relaxed);
         return TakeBytes(AOther);
     }
-    if (AOther.FType->Ops->Copy == nullptr)
-        AOther.RaiseCast(AOther.FType->Name);
     AOther.FType->Ops->Copy(FRoom, AOther.FRoom);
     FType = AOther.FType;
 }

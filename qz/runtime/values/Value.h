@@ -80,7 +80,7 @@ public:
     TValue(T&& AValue) { // NOLINT(bugprone-forwarding-reference-overload): T is no TValue
         Box<detail::TBoxed<std::remove_cvref_t<T>>>(std::forward<T>(AValue));
     }
-    TValue(const TValue& AOther) {
+    TValue(const TValue& AOther) noexcept {
         if (AOther.IsPlain()) [[likely]]
             TakeBytes(AOther);
         else
@@ -88,8 +88,7 @@ public:
     }
     // AOther has no value then.
     TValue(TValue&& AOther) noexcept { MoveFrom(AOther); }
-    // An exception of a copy leaves the value as it was.
-    TValue& operator=(const TValue& AOther) { return *this = TValue(AOther); }
+    TValue& operator=(const TValue& AOther) noexcept { return *this = TValue(AOther); }
     TValue& operator=(TValue&& AOther) noexcept {
         if (IsPlain() && this != &AOther) [[likely]]
             MoveFrom(AOther);
@@ -276,7 +275,7 @@ private:
         return Result;
     }
     void KeepBlock(detail::TValueBlock* ABlock) noexcept { std::memcpy(FRoom, &ABlock, sizeof(void*)); }
-    void CopyFrom(const TValue& AOther);
+    void CopyFrom(const TValue& AOther) noexcept;
     void Relocate(TValue& AOther) noexcept;
     void Replace(TValue& AOther) noexcept;
     void Destroy() noexcept;
