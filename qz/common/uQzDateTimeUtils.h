@@ -3,6 +3,7 @@
 
 // The enumerations of the unit, dates that are in UTC, and
 // TQzDuration, a span of months and seconds.
+#include <qz/common/uQzDateTimeUtils/CalculateAge.h>
 #include <qz/common/uQzDateTimeUtils/CalendarTypes.h>
 // QzBOMonth, QzDaysInMonth, QzDayOfYear and their
 // kin: where months and years begin and end.

@@ -36,7 +36,10 @@ QZ_API TResult<TFileTimes> ReadFileTimes(std::u16string_view APath);
 
 // Sets the creation time of a file, not of a directory. Follows links. Linux needs read and write permission
 // and a file system with extended attributes; otherwise EACCES, EROFS, ENOTSUP or similar. Fails with EIO if
-// the time cannot be read back.
+// the time cannot be read back. On Linux the time belongs to the file by its inode number and its real
+// creation time, so that a copy does not have it. A file system that changes one of them drops the time: an
+// overlay whose lower layer held the file when it was set and is changed or mounted again, and a restored
+// backup.
 QZ_API TResult<> SetFileCreated(std::u16string_view APath, std::int64_t ATime);
 
 // Fails for a time before 1601, with the system's code for an invalid argument.
@@ -46,5 +49,17 @@ QZ_API TResult<> CheckFileTime(std::int64_t ATime) noexcept;
 // other side of a daylight saving change is an hour off. Nothing on Linux, which has no such rule, and for a
 // time before 1601.
 QZ_API std::optional<std::int64_t> LocalFileTime(std::int64_t ATime) noexcept;
+
+// A date and a time of day as DOS stores them, in steps of two seconds.
+struct TDosTime {
+    std::uint16_t Date; // the year after 1980, the month and the day in 7, 4 and 5 bits
+    std::uint16_t Time; // hours, minutes and half the seconds in 5, 6 and 5 bits
+
+    friend bool operator==(const TDosTime&, const TDosTime&) = default;
+};
+
+// A local file time, rounded up to two seconds. Nothing outside 1980 to 2107 and for a time that rounds up to
+// 2108. On Windows FileTimeToDosDateTime answers.
+QZ_API std::optional<TDosTime> DosTimeOf(std::int64_t ALocalTime) noexcept;
 
 } // namespace qz::platform

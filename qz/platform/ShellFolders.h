@@ -31,7 +31,8 @@
 namespace qz::platform {
 
 // The full path, without a trailing separator. Creates a missing folder; on Linux only its owner has access
-// unless it is a shared one. The home and system folders such as /usr/share/fonts are never created. Nothing
+// unless it is a shared one. The home and system folders such as /usr/share/fonts are never created, nor
+// is a folder of a home that does not exist. Nothing
 // for a number without a folder in the file system, and if the folder is missing and cannot be created. On
 // Linux a child of fork() may call it while HOME is set. On Windows the path may be empty if the shell
 // provides no allocator. Any thread.

@@ -1,7 +1,8 @@
 // The system's time zone as plain data: the offsets from UTC, and when they change.
 //
 //     const std::string Stamp = SystemZoneStamp();
-//     const TSystemZone Zone = ReadSystemZone();       // again only when the stamp changes
+//     if (const TResult<TSystemZone> Zone = ReadSystemZone())   // again only when the stamp changes
+//         Use(*Zone);
 //
 // The data holds a list of changes, yearly rules, or both. Reading it accesses files and the environment
 // (Linux) or the registry (Windows): keep the result.
@@ -12,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include <qz/platform/Error.h>
 #include <qz/platform/Export.h>
 
 namespace qz::platform {
@@ -83,9 +85,10 @@ struct TSystemZone {
     friend bool operator==(const TSystemZone&, const TSystemZone&) = default;
 };
 
-// The current setting; UTC if it cannot be read. Any thread; on Linux only SetEnvironment may change the
-// environment meanwhile. May raise std::bad_alloc.
-QZ_API TSystemZone ReadSystemZone();
+// The current setting; UTC, also as the Id, for a setting without readable data. Fails if the data exists but
+// cannot be read now, as without a free file descriptor. Any thread; on Linux only SetEnvironment may change
+// the environment meanwhile. May raise std::bad_alloc.
+QZ_API TResult<TSystemZone> ReadSystemZone();
 
 // Bytes that change whenever the setting does. Otherwise as ReadSystemZone.
 QZ_API std::string SystemZoneStamp();

@@ -28,8 +28,10 @@ TDateTime QzAddQuarters(TDateTime ADate, std::int32_t ACount) {
 }
 
 TDateTime QzRoundTime(TDateTime ADate, std::int32_t AInterval) {
-    if (AInterval < 1)
-        throw EConvertError(AInterval == 0 ? u"Division by zero" : u"Invalid interval");
+    if (AInterval == 0)
+        throw EDivByZero(u"Division by zero");
+    if (AInterval < 0)
+        throw EConvertError(u"Invalid interval");
     std::uint16_t Year, Month, Day, Hours, Minutes, Seconds, MSecs;
     DecodeDateTime(ADate, Year, Month, Day, Hours, Minutes, Seconds, MSecs);
     int Hour = Hours;

@@ -16,8 +16,4 @@ std::int32_t QzAge(TDateTime ABirth) {
     return QzAge(Now(), ABirth);
 }
 
-std::int32_t QzCalculateAge(TDateTime ABirth) {
-    return QzAge(ABirth);
-}
-
 } // namespace qz

@@ -17,6 +17,5 @@ namespace qz {
 QZ_API std::int32_t QzAge(TDateTime AReference, TDateTime ABirth);
 // Now, in the system's time zone.
 QZ_API std::int32_t QzAge(TDateTime ABirth);
-QZ_API std::int32_t QzCalculateAge(TDateTime ABirth);
 
 } // namespace qz

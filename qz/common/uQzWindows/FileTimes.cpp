@@ -8,27 +8,22 @@ namespace qz {
 namespace {
 
 constexpr std::int64_t cStepsPerMSec = 10'000;
-constexpr std::int64_t cDay1980 = 29221; // the range of DOS dates
-constexpr std::int64_t cDay2108 = 75972;
 
 std::int64_t FileTimeOf(TDateTime ADate) {
     const TDayAndTime Parts = SplitDateTime(ADate);
     return ((Parts.Day - Day1601) * MSecsPerDay + Parts.MSecs) * cStepsPerMSec;
 }
 
-// As a date and time of DOS, which counts in steps of two seconds.
+// As a date and time of DOS; 0 outside its range.
 TDateTime DosTime(std::int64_t ATime) {
-    constexpr std::int64_t cMSecsPerStep = 2000;
-    std::int64_t Local = ATime / cStepsPerMSec;
-    if (const std::optional<std::int64_t> Own = platform::LocalFileTime(ATime))
-        Local = *Own / cStepsPerMSec;
-    else
-        Local += TTimeZone::Local().GetUtcOffsetMSecs(Local + Day1601 * MSecsPerDay);
-    const std::int64_t MSecs = Local / cMSecsPerStep * cMSecsPerStep;
-    const std::int64_t Day = MSecs / MSecsPerDay + Day1601;
-    if (Day < cDay1980 || Day >= cDay2108)
+    const std::int64_t Utc = ATime / cStepsPerMSec + Day1601 * MSecsPerDay;
+    const std::int64_t Local = platform::LocalFileTime(ATime).value_or(
+        ATime + TTimeZone::Local().GetUtcOffsetMSecs(Utc) * cStepsPerMSec);
+    const std::optional<platform::TDosTime> Dos = platform::DosTimeOf(Local);
+    if (!Dos)
         return 0;
-    return JoinDateTime({static_cast<std::int32_t>(Day), static_cast<std::int32_t>(MSecs % MSecsPerDay)});
+    return EncodeDateTime((Dos->Date >> 9) + 1980, Dos->Date >> 5 & 15, Dos->Date & 31, Dos->Time >> 11,
+                          Dos->Time >> 5 & 63, (Dos->Time & 31) * 2, 0);
 }
 
 TDateTime TimeOfFile(const TStringArg& AName, std::int64_t platform::TFileTimes::*AWhich) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <cerrno>
 #include <charconv>
+#include <chrono>
 #include <limits>
 #include <optional>
 #include <string>
@@ -159,6 +160,23 @@ TResult<> CheckFileTime(std::int64_t ATime) noexcept {
 
 std::optional<std::int64_t> LocalFileTime(std::int64_t) noexcept {
     return std::nullopt;
+}
+
+std::optional<TDosTime> DosTimeOf(std::int64_t ALocalTime) noexcept {
+    using namespace std::chrono;
+    constexpr std::int64_t cStep = 2 * cStepsPerSecond;
+    const seconds Time{2 * (ALocalTime / cStep + (ALocalTime % cStep > 0 ? 1 : 0)) - cUnixEpochSeconds};
+    const sys_days Day = floor<days>(sys_seconds(Time));
+    const year_month_day Date(Day);
+    const hh_mm_ss Clock(sys_seconds(Time) - Day);
+    if (Date.year() < year(1980) || Date.year() > year(2107))
+        return std::nullopt;
+    const unsigned Year = static_cast<unsigned>(static_cast<int>(Date.year()) - 1980);
+    const auto Seconds =
+        Clock.hours().count() << 11 | Clock.minutes().count() << 5 | Clock.seconds().count() / 2;
+    return TDosTime{
+        static_cast<std::uint16_t>(Year << 9 | unsigned{Date.month()} << 5 | unsigned{Date.day()}),
+        static_cast<std::uint16_t>(Seconds)};
 }
 
 } // namespace qz::platform

@@ -143,6 +143,12 @@ bool MakePath(const std::string& APath, mode_t AMode) {
     }
 }
 
+// Whether the path lies in a home that does not exist.
+bool LacksHome(const std::string& APath) {
+    const std::string Home = detail::HomeDirectory();
+    return !Home.empty() && APath.starts_with(Home + '/') && !IsDirectory(Home);
+}
+
 } // namespace
 
 std::optional<std::string> detail::FindFolder(int ANumber, const TSharedPlaces& APlaces) {
@@ -152,10 +158,10 @@ std::optional<std::string> detail::FindFolder(int ANumber, const TSharedPlaces& 
     TFound Found = PathOf(*Folder, APlaces);
     if (Folder->Place != TPlace::System && Folder->Place != TPlace::Chosen)
         Found.Path = Below(std::move(Found.Path), Folder->Name);
-    const bool Ok = Found.Path.empty()    ? false
-        : Folder->Place == TPlace::System ? true
-        : Folder->Place == TPlace::Home   ? IsDirectory(Found.Path)
-                                          : MakePath(Found.Path, Found.IsOwn ? 0700 : 0755);
+    const bool Ok = Found.Path.empty() || LacksHome(Found.Path) ? false
+        : Folder->Place == TPlace::System                       ? true
+        : Folder->Place == TPlace::Home                         ? IsDirectory(Found.Path)
+                                        : MakePath(Found.Path, Found.IsOwn ? 0700 : 0755);
     return Ok ? std::optional(std::move(Found.Path)) : std::nullopt;
 }
 

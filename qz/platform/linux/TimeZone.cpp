@@ -1,5 +1,6 @@
 #include <qz/platform/TimeZone.h>
 
+#include <cerrno>
 #include <climits>
 #include <optional>
 #include <string_view>
@@ -55,23 +56,32 @@ TSetting Setting() {
     return Result;
 }
 
-bool ReadWhole(const std::string& APath, std::vector<std::byte>& AData) {
+// Whether a failure to open or read a file may have gone a moment later.
+bool IsPassing(int ACode) {
+    return ACode == EMFILE || ACode == ENFILE || ACode == ENOMEM || ACode == EIO || ACode == EINTR ||
+        ACode == EAGAIN || ACode == ESTALE;
+}
+
+// Empty for what is no regular file of a fitting size, and for what does not exist. Fails otherwise.
+TResult<std::vector<std::byte>> ReadWhole(const std::string& APath) {
+    std::vector<std::byte> Data;
     // Does not wait for a writer of a pipe.
     const int File = detail::OpenNative(APath.c_str(), O_RDONLY | O_NONBLOCK);
     if (File < 0)
-        return false;
+        return IsPassing(errno) ? TError(errno) : TResult(std::move(Data));
     struct stat Info;
-    ssize_t Got = -1;
+    ssize_t Got = 0;
     if (fstat(File, &Info) == 0 && S_ISREG(Info.st_mode) && Info.st_size > 0 &&
         static_cast<std::size_t>(Info.st_size) <= detail::cLongestZoneFile) {
-        AData.resize(static_cast<std::size_t>(Info.st_size));
+        Data.resize(static_cast<std::size_t>(Info.st_size));
         std::size_t Done = 0;
-        while (Done < AData.size() && (Got = detail::ReadSome(File, std::span(AData).subspan(Done))) > 0)
+        while (Done < Data.size() && (Got = detail::ReadSome(File, std::span(Data).subspan(Done))) > 0)
             Done += static_cast<std::size_t>(Got);
-        AData.resize(Done);
+        Data.resize(Done);
     }
+    const int Code = Got < 0 ? errno : 0;
     close(File);
-    return Got >= 0;
+    return Code != 0 ? TError(Code) : TResult(std::move(Data));
 }
 
 // /etc/localtime points to the file of its zone, whose path holds the name.
@@ -86,16 +96,19 @@ std::string NameBehind(const std::string& APath) {
 
 } // namespace
 
-TSystemZone ReadSystemZone() {
+TResult<TSystemZone> ReadSystemZone() {
     const TSetting Now = Setting();
     TSystemZone Result;
-    std::vector<std::byte> Data;
-    const bool IsRead =
-        (!Now.Path.empty() && ReadWhole(Now.Path, Data) && detail::ReadZoneFile(Data, Result)) ||
-        detail::ReadZoneText(Now.Value, Result);
-    if (!IsRead)
+    const auto Data = Now.Path.empty() ? TResult(std::vector<std::byte>()) : ReadWhole(Now.Path);
+    if (!Data)
+        return Data.Error();
+    if (detail::ReadZoneFile(*Data, Result) || detail::ReadZoneText(Now.Value, Result)) {
+        const bool IsSystems = Now.Value.empty() && !Now.Path.empty();
+        Result.Id = detail::FromNative(IsSystems ? NameBehind(Now.Path) : Now.Value);
+    } else {
         Result.Kinds.push_back({0, false, u"UTC"});
-    Result.Id = detail::FromNative(Now.Value.empty() && !Now.Path.empty() ? NameBehind(Now.Path) : Now.Value);
+        Result.Id = u"UTC";
+    }
     return Result;
 }
 

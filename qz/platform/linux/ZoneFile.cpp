@@ -111,15 +111,11 @@ bool ReadKinds(TReader AData, const THeader& AHeader, TSystemZone& AZone) {
     return true;
 }
 
-// A rule text between two line ends, which may be empty: then the last change stays.
-bool ReadFooter(std::string_view AText, TSystemZone& AZone) {
-    if (AText.empty() || AText.front() != '\n')
-        return false;
+// A rule text between two line ends. Without one that can be read, the last change stays.
+void ReadFooter(std::string_view AText, TSystemZone& AZone) {
     const std::size_t End = AText.find('\n', 1);
-    if (End == std::string_view::npos)
-        return false;
-    const std::string_view Rule = AText.substr(1, End - 1);
-    return Rule.empty() || ReadZoneText(Rule, AZone);
+    if (AText.starts_with('\n') && End != std::string_view::npos)
+        ReadZoneText(AText.substr(1, End - 1), AZone);
 }
 
 bool ReadBlock(TReader& AReader, const THeader& AHeader, std::size_t ATimeSize, TSystemZone& AZone) {
@@ -130,11 +126,7 @@ bool ReadBlock(TReader& AReader, const THeader& AHeader, std::size_t ATimeSize, 
     const auto Kinds = Block.subspan(std::size_t{AHeader.TimeCount} * (ATimeSize + 1));
     if (!ReadChanges(TReader(Block), AHeader, ATimeSize, AZone) || !ReadKinds(TReader(Kinds), AHeader, AZone))
         return false;
-    // Before the first change there was standard time.
-    const auto First = std::find_if(AZone.Kinds.begin(), AZone.Kinds.end(),
-                                    [](const TZoneKind& AKind) { return !AKind.IsDaylight; });
-    AZone.FirstKind = First == AZone.Kinds.end() ? std::uint16_t{0}
-                                                 : static_cast<std::uint16_t>(First - AZone.Kinds.begin());
+    AZone.FirstKind = 0; // as the format says
     return true;
 }
 
@@ -152,8 +144,9 @@ bool ReadZoneFile(std::span<const std::byte> AData, TSystemZone& AZone) {
     } else { // the same again with 64 bits
         Reader.Take(SizeOfBlock(Header, 4));
         Header = ReadHeader(Reader);
-        if (!Header.IsValid || !ReadBlock(Reader, Header, 8, Result) || !ReadFooter(Reader.Rest(), Result))
+        if (!Header.IsValid || !ReadBlock(Reader, Header, 8, Result))
             return false;
+        ReadFooter(Reader.Rest(), Result);
     }
     Result.Id = std::move(AZone.Id);
     AZone = std::move(Result);

@@ -76,4 +76,12 @@ std::optional<std::int64_t> LocalFileTime(std::int64_t ATime) noexcept {
     return StepsOf(Local);
 }
 
+std::optional<TDosTime> DosTimeOf(std::int64_t ALocalTime) noexcept {
+    const FILETIME Time = NativeTime(ALocalTime);
+    TDosTime Result;
+    if (FileTimeToDosDateTime(&Time, &Result.Date, &Result.Time) == 0)
+        return std::nullopt;
+    return Result;
+}
+
 } // namespace qz::platform

@@ -116,7 +116,7 @@ TSystemZone ReadZoneYears(const DYNAMIC_TIME_ZONE_INFORMATION& AZone) {
 
 } // namespace detail
 
-TSystemZone ReadSystemZone() {
+TResult<TSystemZone> ReadSystemZone() {
     DYNAMIC_TIME_ZONE_INFORMATION Zone{};
     if (GetDynamicTimeZoneInformation(&Zone) == TIME_ZONE_ID_INVALID) {
         std::memset(&Zone, 0, sizeof Zone);

@@ -162,9 +162,7 @@ namespace detail {
 // Whether T has interfaces that its parent has not: the counting operations are declared in T, or in what
 // mixes the interfaces in, or are ambiguous.
 template <class T> struct TMemberOwner;
-template <class C> struct TMemberOwner<std::uint32_t (C::*)()> {
-    using TType = C;
-};
+template <class C> struct TMemberOwner<std::uint32_t (C::*)()> { using TType = C; };
 template <class T> constexpr bool AddsInterfaces() noexcept {
     if constexpr (!std::is_base_of_v<IInterface, T> || !requires { typename T::Inherited; })
         return false;

@@ -16,6 +16,7 @@ constinit const TClassRec EAbort::ClassRec = DescribeException<EAbort>(u"EAbort"
 constinit const TClassRec EAssertionFailed::ClassRec =
     DescribeException<EAssertionFailed>(u"EAssertionFailed", cUnit);
 constinit const TClassRec EConvertError::ClassRec = DescribeException<EConvertError>(u"EConvertError", cUnit);
+constinit const TClassRec EDivByZero::ClassRec = DescribeException<EDivByZero>(u"EDivByZero", cUnit);
 constinit const TClassRec EInvalidCast::ClassRec = DescribeException<EInvalidCast>(u"EInvalidCast", cUnit);
 constinit const TClassRec EIntfCastError::ClassRec =
     DescribeException<EIntfCastError>(u"EIntfCastError", cUnit);

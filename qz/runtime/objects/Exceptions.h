@@ -88,6 +88,8 @@ QZ_PLAIN_EXCEPTION(EAbort, Exception);
 QZ_PLAIN_EXCEPTION(EAssertionFailed, Exception);
 // A text, number or date that cannot be converted.
 QZ_PLAIN_EXCEPTION(EConvertError, Exception);
+// An integer division by zero.
+QZ_PLAIN_EXCEPTION(EDivByZero, Exception);
 QZ_PLAIN_EXCEPTION(EInvalidCast, Exception);
 QZ_PLAIN_EXCEPTION(EIntfCastError, EInvalidCast);
 QZ_PLAIN_EXCEPTION(EInvalidPointer, Exception);

@@ -1,6 +1,7 @@
 #include <qz/platform/linux/ZoneFile.h>
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <filesystem>
@@ -90,8 +91,6 @@ TEST(ZoneFile, BadContentIsRefused) {
         [](TParts& AParts) { AParts.IsDaylight = 2; },
         [](TParts& AParts) { AParts.NameAt = 9; },
         [](TParts& AParts) { AParts.Names.back() = 'X'; },
-        [](TParts& AParts) { AParts.Footer = "\nCET-1"; },
-        [](TParts& AParts) { AParts.Footer = "\nCET\n"; },
     };
     for (size_t Index = 0; Index < std::size(Spoils); ++Index) {
         TParts Parts;
@@ -108,8 +107,12 @@ TEST(ZoneFile, NoBeginningOfAFileIsAFile) {
         const std::string Whole = Installed(Name);
         TSystemZone Zone;
         ASSERT_TRUE(Read(Whole, Zone)) << Name;
-        for (size_t Size = 0; Size < Whole.size(); ++Size)
+        const size_t Footer = Whole.rfind('\n', Whole.size() - 2);
+        for (size_t Size = 0; Size < Footer; ++Size)
             EXPECT_FALSE(Read(Whole.substr(0, Size), Zone)) << Name << ' ' << Size;
+        TSystemZone Listed;
+        ASSERT_TRUE(Read(Whole.substr(0, Footer), Listed) && Listed.Rules.empty()) << Name;
+        EXPECT_EQ(Listed.Changes, Zone.Changes) << Name;
     }
 }
 
@@ -139,13 +142,20 @@ TEST(SystemZone, OddSettingsAreUtc) {
     std::ofstream(Folder / "noise") << "TZif2 and so on";
     for (const char16_t* Name : {u"pipe", u"long", u"empty", u"noise", u".", u"missing"}) {
         Variables.Set(u"TZ", Directory / Name);
-        EXPECT_EQ(ReadSystemZone().Kinds, (std::vector<TZoneKind>{{0, false, u"UTC"}}));
+        EXPECT_EQ(ReadSystemZone()->Kinds, (std::vector<TZoneKind>{{0, false, u"UTC"}}));
+        EXPECT_EQ(ReadSystemZone()->Id, u"UTC");
     }
     std::filesystem::copy_file("/usr/share/zoneinfo/Asia/Tokyo", Folder / "Zone");
     Variables.Set(u"TZDIR", Directory.Path());
     Variables.Set(u"TZ", u"Zone");
-    EXPECT_EQ(ReadSystemZone().Id, u"Zone");
-    EXPECT_FALSE(ReadSystemZone().Changes.empty());
+    EXPECT_EQ(ReadSystemZone()->Id, u"Zone");
+    EXPECT_FALSE(ReadSystemZone()->Changes.empty());
+    rlimit Limit;
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &Limit), 0);
+    const rlimit None{0, Limit.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &None), 0);
+    EXPECT_EQ(ReadSystemZone().Code(), EMFILE);
+    setrlimit(RLIMIT_NOFILE, &Limit);
 }
 
 } // namespace

@@ -56,13 +56,16 @@ struct TLoader {
     void Look(std::int64_t ANowSeconds, bool AInFull) noexcept;
 
 private:
+    // Null if the setting cannot be read now.
     const TZoneTable* Find() {
-        platform::TSystemZone Zone = platform::ReadSystemZone();
+        platform::TResult<platform::TSystemZone> Zone = platform::ReadSystemZone();
+        if (!Zone)
+            return nullptr;
         for (const TZoneTable& Table : Tables) {
-            if (Table.Zone() == Zone)
+            if (Table.Zone() == *Zone)
                 return &Table;
         }
-        return &Tables.emplace_back(std::move(Zone));
+        return &Tables.emplace_back(std::move(*Zone));
     }
 };
 
@@ -75,20 +78,27 @@ const TZoneTable& UtcTable() {
     return *Result;
 }
 
-// If memory runs out, the zone stays unchanged.
+// If the setting cannot be read, or memory runs out, the zone stays unchanged until the next look, a second
+// later.
 void TLoader::Look(std::int64_t ANowSeconds, bool AInFull) noexcept {
+    std::int64_t LookedAt = ANowSeconds - cZoneLookSeconds + 1;
     try {
         // The stamp is read first: a concurrent change is found by the next check.
         std::string Now = platform::SystemZoneStamp();
-        if (AInFull || Now != Stamp || GZoneState.Table.load(std::memory_order_relaxed) == nullptr) {
-            GZoneState.Table.store(Find(), std::memory_order_release);
-            Stamp = std::move(Now);
+        const TZoneTable* Table = GZoneState.Table.load(std::memory_order_relaxed);
+        if (AInFull || Now != Stamp || Table == nullptr) {
+            Table = Find();
+            if (Table != nullptr)
+                GZoneState.Table.store(Table, std::memory_order_release);
+            Stamp = Table != nullptr ? std::move(Now) : std::string();
         }
+        if (Table != nullptr)
+            LookedAt = ANowSeconds;
     } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch)
     }
     if (GZoneState.Table.load(std::memory_order_relaxed) == nullptr)
         GZoneState.Table.store(&UtcTable(), std::memory_order_release);
-    GZoneState.LookedAt.store(ANowSeconds, std::memory_order_release);
+    GZoneState.LookedAt.store(LookedAt, std::memory_order_release);
 }
 
 } // namespace

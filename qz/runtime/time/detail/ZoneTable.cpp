@@ -45,7 +45,7 @@ class TChanges {
 public:
     explicit TChanges(const TSystemZone& AZone) : FZone(AZone), FFirstKind(AZone.FirstKind) {
         AddList();
-        if (!AZone.Rules.empty())
+        if (!AZone.Rules.empty() && !FListGoesOn)
             AddRules();
     }
 
@@ -69,6 +69,7 @@ private:
     const TSystemZone& FZone;
     std::uint16_t FFirstKind;
     std::vector<TChange> FItems;
+    bool FListGoesOn = false;      // after the supported years, so that no rule applies in them
     std::int64_t FListEnd = cEver; // the last change of the list, even if it changes nothing
     std::int64_t FFoldFrom = cEver;
     std::int64_t FFoldTo = cNever;
@@ -81,7 +82,8 @@ void TChanges::AddList() {
     constexpr std::int64_t cEpoch = cDay1970 * SecsPerDay;
     FItems.reserve(FZone.Changes.size());
     for (const platform::TZoneChange& Change : FZone.Changes) {
-        if (Change.From >= Latest - cEpoch)
+        FListGoesOn = Change.From >= Latest - cEpoch;
+        if (FListGoesOn)
             return;
         if (Change.From < Earliest - cEpoch) {
             FFirstKind = Change.Kind;

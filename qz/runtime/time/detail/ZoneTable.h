@@ -1,6 +1,6 @@
 // A time zone prepared for look-ups: the offset at a moment of UTC or of local time.
 //
-//     const TZoneTable Table(platform::ReadSystemZone());
+//     const TZoneTable Table(*platform::ReadSystemZone());
 //     std::int64_t Local = Utc + Table.AtUtc(Utc).Offset;
 //
 // Times are milliseconds since 1899-12-30 00:00, as in TDateTime, of the years 1 to 9999. Never changes once
