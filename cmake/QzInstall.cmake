@@ -7,6 +7,8 @@ set(QZ_INSTALLED_HEADERS ${CMAKE_INSTALL_INCLUDEDIR}/rQzCommon210)
 install(DIRECTORY qz DESTINATION ${QZ_INSTALLED_HEADERS} FILES_MATCHING PATTERN "*.h"
     PATTERN detail EXCLUDE PATTERN linux EXCLUDE PATTERN windows EXCLUDE)
 
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
 # Each form has an export file of its own: a user of the shared one needs none of the libraries underneath.
 install(TARGETS rQzCommon210_static EXPORT rQzCommon210-static)
 install(EXPORT rQzCommon210-static NAMESPACE rQzCommon210:: DESTINATION ${QZ_PACKAGE_DIR})
