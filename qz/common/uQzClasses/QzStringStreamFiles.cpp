@@ -75,7 +75,7 @@ void TQzStringStream::SaveToFile(const TStringArg& AFileName, std::uint16_t ACod
         AsItStands ? std::as_bytes(std::span(FBufferStart, FContentSize)) : Converted.Bytes(),
     };
     if (const platform::TResult<> Written = platform::WriteWholeFile(AFileName, Pieces); !Written)
-        throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Written.Code())});
+        detail::RaiseFileError<EFCreateError>(SFCreateError, AFileName, Written.Error());
 }
 
 } // namespace qz

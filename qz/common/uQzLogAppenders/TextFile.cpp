@@ -34,11 +34,6 @@ constexpr std::uint32_t cPatienceAtEnd = 300; // for a full pipe, when the progr
 // After a fork the processes share their files.
 std::atomic<bool> GHasForked{false};
 
-template <class E>
-[[noreturn]] void Raise(const TStringArg& APattern, const TStringArg& AFile, platform::TError AError) {
-    throw E(APattern, {AFile.View(), SysErrorMessage(AError.Code)});
-}
-
 // Makes the file if it does not exist. Its creation time is set, since a file system may reuse that of an
 // earlier file of the name.
 void MakeFile(const TStringArg& AFileName) {
@@ -47,7 +42,7 @@ void MakeFile(const TStringArg& AFileName) {
                                                platform::TFileCreation::Exclusive, {.Read = true});
     if (!Made) {
         if (!FileExists(AFileName))
-            Raise<EFCreateError>(SFCreateError, AFileName, Made.Error());
+            detail::RaiseFileError<EFCreateError>(SFCreateError, AFileName, Made.Error());
         return;
     }
     File.Close();
@@ -105,9 +100,9 @@ void TQzTextFile::Open() {
     if (!Opened && TLineFlusher::Instance().Duplicate(FFileName, FHandle))
         FIsShared = true;
     if (!FHandle.IsOpen())
-        Raise<EFOpenError>(SFOpenError, FFileName, Opened.Error());
+        detail::RaiseFileError<EFOpenError>(SFOpenError, FFileName, Opened.Error());
     if (const platform::TResult<> Moved = FHandle.WriteAtEnd(); !Moved)
-        Raise<EStreamError>(cCannotSeek, FFileName, Moved.Error());
+        detail::RaiseFileError<EStreamError>(cCannotSeek, FFileName, Moved.Error());
 }
 
 bool TQzTextFile::DuplicateTo(const UnicodeString& AFileName, platform::TFileHandle& AHandle,
@@ -128,7 +123,7 @@ std::int64_t TQzTextFile::Size() {
     const TScopedLock Hold(FLock);
     const auto End = FHandle.Seek(0, platform::TFileOrigin::End);
     if (!End)
-        Raise<EStreamError>(cCannotSeek, FFileName, End.Error());
+        detail::RaiseFileError<EStreamError>(cCannotSeek, FFileName, End.Error());
     return *End + static_cast<std::int64_t>(FWaiting);
 }
 
@@ -177,7 +172,7 @@ void TQzTextFile::AppendWhole(TBytes ABytes) {
         FPatienceAtEnd = 0;
     if (Written.Done != 0)
         TakeBack(ABytes.first(Written.Done));
-    Raise<EWriteError>(cCannotWrite, FFileName, Written.Error);
+    detail::RaiseFileError<EWriteError>(cCannotWrite, FFileName, Written.Error);
 }
 
 // Removes ABytes from the end of the file; false if other bytes are there.

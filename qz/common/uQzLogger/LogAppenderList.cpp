@@ -54,7 +54,7 @@ int TQzLogAppenderList::Count() const noexcept {
 Ref<IQzLogAppender> TQzLogAppenderList::GetAppender(int AIndex) const {
     Ref<IQzLogAppender> Result = FSet->Item(AIndex);
     if (Result == nullptr)
-        detail::RaiseOutOfRange();
+        detail::RaiseOutOfRange(AIndex, FSet->Count());
     return Result;
 }
 

@@ -97,7 +97,7 @@ public:
     void Delete(int AIndex) { ExtractAt(AIndex); }
     void DeleteRange(int AIndex, int ACount) {
         if (AIndex < 0 || ACount < 0 || ACount > Count() - AIndex)
-            detail::RaiseOutOfRange();
+            detail::RaiseOutOfRange(std::int64_t{AIndex} + ACount, Count());
         FItems.erase(FItems.begin() + AIndex, FItems.begin() + AIndex + ACount);
     }
     // Deletes the first equal item and gives its place; -1 when there is none.
@@ -129,13 +129,13 @@ public:
     // Cuts the list, or lengthens it by empty items.
     void SetCount(int ACount) {
         if (ACount < 0)
-            detail::RaiseOutOfRange();
+            detail::RaiseOutOfRange(ACount, Count());
         FItems.resize(static_cast<std::size_t>(ACount));
     }
     // At least the count; a lower one than now gives memory back.
     void SetCapacity(int ACapacity) {
         if (ACapacity < Count())
-            detail::RaiseOutOfRange();
+            detail::RaiseOutOfRange(ACapacity, Count());
         if (ACapacity < Capacity())
             FItems.shrink_to_fit();
         FItems.reserve(static_cast<std::size_t>(ACapacity));
@@ -149,7 +149,7 @@ public:
 private:
     static std::size_t Checked(int AIndex, int ALimit) {
         if (AIndex < 0 || AIndex >= ALimit) [[unlikely]]
-            detail::RaiseOutOfRange();
+            detail::RaiseOutOfRange(AIndex, ALimit);
         return static_cast<std::size_t>(AIndex);
     }
 

@@ -4,8 +4,8 @@
 
 namespace qz::detail {
 
-void RaiseOutOfRange() {
-    throw EArgumentOutOfRangeException(SArgumentOutOfRange);
+void RaiseOutOfRange(std::int64_t AValue, std::int64_t ACount) {
+    throw EArgumentOutOfRangeException(u"%s: %d of %d", {SArgumentOutOfRange, AValue, ACount});
 }
 
 void RaiseListIndex(int AIndex) {

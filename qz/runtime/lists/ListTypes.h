@@ -34,7 +34,8 @@ using enum TCollectionNotification;
 
 namespace detail {
 
-[[noreturn]] QZ_API void RaiseOutOfRange();                    // EArgumentOutOfRangeException
+// EArgumentOutOfRangeException for an index, a count or a capacity of a list of so many items.
+[[noreturn]] QZ_API void RaiseOutOfRange(std::int64_t AValue, std::int64_t ACount);
 [[noreturn]] QZ_API void RaiseListIndex(int AIndex);           // EListError, SListIndexError
 [[noreturn]] QZ_API void RaiseList(std::u16string_view AText); // EListError
 

@@ -316,7 +316,7 @@ void TStrings::Split(TView AText, char16_t ADelimiter, char16_t AQuote, bool ASt
 void TStrings::LoadFromFile(const TStringArg& AFileName, const TEncoding& AEncoding) {
     const platform::TResult<std::vector<std::byte>> Bytes = platform::ReadWholeFile(AFileName);
     if (!Bytes)
-        throw EFOpenError(SFOpenError, {AFileName.View(), SysErrorMessage(Bytes.Code())});
+        detail::RaiseFileError<EFOpenError>(SFOpenError, AFileName, Bytes.Error());
     std::size_t Mark = 0;
     const TEncoding Encoding = TEncoding::Detect(*Bytes, AEncoding, Mark);
     SetText(Encoding.GetString(std::span(*Bytes).subspan(Mark)));
@@ -335,7 +335,7 @@ void TStrings::Save(const TStringArg& AFileName, const TBytes& AMark, const TEnc
     const std::span<const std::byte> Pieces[] = {std::as_bytes(std::span(AMark)),
                                                  std::as_bytes(std::span(Content))};
     if (const platform::TResult<> Written = platform::WriteWholeFile(AFileName, Pieces); !Written)
-        throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Written.Code())});
+        detail::RaiseFileError<EFCreateError>(SFCreateError, AFileName, Written.Error());
 }
 
 } // namespace qz

@@ -107,7 +107,21 @@ QZ_PLAIN_EXCEPTION(EPropertyError, Exception);
 // A value or a name that does not fit the type of a property, a set or an enumeration.
 QZ_PLAIN_EXCEPTION(EPropertyConvertError, Exception);
 QZ_PLAIN_EXCEPTION(EThread, Exception);
-QZ_PLAIN_EXCEPTION(EStreamError, Exception);
+
+// A failure of a stream or a file.
+class QZ_API EStreamError : public Exception {
+    QZ_EXCEPTION(EStreamError, Exception)
+public:
+    using Exception::Exception;
+    EStreamError(const TStringArg& APattern, TVarRecs AArgs, std::int32_t ACode)
+        : Exception(APattern, AArgs),
+          FErrorCode(ACode) {}
+    // The number of the system's error, or 0.
+    std::int32_t ErrorCode() const noexcept { return FErrorCode; }
+
+private:
+    std::int32_t FErrorCode = 0;
+};
 QZ_PLAIN_EXCEPTION(EFCreateError, EStreamError);
 QZ_PLAIN_EXCEPTION(EFOpenError, EStreamError);
 QZ_PLAIN_EXCEPTION(EReadError, EStreamError);

@@ -156,7 +156,7 @@ void TPropInfos::TIterator::FindNext() noexcept {
 const TPropInfo& TPropArg::Of(PTypeInfo AClass) const {
     if (const TPropInfo* Found = Find(AClass))
         return *Found;
-    throw EPropertyError(u"Property %s does not exist", {FName.View()});
+    throw EPropertyError(u"Property %s does not exist in %s", {FName.View(), AClass->Name});
 }
 
 TValue GetProp(const TObject& AObject, const TPropArg& AProp) {

@@ -34,11 +34,6 @@ TFileAccess AccessOf(std::uint16_t AMode) {
     return Access == fmOpenWrite ? TFileAccess::Write : TFileAccess::Read;
 }
 
-template <class E>
-[[noreturn]] void Raise(const TStringArg& APattern, const UnicodeString& AFile, TError AError) {
-    throw E(APattern, {AFile, SysErrorMessage(AError.Code)});
-}
-
 } // namespace
 
 constinit const TClassRec TFileStream::ClassRec =
@@ -51,15 +46,15 @@ TFileStream::TFileStream(const TStringArg& AFileName, std::uint16_t AMode) : FFi
     if (Opened)
         return;
     if (Creates)
-        Raise<EFCreateError>(SFCreateError, FFileName, Opened.Error());
-    Raise<EFOpenError>(SFOpenError, FFileName, Opened.Error());
+        detail::RaiseFileError<EFCreateError>(SFCreateError, FFileName, Opened.Error());
+    detail::RaiseFileError<EFOpenError>(SFOpenError, FFileName, Opened.Error());
 }
 
 std::int32_t TFileStream::Read(void* ABuffer, std::int32_t ACount) {
     const auto Count = static_cast<std::size_t>(std::max(ACount, 0));
     const platform::TResult<std::size_t> Got = FHandle.Read({static_cast<std::byte*>(ABuffer), Count});
     if (!Got)
-        Raise<EReadError>(u"Cannot read from file \"%s\". %s", FFileName, Got.Error());
+        detail::RaiseFileError<EReadError>(u"Cannot read from file \"%s\". %s", FFileName, Got.Error());
     return static_cast<std::int32_t>(*Got);
 }
 
@@ -67,7 +62,7 @@ std::int32_t TFileStream::Write(const void* ABuffer, std::int32_t ACount) {
     const auto Count = static_cast<std::size_t>(std::max(ACount, 0));
     const platform::TWritten Written = FHandle.Write({static_cast<const std::byte*>(ABuffer), Count});
     if (!Written && Written.Done == 0)
-        Raise<EWriteError>(cCannotWrite, FFileName, Written.Error);
+        detail::RaiseFileError<EWriteError>(cCannotWrite, FFileName, Written.Error);
     return static_cast<std::int32_t>(Written.Done);
 }
 
@@ -75,18 +70,19 @@ std::int64_t TFileStream::Seek(std::int64_t AOffset, TSeekOrigin AOrigin) {
     const platform::TResult<std::int64_t> Position =
         FHandle.Seek(AOffset, static_cast<platform::TFileOrigin>(AOrigin));
     if (!Position)
-        Raise<EStreamError>(cCannotSeek, FFileName, Position.Error());
+        detail::RaiseFileError<EStreamError>(cCannotSeek, FFileName, Position.Error());
     return *Position;
 }
 
 void TFileStream::SetSize(std::int64_t ANewSize) {
     if (const platform::TResult<> Result = FHandle.SetSize(ANewSize); !Result)
-        Raise<EStreamError>(u"Cannot change the size of file \"%s\". %s", FFileName, Result.Error());
+        detail::RaiseFileError<EStreamError>(u"Cannot change the size of file \"%s\". %s", FFileName,
+                                             Result.Error());
 }
 
 void TFileStream::FlushToDisk() {
     if (const platform::TResult<> Result = FHandle.Flush(); !Result)
-        Raise<EStreamError>(u"Cannot flush file \"%s\". %s", FFileName, Result.Error());
+        detail::RaiseFileError<EStreamError>(u"Cannot flush file \"%s\". %s", FFileName, Result.Error());
 }
 
 } // namespace qz

@@ -9,11 +9,13 @@
 // reached the system when the call returns.
 #pragma once
 
+#include <concepts>
 #include <span>
 
 #include <qz/platform/FileHandle.h>
 #include <qz/runtime/base/StringArg.h>
 #include <qz/runtime/base/UnicodeString.h>
+#include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/streams/Stream.h>
 
 namespace qz {
@@ -30,6 +32,16 @@ inline constexpr std::uint16_t fmShareDenyNone = 0x0040;
 
 inline constexpr TTextConstant SFCreateError = u"Cannot create file \"%s\". %s";
 inline constexpr TTextConstant SFOpenError = u"Cannot open file \"%s\". %s";
+
+namespace detail {
+// Raises E with its code; the pattern has places for the file and for the system's text.
+template <std::derived_from<EStreamError> E>
+[[noreturn]] void RaiseFileError(const TStringArg& APattern, const TStringArg& AFile,
+                                 platform::TError AError) {
+    throw E(APattern, {AFile.View(), SysErrorMessage(static_cast<std::int32_t>(AError.Code))},
+            static_cast<std::int32_t>(AError.Code));
+}
+} // namespace detail
 
 class QZ_API TFileStream : public TStream {
     QZ_CLASS(TFileStream, TStream)

@@ -43,7 +43,7 @@ void TCustomMemoryStream::SaveToStream(TStream& AStream) const {
 
 void TCustomMemoryStream::SaveToFile(const TStringArg& AFileName) const {
     if (const platform::TResult<> Written = platform::WriteWholeFile(AFileName, Content()); !Written)
-        throw EFCreateError(SFCreateError, {AFileName.View(), SysErrorMessage(Written.Code())});
+        detail::RaiseFileError<EFCreateError>(SFCreateError, AFileName, Written.Error());
 }
 
 TMemoryStream::~TMemoryStream() {

@@ -71,8 +71,8 @@ private:
 };
 
 [[noreturn]] void RaiseUnknown(TVarType AType) {
-    throw EVariantTypeCastError(u"A variant of type %d does not exist on both sides of OLE Automation",
-                                {AType});
+    throw EVariantTypeCastError(u"A variant of type %s does not exist on both sides of OLE Automation",
+                                {VarTypeAsText(AType)});
 }
 
 void CheckDepth(int ADepth) {
@@ -252,8 +252,8 @@ Variant ArrayFrom(void* AArray, TVarType ACode, int ADepth) {
     const TVarType Type = TypeFor(Source.Elements);
     detail::TItemsPtr Items = detail::NewItems(Type, Bounds);
     if (Items->Count != 0 && Source.ElementSize != SystemSize(Type))
-        throw EVariantArrayCreateError(u"The elements of a system array of type %d have %d bytes",
-                                       {Source.Elements, Source.ElementSize});
+        throw EVariantArrayCreateError(u"The elements of a system array of type %s have %d bytes",
+                                       {VarTypeAsText(Source.Elements), Source.ElementSize});
     if (Type == varVariant || Type == varDecimal || IsText(Type) || IsInterface(Type)) {
         for (std::size_t I = 0; I < Items->Count; ++I)
             detail::StoreItem(*Items, I,

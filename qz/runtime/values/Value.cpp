@@ -162,7 +162,8 @@ std::size_t TValue::GetArrayLength() const {
 
 TValue TValue::GetArrayElement(std::size_t AIndex) const {
     if (AIndex >= GetArrayLength())
-        detail::RaiseOutOfRange();
+        detail::RaiseOutOfRange(static_cast<std::int64_t>(AIndex),
+                                static_cast<std::int64_t>(GetArrayLength()));
     return detail::TValueAccess::Make(FType->ElementType(), [&](void* ATarget) {
         FType->Array->GetItem(GetReferenceToRawData(), AIndex, ATarget);
     });
@@ -170,7 +171,8 @@ TValue TValue::GetArrayElement(std::size_t AIndex) const {
 
 void TValue::SetArrayElement(std::size_t AIndex, const TValue& AElement) {
     if (AIndex >= GetArrayLength())
-        detail::RaiseOutOfRange();
+        detail::RaiseOutOfRange(static_cast<std::int64_t>(AIndex),
+                                static_cast<std::int64_t>(GetArrayLength()));
     const TValue Element = AElement.Cast(FType->ElementType());
     FType->Array->SetItem(OwnData(), AIndex, Element.GetReferenceToRawData());
 }

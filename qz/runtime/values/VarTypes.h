@@ -4,6 +4,8 @@
 #include <concepts>
 #include <cstdint>
 
+#include <qz/runtime/base/UnicodeString.h>
+
 namespace qz {
 
 using TVarType = std::uint16_t;
@@ -39,6 +41,10 @@ inline constexpr TVarType varUString = 258;
 inline constexpr TVarType varTypeMask = 0x0FFF;
 inline constexpr TVarType varArray = 0x2000; // joined with the type of the elements
 inline constexpr TVarType varByRef = 0x4000; // only in the system's own variants
+
+// The name of a type for messages: "Integer", "Array Byte", "ByRef Date"; the number in hexadecimal digits
+// for one that is not listed here.
+QZ_API UnicodeString VarTypeAsText(TVarType AType);
 
 namespace detail {
 

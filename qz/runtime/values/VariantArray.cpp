@@ -23,7 +23,7 @@ using detail::TVariantItems;
 
 const TVariantItems& ItemsOf(const Variant& AArray) {
     if (!VarIsArray(AArray))
-        throw EVariantInvalidOpError(u"A variant of type %d is no array", {VarType(AArray)});
+        throw EVariantInvalidOpError(u"A variant of type %s is no array", {VarTypeAsText(VarType(AArray))});
     return TVariantAccess::Items(AArray);
 }
 
@@ -61,8 +61,8 @@ std::size_t Place(const TVariantItems& AItems, std::initializer_list<int> AIndex
 
 void CheckElements(const TVariantItems& AItems, TVarType AElements) {
     if (AItems.Elements != AElements)
-        throw EVariantTypeCastError(u"The elements of the variant array are of type %d and not %d",
-                                    {AItems.Elements, AElements});
+        throw EVariantTypeCastError(u"The elements of the variant array are of type %s and not %s",
+                                    {VarTypeAsText(AItems.Elements), VarTypeAsText(AElements)});
 }
 
 std::size_t SizeOf(const TVariantItems& AItems) noexcept {

@@ -34,8 +34,8 @@ std::partial_ordering CompareNumbers(const Variant& ALeft, const Variant& ARight
 }
 
 [[noreturn]] void RaiseText(const UnicodeString& AText, const Variant& ANumber) {
-    throw EVariantTypeCastError(u"The text \"%s\" cannot be compared with a value of type %d",
-                                {AText, VarType(ANumber)});
+    throw EVariantTypeCastError(u"The text \"%s\" cannot be compared with a value of type %s",
+                                {AText, VarTypeAsText(VarType(ANumber))});
 }
 
 // The text is read in the form of the other value.

@@ -42,16 +42,16 @@ namespace {
 constexpr double cTwoTo64 = 18446744073709551616.0;
 
 [[noreturn]] void RaiseOverflow(const Variant& AValue, TVarType AType) {
-    throw EVariantOverflowError(u"A variant of type %d is out of the range of type %d",
-                                {VarType(AValue), AType});
+    throw EVariantOverflowError(u"A variant of type %s is out of the range of type %s",
+                                {VarTypeAsText(VarType(AValue)), VarTypeAsText(AType)});
 }
 
 [[noreturn]] void RaiseCast(const Variant& AValue, TVarType AType) {
     if (KindOf(AValue) == TVariantKind::Text)
-        throw EVariantTypeCastError(u"The text \"%s\" cannot be converted to type %d",
-                                    {VarToStr(AValue), AType});
-    throw EVariantTypeCastError(u"A variant of type %d cannot be converted to type %d",
-                                {VarType(AValue), AType});
+        throw EVariantTypeCastError(u"The text \"%s\" cannot be converted to type %s",
+                                    {VarToStr(AValue), VarTypeAsText(AType)});
+    throw EVariantTypeCastError(u"A variant of type %s cannot be converted to type %s",
+                                {VarTypeAsText(VarType(AValue)), VarTypeAsText(AType)});
 }
 
 // A whole number before the range check.

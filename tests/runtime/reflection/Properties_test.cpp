@@ -104,7 +104,7 @@ TEST_F(Properties, TravelByTheirKind) {
 TEST_F(Properties, RefuseWhatDoesNotFit) {
     TNamed* Label = TNamed::Create();
     const Ref<INamed> Holder = Label;
-    EXPECT_EQ(Message([&] { GetProp(Pen, u"Nib"); }), u"Property Nib does not exist");
+    EXPECT_EQ(Message([&] { GetProp(Pen, u"Nib"); }), u"Property Nib does not exist in TModel");
     EXPECT_EQ(Message([&] { SetOrdProp(Pen, u"Writes", 2); }), u"Property Writes is read-only");
     EXPECT_EQ(Message([&] { GetPropValue(Pen, u"Secret"); }), u"Property Secret cannot be read");
     EXPECT_EQ(Message([&] { GetPropValue(Pen, u"Large"); }), u"Invalid property type: TLarge");

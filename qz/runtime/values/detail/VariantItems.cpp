@@ -99,7 +99,8 @@ std::size_t ElementSize(TVarType AElements) noexcept {
 TItemsPtr NewItems(TVarType AElements, std::span<const TVariantBound> ABounds) {
     const std::size_t Size = ElementSize(AElements);
     if (Size == 0)
-        throw EVariantArrayCreateError(u"A variant array cannot have elements of type %d", {AElements});
+        throw EVariantArrayCreateError(u"A variant array cannot have elements of type %s",
+                                       {VarTypeAsText(AElements)});
     if (ABounds.empty() || ABounds.size() > cMaxArrayDimensions)
         throw EVariantArrayCreateError(u"A variant array cannot have %d dimensions", {ABounds.size()});
     std::size_t Count = 0;
