@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdio>
+#include <ostream>
 
 #include <qz/platform/Clock.h>
 #include <qz/runtime/objects/Describe.h>
@@ -290,6 +292,18 @@ TDateTime NowUTC() {
     const std::int64_t Days = FloorDiv(MSecs, MSecsPerDay);
     return Join(
         {static_cast<std::int32_t>(Days + Day1601), static_cast<std::int32_t>(MSecs - Days * MSecsPerDay)});
+}
+
+std::ostream& operator<<(std::ostream& AStream, TDateTime ADate) {
+    TDayAndTime Parts;
+    if (!TrySplit(ADate, Parts))
+        return AStream << ADate.Value;
+    const TYearMonthDay Date = CivilDate(Parts.Day);
+    const int Seconds = Parts.MSecs / 1000;
+    char Text[32];
+    std::snprintf(Text, sizeof Text, "%04d-%02d-%02d %02d:%02d:%02d.%03d", Date.Year, Date.Month, Date.Day,
+                  Seconds / 3600, Seconds / 60 % 60, Seconds % 60, Parts.MSecs % 1000);
+    return AStream << Text;
 }
 
 } // namespace qz

@@ -14,6 +14,7 @@
 #pragma once
 
 #include <cstdint>
+#include <iosfwd>
 
 #include <qz/runtime/objects/TypeInfo.h>
 
@@ -41,6 +42,12 @@ template <class TTag> struct TDateTimeKind {
 using TDateTime = TDateTimeKind<struct TDateTimeTag>;
 using TDate = TDateTimeKind<struct TDateTag>; // the fraction does not matter
 using TTime = TDateTimeKind<struct TTimeTag>; // the whole part does not matter
+
+// Writes "2024-01-31 07:15:02.250"; a value outside the years 1 to 9999 as a number.
+QZ_API std::ostream& operator<<(std::ostream& AStream, TDateTime ADate);
+template <class TTag> std::ostream& operator<<(std::ostream& AStream, TDateTimeKind<TTag> ADate) {
+    return AStream << TDateTime(ADate);
+}
 
 inline constexpr int HoursPerDay = 24;
 inline constexpr int MinsPerDay = HoursPerDay * 60;

@@ -13,6 +13,7 @@
 #include "tests/support/Child.h"
 #include "tests/support/TemporaryDirectory.h"
 #include <qz/platform/FileHandle.h>
+#include <qz/platform/Paths.h>
 #include <qz/platform/linux/NativeText.h>
 
 namespace qz::platform {
@@ -175,6 +176,11 @@ TEST_F(FileLocks, ASavedFileKeepsItsNamesAndAttributes) {
     EXPECT_TRUE(Write(Path, "newer"));
     char Value = '\0';
     EXPECT_EQ(HasAttributes ? 1 : -1, getxattr(detail::ToNative(Path).c_str(), "user.note", &Value, 1));
+}
+
+TEST(PathsLinux, EveryNameSurvives) {
+    for (const std::string Name : {"", "/a/\xC3\xA4", "\xFF\xC3.txt"})
+        EXPECT_EQ(PathOfText(TextOfPath(Name)).native(), Name);
 }
 
 } // namespace

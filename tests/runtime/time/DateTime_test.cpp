@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <sstream>
 
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/time/Chrono.h>
 
 namespace qz {
 namespace {
@@ -85,6 +87,19 @@ TEST(DateTime, MonthsLaterAndEarlier) {
               EncodeDateTime(1899, 1, 15, 6, 0, 0, 0));
     EXPECT_THROW(IncMonth(EncodeDate(9999, 12, 1)), EConvertError);
     EXPECT_THROW(IncMonth(0, INT_MIN), EConvertError);
+}
+
+TEST(DateTime, TimePointsOfTheStandardLibraryAndText) {
+    using namespace std::chrono;
+    const auto Moment = sys_days(1887y / 7 / 4) + 18h + 250ms;
+    const TDateTime Date = FromSysTime(Moment + 999us);
+    EXPECT_EQ(Date, EncodeDateTime(1887, 7, 4, 18, 0, 0, 250));
+    EXPECT_EQ(ToSysTime(Date), Moment);
+    EXPECT_EQ(FromLocalTime(ToLocalTime(Date)), Date);
+    EXPECT_THROW(FromSysTime(sys_days(10000y / 1 / 1)), EConvertError);
+    std::ostringstream Text;
+    Text << Date << TTime(1e9);
+    EXPECT_EQ(Text.str(), "1887-07-04 18:00:00.2501e+09");
 }
 
 } // namespace
