@@ -93,24 +93,6 @@ TEST(Module, FindsFunctionsOfLoadedModulesOnly) {
     EXPECT_EQ(FindModuleFunction(u"", "NoSuchFunction"), nullptr);
 }
 
-bool OtherThreadGets(TRecursiveMutex& AMutex) {
-    bool Result = false;
-    AtOnce(1, [&](int) { Result = AMutex.TryEnter() && (AMutex.Leave(), true); });
-    return Result;
-}
-
-TEST(Mutex, OwnerMayEnterAgain) {
-    TRecursiveMutex Mutex;
-    Mutex.Enter();
-    EXPECT_TRUE(Mutex.TryEnter());
-    Mutex.Enter();
-    for (int Depth = 3; Depth > 0; --Depth) {
-        EXPECT_FALSE(OtherThreadGets(Mutex)) << Depth;
-        Mutex.Leave();
-    }
-    EXPECT_TRUE(OtherThreadGets(Mutex));
-}
-
 TEST(Mutex, ThreadsTakeTurns) {
     constexpr int cRounds = 4000;
     TRecursiveMutex Mutex;
@@ -129,12 +111,6 @@ TEST(Mutex, ThreadsTakeTurns) {
         }
     });
     EXPECT_EQ(Count, 4L * cRounds);
-}
-
-TEST(Threads, IdsOfLivingThreadsDiffer) {
-    const uint32_t Own = CurrentThreadId();
-    EXPECT_NE(Own, 0u); // which is no id
-    AtOnce(1, [&](int) { EXPECT_TRUE(CurrentThreadId() != Own && CurrentThreadId() != 0); });
 }
 
 TEST(Threads, ClocksRunInMilliseconds) {
