@@ -65,14 +65,7 @@ TEST(UtfForms, EachIsTheOneOfTheBestPath) {
     EXPECT_EQ(AsciiPrefix("abc\x80z"sv), 3u);
     EXPECT_EQ(AsciiPrefix(u"abc\u0080z"sv), 3u);
     EXPECT_EQ(Latin1Prefix(u"abc\u00FF\u0100z"sv), 4u);
-    std::u16string Wide(3, u'\0');
-    WidenBytes("a\xE4\xFF", Wide.data());
-    EXPECT_EQ(Wide, u"a\u00E4\u00FF");
-    std::string Narrow(3, '\0');
-    NarrowUnits(Wide, Narrow.data());
-    EXPECT_EQ(Narrow, "a\xE4\xFF");
-    SwapUnits(Wide.data(), Wide.size(), Wide.data());
-    EXPECT_EQ(Wide, u"\u6100\uE400\uFF00");
+    std::u16string Wide;
     const char16_t High = 0xD83D;
     EXPECT_TRUE(IsValidUtf8("\xC3\xA4") && IsValidUtf16(u"\U0001F600"));
     EXPECT_FALSE(IsValidUtf8("a\xC3") || IsValidUtf16({&High, 1}));
