@@ -11,7 +11,6 @@
 #include "fuzz/Fuzz.h"
 #include <qz/common/uQzLogLayouts.h>
 #include <qz/runtime/base/StringUtils.h>
-#include <qz/runtime/base/Utf.h>
 
 namespace {
 

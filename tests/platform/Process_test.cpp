@@ -10,7 +10,6 @@
 #include <qz/platform/Clock.h>
 #include <qz/platform/CommandLine.h>
 #include <qz/platform/Environment.h>
-#include <qz/platform/Error.h>
 #include <qz/platform/Files.h>
 #include <qz/platform/Module.h>
 #include <qz/platform/Mutex.h>

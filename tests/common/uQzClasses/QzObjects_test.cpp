@@ -7,16 +7,7 @@
 #include "tests/support/Message.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TemporaryDirectory.h"
-#include "tests/support/Trace.h"
 #include <qz/common/uQzClasses.h>
-#include <qz/common/uQzClasses/QzComponent.h>
-#include <qz/common/uQzClasses/QzFreeNotifies.h>
-#include <qz/common/uQzClasses/QzObjectAdapter.h>
-#include <qz/common/uQzClasses/QzObjectEx.h>
-#include <qz/runtime/components/DescribeComponent.h>
-#include <qz/runtime/objects/Describe.h>
-#include <qz/runtime/objects/Exceptions.h>
-#include <qz/runtime/values/BasicTypes.h>
 
 namespace qz {
 namespace {

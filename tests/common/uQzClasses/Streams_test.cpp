@@ -7,13 +7,10 @@
 #include "tests/support/SystemPage.h"
 #include "tests/support/TemporaryDirectory.h"
 #include "tests/support/WatchedStream.h"
-#include <qz/common/uQzClasses/QzMemoryStream.h>
 #include <qz/common/uQzClasses/StreamBuf.h>
 #include <qz/common/uQzClasses/StreamText.h>
 #include <qz/common/uQzClasses/Utf8StreamAdapter.h>
 #include <qz/common/uQzTypes/QzEncoding.h>
-#include <qz/runtime/base/Utf.h>
-#include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/streams/FileStream.h>
 
 namespace qz {

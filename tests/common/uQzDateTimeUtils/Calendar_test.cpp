@@ -9,7 +9,6 @@
 #include "tests/support/Rows.h"
 #include <qz/common/uQzDateTimeUtils.h>
 #include <qz/common/uQzSysUtils/Age.h>
-#include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/text/NumberText.h>
 #include <qz/runtime/time/TimeZone.h>
 

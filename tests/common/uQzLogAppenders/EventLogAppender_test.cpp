@@ -5,7 +5,6 @@
 #include "tests/common/support/LogConfiguration.h"
 #include "tests/common/support/LogFiles.h"
 #include "tests/common/support/MemoryAppender.h"
-#include <qz/common/uQzLogger/LogDrops.h>
 #include <qz/platform/EventLog.h>
 #include <qz/runtime/files/FileNames.h>
 #include <qz/runtime/files/FileSystem.h>

@@ -8,14 +8,9 @@
 #include "tests/common/support/LogFiles.h"
 #include "tests/common/support/MemoryAppender.h"
 #include <qz/common/uQzDateTimeUtils.h>
-#include <qz/common/uQzLogAppenders/RollingFileAppender.h>
-#include <qz/common/uQzLogger.h>
-#include <qz/common/uQzLogger/LogDrops.h>
 #include <qz/common/uQzWindows.h>
-#include <qz/platform/Threads.h>
 #include <qz/runtime/files/FileSystem.h>
 #include <qz/runtime/text/Format.h>
-#include <qz/runtime/text/NumberText.h>
 #include <qz/runtime/time/DateTimeText.h>
 
 namespace qz {

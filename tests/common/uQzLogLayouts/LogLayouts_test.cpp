@@ -10,7 +10,6 @@
 #include <qz/common/uQzWindows.h>
 #include <qz/runtime/files/FileSystem.h>
 #include <qz/runtime/time/DateTimeText.h>
-#include <qz/runtime/values/Value.h>
 
 namespace qz {
 namespace {

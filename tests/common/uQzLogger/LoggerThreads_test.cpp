@@ -6,7 +6,6 @@
 
 #include "tests/common/support/LogConfiguration.h"
 #include "tests/common/support/MemoryAppender.h"
-#include <qz/common/uQzLogger.h>
 
 namespace qz {
 namespace {

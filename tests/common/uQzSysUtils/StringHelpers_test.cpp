@@ -7,7 +7,6 @@
 #include "tests/support/Rows.h"
 #include <qz/common/uQzSysUtils.h>
 #include <qz/runtime/objects/DescribeException.h>
-#include <qz/runtime/time/DateTime.h>
 
 namespace qz {
 namespace {

@@ -3,14 +3,10 @@
 #include "tests/runtime/SampleModel.h"
 #include "tests/support/Message.h"
 #include "tests/support/Rows.h"
-#include "tests/support/Trace.h"
 #include <qz/runtime/components/Collection.h>
-#include <qz/runtime/components/DescribeComponent.h>
 #include <qz/runtime/components/LinkControlToProperty.h>
 #include <qz/runtime/objects/ClassRegistry.h>
-#include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/text/NumberText.h>
-#include <qz/runtime/values/BasicTypes.h>
 
 namespace qz {
 namespace {

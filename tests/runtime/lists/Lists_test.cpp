@@ -8,7 +8,6 @@
 #include "tests/support/TemporaryDirectory.h"
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/lists/Lists.h>
-#include <qz/runtime/lists/StringList.h>
 
 namespace qz {
 namespace {

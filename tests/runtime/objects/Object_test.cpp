@@ -4,9 +4,7 @@
 #include "tests/support/Message.h"
 #include "tests/support/SampleTypes.h"
 #include <qz/runtime/objects/DescribeException.h>
-#include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/objects/Persistent.h>
-#include <qz/runtime/objects/TypeInfo.h>
 #include <qz/runtime/time/DateTime.h>
 
 namespace qz {

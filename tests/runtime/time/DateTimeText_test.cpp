@@ -6,9 +6,7 @@
 
 #include "tests/support/Message.h"
 #include "tests/support/Rows.h"
-#include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/text/Format.h>
-#include <qz/runtime/time/DateTime.h>
 
 namespace qz {
 namespace {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <qz/platform/TimeZone.h>
 #include <qz/runtime/time/detail/ZoneTable.h>
 
 namespace qz {

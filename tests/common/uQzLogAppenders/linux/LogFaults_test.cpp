@@ -15,8 +15,6 @@
 #include "tests/common/support/MemoryAppender.h"
 #include "tests/common/support/linux/InChild.h"
 #include <qz/common/uQzLogger.h>
-#include <qz/common/uQzLogger/LogDrops.h>
-#include <qz/platform/Threads.h>
 #include <qz/runtime/text/Format.h>
 
 namespace qz {
