@@ -4,10 +4,12 @@
 #include <cmath>
 #include <functional>
 #include <random>
+#include <set>
 
 #include "tests/support/Message.h"
 #include "tests/support/Rows.h"
 #include <qz/common/uQzDateTimeUtils.h>
+#include <qz/common/uQzDateTimeUtils/TimeZoneTable.h>
 #include <qz/common/uQzSysUtils/Age.h>
 #include <qz/runtime/text/NumberText.h>
 #include <qz/runtime/time/TimeZone.h>
@@ -213,6 +215,19 @@ TEST(TimeZones, FindsByAbbreviationAndByName) {
     EXPECT_TRUE(TQzTimeZones::FindTimeZone(Zone.MsName, Zone)) << "the text may be that of the zone itself";
     EXPECT_EQ(Zone.Abbreviation, u"MSK");
     EXPECT_EQ(Raised([] { TQzTimeZones::GetTimeZone(u"XYZ"); }), u"Exception: Timezone XYZ not found!");
+}
+
+// Apart from two, only names of standard times serve several zones.
+TEST(TimeZones, RowsAreInOrderOfTheirOffsets) {
+    std::set<std::u16string_view> Names;
+    int Before = -720;
+    for (const detail::TZoneRow& Row : detail::cZoneRows) {
+        if (!Row.Name.empty() && !Row.Name.ends_with(u"Standard Time") &&
+            Row.Name != u"Marquesas Islands Time" && Row.Name != u"Greenwich Mean Time") {
+            EXPECT_TRUE(Names.insert(Row.Name).second) << UnicodeString(Row.Name);
+        }
+        EXPECT_LE(std::exchange(Before, Row.Bias), Row.Bias) << UnicodeString(Row.Abbreviation);
+    }
 }
 
 TEST(LocalZone, DatesOfARule) {

@@ -313,16 +313,6 @@ TEST_F(LogConfig, TheConfiguratorMayAskForLoggersAndLog) {
     EXPECT_FALSE(Log->GetAdditive());
 }
 
-TEST_F(LogConfig, AListKeepsEachAppenderOnce) {
-    TQzLogAppenderList& List = *Logger().GetAppenders();
-    const Ref<IQzLogAppender> First = List.Add(TQzLogBaseClass::Of<TMemoryAppender>());
-    List.Add(First.Get());
-    EXPECT_EQ(List.Count(), 1);
-    const Ref<IQzLogAppender> Second =
-        List.Add(TQzLogBaseClass::Of<TMemoryAppender>(), TQzLogBaseClass::Of<TQzSimpleLayout>());
-    EXPECT_NE(nullptr, Appender(Logger(), 1).GetLayout());
-}
-
 // The hook replaces the appender that failed by others, one of which may get its address.
 TEST_F(LogConfig, AnotherAppenderAtTheSameAddress) {
     Logger().SetLevel(llAll);

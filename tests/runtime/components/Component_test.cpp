@@ -337,19 +337,6 @@ TEST_F(Bindings, BothDirectionsComeToRest) {
     EXPECT_EQ(FB->Text(), "x");
 }
 
-TEST_F(Bindings, LossyCycleEnds) {
-    TBindingExpression* There = Bind(FA.get(), u"src.Float", FB.get(), u"dst.Number");
-    TBindingExpression* Back = Bind(FB.get(), u"src.Number", FA.get(), u"dst.Float");
-    FA->SetFloat(2.5);
-    EXPECT_EQ(FB->Number(), 2);
-    EXPECT_EQ(FA->Float(), 2);
-    const int Writes = FB->FWrites;
-    TBindings::Notify(FA.get(), u"Float");
-    EXPECT_EQ(FB->FWrites, Writes); // the value is there already
-    TBindings::RemoveBinding(There);
-    TBindings::RemoveBinding(Back);
-}
-
 TEST_F(Bindings, PathFollowsTheObjectOnTheWay) {
     TModel* First = TModel::Create(FA.get());
     TModel* Second = TModel::Create(FA.get());

@@ -1,8 +1,12 @@
 #include <qz/common/uQzDateTimeUtils/LocalZone.h>
 
 #include <gtest/gtest.h>
+#include <unicode/timezone.h>
+
+#include <set>
 
 #include "tests/support/ZoneOfTheEnvironment.h"
+#include <qz/common/uQzDateTimeUtils/TimeZoneTable.h>
 #include <qz/runtime/time/DateTimeText.h>
 
 namespace qz {
@@ -49,6 +53,22 @@ TEST(LocalZoneLinux, OffsetsAsTextAndAsParts) {
             EXPECT_EQ(std::tuple(Offset, int(ItsHour), int(ItsMinute)), std::tuple(Minutes, Hour, Minute))
                 << Zone;
         }
+    }
+}
+
+// The names of Windows are those that are known elsewhere, but for a few that are gone or written in another way.
+TEST(TimeZonesLinux, WindowsNamesAreKnown) {
+    const std::set<std::u16string_view> cOthers = {u"Altai Standard", u"N. Central Asia Standard",
+                                                   u"Mid-Atlantic Standard Time", u"Kamchatka Standard Time"};
+    for (const detail::TZoneRow& Row : detail::cZoneRows) {
+        if (Row.MsName.empty() || cOthers.contains(Row.MsName))
+            continue;
+        UErrorCode Error = U_ZERO_ERROR;
+        icu::UnicodeString Id;
+        icu::TimeZone::getIDForWindowsID(
+            icu::UnicodeString(Row.MsName.data(), static_cast<int32_t>(Row.MsName.size())), nullptr, Id,
+            Error);
+        EXPECT_FALSE(Id.isEmpty()) << UnicodeString(Row.MsName);
     }
 }
 
