@@ -3,7 +3,6 @@
 
 #include "fuzz/Fuzz.h"
 #include <qz/common/uQzTypes.h>
-#include <qz/runtime/objects/Exceptions.h>
 
 namespace {
 

@@ -54,7 +54,6 @@ TEST(Files, DirectoriesAreNoFiles) {
 
     EXPECT_FALSE(MakeDirectory(Inner));
     EXPECT_FALSE(RemoveFile(Inner));
-    EXPECT_FALSE(ReadWholeFile(Inner) || WriteWholeFile(Inner, Bytes(3)));
     EXPECT_FALSE(ReadWholeFile(Directory / u"missing") || RemoveFile(Directory / u"missing"));
     EXPECT_FALSE(WriteWholeFile(Directory / u"missing/file", Bytes(3)) ||
                  ListDirectory(Directory / u"missing"));
@@ -70,17 +69,6 @@ TEST(Files, NulInAPathIsRefused) {
     EXPECT_FALSE(WriteWholeFile(Bad, Bytes(3)) || ReadWholeFile(Bad) || RemoveFile(Bad));
     EXPECT_FALSE(MakeDirectory(Bad) || ListDirectory(Bad) || FileExists(Bad));
     EXPECT_EQ(*ReadWholeFile(Good), Bytes(5));
-}
-
-TEST(Files, PathsMayBeLong) {
-    const TTemporaryDirectory Directory;
-    std::u16string Path = Directory.Path();
-    while (Path.size() < 700) {
-        Path += u"/" + std::u16string(97, u'd');
-        ASSERT_TRUE(MakeDirectory(Path));
-        ASSERT_TRUE(WriteWholeFile(Path + u"/file", Bytes(9)));
-        EXPECT_EQ(*ReadWholeFile(Path + u"/file"), Bytes(9));
-    } // the directory is removed with all that is in it
 }
 
 TEST(Files, ReaderThreadsSeeWholeContentsOnly) {
@@ -211,17 +199,6 @@ TEST_F(FileHandle, OfRacingWritersAtMostOneIsLetIn) {
         }
     });
     EXPECT_GT(Times.load(), 0);
-}
-
-TEST_F(FileHandle, GoesBeyondFourGigabytes) {
-    constexpr int64_t cFar = (int64_t{5} << 30) + 3;
-    TFileHandle File;
-    ASSERT_TRUE(Open(File, TFileAccess::ReadWrite, {}, TFileCreation::Always));
-    ASSERT_TRUE(File.SetSize(cFar));
-    EXPECT_EQ(Seek(File, 0, TFileOrigin::End), cFar);
-    Write(File, "end");
-    EXPECT_EQ(Seek(File, cFar - 1), cFar - 1);
-    EXPECT_EQ(Read(File), std::string("\0end", 4));
 }
 
 } // namespace

@@ -10,7 +10,6 @@
 #include <qz/platform/Clock.h>
 #include <qz/platform/CommandLine.h>
 #include <qz/platform/Environment.h>
-#include <qz/platform/Error.h>
 #include <qz/platform/Files.h>
 #include <qz/platform/Module.h>
 #include <qz/platform/Mutex.h>
@@ -93,24 +92,6 @@ TEST(Module, FindsFunctionsOfLoadedModulesOnly) {
     EXPECT_EQ(FindModuleFunction(u"", "NoSuchFunction"), nullptr);
 }
 
-bool OtherThreadGets(TRecursiveMutex& AMutex) {
-    bool Result = false;
-    AtOnce(1, [&](int) { Result = AMutex.TryEnter() && (AMutex.Leave(), true); });
-    return Result;
-}
-
-TEST(Mutex, OwnerMayEnterAgain) {
-    TRecursiveMutex Mutex;
-    Mutex.Enter();
-    EXPECT_TRUE(Mutex.TryEnter());
-    Mutex.Enter();
-    for (int Depth = 3; Depth > 0; --Depth) {
-        EXPECT_FALSE(OtherThreadGets(Mutex)) << Depth;
-        Mutex.Leave();
-    }
-    EXPECT_TRUE(OtherThreadGets(Mutex));
-}
-
 TEST(Mutex, ThreadsTakeTurns) {
     constexpr int cRounds = 4000;
     TRecursiveMutex Mutex;
@@ -129,12 +110,6 @@ TEST(Mutex, ThreadsTakeTurns) {
         }
     });
     EXPECT_EQ(Count, 4L * cRounds);
-}
-
-TEST(Threads, IdsOfLivingThreadsDiffer) {
-    const uint32_t Own = CurrentThreadId();
-    EXPECT_NE(Own, 0u); // which is no id
-    AtOnce(1, [&](int) { EXPECT_TRUE(CurrentThreadId() != Own && CurrentThreadId() != 0); });
 }
 
 TEST(Threads, ClocksRunInMilliseconds) {

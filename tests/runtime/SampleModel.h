@@ -5,8 +5,6 @@
 #include <qz/runtime/components/Bindings.h>
 #include <qz/runtime/components/DescribeComponent.h>
 #include <qz/runtime/reflection/Properties.h>
-#include <qz/runtime/text/AnsiString.h>
-#include <qz/runtime/values/Currency.h>
 
 namespace qz {
 

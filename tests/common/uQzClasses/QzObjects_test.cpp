@@ -2,13 +2,12 @@
 
 #include <thread>
 
+#include "tests/runtime/SampleModel.h"
+#include "tests/support/Lines.h"
 #include "tests/support/Message.h"
-#include "tests/support/Trace.h"
-#include <qz/common/uQzClasses/QzFreeNotifies.h>
-#include <qz/common/uQzClasses/QzObjectAdapter.h>
-#include <qz/common/uQzClasses/QzObjectEx.h>
-#include <qz/runtime/objects/Describe.h>
-#include <qz/runtime/objects/Exceptions.h>
+#include "tests/support/Rows.h"
+#include "tests/support/TemporaryDirectory.h"
+#include <qz/common/uQzClasses.h>
 
 namespace qz {
 namespace {
@@ -95,18 +94,6 @@ TEST_F(QzObjects, PartnersAreToldOnceFromTheLastToTheFirst) {
     EXPECT_EQ(TakeTrace(), "told(c of m) told(a of m) freed(m) ");
 }
 
-TEST_F(QzObjects, CountedPartnerSurvivesItsNotification) {
-    const Ref<IQzObjectEx> Held = TLinked::Create(u"held");
-    TLinked* Undecided = TLinked::Create(u"undecided");
-    Held->FreeNotificationEx(Model);
-    Model->FreeNotificationEx(Undecided);
-    Model->Free();
-    EXPECT_EQ(TakeTrace(), "told(undecided of m) told(held of m) freed(m) ");
-    EXPECT_EQ(static_cast<TLinked*>(Held->Implementor())->AutoDestroyPolicy(), radTrue);
-    EXPECT_EQ(Undecided->AutoDestroyPolicy(), radComputed);
-    Undecided->Free();
-}
-
 TEST_F(QzObjects, PartnerMayNotFreeItselfOrTheEndingObject) {
     TLinked* View = TLinked::Create(u"v", Model);
     View->FOnDestroyed = [&](TObject*) { View->Free(); };
@@ -145,20 +132,6 @@ TEST_F(QzObjects, AdapterEndsWhatItOwnsAndLeavesTheRest) {
     EXPECT_EQ(TakeTrace(), "freed(m) ");
 }
 
-TEST(QzFreeNotifies, NodeSurvivesAPartnerThatRaisesOrFreesItself) {
-    TObject Owner;
-    std::unique_ptr<TQzFreeNotifies> Passing;
-    Passing = std::make_unique<TQzFreeNotifies>(&Owner, [&](TObject*) { Passing.reset(); });
-    TQzFreeNotifies Raising(&Owner, [](TObject*) { throw EAbort(u"no"); });
-    auto* Node = new TQzFreeNotifies(&Owner, {});
-    Node->Add(Passing.get());
-    Node->Add(&Raising);
-    EXPECT_THROW(Node->Free(), EAbort);
-    EXPECT_NE(Passing, nullptr);
-    Node->Free();
-    EXPECT_EQ(Passing, nullptr);
-}
-
 TEST(QzFreeNotifies, NodesOfManyThreadsEndAtTheSameMoment) {
     TObject Owner;
     std::atomic<int> Told{0};
@@ -176,6 +149,232 @@ TEST(QzFreeNotifies, NodesOfManyThreadsEndAtTheSameMoment) {
             Thread.join();
     }
     EXPECT_EQ(Told, 50 * 8 * 7 / 2) << "each link told one of its two sides";
+}
+
+// Has a text and a number, of which changes are told to its bindings.
+class TView : public TQzComponent {
+    QZ_CLASS(TView, TQzComponent)
+
+public:
+    const UnicodeString& GetTitle() const { return FTitle; }
+    void SetTitle(const UnicodeString& ATitle) {
+        FTitle = ATitle;
+        ++FWrites;
+        NotifyBindings(u"Title");
+        if (FOnTitle)
+            FOnTitle();
+    }
+    int GetWidth() const { return FWidth; }
+    void SetWidth(int AWidth) {
+        FWidth = AWidth;
+        NotifyBindings(u"Width");
+    }
+    int FWrites = 0;
+    std::function<void()> FOnTitle;
+
+protected:
+    explicit TView(TComponent* AOwner) : TQzComponent(AOwner) {}
+    ~TView() override { GTrace += u"freed(" + Name() + u") "; }
+
+private:
+    UnicodeString FTitle;
+    int FWidth = 0;
+};
+
+constexpr TPropInfo cViewProps[] = {Property<&TView::GetTitle, &TView::SetTitle>(u"Title"),
+                                    Property<&TView::GetWidth, &TView::SetWidth>(u"Width")};
+constinit const TClassRec TView::ClassRec =
+    DescribeComponent<TView>(u"TView", {.Unit = u"Test", .Properties = cViewProps});
+
+TView* NewView(const UnicodeString& AName, TComponent* AOwner = nullptr) {
+    TView* View = TView::Create(AOwner);
+    View->SetName(AName);
+    return View;
+}
+
+class QzComponent : public testing::Test {
+protected:
+    void SetUp() override { TakeTrace(); }
+};
+
+class QzBindings : public QzComponent {
+protected:
+    const TOwned<TView> First{NewView(u"a")};
+    const TOwned<TView> Second{NewView(u"b")};
+    TOwned<TModel> Edit{TModel::Create(nullptr)};
+};
+
+TEST_F(QzComponent, WithoutOwnerDiesWithItsLastReference) {
+    Ref<IQzComponent> View = NewView(u"a");
+    Ref<IQzObject> Same = As<IQzObject>(View);
+    EXPECT_TRUE(View->GetAutoDestroy());
+    EXPECT_EQ(Raised([&] { static_cast<TView*>(View.Get())->Free(); }),
+              "Exception: An instance of TView with the name a is destroyed while it's refcount is not 0!");
+    View.Clear();
+    EXPECT_EQ(TakeTrace(), "");
+    Same.Clear();
+    EXPECT_EQ(TakeTrace(), "freed(a) ");
+    TView* Lone = NewView(u"lone");
+    Lone->SetAutoDestroy(false);
+    { const Ref<IQzComponent> Passing(Lone); }
+    EXPECT_EQ(TakeTrace(), "");
+    Lone->Free();
+}
+
+TEST_F(QzComponent, WithOwnerIsEndedByTheOwnerUnlessItIsReferredTo) {
+    TView* Owner = NewView(u"owner");
+    TView* Child = NewView(u"child", Owner);
+    Ref<IQzComponent> Held = NewView(u"held", Owner);
+    { const Ref<IQzComponent> Passing(Child); }
+    EXPECT_EQ(Child->AutoDestroyPolicy(), radComputed);
+    Owner->Free();
+    EXPECT_EQ(TakeTrace(), "freed(owner) freed(child) ");
+    EXPECT_EQ(Held->_GetOwner(), nullptr);
+    Held.Clear();
+    EXPECT_EQ(TakeTrace(), "freed(held) ");
+}
+
+TEST_F(QzBindings, BoundPropertiesFollowEachOtherUntilCleared) {
+    First->Bind(u"Title", Second.get(), u"Title");
+    First->SetTitle(u"one");
+    EXPECT_EQ(Second->GetTitle(), u"one");
+    Second->SetTitle(u"two");
+    EXPECT_EQ(First->GetTitle(), u"two");
+    EXPECT_EQ(First->FWrites + Second->FWrites, 4) << "each change is written once on each side";
+    First->ClearBindings();
+    First->SetTitle(u"three");
+    EXPECT_EQ(Second->GetTitle(), u"two");
+    First->SetWidth(42);
+    First->Bind(u"Width", Second.get(), u"Title", {TBindings::coEvaluate});
+    EXPECT_EQ(Second->GetTitle(), u"42");
+    EXPECT_THROW(Second->SetTitle(u"wide"), EConvertError);
+    EXPECT_EQ(First->GetWidth(), 42);
+}
+
+TEST_F(QzBindings, FailedBindLeavesNoHalf) {
+    EXPECT_THROW(First->Bind(u"Title", Second.get(), u"Nothing"), EEvaluatorError);
+    EXPECT_THROW(First->Bind(u"Sink", Second.get(), u"Title"), EEvaluatorError);
+    EXPECT_THROW(First->Bind(u"Title", static_cast<TComponent*>(Second.get())), EAssertionFailed);
+    EXPECT_THROW(First->Bind(u"Nothing", Edit.get()), EEvaluatorError);
+    First->SetTitle(u"alone");
+    EXPECT_EQ(Second->FWrites, 0);
+    EXPECT_EQ(First->ComponentCount(), 0) << "no link is left";
+}
+
+TEST_F(QzBindings, SetterMayEndTheLinkOrTheControlThatFeedsIt) {
+    First->Bind(u"Title", Edit.get());
+    First->FOnTitle = [&] { First->ClearBindings(); };
+    Edit->Type(u"one");
+    First->FOnTitle = {};
+    First->Bind(u"Title", Edit.get());
+    Second->Bind(u"Title", Edit.get());
+    First->FOnTitle = [&] { Edit.reset(); };
+    Edit->Type(u"two");
+    EXPECT_EQ(First->GetTitle(), u"two");
+    EXPECT_EQ(Second->GetTitle(), u"") << "the control ended before its turn";
+}
+
+TEST(QzStringList, TokenizeReplacesTheLinesInOneChange) {
+    TQzStringList List;
+    for (const auto& Case : Rows(u"a,,b => a|b|", u" => ", u",b , => b |", u"\"a,b\" => \"a|b\"|")) {
+        List.Tokenize(Case[0], u',');
+        EXPECT_EQ(Lines(List), Case[1]) << Case[0];
+    }
+    int Changes = 0;
+    List.SetOnChange([&](TObject*) { ++Changes; });
+    List.Tokenize(u"b a c", u' ');
+    EXPECT_EQ(Changes, 1);
+    List.Tokenize(List[1], u'x');
+    EXPECT_EQ(Lines(List), u"a|");
+}
+
+class QzKeyDescStringList : public testing::Test {
+protected:
+    UnicodeString Both() const { return Lines(*List->KeyValues()) + u"/" + Lines(*List->Descriptions()); }
+    const TOwned<TQzKeyDescStringList> List{TQzKeyDescStringList::Create(nullptr)};
+};
+
+TEST_F(QzKeyDescStringList, FindsEitherSideByTheOther) {
+    List->AddItem(u"x");
+    List->AddItem(u"y");
+    List->AddItem(u"Key", u"first");
+    List->AddItem(u"KEY", u"second");
+    List->AddItem(-7, u"minus");
+    List->AddItem(u"", u"nothing");
+    const std::pair<Variant, const char16_t*> Descriptions[] = {{1, u"y"},         {u"key", u"first"},
+                                                                {-7, u"minus"},    {Variant(), u"nothing"},
+                                                                {u"unknown", u""}, {1.0, u"y"}};
+    for (const auto& [Key, Description] : Descriptions)
+        EXPECT_EQ(List->GetDescription(Key), Description) << VarToStr(Key);
+    EXPECT_EQ(List->GetStrKeyValue(u"SECOND"), u"KEY");
+    EXPECT_EQ(List->GetIntKeyValue(u"minus"), -7);
+    for (const char16_t* None : {u"z", u"first"})
+        EXPECT_EQ(List->GetIntKeyValue(None), -1);
+}
+
+TEST_F(QzKeyDescStringList, TakesPairsOrLinesOrRefuses) {
+    TStringList Names;
+    Names.SetSorted(true);
+    Names.SetCommaText(u"b,a");
+    List->AddItem(u"old");
+    List->Assign(&Names);
+    List->AddItems(Names);
+    EXPECT_EQ(Both(), u"0|1|2|3|/a|b|a|b|");
+    const TOwned<TQzKeyDescStringList> Target(TQzKeyDescStringList::Create(nullptr));
+    Target->Assign(List.get());
+    List->Assign(List->KeyValues());
+    EXPECT_EQ(Both(), u"0|1|2|3|/0|1|2|3|") << "a list of its own";
+    EXPECT_EQ(Lines(*Target->Descriptions()), u"a|b|a|b|");
+    EXPECT_THROW(List->Assign(nullptr), EConvertError);
+}
+
+class TCounted : public TQzObject {
+    QZ_CLASS(TCounted, TQzObject)
+
+protected:
+    ~TCounted() override { GTrace += u"freed "; }
+};
+constinit const TClassRec TCounted::ClassRec = DescribeClass<TCounted>(u"TCounted", {.Unit = u"Test"});
+
+TEST(QzObjectList, HoldsWhatCountsItsReferencesWhetherItOwnsOrNot) {
+    for (const bool Owns : {true, false}) {
+        TakeTrace();
+        TQzObjectList List(Owns);
+        TCounted* Counted = TCounted::Create();
+        Ref<IInterface> Kept(Counted);
+        List.Add(Counted);
+        List.Remove(Counted);
+        EXPECT_EQ(Counted->RefCount(), 1) << "another reference is left";
+        List.Add(List.Add(Counted));
+        Kept.Clear();
+        List.Delete(1);
+        EXPECT_EQ(Counted->RefCount(), 1);
+        List.Extract(Counted);
+        EXPECT_EQ(TakeTrace(), "freed ");
+    }
+}
+
+TEST(QzMemoList, FindsAndRemovesMemosByCodeInAnyCase) {
+    const TOwned<TQzMemoList> List(TQzMemoList::Create(nullptr));
+    TQzMemoListItems &Items = *List->Items(), Others(nullptr);
+    TStringList Text;
+    Text.SetCommaText(u"one,two");
+    Items.Add(u"Abc", &Text);
+    for (const char16_t* Code : {u"b", u"c", u"d"})
+        Items.Add(Code);
+    EXPECT_EQ(Lines(*List->MemoByCode(u"aBC")), u"one|two|");
+    Others.Assign(&Items);
+    Items.Find(u"abc")->Memo()->Clear();
+    EXPECT_EQ(Lines(*Others.Find(u"abc")->Memo()), u"one|two|");
+    EXPECT_THROW(Text.Assign(&Items), EConvertError);
+    EXPECT_EQ(Raised([&] { Items.Add(u"ABC"); }), "EListError: There already is a memo with code ABC!");
+    Items.Remove(Others.Find(u"b"));
+    Items.Remove(u"unknown");
+    Items.Remove(u"C");
+    Items.Remove(Items.Find(u"abc"));
+    Items.Remove(1);
+    ASSERT_EQ(Items.Count(), 1);
+    EXPECT_EQ(Items.Code(0), u"b");
 }
 
 } // namespace

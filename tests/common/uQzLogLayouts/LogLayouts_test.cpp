@@ -5,13 +5,11 @@
 #include <regex>
 
 #include "tests/common/support/LogFiles.h"
-#include "tests/common/support/MemoryAppender.h"
 #include "tests/support/Message.h"
 #include <qz/common/uQzLogger.h>
 #include <qz/common/uQzWindows.h>
 #include <qz/runtime/files/FileSystem.h>
 #include <qz/runtime/time/DateTimeText.h>
-#include <qz/runtime/values/Value.h>
 
 namespace qz {
 namespace {
@@ -45,15 +43,6 @@ TEST(SimpleLayout, EnteredMethodsStandDeeper) {
         const UnicodeString Line = Layout->FormatLine(u"r", llInfo, u"m", nullptr, Indent);
         EXPECT_EQ(Line.View().find_first_not_of(u' '), static_cast<std::size_t>(Spaces));
     }
-}
-
-TEST(BaseAppender, KeepsItsLayoutWhenAnotherCannotBeMade) {
-    const TLogTree Tree;
-    TMemoryAppender& Out = AddMemory(Logger());
-    Out.SetLayout(QzSimpleLayout);
-    const Ref<IQzLogLayout> Layout = Out.GetLayout();
-    EXPECT_EQ(Message([&] { Out.SetLayout(u"TNo"); }), u"Class TNo not found!");
-    EXPECT_EQ(Out.GetLayout(), Layout);
 }
 
 std::string Line(TQzXmlLayout& ALayout, const UnicodeString& AMessage, const TValue* AValue = nullptr) {
@@ -105,13 +94,6 @@ TEST(XmlLayout, TheDocument) {
         "fileName=\"[^\"]+\" userName=\"[^\"]*\" computer=\"[^\"]*\" processID=\"\\d+\">\\|"
         "<item>.*<logMessage>hello</logMessage></item>\\|</log>");
     EXPECT_TRUE(std::regex_match(Files.Text(u"new/app.log.xml"), Form)) << Files.Text(u"new/app.log.xml");
-    // an existing stylesheet stays
-    Files.Put(u"new/app.log.xsl", "mine");
-    File->SetLayout(QzXmlLayout);
-    EXPECT_EQ(Files.Text(u"new/app.log.xsl"), "mine");
-    EXPECT_TRUE(DeleteFile(Files.Path(u"new/app.log.xsl")) &&
-                ForceDirectories(Files.Path(u"new/app.log.xsl")));
-    EXPECT_THROW(File->SetLayout(QzXmlLayout), EFCreateError);
 }
 
 } // namespace

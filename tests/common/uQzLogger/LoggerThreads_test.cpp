@@ -6,7 +6,6 @@
 
 #include "tests/common/support/LogConfiguration.h"
 #include "tests/common/support/MemoryAppender.h"
-#include <qz/common/uQzLogger.h>
 
 namespace qz {
 namespace {
@@ -80,33 +79,6 @@ TEST(LoggerThreads, NothingComesBehindARemoval) {
     }
 }
 
-// Two appenders on two threads, each of which logs through the logger of the other and changes its list.
-TEST(LoggerThreads, AppendersThatLogCrosswiseDoNotStop) {
-    const TLogTree Tree;
-    const Ref<IQzLogger> Left = Logger().GetLogger("left");
-    const Ref<IQzLogger> Right = Logger().GetLogger("right");
-    const auto Cross = [](const Ref<IQzLogger>& AOwn, const Ref<IQzLogger>& AOther) {
-        TMemoryAppender& Out = AddMemory(*AOwn);
-        Out.OnWrite = [AOther](const UnicodeString&) {
-            AOther->Info("crosswise");
-            TMemoryAppender& Brief = AddMemory(*AOther);
-            AOther->RemoveAppender(static_cast<IQzLogAppender*>(&Brief));
-            Logger().GetLogger("new.one")->SetLevel(llError);
-        };
-    };
-    Cross(Left, Right);
-    Cross(Right, Left);
-    std::thread Other([&] {
-        for (int I = 0; I < 300; ++I)
-            Left->Info("x");
-    });
-    for (int I = 0; I < 300; ++I)
-        Right->Info("x");
-    Other.join();
-    Left->ClearAppenders();
-    Right->ClearAppenders();
-}
-
 // The configurator logs under the tree lock while the appender gets a logger under the gate.
 TEST(LoggerThreads, ConfiguratorsAndAppendersDoNotWaitForEachOther) {
     const TLogTree Tree;
@@ -121,24 +93,6 @@ TEST(LoggerThreads, ConfiguratorsAndAppendersDoNotWaitForEachOther) {
     for (int I = 0; I < 200; ++I)
         Logger().GetLogger("main")->Info("x");
     Logger().SetConfig(nullptr);
-}
-
-TEST(LoggerThreads, TwoFirstCallersGetOneRoot) {
-    for (int Round = 0; Round < 50; ++Round) {
-        const TLogTree Tree;
-        std::mutex Lock;
-        std::set<TQzLogger*> Roots;
-        std::vector<std::thread> Threads;
-        for (int I = 0; I < 4; ++I)
-            Threads.emplace_back([&] {
-                TQzLogger& Root = Logger();
-                const std::lock_guard Hold(Lock);
-                Roots.insert(&Root);
-            });
-        for (std::thread& Thread : Threads)
-            Thread.join();
-        EXPECT_EQ(Roots.size(), 1U);
-    }
 }
 
 // Loggers stay usable while their tree is closed.

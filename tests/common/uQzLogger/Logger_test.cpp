@@ -2,10 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <regex>
 #include <thread>
 
+#include "tests/common/support/LogConfiguration.h"
 #include "tests/common/support/MemoryAppender.h"
 #include "tests/support/Message.h"
+#include <qz/common/uQzDateTimeUtils.h>
+#include <qz/common/uQzLogLayouts.h>
+#include <qz/common/uQzWindows.h>
+#include <qz/runtime/text/Format.h>
+#include <qz/runtime/values/VariantArray.h>
 
 namespace qz {
 namespace {
@@ -116,14 +123,9 @@ TEST_F(LoggerAppenders, AppendersMayLogWhileTheyWrite) {
             if (AMessage == u"x")
                 Log->Debug(u"1", Gone.get());
         };
-        Second.OnWrite = [&](const UnicodeString& AMessage) {
-            if (AMessage == u"x")
-                Log->Info(u"2");
-        };
         Log->Info("x");
     }
-    const UnicodeString Own =
-        u"root.a>root.a Info x|root.a>root.a Debug 1=" + Text + u"|root.a>root.a Info 2|";
+    const UnicodeString Own = u"root.a>root.a Info x|root.a>root.a Debug 1=" + Text + u"|";
     EXPECT_EQ(First.Take(), Own);
 }
 
@@ -226,5 +228,217 @@ TEST_F(LoggerTree, ALockIsGivenUpAfterASecond) {
     List.Unlock();
 }
 
+class LogConfig : public testing::Test {
+protected:
+    LogConfig() {
+        RegisteredAppenders().Add(TQzLogBaseClass::Of<TMemoryAppender>());
+        Logger().SetConfig(Config.Get());
+        Config->Asked.Clear();
+    }
+    static TMemoryAppender& Appender(IQzLogger& ALogger, int AIndex) {
+        return dynamic_cast<TMemoryAppender&>(*ALogger.GetAppenders()->GetAppender(AIndex)->Component());
+    }
+    const TLogTree Tree;
+    const Ref<TConfiguration> Config = TConfiguration::Create();
+};
+
+TEST_F(LogConfig, ANewLoggerAsksUnderItsFullName) {
+    Config->Answers = {{u"root.a/Level", 3},
+                       {u"root.a/Appenders", VarArrayOf({u"One", u"None", u"Two"})},
+                       {u"One/class", u"tmemoryappender"},
+                       {u"One/Layout", u"TQzSimpleLayout"},
+                       {u"Two/class", u"TMemoryAppender"}};
+    const Ref<IQzLogger> Log = Logger().GetLogger("a");
+    EXPECT_EQ(
+        Config->Asked,
+        u"root.a/Level:1 root.a/Additive:4 root.a/Appenders:6 One/class:3 One/Layout:3 None/class:3 Two/class:3 "
+        u"Two/Layout:3 ");
+    EXPECT_EQ(Log->GetLevel(), llInfo);
+    ASSERT_EQ(Log->GetAppenders()->Count(), 2);
+    EXPECT_NE(nullptr, Appender(*Log, 0).GetLayout());
+    EXPECT_EQ(Appender(*Log, 1).GetLayout(), nullptr);
+    // The configurator has no answer for this logger.
+    EXPECT_EQ(Logger().GetLogger("b")->GetLevel(), llDoNotLog);
+}
+
+TEST_F(LogConfig, LoggersShareTheAppenderOfAName) {
+    Config->Answers = {{u"root.a/Level", 0},
+                       {u"root.a.b/Level", 0},
+                       {u"root.a/Appenders", VarArrayOf({u"Shared"})},
+                       {u"root.a.b/Appenders", VarArrayOf({u"Shared"})},
+                       {u"Shared/class", u"TMemoryAppender"},
+                       {u"root.c/Appenders", VarArrayOf({u"shared"})}}; // names are case-sensitive
+    const Ref<IQzLogger> Log = Logger().GetLogger("a.b");
+    EXPECT_EQ(AppenderInstances().Count(), 1);
+    Log->Info("x");
+    EXPECT_EQ(Appender(*Log, 0).Take(), u"root.a.b>root.a.b Info x|root.a.b>root.a Info x|");
+    EXPECT_EQ(Logger().GetLogger("c")->GetAppenders()->Count(), 0);
+    EXPECT_LT(3, Config->RefCount());
+    Logger().SetConfig(nullptr);
+    EXPECT_EQ(Config->RefCount(), 1);
+    EXPECT_EQ(Log->GetLevel(), llAll);
+}
+
+TEST_F(LogConfig, FailuresLeaveWhatWasDone) {
+    Config->Answers = {{u"root.a/Appenders", VarArrayOf({u"One", u"Two", u"Three"})},
+                       {u"One/class", u"TMemoryAppender"},
+                       {u"Two/class", u"TNothing"}};
+    EXPECT_EQ(Message([] { Logger().GetLogger("a"); }), u"Class TNothing not found!");
+    EXPECT_EQ(AppenderInstances().Count(), 0);
+    EXPECT_EQ(Logger().GetChildLoggers()->Count(), 0);
+    Config->Answers = {{u"root/Level", 5},
+                       {u"root/Appenders", VarArrayOf({u"1st", u"Two"})},
+                       {u"1st/class", u"TMemoryAppender"},
+                       {u"Two/class", u"TQzSimpleLayout"}};
+    EXPECT_THROW(Logger().SetConfig(Config.Get()), EListError);
+    EXPECT_EQ(Logger().GetLevel(), llError);
+    ASSERT_EQ(Logger().GetAppenders()->Count(), 1);
+    EXPECT_EQ(Logger().GetAppenders()->GetAppender(0)->GetName(), u"");
+    Config->Answers = {{u"root/Level", 8}};
+    EXPECT_EQ(Message([&] { Logger().SetConfig(Config.Get()); }), u"8 is not a log level");
+}
+
+TEST_F(LogConfig, TheConfiguratorMayAskForLoggersAndLog) {
+    Config->Answers = {{u"root.a/Level", 0}, {u"root.a/Additive", false}};
+    Config->OnConfigure = [](TQzLogger& ALogger) {
+        AddMemory(ALogger);
+        Logger().GetLogger("a")->Info("being configured");
+        Logger().GetLogger("a.helper");
+        ALogger.ClearAppenders();
+        AddMemory(ALogger);
+    };
+    const Ref<IQzLogger> Log = Logger().GetLogger("a");
+    Log->Info("x");
+    EXPECT_EQ(Appender(*Log, 0).Take(), u"root.a>root.a Info x|");
+    EXPECT_FALSE(Log->GetAdditive());
+}
+
+// The hook replaces the appender that failed by others, one of which may get its address.
+TEST_F(LogConfig, AnotherAppenderAtTheSameAddress) {
+    Logger().SetLevel(llAll);
+    AddMemory(Logger()).OnWrite = [](const UnicodeString&) { throw 1; };
+    QzSetLogDropHook([&](const TQzLogDrop&) {
+        Logger().ClearAppenders();
+        for (int I = 0; I < 8; ++I)
+            AddMemory(Logger());
+        Logger().Info("of the hook");
+    });
+    Logger().Info("fails");
+    QzSetLogDropHook(nullptr);
+    for (int I = 0; I < 8; ++I)
+        Appender(Logger(), I).Take();
+    Logger().Info("last");
+    for (int I = 0; I < 8; ++I)
+        EXPECT_EQ(Appender(Logger(), I).Take(), u"root>root Info last|") << I;
+}
+
+TEST(LogData, TellsOfTheMachine) {
+    const Ref<TQzLogData> Data(TQzLogData::Create(llWarn, u"hot"));
+    EXPECT_LE(Data->FTimestamp, Now());
+    EXPECT_EQ(Data->FUserName, QzGetUserName());
+    EXPECT_EQ(Data->FActiveForm, u"n.a.");
+    const auto Version = static_cast<std::string>(Data->FVersion);
+    EXPECT_TRUE(std::regex_match(Version, std::regex("[1-9]\\d*\\.\\d+; Build: [0-9A-F]+, \".*\"")))
+        << Version;
+    EXPECT_EQ(detail::SystemNameOf(1), u"Win 3.1");
+    EXPECT_EQ(detail::SystemNameOf(621), u"Windows 8");
+    EXPECT_EQ(detail::SystemNameOf(622), u"Unidentified OS");
+}
+
+// An object with a property of each kind, some of which are not shown.
+class TSample : public TPersistent {
+    QZ_CLASS(TSample, TPersistent)
+
+public:
+    std::int32_t GetBad() const { throw EConvertError(u"no value"); }
+    void SetBad(std::int32_t) {}
+    std::int32_t GetFixed() const { return 1; }
+
+    std::int32_t FNumber = 17;
+    double FRatio = 0.5;
+    TQzDatePeriod FPeriod = dpDay;
+    UnicodeString FText = u"16 bits are not shown";
+    AnsiString FNarrow{AnsiString("eight bits")};
+    std::int64_t FLong = 1;
+    Variant FAny = VarArrayOf({1, u"two"});
+    TSample* FInner = nullptr;
+};
+
+constexpr TPropInfo cSampleProps[] = {
+    Property<&TSample::FNumber, &TSample::FNumber>(u"Number"),
+    Property<&TSample::GetBad, &TSample::SetBad>(u"Bad"),
+    ReadOnly<&TSample::GetFixed>(u"Fixed"),
+    Property<&TSample::FRatio, &TSample::FRatio>(u"Ratio"),
+    Property<&TSample::FPeriod, &TSample::FPeriod>(u"Period"),
+    Property<&TSample::FText, &TSample::FText>(u"Text"),
+    Property<&TSample::FNarrow, &TSample::FNarrow>(u"Narrow"),
+    Property<&TSample::FLong, &TSample::FLong>(u"Long"),
+    Property<&TSample::FAny, &TSample::FAny>(u"Any"),
+    Property<&TSample::FInner, &TSample::FInner>(u"Inner"),
+};
+
+const TClassRec TSample::ClassRec =
+    DescribeClass<TSample>(u"TSample", {.Unit = u"Tests", .Properties = cSampleProps});
+
+TEST(LogFamilies, EachMakesItsMessage) {
+    const TLogTree Tree;
+    TMemoryAppender& Out = AddMemory(Logger());
+    TQzLogger& Log = Logger();
+    Log.SetLevel(llAll);
+    const TSample Object;
+    const EConvertError Failure(u"went wrong");
+    const Ref<IQzLogData> Data = TQzLogData::Create(llWarn, u"kept");
+    const UnicodeString Address = Format(u"%p", {static_cast<const void*>(&Object)});
+    const UnicodeString Shown =
+        u"=(EConvertError @ " + Format(u"%p", {static_cast<const void*>(&Failure)}) + u")|";
+    const std::pair<std::function<void()>, UnicodeString> Cases[] = {
+        {[&] { Log.Trace(&Object, "%d", {1}); }, u"Trace TSample($" + Address + u").1|"},
+        {[&] { Log.Debug("m", &Object); }, u"Debug m=(TSample @ " + Address + u")|"},
+        {[&] { Log.Fatal("%d", {2}); }, u"Fatal 2|"},
+        {[&] { Log.Error("m", Failure); }, u"Error m\r\nwent wrong|"},
+        {[&] { Log.Fatal("m", Failure); }, u"Fatal m" + Shown},
+        {[&] { Log.Count("hits", -3); }, u"Debug #counter::hits#=-3|"},
+        {[&] { Log.ClearLog(); }, u""},
+        {[&] { Log.EnterMethod("%d", {3}, llInfo); }, u"Info 3 {|"},
+        {[&] { Log.EnterMethod(&Object, "Run %d", {4}, llInfo); }, u"Info TSample.Run 4 {|"},
+        {[&] { Log.EnterMethod(static_cast<TObject*>(nullptr), "x"); }, u"Trace nil.x {|"},
+        {[&] { Log.Log(llFatal, "m", true, liIndentIncrease); }, u"Fatal m=True {|"},
+        {[&] { Log.LogValue(llFatal, "m", dpDay); }, u"Fatal m=dpDay|"},
+        {[&] { Log.Log(Data); }, u"Warn kept|"},
+        {[&] { const TQzMethodScope Scope(&Log, &Object, "Run%"); },
+         u"Trace TSample.Run% {|root>root Trace TSample.Run% }|"},
+    };
+    for (const auto& [Call, Expected] : Cases) {
+        Call();
+        EXPECT_EQ(Out.Take(), Expected.IsEmpty() ? u"" : u"root>root " + Expected);
+    }
+    EXPECT_THROW(Log.Debug("%d", {u"x"}), EConvertError);
+    EXPECT_THROW(Log.Log(static_cast<IQzLogData*>(nullptr)), EAssertionFailed);
+}
+
+TEST(DataRec, DumpsPublishedProperties) {
+    TSample Outer;
+    TSample Inner;
+    Outer.FInner = &Inner;
+    Inner.FInner = &Outer; // a cycle ends at its first object
+    Inner.FPeriod = static_cast<TQzDatePeriod>(77);
+    const auto Lines = [](const UnicodeString& AIndent, const char16_t* APeriod) {
+        UnicodeString Result;
+        for (const UnicodeString Line :
+             {u"Number = 17",
+              u"Exception EConvertError(no value) was raised while trying to read property: Bad",
+              u"Ratio = 0.5", APeriod, u"Narrow = eight bits", u"Any = 1\r\ntwo\r\n"})
+            Result += AIndent + Line + u"\r\n";
+        return Result;
+    };
+    const TValue Value(static_cast<TObject*>(&Outer));
+    EXPECT_EQ(QzDataRecToString(&Value),
+              u"object : TSample\r\n" + Lines(u"  ", u"Period = dpDay") + u"  object : TSample\r\n" +
+                  Lines(u"    ", u"Period = 77"));
+    const TValue Number(5);
+    EXPECT_EQ(QzDataRecToString(&Number), u"5");
+}
+
 } // namespace
+
 } // namespace qz

@@ -3,9 +3,10 @@
 #include <cmath>
 
 #include "tests/support/Lines.h"
+#include "tests/support/Message.h"
 #include "tests/support/Rows.h"
 #include <qz/common/uQzSysUtils.h>
-#include <qz/runtime/time/DateTime.h>
+#include <qz/runtime/objects/DescribeException.h>
 
 namespace qz {
 namespace {
@@ -50,11 +51,6 @@ TEST(StringToList, SplitsAndJoins) {
     }
     TStringList List;
     EXPECT_EQ(QzListToString(List, u","), u"");
-    for (const char16_t Char : {u'a', u'b', u'c'})
-        List.Add(UnicodeString(499999, Char));
-    const UnicodeString Cut = QzListToString(List, u"--");
-    EXPECT_EQ(Cut.Length(), 999999);
-    EXPECT_EQ(QzRight(Cut, 2), u"bb");
 }
 
 TEST(CharCase, ConvertsByModeInBothWidths) {
@@ -124,17 +120,6 @@ TEST(Strings, ShortHelpersTreatTheEnds) {
 
 TEST(Strings, SetsAndSearches) {
     EXPECT_TRUE(QzContainsText(u"ÖL", u"Erdöl"));
-    UnicodeString Names, Literals, Tokens;
-    for (char16_t Char = 1; Char < 0x300; ++Char) {
-        Names += QzIsNameDelimiter(Char) ? UnicodeString(Char) : UnicodeString();
-        Literals += QzIsLiteral(Char) ? UnicodeString(Char) : UnicodeString();
-        TStringList List;
-        QzTokenize(u"a" + UnicodeString(Char) + u"b", List);
-        Tokens += Char > u' ' && Char < 127 && List.Count() == 1 ? UnicodeString(Char) : UnicodeString();
-    }
-    EXPECT_EQ(Names, u"\n\r ),;");
-    EXPECT_EQ(Literals, u"\"'");
-    EXPECT_EQ(Tokens, u"0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ_`abcdefghijklmnopqrstuvwxyz");
     EXPECT_TRUE(QzIsUppercase(u"AÄä1") && QzIsUppercase(u"") && !QzIsUppercase(u"Az"));
 }
 
@@ -192,6 +177,52 @@ TEST(Compare, ArraysElementByElementOfTheFirst) {
                                                         {VarArrayOf({Three}), VarArrayOf({Three}), false}};
     for (const auto& [Left, Right, Same] : Cases)
         EXPECT_EQ(QzSameArray(Left, Right), Same);
+}
+
+class EFirst : public EQzException {
+    QZ_EXCEPTION(EFirst, EQzException)
+public:
+    using EQzException::EQzException;
+};
+class EQuiet : public EQzAbort {
+    QZ_EXCEPTION(EQuiet, EQzAbort)
+public:
+    using EQzAbort::EQzAbort;
+};
+constinit const TClassRec EFirst::ClassRec = DescribeException<EFirst>(u"EFirst", u"Test");
+constinit const TClassRec EQuiet::ClassRec = DescribeException<EQuiet>(u"EQuiet", u"Test");
+
+const auto cFirst = EQzExceptionClass::Of<EFirst>();
+const auto cQuiet = EQzAbortClass::Of<EQuiet>();
+
+TEST(ExceptionRegistry, SameCodeStandsInTwoGroupsAndAnEmptyGroupFindsTheEarliest) {
+    QzRegisterExceptionClass(u"A", 5, cFirst);
+    QzRegisterExceptionClass(u"B", 5, cQuiet);
+    EXPECT_EQ(QzGetExceptionClass(u"", 5), cFirst);
+    EXPECT_EQ(QzGetExceptionClass(u"B", 5), cQuiet);
+    EXPECT_EQ(QzGetExceptionClass(u"b", 5), ExceptionClass()) << "groups are compared exactly";
+    EXPECT_THROW(QzRegisterExceptionClass(u"F", 10, EQzExceptionClass()), EAssertionFailed);
+}
+
+TEST(ExceptionRegistry, TakenPairRefusesAnotherClassAndKeepsTheHolder) {
+    QzRegisterExceptionClass(u"C", 6, cFirst);
+    QzRegisterExceptionClass(u"C", 6, cFirst);
+    EXPECT_EQ(Raised([&] { QzRegisterExceptionClass(u"", 6, cQuiet); }),
+              "EAssertionFailed: ErrorCode 6 is already in use by EFirst!");
+    EXPECT_EQ(QzGetExceptionClass(u"C", 6), cFirst);
+}
+
+TEST(ExceptionRegistry, NameIsFoundInAnyCaseWithTheCodeOfItsEarliestEntry) {
+    std::int32_t Code = 77;
+    EXPECT_EQ(QzGetExceptionClassByName(u"ENone", &Code), ExceptionClass());
+    EXPECT_EQ(Code, 0);
+    QzRegisterExceptionClass(u"E", 4, cQuiet);
+    QzRegisterExceptionClass(u"E", 9, cQuiet);
+    const ExceptionClass Found = QzGetExceptionClassByName(u"equiet", &Code);
+    EXPECT_LT(Code, 9);
+    const auto Made = Exception::TVirtualCreateCode::Find(Found)(u"made", 42);
+    EXPECT_EQ(Raised([&] { Made->Raise(); }), "EQuiet: made");
+    EXPECT_EQ(dynamic_cast<const EQuiet&>(*Made).ErrorCode(), 42);
 }
 
 } // namespace

@@ -58,23 +58,6 @@ TEST(QzCriticalSection, TryFailsOnAHeldLockUntilItComesFree) {
     Holder.join();
 }
 
-TEST(QzCriticalSection, LetsOneThreadInAtATime) {
-    TQzCriticalSection Lock;
-    int Count = 0;
-    RunOnThreads([&](int AThread) {
-        for (int I = 0; I < 2000; ++I) {
-            if (AThread % 2 == 0)
-                Lock.Enter();
-            else if (!Lock.TryEnter(0xFFFFFFFF))
-                continue;
-            ++Count;
-            Lock.Leave();
-            (void)Lock.IsLocked();
-        }
-    });
-    EXPECT_EQ(Count, cThreads * 2000);
-}
-
 class MultiReadLock : public testing::TestWithParam<bool> {
 protected:
     TOwned<TQzMultiReadSingleWrite> FLock = GetParam()

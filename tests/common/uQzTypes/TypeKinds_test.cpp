@@ -72,30 +72,5 @@ TEST(QzTypes, KindsAndCodesAgree) {
     static_assert(TQzTypes::ToMainTypeKind(12) == mtkUnknown && TQzTypes::ToTypeKind(12) == rtkVariant);
 }
 
-// The kinds stand in groups; those that a variant can hold exactly come back from its code, with their schema type.
-TEST(QzTypes, GroupsAndExactKinds) {
-    const auto Group = [](TQzTypeKind AKind) {
-        return AKind == rtkEnumeration || AKind == rtkSet || (AKind >= rtkByte && AKind <= rtkInt64)
-            ? mtkInteger
-            : AKind >= rtkSingle && AKind <= rtkExtended ? mtkFloat
-            : AKind >= rtkChar && AKind <= rtkWString    ? mtkString
-            : AKind == rtkBoolean                        ? mtkBoolean
-            : AKind >= rtkDate && AKind <= rtkDatetime   ? mtkDateTime
-            : AKind == rtkArray || AKind == rtkDynArray  ? mtkArray
-            : AKind == rtkRecord || AKind == rtkClass    ? mtkStructure
-            : AKind == rtkUnknown                        ? mtkUnknown
-                                                         : mtkOther;
-    };
-    for (int I = 0; I <= static_cast<int>(rtkClassRef); ++I)
-        EXPECT_EQ(TQzTypes::ToMainTypeKind(static_cast<TQzTypeKind>(I)), Group(static_cast<TQzTypeKind>(I)))
-            << I;
-    for (const TQzTypeKind Kind :
-         {rtkByte, rtkWord, rtkLongWord, rtkUInt64, rtkShortInt, rtkSmallInt, rtkLongInt, rtkInt64, rtkSingle,
-          rtkDouble, rtkExtended, rtkString, rtkWString, rtkBoolean, rtkDatetime}) {
-        const TVarType Code = TQzTypes::ToVarType(Kind);
-        EXPECT_EQ(TQzTypes::ToTypeKind(Code), Kind);
-    }
-}
-
 } // namespace
 } // namespace qz

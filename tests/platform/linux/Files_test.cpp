@@ -2,17 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <string>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
-#include <cerrno>
-#include <string>
-
 #include "tests/support/Child.h"
 #include "tests/support/TemporaryDirectory.h"
+#include <qz/platform/Clock.h>
 #include <qz/platform/FileHandle.h>
+#include <qz/platform/FileTimes.h>
 #include <qz/platform/Paths.h>
 #include <qz/platform/linux/NativeText.h>
 
@@ -49,32 +51,16 @@ TEST(NativeText, ConvertsBothWays) {
     EXPECT_EQ(detail::ToNative(u"\xD800x\xDC00"), "\xED\xA0\x80x\xED\xB0\x80");
 }
 
-TEST(FilesLinux, ReplacingKeepsRightsAndFollowsLinks) {
+TEST(FilesLinux, ReplacingKeepsRights) {
     const TTemporaryDirectory Directory;
     const std::u16string Path = Directory / u"file";
-    const std::u16string Link = Directory / u"link";
     const std::string Native = detail::ToNative(Path);
     ASSERT_TRUE(Write(Path, cOld));
     ASSERT_EQ(chmod(Native.c_str(), 0751), 0);
-    ASSERT_EQ(symlink("file", detail::ToNative(Link).c_str()), 0);
-
     ASSERT_TRUE(Write(Path, cNew));
     struct stat Status;
     ASSERT_EQ(stat(Native.c_str(), &Status), 0);
     EXPECT_EQ(Status.st_mode & 07777, 0751u);
-    const ino_t Kept = Status.st_ino;
-
-    ASSERT_TRUE(Write(Link, cOld));
-    ASSERT_EQ(stat(Native.c_str(), &Status), 0);
-    EXPECT_EQ(Status.st_ino, Kept);
-    EXPECT_EQ(Read(Path), cOld);
-}
-
-TEST(FilesLinux, NamesThatAreNotUtf8Survive) {
-    const TTemporaryDirectory Directory;
-    ASSERT_TRUE(Write(Directory / u"x\xDCE4\xDCFF.txt", cOld));
-    EXPECT_EQ(access((detail::ToNative(Directory.Path()) + "/x\xE4\xFF.txt").c_str(), F_OK), 0);
-    EXPECT_EQ(ListDirectory(Directory.Path())->at(0).Name, u"x\xDCE4\xDCFF.txt");
 }
 
 TEST(FilesLinux, ReadsAndWritesWhatHasNoSize) {
@@ -176,6 +162,93 @@ TEST_F(FileLocks, ASavedFileKeepsItsNamesAndAttributes) {
     EXPECT_TRUE(Write(Path, "newer"));
     char Value = '\0';
     EXPECT_EQ(HasAttributes ? 1 : -1, getxattr(detail::ToNative(Path).c_str(), "user.note", &Value, 1));
+}
+
+using namespace std::string_literals;
+
+constexpr int64_t cSummer = 133'642'656'000'000'000; // 2024-07-01 00:00:00 UTC
+constexpr const char* cAttribute = "user.qzcommon.created";
+
+int64_t CreatedOf(std::u16string_view APath) {
+    const TResult<TFileTimes> Times = ReadFileTimes(APath);
+    EXPECT_TRUE(Times);
+    return Times->Created;
+}
+
+std::string AttributeOf(const std::string& APath) {
+    char Value[128];
+    const ssize_t Length = getxattr(APath.c_str(), cAttribute, Value, sizeof Value);
+    return Length < 0 ? std::string() : std::string(Value, static_cast<size_t>(Length));
+}
+
+void Make(std::u16string_view APath) {
+    ASSERT_TRUE(WriteWholeFile(APath, std::span<const std::byte>()));
+}
+
+TEST(FileTimesLinux, TimeThatWasSetStaysWithTheFileAndNoOther) {
+    const TTemporaryDirectory Directory;
+    const std::u16string First = Directory / u"first";
+    const std::u16string Second = Directory / u"second";
+    const std::string Name = detail::ToNative(Second);
+    const int64_t Before = UtcNow100ns() - 500'000; // times of files lag behind by a tick
+    Make(First);
+    EXPECT_LE(Before, CreatedOf(First));
+    EXPECT_LE(CreatedOf(First), UtcNow100ns());
+
+    ASSERT_TRUE(SetFileCreated(First, cSummer + 7));
+    EXPECT_EQ(cSummer + 7, CreatedOf(First));
+    ASSERT_EQ(rename(detail::ToNative(First).c_str(), Name.c_str()), 0);
+    ASSERT_EQ(chmod(Name.c_str(), 0600), 0);
+    EXPECT_EQ(cSummer + 7, CreatedOf(Second));
+
+    // A copy with its attributes.
+    const std::string Attribute = AttributeOf(Name);
+    Make(First);
+    const int64_t Own = CreatedOf(First);
+    ASSERT_EQ(setxattr(detail::ToNative(First).c_str(), cAttribute, Attribute.data(), Attribute.size(), 0),
+              0);
+    EXPECT_EQ(CreatedOf(First), Own);
+
+    removexattr(Name.c_str(), cAttribute);
+    const int64_t Born = CreatedOf(Second);
+    EXPECT_LE(Before, Born);
+    for (const std::string& Value : {std::string(), "1 2"s, Attribute + ' ', Attribute + '0', '-' + Attribute,
+                                     ' ' + Attribute, "9999999999" + Attribute, std::string(200, '1')}) {
+        ASSERT_EQ(setxattr(Name.c_str(), cAttribute, Value.data(), Value.size(), 0), 0);
+        EXPECT_EQ(CreatedOf(Second), Born) << Value;
+    }
+}
+
+TEST(FileTimesLinux, RefusalsAreTold) {
+    const TTemporaryDirectory Directory;
+    const std::u16string File = Directory / u"file";
+    Make(File);
+    const std::pair<std::u16string, int> Cases[] = {{Directory.Path(), EISDIR},
+                                                    {Directory / u"none", ENOENT},
+                                                    {u"/proc/self/comm", EOPNOTSUPP},
+                                                    {std::u16string(u"a\0b", 3), EINVAL}};
+    for (const auto& [Path, Code] : Cases)
+        EXPECT_EQ(SetFileCreated(Path, cSummer).Code(), Code) << Code;
+    EXPECT_EQ(SetFileCreated(File, -1).Code(), EINVAL);
+    EXPECT_EQ(ReadFileTimes(Directory / u"none").Code(), ENOENT);
+}
+
+// It could not be read back.
+TEST(FileTimesLinux, TimeThatNobodyCouldReadIsRefused) {
+    const TTemporaryDirectory Directory;
+    const std::u16string File = Directory / u"file";
+    const std::string Name = detail::ToNative(File);
+    Make(File);
+    ASSERT_EQ(geteuid() == 0 ? chown(Name.c_str(), 65534, 65534) : 0, 0);
+    for (const mode_t Mode : {0200U, 0400U}) {
+        EXPECT_EQ(chmod(Name.c_str(), Mode), 0);
+        EXPECT_EQ(InChild([&] {
+                      const bool IsRoot = geteuid() == 0; // who may do all
+                      return IsRoot && seteuid(65534) != 0 ? -1 : SetFileCreated(File, cSummer).Code();
+                  }),
+                  EACCES);
+    }
+    EXPECT_EQ(AttributeOf(Name), "");
 }
 
 TEST(PathsLinux, EveryNameSurvives) {

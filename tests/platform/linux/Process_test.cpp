@@ -1,37 +1,19 @@
 #include <atomic>
-#include <chrono>
-#include <csignal>
 #include <string>
 #include <thread>
 
 #include <pthread.h>
-#include <sys/ptrace.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
 
 #include "tests/support/AtOnce.h"
 #include "tests/support/Child.h"
-#include <qz/platform/Debugger.h>
 #include <qz/platform/Environment.h>
 #include <qz/platform/Threads.h>
 
 namespace qz::platform {
 namespace {
-
-TEST(DebuggerLinux, TracedProcessNoticesIt) {
-    constexpr int cCannotTrace = 9;
-    const int Result = InChild([] {
-        if (IsDebuggerPresent())
-            return 1;
-        if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0)
-            return cCannotTrace;
-        return IsDebuggerPresent() ? 0 : 2;
-    });
-    if (Result == cCannotTrace)
-        GTEST_SKIP() << "this system forbids tracing";
-    EXPECT_EQ(Result, 0);
-}
 
 TEST(EnvironmentLinux, ChildOfForkCanAsk) {
     std::atomic<bool> Stop{false};
@@ -75,29 +57,6 @@ TEST(ThreadsLinux, NameIsCutBetweenCharacters) {
             EXPECT_EQ(Name, Case.Kept) << Case.Name;
         }
     }).join();
-}
-
-TEST(ThreadsLinux, SignalsDoNotCutSleepShort) {
-    using std::chrono::steady_clock;
-    struct sigaction Ignore = {};
-    struct sigaction Old;
-    Ignore.sa_handler = [](int) {};
-    sigaction(SIGUSR1, &Ignore, &Old);
-    std::atomic<bool> Done = false;
-    steady_clock::duration Slept{};
-    std::thread Sleeper([&] {
-        const auto Start = steady_clock::now();
-        SleepMs(120);
-        Slept = steady_clock::now() - Start;
-        Done = true;
-    });
-    while (!Done) {
-        pthread_kill(Sleeper.native_handle(), SIGUSR1);
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-    Sleeper.join();
-    sigaction(SIGUSR1, &Old, nullptr);
-    EXPECT_GE(Slept, std::chrono::milliseconds(120));
 }
 
 } // namespace

@@ -117,16 +117,6 @@ TEST_F(ShellFoldersLinux, WhatCannotBeHadIsRefused) {
     EXPECT_EQ(detail::Below(detail::BaseDirectory("XDG_DATA_HOME", "d"), "x"), "/x");
 }
 
-TEST_F(ShellFoldersLinux, DatabaseOfUsersKnowsTheHome) {
-    const std::string Known = detail::UserRecord(geteuid()).Home;
-    for (const std::optional<std::u16string>& Value :
-         {std::optional<std::u16string>(), {u""}, {u"relative"}}) {
-        Variables.Set(u"HOME", Value);
-        EXPECT_EQ(detail::HomeDirectory(), Known);
-    }
-    EXPECT_EQ(detail::UserRecord(3'999'999'999).Home, "");
-}
-
 TEST(UserRecordLinux, DomainsAreTakenOutOfNames) {
     const std::tuple<const char16_t*, const char16_t*, const char16_t*> cCases[] = {
         {u"SALES\\ann@x", u"ann@x", u"SALES"},

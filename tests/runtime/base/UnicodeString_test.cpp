@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <unordered_set>
 
 #include "tests/support/AtOnce.h"
@@ -49,20 +48,6 @@ TEST(UnicodeString, EachCommandLeavesTheOtherHandlesAlone) {
     }
 }
 
-TEST(UnicodeString, AppendsPiecesOfItself) {
-    for (const std::size_t Room : {0u, 64u}) {
-        UnicodeString Text = u"abc";
-        Text.Reserve(Room);
-        Text += Text;
-        Text.Append(Text.View().substr(4));
-        EXPECT_EQ(Text, u"abcabcbc");
-        for (int I = 0; I < 6; ++I)
-            Text.Append(Text);
-        EXPECT_EQ(Text.size(), 8u * 64);
-        EXPECT_EQ(Text.View().substr(8 * 63), u"abcabcbc");
-    }
-}
-
 TEST(UnicodeString, ConstantsAreNeitherCountedNorWrittenTo) {
     UnicodeString Text = cGreeting;
     EXPECT_EQ(Text.data(), cGreeting.Text);
@@ -101,23 +86,6 @@ TEST(UnicodeString, IsJoinedComparedByUnitsAndHashed) {
     EXPECT_NE(UnicodeString(std::u16string_view(u"a\0", 2)), A);
     const std::unordered_set<UnicodeString> Set{u"x", "x", UnicodeString(1, u'x')};
     EXPECT_EQ(Set.size(), 1u);
-    std::ostringstream Stream;
-    Stream << UnicodeString(u"\u20AC") << UnicodeString();
-    EXPECT_EQ(Stream.str(), "\xE2\x82\xAC");
-    EXPECT_TRUE(TStringArg(static_cast<const char16_t*>(nullptr)).View().empty());
-}
-
-TEST(UnicodeString, HandlesOfOneTextServeManyThreads) {
-    const UnicodeString Text(100, u'x');
-    AtOnce(4, [&Text](int) {
-        for (int Round = 0; Round < 2000; ++Round) {
-            UnicodeString Copy = Text;
-            const UnicodeString Other = Copy;
-            Copy[5] = u'y';
-            ASSERT_EQ(Other[5], u'x');
-        }
-    });
-    EXPECT_EQ(Text.RefCount(), 1);
 }
 
 } // namespace

@@ -1,11 +1,12 @@
 #include <gtest/gtest.h>
 
+#include "tests/runtime/SampleModel.h"
 #include "tests/support/Message.h"
-#include "tests/support/Trace.h"
-#include <qz/runtime/components/DescribeComponent.h>
+#include "tests/support/Rows.h"
+#include <qz/runtime/components/Collection.h>
+#include <qz/runtime/components/LinkControlToProperty.h>
 #include <qz/runtime/objects/ClassRegistry.h>
-#include <qz/runtime/objects/Exceptions.h>
-#include <qz/runtime/values/BasicTypes.h>
+#include <qz/runtime/text/NumberText.h>
 
 namespace qz {
 namespace {
@@ -93,18 +94,6 @@ TEST_F(Components, NotificationMayEndOthers) {
     Parts[1]->Free();
     EXPECT_EQ(Root->ComponentCount(), 1);
     EXPECT_EQ(Root->Components(0), Parts[2]);
-    // A partner that ends another partner of the same component.
-    TPart* Dying = TPart::Make(nullptr, u"dying");
-    TPart* First = TPart::Make(nullptr, u"first");
-    TPart* Second = TPart::Make(nullptr, u"second");
-    Dying->FreeNotification(First);
-    Dying->FreeNotification(Second);
-    Second->FOnNotify = [&](TComponent*, TOperation) {
-        Second->FOnNotify = nullptr;
-        First->Free();
-    };
-    Dying->Free();
-    Second->Free();
     FreeRoot();
 }
 
@@ -123,18 +112,6 @@ TEST_F(Components, OneThatRefusesItsEndLivesOnWithoutOwner) {
     A->FRefuses = false;
     A->Free();
     EXPECT_EQ(TakeTrace(), "freed(a) freed(aa) ");
-}
-
-TEST_F(Components, DestroyComponentsStopsAtARefusal) {
-    TPart* A = TPart::Make(Root, u"a");
-    TPart::Make(Root, u"b");
-    A->FRefuses = true;
-    EXPECT_THROW(Root->DestroyComponents(), EInvalidOperation);
-    EXPECT_EQ(TakeTrace(), "freed(b) removed(b to a) removed(b to root) ");
-    EXPECT_EQ(A->Owner(), Root);
-    A->FRefuses = false;
-    Root->DestroyComponents();
-    EXPECT_EQ(Root->ComponentCount(), 0);
 }
 
 TEST_F(Components, FailedConstructionLeavesTheOwner) {
@@ -176,25 +153,6 @@ TEST_F(Components, OwnersCanChangeButNotFormACycle) {
     EXPECT_EQ(A->Owner(), Other.get());
 }
 
-TEST_F(Components, IndexesMoveAndAreChecked) {
-    TPart* A = TPart::Make(Root, u"a");
-    TPart::Make(Root, u"b");
-    TPart* C = TPart::Make(Root, u"c");
-    const auto Order = [this] {
-        UnicodeString Result;
-        for (int I = 0; I < Root->ComponentCount(); ++I)
-            Result += Root->Components(I)->Name();
-        return Result;
-    };
-    C->SetComponentIndex(0);
-    EXPECT_EQ(Order(), "cab");
-    C->SetComponentIndex(99);
-    A->SetComponentIndex(1);
-    EXPECT_EQ(Order(), "bac");
-    EXPECT_EQ(Root->ComponentIndex(), -1);
-    EXPECT_THROW(Root->Components(3), EListError);
-}
-
 TEST_F(Components, IsMadeByNameAndReflectsItsProperties) {
     RegisterClass(ClassOf<TPart>());
     const TClass Class = FindClass(u"tpart");
@@ -231,21 +189,283 @@ TEST_F(Components, OneMadeForAnEndingOwnerEndsToo) {
     EXPECT_EQ(Root->ComponentCount(), 0);
 }
 
-TEST_F(Components, IsNotCounted) {
-    EXPECT_EQ(AsInterface<IInterface>(Root)->_AddRef(), 0xFFFFFFFFu);
-    EXPECT_EQ(TakeTrace(), "");
+class TLabel : public TCollectionItem {
+    QZ_CLASS(TLabel, TCollectionItem)
+public:
+    explicit TLabel(TCollection* ACollection) : TCollectionItem(ACollection) {}
+    ~TLabel() override { Note("freed", FName); }
+    void SetName(const UnicodeString& AName) {
+        FName = AName;
+        Changed(false);
+    }
+    UnicodeString DisplayName() const override { return FName; }
+    void Assign(TPersistent* ASource) override {
+        if (dynamic_cast<TLabel*>(ASource) == nullptr)
+            Inherited::Assign(ASource);
+        SetName(static_cast<TLabel*>(ASource)->FName);
+    }
+
+private:
+    UnicodeString FName;
+};
+constinit const TClassRec TLabel::ClassRec =
+    DescribeClass<TLabel>(u"TLabel", {.Unit = u"Test", .Makers = CollectionItemMaker<TLabel>()});
+
+class TLabels : public TOwnedCollection {
+    QZ_CLASS(TLabels, TOwnedCollection)
+public:
+    explicit TLabels(TPersistent* AOwner = nullptr) : TOwnedCollection(AOwner, ClassOf<TLabel>()) {}
+    TLabel* AddLabel(const UnicodeString& AName) {
+        auto* Result = static_cast<TLabel*>(Add());
+        Result->SetName(AName);
+        return Result;
+    }
+    UnicodeString Order() const {
+        UnicodeString Result;
+        for (const TCollectionItem* Each : *this)
+            Result += Each->DisplayName();
+        return Result;
+    }
+
+protected:
+    void Update(TCollectionItem* AItem) override {
+        GTrace += AItem == nullptr ? UnicodeString(u"all ") : u"one(" + AItem->DisplayName() + u") ";
+    }
+    void Notify(TCollectionItem*, TCollectionNotification AAction) override {
+        GTrace += AAction == cnAdded ? u"added " : AAction == cnDeleting ? u"deleting " : u"extracting ";
+    }
+};
+constinit const TClassRec TLabels::ClassRec = DescribeClass<TLabels>(u"TLabels", {.Unit = u"Test"});
+
+class Collections : public testing::Test {
+protected:
+    void SetUp() override { TakeTrace(); }
+};
+
+TEST_F(Collections, MakeKeepAndEndTheirItems) {
+    {
+        TLabels Labels;
+        Labels.AddLabel(u"a");
+        EXPECT_EQ(TakeTrace(), "added all one(a) ");
+        Labels.BeginUpdate();
+        Labels.AddLabel(u"b");
+        static_cast<TLabel*>(Labels.Insert(0))->SetName(u"c");
+        Labels.EndUpdate();
+        EXPECT_EQ(TakeTrace(), "added added all ");
+        EXPECT_EQ(Labels.Order(), "cab");
+        Labels.Delete(1);
+        EXPECT_EQ(TakeTrace(), "deleting freed(a) all ");
+        EXPECT_EQ(Labels.FindItemID(2), Labels[0]);
+        EXPECT_EQ(Labels.AddLabel(u"d")->ID(), 3);
+        EXPECT_THROW(Labels.Delete(3), EListError);
+        EXPECT_THROW(Labels.Insert(-1), EListError);
+        TakeTrace();
+    }
+    EXPECT_EQ(TakeTrace(), "freed(d) freed(b) freed(c) ");
 }
 
-TEST_F(Components, PartnerBrotherHearsOnceAndInATreeThatGoes) {
-    TPart* A = TPart::Make(Root, u"a");
-    TPart* B = TPart::Make(Root, u"b");
-    TPart* C = TPart::Make(Root, u"c");
-    A->FreeNotification(B);
-    A->FreeNotification(C);
-    B->Free();
-    EXPECT_EQ(TakeTrace(), "freed(b) removed(b to c) removed(b to a) removed(b to root) ");
-    FreeRoot();
-    EXPECT_EQ(TakeTrace(), "freed(root) freed(c) removed(c to a) freed(a) ");
+TEST_F(Collections, ItemsMoveLeaveAndJoin) {
+    TLabels Labels, Others;
+    TLabel* A = Labels.AddLabel(u"a");
+    Labels.AddLabel(u"b");
+    Labels.AddLabel(u"c");
+    A->SetIndex(1);
+    EXPECT_EQ(Labels.Order(), "bac");
+    A->SetIndex(-5);
+    EXPECT_EQ(Labels.Order(), "abc");
+    Others.AddLabel(u"x");
+    TakeTrace();
+    A->SetCollection(&Others);
+    EXPECT_EQ(TakeTrace(), "extracting all added all ");
+    EXPECT_EQ(A->ID(), 1);
+    EXPECT_EQ(Others.Order(), "xa");
+    A->Free();
+    EXPECT_EQ(Others.Order(), "x");
+    TCollectionItem Plain(nullptr);
+    EXPECT_THROW(Plain.SetCollection(&Labels), EInvalidOperation);
+    EXPECT_THROW(TCollection(ClassOf<TObject>()), EInvalidOperation);
+}
+
+TEST_F(Collections, AssignCopiesEachItem) {
+    TLabels From, To;
+    From.AddLabel(u"a");
+    From.AddLabel(u"b");
+    To.AddLabel(u"old");
+    TakeTrace();
+    To.Assign(&From);
+    EXPECT_EQ(To.Order(), "ab");
+    EXPECT_EQ(TakeTrace(), "deleting freed(old) added added all ");
+    TCollection Plain(ClassOf<TCollectionItem>());
+    Plain.Add();
+    EXPECT_THROW(To.Assign(&Plain), EConvertError); // a label is no plain item
+    TakeTrace();
+    From.AddLabel(u"c");
+    To.AddLabel(u"d");
+    EXPECT_EQ(TakeTrace(), "added all one(c) added all one(d) "); // the update that failed has ended
+    EXPECT_EQ(From[1]->GetNamePath(), "TLabels[1]");
+}
+
+using TOptions = TBindings::TCreateOptions;
+
+TBindingExpression* Bind(TObject* ASource, const UnicodeString& AInput, TObject* ADest,
+                         const UnicodeString& AOutput, TOptions AOptions = {}) {
+    return TBindings::CreateManagedBinding(
+        {TBindings::CreateAssociationScope({Associate(ASource, u"src")})}, AInput,
+        {TBindings::CreateAssociationScope({Associate(ADest, u"dst")})}, AOutput, AOptions);
+}
+
+class Bindings : public testing::Test {
+protected:
+    TOwned<TModel> FA{TModel::Create(nullptr)};
+    TOwned<TModel> FB{TModel::Create(nullptr)};
+};
+
+TEST_F(Bindings, BothDirectionsComeToRest) {
+    TBindingExpression* There = Bind(FA.get(), u"src.Number", FB.get(), u"dst.Text", {TBindings::coEvaluate});
+    TBindingExpression* Back = Bind(FB.get(), u"SRC.text", FA.get(), u"dst.Number");
+    EXPECT_EQ(FB->Text(), "0");
+    FA->SetNumber(12);
+    EXPECT_EQ(FB->Text(), "12");
+    FB->SetText(u"$1F");
+    EXPECT_EQ(FA->Number(), 31);
+    EXPECT_EQ(FB->Text(), "31"); // comes back once, in the form of the number
+    EXPECT_THROW(FB->SetText(u"x"), EConvertError);
+    TBindings::RemoveBinding(There);
+    TBindings::RemoveBinding(Back);
+    TBindings::RemoveBinding(Back);
+    FA->SetNumber(7);
+    EXPECT_EQ(FB->Text(), "x");
+}
+
+TEST_F(Bindings, PathFollowsTheObjectOnTheWay) {
+    TModel* First = TModel::Create(FA.get());
+    TModel* Second = TModel::Create(FA.get());
+    TBindingExpression* Binding =
+        Bind(FA.get(), u"src.Child.Number", FB.get(), u"dst.Number", {TBindings::coEvaluate});
+    First->SetNumber(1);
+    FA->SetChild(First);
+    First->SetNumber(2);
+    EXPECT_EQ(FB->Number(), 2);
+    Second->SetNumber(3);
+    EXPECT_EQ(FB->Number(), 2);
+    FA->SetChild(Second);
+    First->SetNumber(4);
+    EXPECT_EQ(FB->Number(), 3);
+    FA->SetChild(nullptr);
+    Second->SetNumber(5);
+    EXPECT_EQ(FB->Number(), 3);
+    TBindings::RemoveBinding(Binding);
+}
+
+TEST_F(Bindings, NotifyOutputCarriesOn) {
+    const TOwned<TModel> C(TModel::Create(nullptr));
+    TBindingExpression* First =
+        Bind(FA.get(), u"src.Number", FB.get(), u"dst.Small", {TBindings::coNotifyOutput});
+    TBindingExpression* Second = Bind(FB.get(), u"src.Small", C.get(), u"dst.Number");
+    FA->SetNumber(100);
+    EXPECT_EQ(C->Number(), 100);
+    TBindings::RemoveBinding(First);
+    TBindings::RemoveBinding(Second);
+}
+
+TEST_F(Bindings, BadExpressionsAreNamed) {
+    for (const auto& Case :
+         Rows(u"src.Missing => dst.Number => 'Missing'", u"other.Number => dst.Number => 'other'",
+              u"src.Number.Deep => dst.Number => 'Number'", u"src.Number => dst.Writes => 'Writes'",
+              u"src..Number => dst.Number => src..Number", u"src.Number => dst => 'dst'",
+              u" => dst.Number => ''", u"src.Number + 1 => dst.Number => 'Number + 1'")) {
+        const UnicodeString Error = Raised([&] { Bind(FA.get(), Case[0], FB.get(), Case[1]); });
+        EXPECT_TRUE(Error.View().starts_with(u"EEvaluatorError") &&
+                    Error.View().find(Case[2].View()) != std::u16string_view::npos)
+            << Case[0] << " to " << Case[1] << ": " << Error;
+    }
+    FA->SetNumber(1); // nothing was left behind
+    EXPECT_EQ(FB->FWrites, 0);
+}
+
+TEST_F(Bindings, EndOfABoundComponentEndsTheBinding) {
+    TBindingExpression* There = Bind(FA.get(), u"src.Number", FB.get(), u"dst.Number");
+    TBindingExpression* Back = Bind(FB.get(), u"src.Number", FA.get(), u"dst.Number");
+    FB.reset();
+    FA->SetNumber(3);
+    EXPECT_FALSE(There->IsActive() || Back->IsActive());
+    Back->Evaluate();
+    TBindings::RemoveBinding(There);
+    TBindings::RemoveBinding(Back);
+}
+
+TEST_F(Bindings, ValuesConvertOrAreRefused) {
+    const auto Move = [](TModel* From, const char16_t* Input, TModel* To, const char16_t* Output) {
+        TBindings::RemoveBinding(Bind(From, UnicodeString(u"src.") + Input, To,
+                                      UnicodeString(u"dst.") + Output, {TBindings::coEvaluate}));
+    };
+    FB->FPrice = Currency::FromUnits(9000000000000000001);
+    FA->SetText(u"dytue");
+    for (const auto& Case :
+         Rows(u"A Text => B Day => dyTue", u"B Day => B Narrow => dyTue", u"B Day => B Number => 1",
+              u"B Day => B On => True", u"B On => A Text => True", u"B Big => A Text => 18446744073709551615",
+              u"A Text => A Big => 18446744073709551615", u"B Price => B Text => 900000000000000.0001",
+              u"B Text => A Price => 900000000000000.0001")) {
+        TModel* From = Case[0][0] == u'A' ? FA.get() : FB.get();
+        TModel* To = Case[1][0] == u'A' ? FA.get() : FB.get();
+        Move(From, Case[0].c_str() + 2, To, Case[1].c_str() + 2);
+        EXPECT_EQ(VarToStr(GetPropValue(*To, Case[1].View().substr(2))), Case[2])
+            << Case[0] << " to " << Case[1];
+    }
+    FA->FBig = (1ull << 63) + 1025; // rounded once
+    Move(FA.get(), u"Big", FA.get(), u"Float");
+    EXPECT_EQ(FA->Float(), static_cast<double>(FA->FBig));
+    FA->FPrice = Currency::FromUnits(9000000000000000002);
+    Move(FB.get(), u"Price", FA.get(), u"Price"); // the same as a double
+    EXPECT_EQ(FA->FPrice, FB->FPrice);
+    for (const auto& Case : Rows(u"Text => Day => EConvertError", u"Text => Key => EConvertError",
+                                 u"Float => Number => ERangeError", u"Large => Text => EConvertError",
+                                 u"Number => Child => EConvertError")) {
+        const UnicodeString Error =
+            Raised([&] { Move(FA.get(), Case[0].c_str(), FB.get(), Case[1].c_str()); });
+        EXPECT_TRUE(Error.View().starts_with(Case[2].View()))
+            << Case[0] << " to " << Case[1] << ": " << Error;
+    }
+}
+
+TEST_F(Bindings, LinkCarriesTheControlToTheProperty) {
+    TModel* Control = FB.get();
+    TLinkControlToProperty* Link = TLinkControlToProperty::Create(FA.get());
+    FA->SetNumber(5);
+    Link->SetActive(true);
+    Link->SetControl(Control);
+    Link->SetComponent(FA.get());
+    Link->SetComponentProperty(u"Number");
+    EXPECT_EQ(Control->Text(), "5");
+    Control->SetText(u"7");
+    EXPECT_EQ(FA->Number(), 7);
+    Control->Type(u"8");
+    EXPECT_EQ(FA->Number(), 7); // not accepted yet
+    Link->SetTrack(true);
+    Control->Type(u"$9");
+    EXPECT_EQ(FA->Number(), 9);
+    Link->SetActive(false);
+    EXPECT_FALSE(Control->Observers().IsObserving(TObservers::cControlValueId));
+    Control->SetText(u"10");
+    EXPECT_EQ(FA->Number(), 9);
+}
+
+TEST_F(Bindings, LinkOutlivesItsEndsAndChecksThem) {
+    const TOwned<TLinkControlToProperty> Link(TLinkControlToProperty::Create(nullptr));
+    const TOwned<TComponent> Plain(TLinkControlToProperty::Create(nullptr));
+    EXPECT_THROW(Link->SetControl(Plain.get()), EComponentError);
+    Link->SetControl(FB.get());
+    Link->SetComponent(FA.get());
+    Link->SetComponentProperty(u"Missing");
+    EXPECT_THROW(Link->SetActive(true), EEvaluatorError);
+    EXPECT_FALSE(Link->Active());
+    Link->SetComponentProperty(u"Number");
+    Link->SetActive(true);
+    FA.reset();
+    EXPECT_EQ(Link->Component(), nullptr);
+    FB->SetText(u"1");
+    FB.reset();
+    EXPECT_EQ(Link->Control(), nullptr);
 }
 
 } // namespace

@@ -4,8 +4,8 @@
 #include "tests/support/Message.h"
 #include "tests/support/SampleTypes.h"
 #include <qz/runtime/objects/DescribeException.h>
-#include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/objects/Persistent.h>
+#include <qz/runtime/time/DateTime.h>
 
 namespace qz {
 namespace {
@@ -94,10 +94,6 @@ TEST_F(Objects, FreeWithReferencesIsRefused) {
         EXPECT_EQ(Holder->Name(), "a");
     }
     EXPECT_EQ(TakeTrace(), "freed(a) ");
-    TNamed* Unused = TNamed::Create(u"b");
-    FreeAndNil(Unused);
-    EXPECT_EQ(Unused, nullptr);
-    EXPECT_EQ(TakeTrace(), "freed(b) ");
 }
 
 TEST_F(Objects, ThreadsCountTogether) {
@@ -180,6 +176,51 @@ TEST(Exceptions, SystemErrorsNameTheirNumberAndText) {
               UnicodeString("EOSError: System Error.  Code: 2.\r\n") + SysErrorMessage(2) +
                   "\r\nwhile reading");
     EXPECT_EQ(Raised([] { RaiseOSError(0); }), "EOSError: A call to an OS function failed");
+}
+
+struct TPoint {
+    char Tag;
+    double X;
+    UnicodeString Name;
+};
+
+} // namespace
+} // namespace qz
+
+QZ_TYPE_INFO(qz::TPoint);
+
+namespace qz {
+
+constexpr TFieldInfo cPointFields[] = {Field<&TPoint::Tag>(u"Tag"), Field<&TPoint::X>(u"X"),
+                                       Field<&TPoint::Name>(u"Name")};
+constinit const TTypeInfo TTypeDescription<TPoint>::Info =
+    DescribeRecord<TPoint>(u"TPoint", u"Test", cPointFields);
+
+namespace {
+
+TEST(TypeInfo, TellsKindAndNameOfTypes) {
+    const std::tuple<PTypeInfo, TTypeKind, const char*> Cases[] = {
+        {TypeInfo<const int>(), tkInteger, "System.Integer"},
+        {TypeInfo<TDateTime>(), tkFloat, "System.TDateTime"},
+        {TypeInfo<TBytes>(), tkDynArray, "System.TBytes"},
+        {TypeInfo<TTraced*>(), tkClass, "Test.TTraced"},
+    };
+    for (const auto& [Info, Kind, Name] : Cases) {
+        EXPECT_EQ(Info->QualifiedName(), Name);
+        EXPECT_EQ(Info->Kind, Kind) << Name;
+    }
+    EXPECT_EQ(TypeInfo<TBytes>()->ElementType(), TypeInfo<std::uint8_t>());
+    EXPECT_NE(TypeInfo<TDate>(), TypeInfo<TTime>());
+}
+
+TEST(TypeInfo, FieldsStandWhereTheRecordHasThem) {
+    const TPoint Point{'t', 2.5, u"p"};
+    const auto* Raw = reinterpret_cast<const std::byte*>(&Point);
+    const auto Fields = TypeInfo<TPoint>()->Fields;
+    ASSERT_EQ(Fields.size(), 3u);
+    EXPECT_EQ(*reinterpret_cast<const double*>(Raw + Fields[1].Offset()), 2.5);
+    EXPECT_EQ(*reinterpret_cast<const UnicodeString*>(Raw + Fields[2].Offset()), u"p");
+    EXPECT_EQ(Fields[2].FieldType(), TypeInfo<UnicodeString>());
 }
 
 } // namespace

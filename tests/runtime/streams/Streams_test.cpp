@@ -5,7 +5,6 @@
 #include "tests/support/Message.h"
 #include "tests/support/TemporaryDirectory.h"
 #include <qz/runtime/objects/Describe.h>
-#include <qz/runtime/objects/Exceptions.h>
 
 namespace qz {
 namespace {

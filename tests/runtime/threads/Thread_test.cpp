@@ -101,51 +101,6 @@ TEST(Thread, WaitingMainThreadServesSynchronize) {
     Worker->Free();
 }
 
-TEST(Thread, FreeEndsTheThreadThoughQueuedWorkOfOthersRaises) {
-    TSimpleEvent Queued;
-    TWorker* Worker = TWorker::Create(TWork([&](TWorker* ASelf) {
-        Queued.WaitFor();
-        TThread::Synchronize(ASelf, [] {});
-    }));
-    TThread::Queue(nullptr, [] { throw EAbort(u"of somebody else"); });
-    Queued.SetEvent();
-    Worker->Free();
-    EXPECT_EQ(TWorker::FAlive, 0);
-    EXPECT_THROW(TThread::CheckSynchronize(), EAbort);
-    EXPECT_FALSE(TThread::CheckSynchronize());
-}
-
-// Fails after it could start, or takes its time there.
-class TLateThread : public TWorker {
-    QZ_CLASS(TLateThread, TWorker)
-
-public:
-    void AfterConstruction() override {
-        TWorker::AfterConstruction();
-        if (FFails)
-            throw EAbort(u"no");
-        FReady = true;
-    }
-    bool FReady = false;
-
-protected:
-    TLateThread(TWork AWork, bool AFails) : TWorker(std::move(AWork)), FFails(AFails) {}
-
-private:
-    bool FFails;
-};
-constinit const TClassRec TLateThread::ClassRec =
-    DescribeClass<TLateThread>(u"TLateThread", {.Unit = u"Test"});
-
-TEST(Thread, StartsWhenTheObjectIsComplete) {
-    std::atomic<int> Ran{0};
-    const TWork Work = [&](TWorker* ASelf) { Ran += static_cast<TLateThread*>(ASelf)->FReady ? 1 : 100; };
-    TLateThread::Create(Work, false)->Free();
-    EXPECT_THROW((void)TLateThread::Create(Work, true), EAbort);
-    EXPECT_LE(Ran, 1);
-    EXPECT_EQ(TWorker::FAlive, 0);
-}
-
 TEST(Thread, QueuedWorkOfAFreedThreadIsDropped) {
     int Ran = 0;
     TWorker* Worker = TWorker::Create(TWork([&](TWorker* ASelf) {
@@ -157,19 +112,6 @@ TEST(Thread, QueuedWorkOfAFreedThreadIsDropped) {
     Worker->Free();
     TThread::CheckSynchronize();
     EXPECT_EQ(Ran, 10);
-}
-
-TEST(Thread, QueueWakesTheMainLoop) {
-    std::atomic<int> Woken{0};
-    TThread::SetWakeMainThread([&] {
-        ++Woken;
-        throw EAbort(u"which does no harm");
-    });
-    TThread::Queue(nullptr, [] {});
-    TThread::SetWakeMainThread({});
-    EXPECT_EQ(Woken, 1);
-    EXPECT_TRUE(TThread::CheckSynchronize(60000));
-    EXPECT_FALSE(TThread::CheckSynchronize(1));
 }
 
 TEST(Thread, EventMayBeFreedByTheThreadThatItWoke) {

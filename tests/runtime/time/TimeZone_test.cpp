@@ -2,10 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
-#include <qz/platform/TimeZone.h>
-#include <qz/runtime/time/detail/ZoneState.h>
 #include <qz/runtime/time/detail/ZoneTable.h>
 
 namespace qz {
@@ -61,26 +57,6 @@ TEST(ZoneTable, DaysOfTheYear) {
     EXPECT_EQ(detail::MomentInYear(Date, 2023), MomentOf(2023, 4, 30, 2));
     EXPECT_EQ(detail::MomentInYear(Weekday(2, 5, 1), 2024), MomentOf(2024, 2, 25, 1));
     EXPECT_EQ(detail::MomentInYear(Weekday(9, 1, -3), 2024), MomentOf(2024, 8, 31, 21));
-}
-
-TEST(ZoneTable, DaysOfChangeAsOccurrences) {
-    const TZoneTable Table(TwoRules());
-    const detail::TZoneYear Early = Table.YearAt(1875);
-    EXPECT_EQ(Early.ToStandard.Month * 10 + Early.ToStandard.Occurrence, 105);
-    EXPECT_EQ(Early.ToDaylight.Month * 10 + Early.ToDaylight.Occurrence, 41);
-    const detail::TZoneYear Late = Table.YearAt(9999);
-    EXPECT_EQ(Late.ToDaylight.DayOfTheWeek, 7);
-    EXPECT_DOUBLE_EQ(Late.ToStandard.Time * 24, 2); // by the clock of daylight time
-}
-
-TEST(TimeZone, NowIsTheClockOfTheZone) {
-    const TTimeZone& Zone = TTimeZone::Local();
-    const TDateTime Before = Zone.ToLocalTime(NowUTC());
-    const TDateTime Local = Now();
-    EXPECT_THROW(Zone.ToLocalTime(std::nan("")), EConvertError);
-    EXPECT_THROW(Zone.GetUtcOffset(MaxDateTime + 1), EConvertError);
-    EXPECT_LE(Before, Local);
-    EXPECT_LT(Local - Before, 10.0 / SecsPerDay);
 }
 
 } // namespace

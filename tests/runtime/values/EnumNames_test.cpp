@@ -4,7 +4,6 @@
 
 #include "tests/support/Message.h"
 #include "tests/support/SampleTypes.h"
-#include <qz/runtime/values/BasicTypes.h>
 
 namespace qz {
 namespace {

@@ -58,11 +58,6 @@ struct alignas(64) TAligned { // a value also while what it holds is nothing
     const char* Get() const { return nullptr; }
     double X = 0;
 };
-struct TMoveOnly {
-    TMoveOnly() = default;
-    TMoveOnly(TMoveOnly&&) = default;
-    TMoveOnly& operator=(TMoveOnly&&) = default;
-};
 
 } // namespace
 } // namespace qz
@@ -74,7 +69,6 @@ QZ_TYPE_INFO(qz::IRound);
 QZ_TYPE_INFO(qz::TSmallNoted);
 QZ_TYPE_INFO(qz::TLargeNoted);
 QZ_TYPE_INFO(qz::TAligned);
-QZ_TYPE_INFO(qz::TMoveOnly);
 QZ_TYPE_INFO(qz::ExceptionClass);
 
 namespace qz {
@@ -86,7 +80,6 @@ constinit const TTypeInfo TInfo<IRound>::Info = DescribeInterface<IRound, INamed
 constinit const TTypeInfo TInfo<TSmallNoted>::Info = DescribeRecord<TSmallNoted>(u"TSmallNoted", u"Test");
 constinit const TTypeInfo TInfo<TLargeNoted>::Info = DescribeRecord<TLargeNoted>(u"TLargeNoted", u"Test");
 constinit const TTypeInfo TInfo<TAligned>::Info = DescribeRecord<TAligned>(u"TAligned", u"Test");
-constinit const TTypeInfo TInfo<TMoveOnly>::Info = DescribeRecord<TMoveOnly>(u"TMoveOnly", u"Test");
 constinit const TTypeInfo TInfo<ExceptionClass>::Info =
     DescribeOf<ExceptionClass, Exception>(tkClassRef, u"ExceptionClass", u"Test");
 
@@ -114,7 +107,6 @@ UnicodeString Address(const char16_t* AName, const void* APointer) {
 TEST_F(Value, ReadsEachKindInEachWay) {
     TTraced Plain;
     const Ref<IRound> Round = TCircle::Create();
-    const UnicodeString cZero = u" @ 0000000000000000)";
     const struct TRow {
         TValue Value;
         UnicodeString Text;                                              // ToString
@@ -132,12 +124,10 @@ TEST_F(Value, ReadsEachKindInEachWay) {
         {TManyDays::FromBits(1ull << 40), u"[40]", u"-", u"1099511627776", u"-", u"-", u"1099511627776"},
         {-2.25, u"-2.25", u"-", u"-", u"-2.25", u"-", u"-2.25"},
         {Currency(2.5), u"2.5", u"-", u"-", u"2.5", u"-", u"2.5"},
-        {TDate(45000), u"45000", u"-", u"-", u"45000", u"-", nullptr},
         {"täxt", u"täxt", u"-", u"-", u"-", u"täxt", u"täxt"},
         {&Plain, Address(u"TTraced", &Plain), u"-", u"-", u"-", u"-", u"-"},
         {Round, Address(u"IRound", Round.Get()), u"-", u"-", u"-", u"-", u"(interface)"},
         {ClassOf<TTraced>(), u"TTraced", u"-", u"-", u"-", u"-", u"-"},
-        {static_cast<void*>(nullptr), u"(Pointer" + cZero, u"-", u"-", u"-", u"-", u"-"},
         {TGUID(), u"(record)", u"-", u"-", u"-", u"-", u"-"},
     };
     for (const TRow& Row : cRows) {
@@ -147,9 +137,7 @@ TEST_F(Value, ReadsEachKindInEachWay) {
         EXPECT_EQ(Got([&] { return V.AsOrdinal(); }), Row.Ordinal) << Row.Text;
         EXPECT_EQ(Got([&] { return V.AsExtended(); }), Row.Extended) << Row.Text;
         EXPECT_EQ(Got([&] { return V.AsString(); }), Row.String) << Row.Text;
-        if (Row.Variant != nullptr) {
-            EXPECT_EQ(Got([&] { return V.AsVariant(); }), Row.Variant) << Row.Text;
-        }
+        EXPECT_EQ(Got([&] { return V.AsVariant(); }), Row.Variant) << Row.Text;
         EXPECT_EQ(Got([&] { return V.AsBoolean(); }), V.IsType<bool>() ? u"True" : u"-") << Row.Text;
         // An integer is read as 64 bits where it is an ordinal; no value is a null reference.
         const bool IsInteger = V.Kind() == tkInteger || V.Kind() == tkInt64;
@@ -195,24 +183,16 @@ TEST_F(Value, CastsWhereNothingIsLost) {
           u"-", std::nan(""), u"NAN", -INFINITY, u"-INF");
     Check(TypeInfo<Currency>(), 2.5, u"2.5", 0.00001, u"-", std::nan(""), u"-");
     Check(TypeInfo<int>(), 2.0, u"-", 'A', u"-", u"5", u"-", Variant(5), u"-", TValue(), u"-");
-    Check(TypeInfo<WideString>(), UTF8String(u"ö"), u"ö");
-    Check(TypeInfo<char16_t>(), u"ö", u"ö", u"xy", u"-");
     Check(TypeInfo<char>(), u"ö", u"ö", u"Ж", u"-", Unreadable, u"-");
     Check(TypeInfo<UnicodeString>(), '\xE4', u"ä", Unreadable, u"-", 'x', u"x");
     Check(TypeInfo<Variant>(), Unreadable, u"-", TDay::dySun, u"6", TValue(), u"");
-    Check(TypeInfo<TObject>(), &Plain, Address(u"TTraced", &Plain));
     Check(TypeInfo<TCircle>(), &Plain, u"-", cAsObject, Address(u"TCircle", Object), Round, u"-");
     Check(TypeInfo<INamed>(), cAsObject, Address(u"INamed", static_cast<INamed*>(Round.Get())), &Plain, u"-",
           cNullObject, u"(INamed @ 0000000000000000)", Round, Address(u"INamed", Round.Get()));
-    Check(TypeInfo<TTraced>(), cNullObject, u"(TTraced @ 0000000000000000)", TValue(),
-          u"(TTraced @ 0000000000000000)");
     Check(TypeInfo<IOther>(), Round, Address(u"IOther", As<IOther>(Round).Get()));
     Check(TypeInfo<IRound>(), As<IOther>(Round), Address(u"IRound", Round.Get()));
     Check(TypeInfo<ExceptionClass>(), ClassOf<EAbort>(), u"EAbort", ClassOf<TTraced>(), u"-");
     Check(TypeInfo<TClass>(), ExceptionClass::Of<EAbort>(), u"EAbort");
-    Check(TypeInfo<TDay>(), true, u"-");
-    Check(TypeInfo<TNumbers>(), TGUID(), u"-");
-    Check(nullptr, 5, u"-");
     EXPECT_EQ(Message([] { TValue(300).AsType<std::uint8_t>(); }),
               u"A value of type Integer cannot be taken as Byte");
 }
@@ -223,9 +203,6 @@ TEST_F(Value, GivesTypedValues) {
     EXPECT_TRUE(TValue(u"text").TryAsType(Wide));
     EXPECT_FALSE(TValue(Wide).TryAsType(Number));
     EXPECT_EQ(Wide + IntToStr(Number), u"text7");
-    EXPECT_EQ(TValue(std::int16_t{-3}).AsType<long long>(), -3);
-    EXPECT_EQ(TValue(-3LL).AsType<long>(), -3);
-    EXPECT_EQ(TValue(TDay::dySun).AsType<TDay>(), TDay::dySun);
     EXPECT_EQ(TValue().AsType<TTraced*>(), nullptr);
     {
         const TValue Named = Ref<INamed>(TBoth::Create(u"x"));
@@ -257,14 +234,6 @@ TEST_F(Value, KnowsItsType) {
     const TValue Round = Ref<IRound>();
     EXPECT_TRUE(Round.IsType<INamed>() && !Round.IsType<IOther>());
     EXPECT_TRUE(TValue(5).IsType<int>() && !TValue(5).IsType<std::int64_t>() && !TValue().IsType(nullptr));
-    EXPECT_EQ(TValue(1L).TypeInfo(), sizeof(long) == 8 ? TypeInfo<std::int64_t>() : TypeInfo<int>());
-    EXPECT_EQ(TValue(u8"x").TypeInfo(), TypeInfo<UnicodeString>());
-    EXPECT_EQ(TValue(UnicodeString(u"x")[0]).TypeInfo(), TypeInfo<char16_t>());
-    static_assert(!std::is_convertible_v<const TTraced*, TValue> &&
-                  !std::is_convertible_v<const TTraced*, Variant>);
-    static_assert(!std::is_convertible_v<std::nullptr_t, TValue> && !std::is_convertible_v<wchar_t, TValue> &&
-                  !std::is_convertible_v<TTraced, TValue> &&
-                  !std::is_convertible_v<std::vector<int>, TValue>);
 }
 
 TEST_F(Value, SharesLargeValuesAndMovesSmallOnes) {
@@ -292,10 +261,7 @@ TEST_F(Value, SharesLargeValuesAndMovesSmallOnes) {
         EXPECT_EQ(TakeTrace(), u"copied(a) freed(a) ");
     }
     EXPECT_EQ(TakeTrace(), u"freed(a) ");
-    TValue Lone = TValue::Make(nullptr, TypeInfo<TMoveOnly>());
-    EXPECT_EQ(TValue(Lone).GetReferenceToRawData(), Lone.GetReferenceToRawData());
     static_assert(std::is_nothrow_copy_constructible_v<TValue> && std::is_nothrow_copy_assignable_v<TValue>);
-    EXPECT_TRUE(TValue(std::move(Lone)).IsType<TMoveOnly>());
     const TValue Aligned = TAligned{2.5};
     EXPECT_EQ(reinterpret_cast<std::uintptr_t>(Aligned.GetReferenceToRawData()) % alignof(TAligned), 0u);
     EXPECT_EQ(Aligned.AsType<TAligned>().X, 2.5);
@@ -313,7 +279,6 @@ TEST_F(Value, ARefusedCopyLeavesTheOldValue) {
 
 TEST_F(Value, MakesValuesFromRawData) {
     EXPECT_EQ(TValue::Make(nullptr, TypeInfo<double>()).AsExtended(), 0.0);
-    EXPECT_EQ(TValue::Make(nullptr, nullptr).Kind(), tkUnknown);
     const std::uint8_t Byte = 6;
     EXPECT_EQ(TValue::Make(&Byte, TypeInfo<TDay>()).ToString(), u"dySun");
     // Also a set of one byte is read as 32 bits.
@@ -325,8 +290,6 @@ TEST_F(Value, MakesValuesFromRawData) {
     EXPECT_EQ(TValue::FromOrdinal(TypeInfo<std::uint64_t>(), -1).ToString(), u"18446744073709551615");
     EXPECT_THROW(TValue::FromOrdinal(TypeInfo<std::int8_t>(), 128), ERangeError);
     EXPECT_THROW(TValue::FromOrdinal(TypeInfo<TDays>(), 256), ERangeError);
-    EXPECT_THROW(TValue::FromOrdinal(TypeInfo<bool>(), 2), ERangeError);
-    EXPECT_THROW(TValue::FromOrdinal(TypeInfo<bool>(), -1), ERangeError);
     EXPECT_THROW(TValue::FromOrdinal(TypeInfo<double>(), 1), EInvalidCast);
 }
 

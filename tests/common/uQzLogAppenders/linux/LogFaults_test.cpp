@@ -15,8 +15,6 @@
 #include "tests/common/support/MemoryAppender.h"
 #include "tests/common/support/linux/InChild.h"
 #include <qz/common/uQzLogger.h>
-#include <qz/common/uQzLogger/LogDrops.h>
-#include <qz/platform/Threads.h>
 #include <qz/runtime/text/Format.h>
 
 namespace qz {
@@ -204,36 +202,6 @@ TEST_F(LogFaults, ProcessesThatRollOneFamily) {
         }
     EXPECT_LE(Seen.size() + Lost, 6000u);
     EXPECT_GT(Seen.size() + Lost, 5000u); // a file holds 220
-}
-
-// A child that lives on does not disturb the parent and writes no footer to its file.
-TEST_F(LogFaults, AChildThatLivesOn) {
-    const Ref<TQzRollingFileAppender> File = Files.Make<TQzRollingFileAppender>();
-    Logger().AddAppender(File.Get());
-    Logger().Info(u"one");
-    int Pipe[2];
-    ASSERT_EQ(pipe(Pipe), 0);
-    const pid_t Child = fork();
-    ASSERT_GE(Child, 0);
-    if (Child == 0) {
-        close(Pipe[1]);
-        char Byte = 0;
-        while (read(Pipe[0], &Byte, 1) > 0) {}
-        Logger().Info(u"of the child"); // to the file that has the name by then
-        File->Close();
-        _exit(0);
-    }
-    File->Close();
-    Logger().Info(u"two");
-    File->RollOver();
-    Logger().Info(u"three");
-    platform::SleepMs(1100);
-    close(Pipe[1]);
-    EXPECT_EQ(AwaitChild(Child), 0);
-    close(Pipe[0]);
-    Logger().Info(u"four");
-    EXPECT_EQ(Files.Text(u"app.1.log"), "head|one|foottwo|foot");
-    EXPECT_EQ(Files.Text(), "head|three|of the child|footfour|");
 }
 
 // Lines in the buffer are the parent's. Parent and child write to one file after the fork.

@@ -122,16 +122,5 @@ TEST(TimeZoneWindows, EachZoneIsThatOfTheSystem) {
     EXPECT_GT(Changes, 1000);
 }
 
-TEST(TimeZoneWindows, TheLocalZoneIsThatOfTheSystem) {
-    TSystemZones Zones;
-    TZone Zone{};
-    ASSERT_NE(Function<unsigned long (*)(TZone*)>("GetDynamicTimeZoneInformation")(&Zone), 0xFFFFFFFF);
-    for (std::int64_t Day = DayNumber(2000, 1, 3); Day < DayNumber(2040, 1, 1); Day += 11) {
-        const TDayAndTime Local = SplitDateTime(TTimeZone::Local().ToLocalTime(static_cast<double>(Day)));
-        const std::int64_t Utc = Day * detail::cMSecsPerDay;
-        ASSERT_TRUE(Zones.Agrees(Zone, Utc, Local.Day * detail::cMSecsPerDay + Local.MSecs)) << Day;
-    }
-}
-
 } // namespace
 } // namespace qz

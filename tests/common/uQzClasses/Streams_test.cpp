@@ -7,9 +7,11 @@
 #include "tests/support/SystemPage.h"
 #include "tests/support/TemporaryDirectory.h"
 #include "tests/support/WatchedStream.h"
+#include <qz/common/uQzClasses/StreamBuf.h>
 #include <qz/common/uQzClasses/StreamText.h>
+#include <qz/common/uQzClasses/Utf8StreamAdapter.h>
 #include <qz/common/uQzTypes/QzEncoding.h>
-#include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/streams/FileStream.h>
 
 namespace qz {
 namespace {
@@ -77,19 +79,6 @@ TEST_F(QzStringStream, WritesAtThePositionAndAddsTowardsTheEnd) {
     EXPECT_EQ(Content(Wide), "\xAC\x20\0\0"s);
 }
 
-TEST_F(QzStringStream, AddsAnotherStreamAndTakesItOver) {
-    TQzStringStream Other(Ansi("\x80z"), 0), Stream(65001, 16);
-    Other.SetPosition(1);
-    Stream.Add(Other);
-    EXPECT_EQ(Content(Stream), "€z");
-    Other.Add(Stream);
-    Stream.Assign(Other);
-    Stream.Assign(Stream);
-    EXPECT_EQ(Content(Stream), "\x80\x80z");
-    EXPECT_EQ(Stream.FCodePage, 0);
-    EXPECT_EQ(Stream.Position(), 3);
-}
-
 TEST_F(QzStringStream, ChangesItsCodePageWithOrWithoutItsContent) {
     TQzStringStream Stream(0, 16);
     Stream.ChangeCodePage(1200, false);
@@ -104,10 +93,6 @@ TEST_F(QzStringStream, ChangesItsCodePageWithOrWithoutItsContent) {
     EXPECT_THROW(Stream.ChangeCodePage(4711, true), EOSError);
     EXPECT_EQ(Content(Stream), "\xE4\x80");
     EXPECT_EQ(Stream.FCodePage, 850);
-    char Block[] = "abc";
-    TQzStringStream Wrapped(Block, 3, 1252);
-    EXPECT_EQ(Message([&] { Wrapped.ChangeCodePage(65001, true); }),
-              u"Updating the content is not allowed (the stream is probably using a wrapped buffer)!");
 }
 
 TEST_F(QzStringStream, ReadsCharactersOneByOneAndInRuns) {
@@ -139,19 +124,10 @@ TEST_F(QzStringStream, ReadsCharactersOneByOneAndInRuns) {
 }
 
 TEST_F(QzStringStream, ReadsBothHalvesOfAPairInUtf8) {
-    const TSystemPage Utf8(65001);
-    TQzStringStream Whole(RawByteString("a\U0001F600b\U0001F601"), 0);
-    UnicodeString All;
-    while (Whole.Position() < Whole.Size())
-        All += Whole.ReadWChar();
-    EXPECT_EQ(All, u"a\U0001F600b\U0001F601");
     TQzStringStream Wide(12000, 16);
     Wide.SetWString(u"a\U0001F600b");
     EXPECT_EQ(Wide.ReadWString(2), u"a\xD83D") << "the second unit is passed with the first";
     EXPECT_EQ(Wide.ReadWString(2), u"b");
-    TQzStringStream Stream(UTF8String("a\U0001F600z\U0001F601"));
-    EXPECT_EQ(Stream.ReadString(2), u"a\xD83D");
-    EXPECT_EQ(Stream.ReadString(2), u"\xDE00z");
     TQzStringStream Torn(RawByteString("\xC3"), 65001);
     EXPECT_EQ(Torn.ReadChar(), u'\uFFFD');
     EXPECT_EQ(Torn.Position(), 1) << "never after the end";
@@ -226,12 +202,6 @@ TEST_F(QzStringStream, EndsAStreamThatItIsGivenInAnyCase) {
     EXPECT_EQ(QzStreamToAnsiString(Fresh(), true, true, true, -1, 1252).View(), "x");
     EXPECT_EQ(Ends, 4);
     EXPECT_THROW(QzStreamToWideString(nullptr, true, true, true, -1), EAssertionFailed);
-    EXPECT_EQ(Content(Stream), "x");
-    const auto Marked = StreamOf("\xFF\xFE\xAC\x20");
-    const RawByteString Same = QzStreamToAnsiString(Marked.get(), false, true, false, 1252, 1252);
-    EXPECT_EQ(Same.View(), "\xFF\xFE\xAC\x20");
-    EXPECT_THROW(QzStreamToString(Marked.get(), false, true, true, 0), Exception);
-    EXPECT_EQ(Marked->Position(), 2) << "after the mark";
 }
 
 TEST_F(QzStringStream, LoadsAsAWholeOrNotAtAll) {
@@ -243,9 +213,165 @@ TEST_F(QzStringStream, LoadsAsAWholeOrNotAtAll) {
     Source->SetSize(10);
     Wrapped.LoadFromStream(Source.get(), false, true, false, 0);
     EXPECT_STREQ(Block, "abcdefghij");
-    EXPECT_EQ(Source->Position(), 10);
-    EXPECT_THROW(QzStreamToWideString(Source.get(), false, true, false, 65536 + 850),
-                 EArgumentOutOfRangeException);
+}
+
+TEST(QzMemoryStream, ABlockIsAMultipleOfTheStepAndLargerThanItsContent) {
+    const std::pair<std::size_t, std::size_t> Cases[] = {{0, 16}, {15, 16}, {16, 32}, {31, 48}, {32, 48}};
+    for (const auto& [Written, Block] : Cases) {
+        TQzMemoryStream Stream(16);
+        Stream.WriteBuffer(std::string(Written, 'x').data(), static_cast<std::int64_t>(Written));
+        EXPECT_EQ(Stream.FBufferSize, Block) << Written;
+    }
+    TQzMemoryStream Sized(16);
+    Sized.SetSize(32);
+    EXPECT_EQ(Sized.FBufferSize, 48u);
+    EXPECT_THROW(TQzMemoryStream(0), EAssertionFailed);
+    EXPECT_THROW(Sized.CheckSize(SIZE_MAX - 1), std::bad_alloc);
+    EXPECT_THROW(Sized.SetSize(INT64_MAX), std::bad_alloc);
+}
+
+TEST(QzMemoryStream, SeekStopsAtBothEnds) {
+    TQzMemoryStream Stream(16);
+    Stream.WriteBuffer("0123456789", 10);
+    constexpr std::int64_t cMin = INT64_MIN, cMax = INT64_MAX;
+    constexpr TSeekOrigin b = soBeginning, c = soCurrent, e = soEnd;
+    const struct {
+        std::int64_t From, Offset;
+        TSeekOrigin Origin;
+        std::int64_t Place;
+    } Cases[] = {{0, 1000, b, 10}, {0, 7, b, 7},    {0, -1, b, 0},    {5, -3, c, 2},
+                 {5, 6, c, 10},    {5, -6, c, 0},   {5, cMax, c, 10}, {5, cMin, c, 0},
+                 {0, 3, e, 7},     {0, 1000, e, 0}, {0, -1, e, 10},   {0, cMin, e, 10}};
+    for (const auto& Case : Cases) {
+        Stream.Seek(Case.From, soBeginning);
+        EXPECT_EQ(Stream.Seek(Case.Offset, Case.Origin), Case.Place)
+            << Case.Offset << ' ' << int(Case.Origin);
+    }
+}
+
+TEST(QzMemoryStream, NumbersAndBytesComeBack) {
+    TQzMemoryStream Stream(1);
+    Stream.WriteWord(0xFEDC);
+    Stream.WriteInt64(-2);
+    Stream.WriteBytes({1, 2, 3});
+    Stream.SetPosition(0);
+    EXPECT_EQ(Stream.ReadWord(), 0xFEDC);
+    EXPECT_EQ(Stream.ReadInt64(), -2);
+    EXPECT_EQ(Stream.ReadBytes(2), (TBytes{1, 2}));
+    EXPECT_THROW(Stream.ReadBytes(0), EAssertionFailed);
+    EXPECT_EQ(Message([&] { Stream.ReadLongWord(); }), u"Unexpected EOF");
+    EXPECT_EQ(Message([&] { Stream.ReadBytes(INT32_MAX); }), u"Unexpected EOF");
+}
+
+TEST(QzMemoryStream, WritesWhatLiesInItsOwnBlock) {
+    TQzMemoryStream Stream(16);
+    Stream.WriteBuffer("0123456789", 10);
+    for (int I = 0; I < 12; ++I)
+        Stream.Write(Stream.FBufferStart, static_cast<std::int32_t>(Stream.FContentSize));
+    EXPECT_EQ(10 << 12, Stream.Size());
+    EXPECT_EQ(Content(Stream).substr((10 << 12) - 10), "0123456789");
+}
+
+TEST(QzMemoryStream, AWrappedBlockIsOverwrittenInPlaceAndNeverResized) {
+    char Block[] = "0123456789";
+    {
+        TQzMemoryStream Stream(Block, 10);
+        EXPECT_EQ(Stream.Size(), 10);
+        Stream.SetPosition(8);
+        Stream.WriteBuffer("ab", 2);
+        const std::function<void()> Steps[] = {[&] { Stream.WriteByte(1); }, [&] { Stream.SetSize(3); },
+                                               [&] { Stream.SetBufSize(3); }, [&] { Stream.Clear(); },
+                                               [&] { Stream.SetContentEnd(11); }};
+        for (const auto& Step : Steps) {
+            EXPECT_EQ(Message(Step), u"It is not possible to resize the buffer!");
+            EXPECT_EQ(Stream.Position(), 10);
+        }
+    }
+    EXPECT_STREQ(Block, "01234567ab");
+}
+
+TEST(StreamBuf, LendsMemoryAndReadsTheRestOfAnythingElse) {
+    const auto Own = StreamOf("0123456789");
+    const platform::TTemporaryDirectory Directory;
+    TFileStream File(Directory / u"file", fmCreate);
+    File.WriteBuffer("0123456789", 10);
+    void* Buffer = nullptr;
+    std::size_t Size = 0;
+    for (TStream* Stream : {static_cast<TStream*>(&File), static_cast<TStream*>(Own.get())}) {
+        const bool IsFile = Stream == &File;
+        Stream->SetPosition(4);
+        EXPECT_EQ(QzStreamToReadBuf(*Stream, Buffer, Size), IsFile);
+        EXPECT_EQ(std::string(static_cast<char*>(Buffer), Size), "456789");
+        EXPECT_EQ(Stream->Position(), IsFile ? 10 : 4);
+        if (IsFile)
+            QzFreeStreamBuf(Buffer);
+    }
+    EXPECT_THROW(QzStreamToWriteBuf(*Own, Buffer, SIZE_MAX), std::bad_alloc);
+    EXPECT_FALSE(QzStreamToWriteBuf(*Own, Buffer, 3));
+    std::memcpy(Buffer, "abc", 3);
+    EXPECT_EQ(Content(*Own), "0123abc");
+}
+
+using namespace std::string_literals;
+
+TEST(Utf8StreamAdapter, ReadsUnitsAndNoByteMoreThanTheyHave) {
+    const auto Source = StreamOf("aä€\xF1\x80\x80z");
+    TQzUTF8StreamAdapter Adapter(Source.get(), false);
+    char16_t Units[16];
+    const std::tuple<std::int32_t, std::u16string, std::int64_t> Steps[] = {
+        {3, u"a", 1}, {4, u"\u00E4\u20AC", 6}, {1, u"", 6}, {-4, u"", 6}, {32, u"\u1000z", 10}};
+    for (const auto& [Size, Text, Place] : Steps) {
+        const std::int32_t Got = Adapter.Read(Units, Size);
+        EXPECT_EQ(std::u16string(Units, static_cast<std::size_t>(Got / 2)), Text);
+        EXPECT_EQ(Source->Position(), Place);
+    }
+}
+
+TEST(Utf8StreamAdapter, SaysWhatIsWrongWithTheBytes) {
+    const UnicodeString Invalid = u"The stream does not contain valid UTF-8 code!";
+    const std::tuple<std::string, UnicodeString, std::int64_t> Cases[] = {
+        {"ab\x80z", Invalid, 3},
+        {"a\xC3", Invalid + u"\r\nThere are 1 or 2 bytes missing!", 2},
+        {"a\xE2", Invalid + u"\r\nThere are 1 or 2 bytes missing!", 2},
+        {"a\xE2\x82", Invalid + u"\r\nThere is 1 byte missing!", 3}};
+    for (const auto& [Bytes, Text, Position] : Cases) {
+        const auto Source = StreamOf(Bytes);
+        TQzMemoryStream Target(16);
+        EXPECT_EQ(Message([&] { QzUTF8DecodeStream(*Source, Target); }), Text);
+        EXPECT_EQ(Source->Position(), Position);
+    }
+}
+
+TEST(Utf8StreamAdapter, WritesAMarkOnce) {
+    TQzMemoryStream Target(16);
+    TQzUTF8StreamAdapter Adapter(&Target, false);
+    EXPECT_EQ(Adapter.Write(u"ä€x", 5), 5) << "two units";
+    EXPECT_EQ(Content(Target), "\xEF\xBB\xBFä€");
+    int Ends = 0;
+    TQzUTF8StreamAdapter(TWatchedStream::Create(Ends).release(), true);
+    EXPECT_EQ(Ends, 1) << "it owns the stream";
+}
+
+// Texts across the borders of the steps in which they are converted.
+TEST(StreamText, RecodesBetweenUtf8AndUtf16) {
+    for (const std::size_t Length : {0u, 1u, 511u, 512u, 513u, 4095u, 4096u, 4097u, 20000u}) {
+        for (const std::u16string_view Unit : {u"\u20AC", u"\U0001F600"}) {
+            std::u16string Text = u"x";
+            while (Text.size() < Length)
+                Text += Unit;
+            const auto Source = StreamOf({reinterpret_cast<const char*>(Text.data()), Text.size() * 2});
+            Source->SetPosition(2);
+            TQzMemoryStream Narrow(4096);
+            QzUTF8EncodeStream(*Source, Narrow, Length % 2 == 0);
+            EXPECT_EQ(Content(Narrow), (Length % 2 == 0 ? "\xEF\xBB\xBF" : "") + Utf16ToUtf8(Text.substr(1)));
+            Narrow.SetPosition(0);
+            if (Unit.size() == 1) {
+                EXPECT_EQ(QzUTF8Decode(Narrow), Text.substr(1));
+            }
+        }
+    }
+    EXPECT_EQ(Message([&] { QzUTF8Decode(*StreamOf("\xFF\xFEx\0"s)); }),
+              u"The sourcestream does not contain unicode data!");
 }
 
 } // namespace
