@@ -10,7 +10,6 @@
 namespace qz {
 namespace {
 
-using platform::TError;
 using platform::TFileAccess;
 using platform::TFileCreation;
 using platform::TFileSharing;
