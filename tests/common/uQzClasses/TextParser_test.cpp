@@ -45,6 +45,10 @@ TEST(TextParser, StepsAndCountsByKind) {
         }
         Parser.Last();
         EXPECT_EQ(Places(Parser), u"1:0 0/0 end") << "the counters stay";
+        Parser.First();
+        Parser.Next();
+        Parser.Last();
+        EXPECT_EQ(Parser.PrevChar(), u'a') << "and the previous place";
     }
 }
 
@@ -245,6 +249,19 @@ TEST(TextParser, TakesTheRestForAnotherKindOfText) {
     TQzTextParser Half("a\0b\0c", 5, 1200);
     Half.Next();
     EXPECT_EQ(Half.SelectedCnt(tpCurPos, tpPeekPos), 2);
+    for (const bool Jumps : {true, false}) {
+        TQzTextParser Odd("a\0b\0c", 5, 1200);
+        Odd.SetMark(tpMarkPos1);
+        if (Jumps)
+            Odd.Last();
+        else
+            Odd.SkipWhile(sopUnEq, u'x');
+        EXPECT_TRUE(Odd.Eof() && Odd.SelectedCnt(tpMarkPos1, tpCurPos) == 4) << Jumps;
+        Odd.SetCharacterSetType(SBCS);
+        Odd.SetContentCodePage(1252);
+        EXPECT_EQ(Odd.ReadChar(), u'c') << Jumps;
+        EXPECT_TRUE(Odd.Eof());
+    }
     TQzTextParser One("a", 1, 1200);
     EXPECT_TRUE(One.GetEOF());
 }
