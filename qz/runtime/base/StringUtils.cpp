@@ -88,14 +88,6 @@ std::size_t FindText(TView AText, TView APiece) {
     return Found == AText.end() ? TView::npos : static_cast<std::size_t>(Found - AText.begin());
 }
 
-// Each unit in its capital form, so that two texts of the same length can be compared in either case.
-std::u16string UpperUnits(TView AText) {
-    std::u16string Result(AText);
-    for (char16_t& Char : Result)
-        Char = Char < 0x80 ? UpCase(Char) : platform::UpperChar(Char);
-    return Result;
-}
-
 // The part of AText that starts at the position AIndex and has ACount units, cut to the text.
 TView Part(TView AText, int AIndex, int ACount) noexcept {
     const std::size_t First = AIndex < 1 ? 0 : static_cast<std::size_t>(AIndex) - 1;
@@ -121,6 +113,16 @@ UnicodeString AnsiUpperCase(const TStringArg& AText) {
 }
 UnicodeString AnsiLowerCase(const TStringArg& AText) {
     return platform::LowerCase(AText);
+}
+
+char16_t detail::UpperUnit(char16_t AChar) noexcept {
+    return AChar < 0x80 ? UpCase(AChar) : platform::UpperChar(AChar);
+}
+
+std::u16string detail::UpperUnits(TView AText) {
+    std::u16string Result(AText);
+    std::ranges::transform(Result, Result.begin(), UpperUnit);
+    return Result;
 }
 
 int detail::CompareUnits(TView ALeft, TView ARight) noexcept {
@@ -243,8 +245,8 @@ UnicodeString StringReplace(const TStringArg& AText, const TStringArg& AOld, con
                             TReplaceFlags AFlags) {
     const TView Text = AText;
     const bool IgnoreCase = AFlags.Contains(rfIgnoreCase);
-    const std::u16string UpperText = IgnoreCase ? UpperUnits(Text) : std::u16string();
-    const std::u16string UpperOld = IgnoreCase ? UpperUnits(AOld) : std::u16string();
+    const std::u16string UpperText = IgnoreCase ? detail::UpperUnits(Text) : std::u16string();
+    const std::u16string UpperOld = IgnoreCase ? detail::UpperUnits(AOld) : std::u16string();
     const TView Where = IgnoreCase ? TView(UpperText) : Text;
     const TView What = IgnoreCase ? TView(UpperOld) : AOld.View();
     std::size_t Found = What.empty() ? TView::npos : Find(Where, What, 0);

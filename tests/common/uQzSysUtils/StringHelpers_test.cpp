@@ -100,6 +100,7 @@ TEST(CharCase, ConvertsByModeInBothWidths) {
     Check(rcLowerCamelCase, u"Hello  wORLD =>   => hello  World");
     Check(rcUpperCaseFirstLetter, u"éLLO =>  => ÉLLO");
     Check(rcLowerCaseFirstLetter, u"ÉLLO =>  => éLLO");
+    EXPECT_EQ(QzCharCase(u"ΑΣ ΣΑΣ", rcUpperCamelCase, u" "), u"Ασ Σασ");
     EXPECT_EQ(QzCharCase(u"\xD800 \xDC00z", rcUpperCamelCase, u" "), u"\xD800 \xDC00z");
     EXPECT_EQ(QzCharCase(u"a\U0001F601b\U0001F600c", rcUpperCamelCase, u"\U0001F600"),
               u"A\U0001F601b\U0001F600C");
@@ -177,6 +178,11 @@ TEST(Strings, SetsAndSearches) {
     EXPECT_TRUE(QzContainsText(AnsiString("B"), AnsiString("abc")));
     EXPECT_FALSE(QzContainsText(u"Erdöl", u"öl"));
     EXPECT_FALSE(QzContainsText(u"", u"a"));
+    EXPECT_TRUE(QzContainsText(u"ΟΔΟΣ", u"ΟΔΟΣΗ"));
+    for (const char16_t* Text : {u"οδοσ", u"οδος", u"ΟΔΟΣ"}) {
+        EXPECT_TRUE(QzContainsText(Text, u"ΟΔΟσ") && QzSameText(Text, u"ΟΔΟσ"));
+        EXPECT_EQ(StringReplace(u"ΟΔΟσ", Text, u"x", {rfIgnoreCase}), u"x");
+    }
     EXPECT_TRUE(QzStrInSet(u"b", {u"a", u"b"}));
     EXPECT_FALSE(QzStrInSet(u"B", std::vector<UnicodeString>{u"a", u"b"}));
     UnicodeString Names, Literals;
