@@ -100,6 +100,20 @@ constexpr bool IsIdentStart(char16_t AChar) noexcept {
     return (AChar >= u'A' && AChar <= u'Z') || (AChar >= u'a' && AChar <= u'z') || AChar == u'_';
 }
 
+// Moves AText, which begins with the quote, past the closing quote. False if that is missing.
+bool TakeQuoted(TView& AText, char16_t AQuote, UnicodeString& AContent) {
+    AText.remove_prefix(1);
+    while (true) {
+        const std::size_t At = AText.find(AQuote);
+        AContent.Append(AText.substr(0, At));
+        AText.remove_prefix(At == TView::npos ? AText.size() : At + 1);
+        if (At == TView::npos || !AText.starts_with(AQuote))
+            return At != TView::npos;
+        AContent += AQuote;
+        AText.remove_prefix(1);
+    }
+}
+
 } // namespace
 
 UnicodeString UpperCase(const TStringArg& AText) {
@@ -283,26 +297,17 @@ UnicodeString AnsiQuotedStr(const TStringArg& AText, char16_t AQuote) {
 
 UnicodeString AnsiExtractQuotedStr(TView& AText, char16_t AQuote) {
     UnicodeString Result;
-    if (AText.empty() || AText.front() != AQuote)
-        return Result;
-    AText.remove_prefix(1);
-    while (true) {
-        const std::size_t At = std::min(AText.find(AQuote), AText.size());
-        Result.Append(AText.substr(0, At));
-        AText.remove_prefix(std::min(At + 1, AText.size()));
-        if (AText.empty() || AText.front() != AQuote)
-            return Result;
-        Result += AQuote;
-        AText.remove_prefix(1);
-    }
+    if (AText.starts_with(AQuote))
+        TakeQuoted(AText, AQuote, Result);
+    return Result;
 }
 
 UnicodeString AnsiDequotedStr(const TStringArg& AText, char16_t AQuote) {
     TView Text = AText;
     if (Text.size() < 2 || Text.front() != AQuote || Text.back() != AQuote)
         return AText.ToString();
-    UnicodeString Result = AnsiExtractQuotedStr(Text, AQuote);
-    return Text.empty() ? Result : AText.ToString();
+    UnicodeString Result;
+    return TakeQuoted(Text, AQuote, Result) && Text.empty() ? Result : AText.ToString();
 }
 
 UnicodeString StringOfChar(char16_t AChar, int ACount) {

@@ -99,8 +99,8 @@ TEST(StringUtils, Replacing) {
 TEST(StringUtils, Quoting) {
     EXPECT_EQ(QuotedStr(u"it's"), u"'it''s'");
     EXPECT_EQ(AnsiDequotedStr(u"'it''s'", u'\''), u"it's");
-    EXPECT_EQ(AnsiDequotedStr(u"'open", u'\''), u"'open");
-    EXPECT_EQ(AnsiDequotedStr(u"'", u'\''), u"'");
+    for (const char16_t* Open : {u"'open", u"'", u"'a''", u"'''", u"'a'b'"})
+        EXPECT_EQ(AnsiDequotedStr(Open, u'\''), Open) << "no closing quote at the end";
     struct {
         std::u16string_view Text;
         const char16_t* Result;
