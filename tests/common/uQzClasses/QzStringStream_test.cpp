@@ -285,6 +285,9 @@ TEST_F(QzStringStreamFiles, LoadsStreamsAsTheyAreLabelled) {
         {1200, "\xE4\0x"s, 1200, false, u"ä"},
         {65001, "\xFE\xFF\0\xE4"s, -1, true, u"ä"},
         {0, "\0\0\xFE\xFF\0\0\0\xE4"s, 12001, true, u"ä"},
+        {65001, "\xEF\xBB\xBFä\U0001F600", -1, true, u"ä\U0001F600"},
+        {65001, "\xEF\xBB\xBFä", 65001, false, u"\uFEFFä"},
+        {65001, "ä\xFFz", 65001, true, u"ä\uFFFDz"},
         {1200, "a\0\xE4\0"s, -1, true, u"aä"},
         {0, "", -1, true, u""},
     };
@@ -296,6 +299,7 @@ TEST_F(QzStringStreamFiles, LoadsStreamsAsTheyAreLabelled) {
         TQzStringStream Stream(static_cast<std::uint16_t>(Case.StreamPage), 16);
         Stream.LoadFromStream(&Source, false, false, Case.Detect, Case.CodePage);
         EXPECT_EQ(Stream.WString(), Case.Text) << Case.Bytes;
+        EXPECT_TRUE(Case.StreamPage != 65001 || Content(Stream) == ToUtf8(Case.Text)) << Case.Bytes;
         Source.SetPosition(7);
         EXPECT_EQ(QzStreamToWideString(&Source, false, false, Case.Detect, Case.CodePage), Case.Text)
             << Case.Bytes;
