@@ -1,7 +1,7 @@
-// Writes down what the library answers for every code page of one or two bytes a character; on Windows these are
-// the system's answers, from which tools/code-page-tables makes the tables for Linux. By hand:
+// Writes down what the library answers for every code page of one or two bytes a character; under Wine these are
+// the answers from which tools/code-page-tables makes the tables for Linux. By hand:
 //     x86_64-w64-mingw32-g++ -std=c++20 -O1 -static -I. tools/code-page-answers.cpp
-//         build/windows/librQzCommon210.a ...libraries... -o answers.exe
+//         qz/platform/windows/CodePages.cpp qz/platform/windows/Error.cpp -o answers.exe
 //     tools/wine answers.exe > answers.txt
 // A line each:
 //     page NUMBER SIZE                     what follows is about this page

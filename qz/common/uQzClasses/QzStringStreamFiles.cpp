@@ -7,15 +7,19 @@
 #include <qz/common/uQzTypes/QzCodePage.h>
 #include <qz/common/uQzTypes/QzEncoding.h>
 #include <qz/platform/Files.h>
+#include <qz/runtime/base/UtfForms.h>
 #include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/streams/FileStream.h>
 
 namespace qz {
 namespace {
 
-// Code pages whose content is copied unchanged.
-bool IsPlainCopy(std::uint16_t AFrom, std::uint16_t ATo) {
-    return AFrom == ATo && (AFrom == cSystemCodePage || AFrom == cUtf16CodePage);
+// Whether the content is copied unchanged. Invalid UTF-8 is not: it is decoded and encoded again.
+bool IsPlainCopy(std::uint16_t AFrom, std::uint16_t ATo, const void* AContent, std::size_t ASize) {
+    if (AFrom != ATo)
+        return false;
+    return AFrom == cSystemCodePage || AFrom == cUtf16CodePage ||
+        (AFrom == cUtf8CodePage && IsValidUtf8({static_cast<const char*>(AContent), ASize}));
 }
 
 } // namespace
@@ -31,18 +35,18 @@ void TQzStringStream::LoadFromStream(TStream* AStream, bool AFreeStream, bool AF
                                      std::int32_t ACodePage) {
     const TQzStreamGuard Guard(AStream, AFreeStream);
     Assert(AStream != nullptr, u"A stream is required");
-    const std::int64_t Start = AStream->Position();
     const std::uint16_t CodePage = detail::SettleCodePage(*AStream, AFromStart, ADetectBOM, ACodePage);
-    if (IsPlainCopy(CodePage, FCodePage)) {
-        // What has arrived as a whole is written at once.
-        const TQzReadBuf Rest(*AStream);
-        WriteBuffer(Rest.data(), static_cast<std::int64_t>(Rest.size()));
-        if (AStream->Position() < AStream->Size())
-            AStream->Seek(std::int64_t{0}, soEnd);
-        return;
-    }
-    AStream->SetPosition(Start);
-    Add(QzStreamToWideString(AStream, false, AFromStart, ADetectBOM, ACodePage));
+    if (CodePage != FCodePage)
+        return Add(detail::RestAsText(*AStream, CodePage));
+    // What has arrived as a whole is written at once.
+    const TQzReadBuf Rest(*AStream);
+    if (!IsPlainCopy(CodePage, FCodePage, Rest.data(), Rest.size()))
+        return Add(TQzEncoding::ConvertB(Rest.data(), Rest.size(), CodePage));
+    WriteBuffer(Rest.data(), static_cast<std::int64_t>(Rest.size()));
+    if (CodePage == cUtf8CodePage && Rest.size() != 0)
+        FCurPos = FContentEnd;
+    if (AStream->Position() < AStream->Size())
+        AStream->Seek(std::int64_t{0}, soEnd);
 }
 
 // The content in another code page.
@@ -56,7 +60,7 @@ RawByteString TQzStringStream::BytesToSave(std::uint16_t ACodePage) const {
 
 void TQzStringStream::SaveToStream(TStream& AStream, std::uint16_t ACodePage, bool AWriteBOM) const {
     const std::string_view Mark = AWriteBOM ? ByteOrderMark(ACodePage) : std::string_view();
-    if (IsPlainCopy(FCodePage, ACodePage)) {
+    if (IsPlainCopy(FCodePage, ACodePage, FBufferStart, FContentSize)) {
         AStream.WriteBuffer(Mark.data(), static_cast<std::int64_t>(Mark.size()));
         AStream.WriteBuffer(FBufferStart, static_cast<std::int64_t>(FContentSize));
         return;
@@ -68,7 +72,7 @@ void TQzStringStream::SaveToStream(TStream& AStream, std::uint16_t ACodePage, bo
 
 void TQzStringStream::SaveToFile(const TStringArg& AFileName, std::uint16_t ACodePage, bool AWriteBOM) const {
     const std::string_view Mark = AWriteBOM ? ByteOrderMark(ACodePage) : std::string_view();
-    const bool AsItStands = IsPlainCopy(FCodePage, ACodePage);
+    const bool AsItStands = IsPlainCopy(FCodePage, ACodePage, FBufferStart, FContentSize);
     const RawByteString Converted = AsItStands ? RawByteString() : BytesToSave(ACodePage);
     const std::span<const std::byte> Pieces[] = {
         std::as_bytes(std::span(Mark)),

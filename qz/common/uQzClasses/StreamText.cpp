@@ -45,6 +45,13 @@ std::uint16_t detail::SettleCodePage(TStream& AStream, bool AFromStart, bool ADe
     return ASrcCodePage >= 0 ? static_cast<std::uint16_t>(ASrcCodePage) : Found;
 }
 
+UnicodeString detail::RestAsText(TStream& AStream, std::uint16_t ACodePage) {
+    if (ACodePage == cUtf16CodePage)
+        return ReadUnits(AStream);
+    const TQzReadBuf Rest(AStream);
+    return TQzEncoding::ConvertB(Rest.data(), Rest.size(), ACodePage);
+}
+
 RawByteString QzStreamToAnsiString(TStream* AStream, bool AFreeStream, bool AFromStart, bool ADetectBOM,
                                    std::int32_t ASrcCodePage, std::uint16_t ADstCodePage) {
     const TQzStreamGuard Guard(AStream, AFreeStream);
@@ -62,11 +69,8 @@ UnicodeString QzStreamToWideString(TStream* AStream, bool AFreeStream, bool AFro
                                    std::int32_t ASrcCodePage) {
     const TQzStreamGuard Guard(AStream, AFreeStream);
     Assert(AStream != nullptr, u"A stream is required");
-    const std::uint16_t CodePage = detail::SettleCodePage(*AStream, AFromStart, ADetectBOM, ASrcCodePage);
-    if (CodePage == cUtf16CodePage)
-        return ReadUnits(*AStream);
-    const TQzReadBuf Rest(*AStream);
-    return TQzEncoding::ConvertB(Rest.data(), Rest.size(), CodePage);
+    return detail::RestAsText(*AStream,
+                              detail::SettleCodePage(*AStream, AFromStart, ADetectBOM, ASrcCodePage));
 }
 
 UnicodeString QzStreamToString(TStream* AStream, bool AFreeStream, bool AFromStart, bool ADetectBOM,

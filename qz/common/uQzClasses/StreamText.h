@@ -58,6 +58,8 @@ private:
 namespace detail {
 // The code page of what follows, with the stream after a mark that was looked for.
 std::uint16_t SettleCodePage(TStream& AStream, bool AFromStart, bool ADetectBOM, std::int32_t ASrcCodePage);
+// What follows the position.
+UnicodeString RestAsText(TStream& AStream, std::uint16_t ACodePage);
 } // namespace detail
 
 } // namespace qz

@@ -92,6 +92,7 @@ void TQzTextParser::SetContentCodePage(std::uint16_t AValue) {
 
 void TQzTextParser::First() {
     FPeekPos = FPeekPrevPos = FMarkPos1 = FMarkPos2 = FMarkPos3 = nullptr;
+    RestoreEnd();
     if (FStream != nullptr && FChunked && FChunk != 1) {
         FBuffer.reset();
         FBufStart = FBufEnd = nullptr;
@@ -195,15 +196,14 @@ void TQzTextParser::CheckEOF() const {
 }
 
 void TQzTextParser::Last() {
-    // The previous place is dropped on the way; otherwise all of the text would stay in memory.
-    FState.PrevPos = nullptr;
-    for (FState.Eof = false; !FState.Eof;) {
-        FState.CurPos = FBufEnd;
-        const bool IsLast = FLastChunk;
+    if (!FLastChunk)
+        FState.PrevPos = nullptr; // otherwise all of the text would stay in memory
+    while (true) {
+        FState.CurPos = FBufEnd - Left() % Unit();
+        if (FLastChunk)
+            return Arrive();
         FState.Eof = true; // should reading fail
-        if (!IsLast)
-            GetNextChunk();
-        FState.Eof = IsLast;
+        GetNextChunk();
     }
 }
 

@@ -125,12 +125,14 @@ public:
     // Raises EQzTextParserEOF when Eof.
     void CheckEOF() const;
 
-    // Back to the start; marks are cleared. To the end; the counters stay.
+    // Back to the start; marks are cleared. To the end, where steps would end too; the counters stay, and so
+    // does the previous place, unless chunks are left to be read, which clears it.
     void First();
     void Last();
 
-    // One step. A line feed ends a line: in UTF-8 the character after it is column 1 of the next line, in the
-    // other kinds it is so itself. Raises EQzTextParserEOF at the end, and within a UTF-8 form that the end
+    // One step, which counts a column. The first character of the text is column 0 of line 1. Column 1 of each
+    // further line is the line feed that starts it, but in UTF-8 the character after that line feed. A carriage
+    // return is a character like any other. An odd last byte of UTF-16 is no character. Raises EQzTextParserEOF at the end, and within a UTF-8 form that the end
     // cuts off.
     void Next() { FnNext(*this); }
     // A step, and more while the character is a control character (below 32).
@@ -260,6 +262,7 @@ private:
     std::size_t Left() const noexcept { return static_cast<std::size_t>(FBufEnd - FState.CurPos); }
     bool IsAvailable(std::size_t ABytes);
     void Arrive();
+    void RestoreEnd();
     void SlowStep(std::size_t ALength);
     std::span<const std::byte> SelectedAndCurrent(TQzTextParserPosType AFromPos);
     [[noreturn]] static void RaiseNoPlace();
@@ -278,6 +281,7 @@ private:
     const char16_t* WideTable();
 
     std::unique_ptr<std::uint8_t[]> FBuffer;
+    std::size_t FHalfUnit = 0;            // bytes after FBufEnd that are half a unit of UTF-16
     TQzTextPos FPeekPrevPos = nullptr;    // PrevPos when the look-ahead began
     const char16_t* FWideTable = nullptr; // each byte of the code page, once it was needed
     TByteClass FClasses[2];

@@ -277,6 +277,7 @@ void TQzTextParser::SetCharacterSetType(TQzCharacterSetType AValue) {
     case DBCS: detail::TTextParserKind<DBCS>::FillIn(*this); break;
     case MBCS: detail::TTextParserKind<MBCS>::FillIn(*this); break;
     }
+    RestoreEnd();
     // A text that is under way may end here for this kind.
     if (FState.CurPos != nullptr)
         Arrive();

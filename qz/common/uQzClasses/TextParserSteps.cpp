@@ -34,8 +34,14 @@ private:
 void TQzTextParser::Arrive() {
     FState.Eof = true; // should reading fail
     FState.Eof = !IsAvailable(Unit());
-    if (FState.Eof)
-        FBufEnd = FState.CurPos; // half a unit is no character
+    if (FState.Eof) {
+        FHalfUnit += Left(); // it is no character
+        FBufEnd = FState.CurPos;
+    }
+}
+
+void TQzTextParser::RestoreEnd() {
+    FBufEnd += std::exchange(FHalfUnit, 0);
 }
 
 // A step over a UTF-8 form that reaches the end of the text in memory, or beyond.

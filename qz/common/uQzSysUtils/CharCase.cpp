@@ -35,6 +35,20 @@ UnicodeString Lower(TView AText) {
     return AnsiLowerCase(AText);
 }
 
+// Each character in lower case for itself. The case of a sigma, of a mark, and of what stands before a mark
+// depends on the characters around it, so those are cut apart.
+UnicodeString LowerEach(TView AText) {
+    const auto IsCut = [](char16_t A) { return A == u'Σ' || (A >= 0x0300 && A <= 0x036F); };
+    UnicodeString Result;
+    while (!AText.empty()) {
+        const auto Found = std::ranges::find_if(AText, IsCut);
+        const auto Length = std::max<std::size_t>(static_cast<std::size_t>(Found - AText.begin()), 1);
+        Result += Lower(AText.substr(0, Length));
+        AText.remove_prefix(Length);
+    }
+    return Result;
+}
+
 // Between two characters in upper case all is converted in one step.
 UnicodeString Camel(TView AText, bool AUpper, TView ADelimiters) {
     const auto IsDelimiter = [=](TView ACharacter) { return ADelimiters.find(ACharacter) != TView::npos; };
@@ -45,14 +59,14 @@ UnicodeString Camel(TView AText, bool AUpper, TView ADelimiters) {
         const std::size_t Length = UnitsAt(AText, I);
         const bool Delimiter = IsDelimiter(AText.substr(I, Length));
         if (AUpper && !Delimiter) {
-            Result += Lower(AText.substr(Done, I - Done));
+            Result += LowerEach(AText.substr(Done, I - Done));
             Result += Upper(AText.substr(I, Length));
             Done = I + Length;
         }
         AUpper = Delimiter;
         I += Length;
     }
-    return Result += Lower(AText.substr(Done));
+    return Result += LowerEach(AText.substr(Done));
 }
 
 UnicodeString Convert(TView AText, TQzCharCase ACase, TView ADelimiters) {

@@ -2,15 +2,10 @@
 
 #include <algorithm>
 
-#include <qz/platform/Text.h>
 #include <qz/runtime/base/StringUtils.h>
 
 namespace qz {
 namespace {
-
-char16_t Upper(char16_t AChar) noexcept {
-    return AChar < 128 ? UpCase(AChar) : platform::UpperChar(AChar);
-}
 
 bool SameElements(const Variant& ALeft, const Variant& ARight) {
     const int Last = VarArrayHighBound(ALeft);
@@ -29,8 +24,9 @@ bool QzSameText(const TStringArg& ALeft, const TStringArg& ARight) noexcept {
     const std::u16string_view Left = ALeft;
     const std::u16string_view Right = ARight;
     return Left.size() == Right.size() &&
-        std::equal(Left.begin(), Left.end(), Right.begin(),
-                   [](char16_t A, char16_t B) { return A == B || Upper(A) == Upper(B); });
+        std::equal(Left.begin(), Left.end(), Right.begin(), [](char16_t A, char16_t B) {
+               return A == B || detail::UpperUnit(A) == detail::UpperUnit(B);
+           });
 }
 
 bool QzSameText(const AnsiString& ALeft, const AnsiString& ARight) {

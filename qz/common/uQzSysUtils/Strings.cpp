@@ -65,7 +65,7 @@ int QzLastPos(const TStringArg& AText, char16_t AChar) noexcept {
 }
 
 bool QzContainsText(const TStringArg& APiece, const TStringArg& AText) {
-    return Pos(AnsiLowerCase(APiece), AnsiLowerCase(AText)) != 0;
+    return Pos(detail::UpperUnits(APiece), detail::UpperUnits(AText)) != 0;
 }
 
 bool QzContainsText(const AnsiString& APiece, const AnsiString& AText) {

@@ -46,7 +46,8 @@ QZ_API UnicodeString QzRight(const TStringArg& AText, int ACount);
 QZ_API AnsiString QzAnsiCopy(const AnsiString& AText, int AStart, int ALength);
 // The position of the last occurrence, or 0.
 QZ_API int QzLastPos(const TStringArg& AText, char16_t AChar) noexcept;
-// Whether APiece occurs in AText, letters of all languages in either case. An empty piece occurs nowhere.
+// Whether APiece occurs in AText, in upper or lower case by the rule of QzSameText. An empty piece occurs
+// nowhere.
 QZ_API bool QzContainsText(const TStringArg& APiece, const TStringArg& AText);
 QZ_API bool QzContainsText(const AnsiString& APiece, const AnsiString& AText);
 // Whether the text is exactly one of those.

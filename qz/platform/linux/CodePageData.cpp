@@ -176,6 +176,10 @@ constexpr TCharText cFits857[] = {
     {0x301D, u"\"\"\""sv}, {0x30FB, u"\007_"sv}, {0xF8BB, u"\uF8BB\uF8BC\uF8BD"sv},
 };
 
+constexpr TCharText cTexts858[] = {
+    {0x001A, u"\032"sv}, {0x001C, u"\034"sv}, {0x007F, u"\177"sv},
+};
+
 constexpr TCharText cTexts860[] = {
     {0x001A, u"\032"sv}, {0x001C, u"\034"sv}, {0x007F, u"\177"sv}, {0x00E6, u"\u00B5"sv},
 };
@@ -402,6 +406,10 @@ constexpr TCharText cFits950[] = {
 
 constexpr TCharText cTexts1026[] = {
     {0x009A, u"\u00AA"sv},
+};
+
+constexpr TCharText cTexts1047[] = {
+    {0x0015, u"\012"sv}, {0x0025, u"\205"sv},
 };
 
 constexpr TCharText cFits1250[] = {
@@ -1488,7 +1496,7 @@ constexpr TCharText cFits10082[] = {
 };
 
 constexpr TCharText cTexts20105[] = {
-    {0x0024, u"\u00A4"sv}, {0x007E, u"\u203E"sv},
+    {0x0024, u"\u00A4"sv}, {0x007E, u"\u203E\u2207"sv},
 };
 
 constexpr TCharText cTexts20106[] = {
@@ -1496,11 +1504,12 @@ constexpr TCharText cTexts20106[] = {
 };
 
 constexpr TCharText cTexts20107[] = {
-    {0x0024, u"\u00A4"sv}, {0x005B, u"\u00C4\u00D6\u00C5"sv}, {0x007B, u"\u00E4\u00F6\u00E5\u203E"sv},
+    {0x0024, u"\u00A4"sv}, {0x0040, u"\u00C9"sv}, {0x005B, u"\u00C4\u00D6\u00C5\u00DC"sv},
+    {0x0060, u"\u00E9"sv}, {0x007B, u"\u00E4\u00F6\u00E5\u00FC"sv},
 };
 
 constexpr TCharText cTexts20108[] = {
-    {0x005B, u"\u00C6\u00D8\u00C5"sv}, {0x007B, u"\u00E6\u00F8\u00E5\u203E"sv},
+    {0x0023, u"\u00A7"sv}, {0x005B, u"\u00C6\u00D8\u00C5"sv}, {0x007B, u"\u00E6\u00F8\u00E5|"sv},
 };
 
 constexpr TCharText cTexts20127[] = {
@@ -1514,15 +1523,37 @@ constexpr TCharText cFits20127[] = {
 };
 
 constexpr TCharText cTexts20269[] = {
-    {0x0080, u"\200\201\202\203\204\205\206\207\210\211\212\213\214\215\216\217\220\221\222\223\224"sv},
-    {0x0095, u"\225\226\227\230\231\232\233\234\235\236\237\u00A0\u00A1\u00A2\u00A3\u2014\u00A5"sv},
-    {0x00A6, u"\u2014\u00A7\u00A4\u2018\u201C\u00AB\u2190\u2191\u2192\u2193\u00B0\u00B1\u00B2\u00B3"sv},
-    {0x00B4, u"\u00D7\u00B5\u00B6\u00B7\u00F7\u2019\u201D\u00BB\u00BC\u00BD\u00BE\u00BF"sv},
-    {0x00C1, u"`\u00B4^~\u00AF\u02D8\u02D9\u00A8"sv}, {0x00CA, u"\u02DA\u00B8"sv},
-    {0x00CD, u"\u02DD\u02DB\u02C7\u2015\u00B9\u00AE\u00A9\u2122\u266A\u00AC\u00A6"sv},
-    {0x00DC, u"\u215B\u215C\u215D\u215E\u03A9\u00C6\u0110\u00AA\u0126"sv},
+    {0x0023, u"\uFFFF\uFFFF"sv}, {0x005E, u"\uFFFF"sv}, {0x0060, u"\uFFFF"sv},
+    {0x007E, u"\uFFFF\uFFFF\200\201\202\203\204\205\206\207\210\211\212\213\214\215\216\217\220\221"sv},
+    {0x0092, u"\222\223\224\225\226\227\230\231\232\233\234\235"sv},
+    {0x00A0, u"\u00A0\u00A1\u00A2\u00A3$\u00A5#\u00A7\u00A4\u2018\u201C\u00AB\u2190\u2191\u2192"sv},
+    {0x00AF, u"\u2193\u00B0\u00B1\u00B2\u00B3\u00D7\u00B5\u00B6\u00B7\u00F7\u2019\u201D\u00BB\u00BC"sv},
+    {0x00BD, u"\u00BD"sv}, {0x00BF, u"\u00BF"sv}, {0x00C1, u"`\u00B4^~\u00AF\u0306"sv}, {0x00C8, u"\u0308"sv},
+    {0x00CA, u"\u030A\u0327\u0332\u030B\u0328\u030C\u2015\u00B9\u00AE\u00A9\u2122\u2669"sv},
+    {0x00DC, u"\u215B\u215C\u215D\u215E\u2126\u00C6\u00D0"sv}, {0x00E4, u"\u0126"sv},
     {0x00E6, u"\u0132\u013F\u0141\u00D8\u0152\u00BA\u00DE\u0166\u014A\u0149\u0138\u00E6\u0111\u00F0"sv},
-    {0x00F4, u"\u0127\u0131\u0133\u0140\u0142\u00F8\u0153\u00DF\u00FE\u0167\u014B\u00AD"sv},
+    {0x00F4, u"\u0127\u0131\u0133\u0140\u0142\u00F8\u0153\u00DF\u00FE\u0167"sv},
+};
+
+constexpr TCharText cLenient20269[] = {
+    {0x007F, u"\uF8F6"sv}, {0x00BE, u"\uF8F7"sv}, {0x00C7, u"\uF8F8"sv},
+    {0x00D6, u"\uF8F9\uF8FA\uF8FB\uF8FC"sv}, {0x00E3, u"\uF8FD"sv}, {0x00FE, u"\uF8FE\uF8FF"sv},
+};
+
+constexpr TCharText cTexts20420[] = {
+    {0x0042, u"\uFE7C"sv}, {0x0045, u"\uFFFF\uFE80\uFE81"sv}, {0x0049, u"\uFE83"sv}, {0x0052, u"\uFE85"sv},
+    {0x0055, u"\uFE8B\uFE8D"sv}, {0x0058, u"\uFE8F"sv}, {0x0062, u"\uFE93\uFE95"sv}, {0x0065, u"\uFE99"sv},
+    {0x0067, u"\uFE9D"sv}, {0x0069, u"\uFEA1"sv}, {0x0071, u"\uFEA5"sv},
+    {0x0073, u"\uFEA9\uFEAB\uFEAD\uFEAF\uFFFF"sv}, {0x0080, u"\uFFFF"sv}, {0x008B, u"\uFFFF"sv},
+    {0x008D, u"\uFFFF"sv}, {0x008F, u"\uFEC3\uFEC7"sv}, {0x009A, u"\uFEC9"sv}, {0x009E, u"\uFECD"sv},
+    {0x00AB, u"\uFED1"sv}, {0x00AD, u"\uFED5"sv}, {0x00AF, u"\uFED9"sv}, {0x00B1, u"\uFEDD"sv},
+    {0x00BB, u"\uFEE1"sv}, {0x00BD, u"\uFEE5"sv}, {0x00BF, u"\uFEE9"sv}, {0x00CF, u"\uFEED"sv},
+    {0x00DA, u"\uFEEF"sv}, {0x00DC, u"\uFEF1"sv}, {0x00E1, u"\u2007"sv},
+};
+
+constexpr TCharText cLenient20420[] = {
+    {0x0045, u"\uF8FC"sv}, {0x0077, u"\uF8F6"sv}, {0x0080, u"\uF8F5"sv}, {0x008B, u"\uF8F4"sv},
+    {0x008D, u"\uF8F7"sv},
 };
 
 constexpr TCharText cFits20866[] = {
@@ -1538,26 +1569,42 @@ constexpr TCharText cFits20866[] = {
 };
 
 constexpr TCharText cTexts20924[] = {
-    {0x006A, u"\u0160"sv}, {0x009D, u"\u017E"sv}, {0x009F, u"\u20AC"sv}, {0x00B7, u"\u0152\u0153\u0178"sv},
-    {0x00BD, u"\u0161\u017D"sv},
+    {0x004A, u"\u00DD"sv}, {0x006A, u"\u0160"sv}, {0x009D, u"\u017E"sv}, {0x009F, u"\u20AC"sv},
+    {0x00B0, u"\u00A2"sv}, {0x00B7, u"\u0152\u0153\uFFFF\u00AC\u0161"sv}, {0x00BE, u"\u017D"sv},
 };
 
 constexpr TCodeRow cRows20932[] = {
-    {0x8EE0, 5, 0xFFFF}, {0xF321, 25, 0xFFFF}, {0xF421, 12, 0xFFFF}, {0xF42E, 19, 0xFFFF},
-    {0xF444, 6, 0xFFFF}, {0xF44B, 7, 0xFFFF}, {0xF453, 10, 0xFFFF}, {0xF45E, 18, 0xFFFF}, {0xF471, 8, 0xFFFF},
+    {0x0080, 14, 0xFFFF}, {0x0090, 16, 0xFFFF}, {0x8EE0, 5, 0xFFFF}, {0xADA1, 20, 0x2460},
+    {0xADB5, 10, 0x2160}, {0xADE5, 5, 0x32A4}, {0xF32B, 10, 0xFFFF}, {0xF42E, 19, 0xFFFF},
+    {0xF444, 6, 0xFFFF}, {0xF44B, 7, 0xFFFF}, {0xF453, 10, 0xFFFF}, {0xF45E, 5, 0xFFFF}, {0xF464, 12, 0xFFFF},
+    {0xF471, 8, 0xFFFF},
 };
 
 constexpr TCharText cTexts20932[] = {
-    {0x008F, u"\217"sv}, {0xA1BD, u"\u2015"sv}, {0xA1F1, u"\u00A2\u00A3"sv}, {0xA237, u"~"sv},
-    {0xA2CC, u"\u00AC"sv}, {0xF442, u"\uFFFF"sv},
+    {0xA1BD, u"\u2015"sv}, {0xA1F1, u"\u00A2\u00A3"sv}, {0xA237, u"\uFFFF"sv}, {0xA271, u"\uFFFF"sv},
+    {0xA2CC, u"\u00AC"sv},
+    {0xADC0, u"\u3349\u3314\u3322\u334D\u3318\u3327\u3303\u3336\u3351\u3357\u330D\u3326\u3323\u332B"sv},
+    {0xADCE, u"\u334A\u333B\u339C\u339D\u339E\u338E\u338F\u33C4\u33A1"sv},
+    {0xADDF, u"\u337B\u301E\u301F\u2116\u33CD\u2121"sv}, {0xADEA, u"\u3231\u3232\u3239\u337E\u337D\u337C"sv},
+    {0xADF3, u"\u222E\u2211"sv}, {0xADF8, u"\u221F\u22BF"sv},
+    {0xF337, u"\uFFFF\uFFFF\uFFFF\u70BB\u4EFC\u50F4\u51EC\u5307\u5324\uFA0E\u548A\u5759\uFA0F\uFA10"sv},
+    {0xF345, u"\u589E\u5BEC\u5CF5\u5D53\uFA11\u5FB7\u6085\u6120\u654E"sv},
+    {0xF34F, u"\u6665\uFA12\uF929\u6801\uFA13\uFA14\u6A6B\u6AE2\u6DF8\u6DF2\u7028\uFA15\uFA16\u7501"sv},
+    {0xF35D, u"\u7682\u769E\uFA17\u7930\uFA18\uFA19\uFA1A\uFA1B\u7AE7\uFA1C\uFA1D\u7DA0\u7DD6\uFA1E"sv},
+    {0xF36B, u"\u8362\uFA1F\u85B0\uFA20\uFA21\u8807\uFA22\u8B7F\u8CF4\u8D76\uFA23\uFA24\uFA25\u90DE"sv},
+    {0xF379, u"\uFA26\u9115\uFA27\uFA28\u9592\uF9DC"sv},
+    {0xF421, u"\uFA29\u973B\uFFFF\u9751\uFA2A\uFA2B\uFA2C\u999E\u9AD9\u9B72\uFA2D\u9ED1"sv},
+    {0xF442, u"\uFFFF"sv}, {0xF463, u"\u974D"sv},
 };
 
-constexpr TCharText cLenient20932[] = {
-    {0x00A0, u"\uF8F0"sv}, {0x00FF, u"\uF8F3"sv},
+constexpr TCharText cLenient20936[] = {
+    {0x0081, u"\uF8D8\uF8D9\uF8DA\uF8DB\uF8DC\uF8DD\uF8DE\uF8DF\uF8E0\uF8E1\uF8E2\uF8E3\uF8E4\uF8E5"sv},
+    {0x008F, u"\uF8E6\uF8E7\uF8E8\uF8E9\uF8EA\uF8EB\uF8EC\uF8ED\uF8EE\uF8EF\uF8F0\uF8F1\uF8F2\uF8F3"sv},
+    {0x009D, u"\uF8F4\uF8F5\uF8F6\uF8F7"sv}, {0x00F8, u"\uF8F8\uF8F9\uF8FA\uF8FB\uF8FC\uF8FD\uF8FE\uF8FF"sv},
 };
 
-constexpr TCodeRange cDecodedOnly20932[] = {
-    {0x0080, 0x008D}, {0x008F, 0x00A0}, {0x00FF, 0x00FF},
+constexpr TCodeRange cPreferred20936[] = {
+    {0xA1CE, 0xA1CE},
 };
 
 constexpr TCodeRow cRows20949[] = {
@@ -1735,6 +1782,25 @@ constexpr TCharText cFits28605[] = {
     {0x00A6, u"|"sv}, {0x0110, u"\u00D0\uFFFF"sv}, {0x0138, u"k"sv}, {0x014A, u"Nn"sv}, {0x0168, u"Tt"sv},
 };
 
+constexpr TCharText cLenient38598[] = {
+    {0x00A1, u"\uF79C"sv},
+    {0x00BF, u"\uF79D\uF79E\uF79F\uF7A0\uF7A1\uF7A2\uF7A3\uF7A4\uF7A5\uF7A6\uF7A7\uF7A8\uF7A9\uF7AA"sv},
+    {0x00CD, u"\uF7AB\uF7AC\uF7AD\uF7AE\uF7AF\uF7B0\uF7B1\uF7B2\uF7B3\uF7B4\uF7B5\uF7B6\uF7B7\uF7B8"sv},
+    {0x00DB, u"\uF7B9\uF7BA\uF7BB\uF7BC"sv}, {0x00FB, u"\uF7BD\uF7BE\uF7BF\uF7C0\uF7C1"sv},
+};
+
+constexpr TCharText cLenient51936[] = {
+    {0x00FF, u"\uF8F5"sv},
+};
+
+constexpr TCodeRow cRows51949[] = {
+    {0xC9A1, 94, 0xE000}, {0xFEA1, 94, 0xE05E},
+};
+
+constexpr TCharText cLenient51949[] = {
+    {0x00FF, u"\uF8F7"sv},
+};
+
 } // namespace
 
 constexpr TPageData cPageData[] = {
@@ -1749,7 +1815,7 @@ constexpr TPageData cPageData[] = {
     {852, 0, "ibm-852", ""sv, 0x3F, 0x003F, 857, {}, cTexts852, {}, {}, {}, cFits852},
     {855, 0, "ibm-855", ""sv, 0x3F, 0x003F, 20866, {}, cTexts855, {}, {}, {}, cFits855},
     {857, 0, "ibm-857", ""sv, 0x3F, 0x003F, 866, {}, cTexts857, cLenient857, {}, {}, cFits857},
-    {858, 0, "ibm-858", ""sv, 0x3F, 0x003F, 850, {}, {}, {}, {}, {}, {}},
+    {858, 0, "ibm-858", ""sv, 0x3F, 0x003F, 850, {}, cTexts858, {}, {}, {}, {}},
     {860, 0, "ibm-860", ""sv, 0x3F, 0x003F, 865, {}, cTexts860, {}, {}, {}, cFits860},
     {861, 0, "ibm-861", ""sv, 0x3F, 0x003F, 437, {}, cTexts861, {}, {}, {}, cFits861},
     {862, 0, "ibm-862", ""sv, 0x3F, 0x003F, 437, {}, cTexts862, {}, {}, {}, cFits862},
@@ -1766,7 +1832,7 @@ constexpr TPageData cPageData[] = {
     {949, 0, "windows-949-2000", "\x81\xFE"sv, 0x3F, 0x003F, 10003, {}, cTexts949, cLenient949, {}, {}, cFits949},
     {950, 0, "windows-950-2000", "\x81\xFE"sv, 0x3F, 0x003F, 10002, {}, cTexts950, cLenient950, cPreferred950, {}, cFits950},
     {1026, 0, "ibm-1026", ""sv, 0x6F, 0x003F, 37, {}, cTexts1026, {}, {}, {}, {}},
-    {1047, 0, "ibm-1047", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
+    {1047, 0, "ibm-1047", ""sv, 0x6F, 0x003F, 37, {}, cTexts1047, {}, {}, {}, {}},
     {1140, 0, "ibm-1140", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
     {1141, 0, "ibm-1141", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
     {1142, 0, "ibm-1142", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
@@ -1808,7 +1874,7 @@ constexpr TPageData cPageData[] = {
     {20107, 0, "US-ASCII", ""sv, 0x3F, 0x003F, 20127, {}, cTexts20107, {}, {}, {}, {}},
     {20108, 0, "US-ASCII", ""sv, 0x3F, 0x003F, 20127, {}, cTexts20108, {}, {}, {}, {}},
     {20127, 0, "US-ASCII", ""sv, 0x3F, 0x003F, 28595, {}, cTexts20127, {}, {}, {}, cFits20127},
-    {20269, 0, "US-ASCII", ""sv, 0x3F, 0x003F, 20127, {}, cTexts20269, {}, {}, {}, {}},
+    {20269, 0, "US-ASCII", ""sv, 0x3F, 0x003F, 20127, {}, cTexts20269, cLenient20269, {}, {}, {}},
     {20273, 0, "ibm-273", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
     {20277, 0, "ibm-277", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
     {20278, 0, "ibm-278", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
@@ -1817,14 +1883,14 @@ constexpr TPageData cPageData[] = {
     {20285, 0, "ibm-285", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
     {20290, 0, "ibm-290", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
     {20297, 0, "ibm-297", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
-    {20420, 0, "ibm-420", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
+    {20420, 0, "ibm-420", ""sv, 0x6F, 0x003F, 37, {}, cTexts20420, cLenient20420, {}, {}, {}},
     {20424, 0, "ibm-424", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
     {20838, 0, "ibm-838", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
     {20866, 0, "ibm-878", ""sv, 0x3F, 0x003F, 866, {}, {}, {}, {}, {}, cFits20866},
     {20871, 0, "ibm-871", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
     {20924, 1047, nullptr, ""sv, 0x6F, 0x003F, 37, {}, cTexts20924, {}, {}, {}, {}},
-    {20932, 0, "ibm-954_P101-2007", "\x8E\x8E\xA1\xFE"sv, 0x3F, 0x30FB, 0, cRows20932, cTexts20932, cLenient20932, {}, cDecodedOnly20932, {}},
-    {20936, 0, "ibm-1383_P110-1999", "\xA1\xF7"sv, 0x3F, 0x003F, 936, {}, {}, {}, {}, {}, {}},
+    {20932, 0, "ibm-954_P101-2007", "\x8E\x8E\xA1\xFE"sv, 0x3F, 0x30FB, 0, cRows20932, cTexts20932, {}, {}, {}, {}},
+    {20936, 10008, nullptr, "\xA1\xF7"sv, 0x3F, 0x003F, 936, {}, {}, cLenient20936, cPreferred20936, {}, {}},
     {20949, 949, nullptr, "\xA1\xAC\xB0\xC8\xCA\xFD"sv, 0x3F, 0x003F, 10003, cRows20949, cTexts20949, cLenient20949, {}, {}, cFits20949},
     {21025, 0, "ibm-1025", ""sv, 0x6F, 0x003F, 37, {}, {}, {}, {}, {}, {}},
     {21866, 0, "ibm-1168", ""sv, 0x3F, 0x003F, 20866, {}, cTexts21866, {}, {}, {}, {}},
@@ -1842,9 +1908,9 @@ constexpr TPageData cPageData[] = {
     {28603, 0, "ibm-921", ""sv, 0x3F, 0x003F, 866, {}, {}, {}, {}, {}, cFits28603},
     {28604, 0, "iso-8859_14-1998", ""sv, 0x3F, 0x003F, 28599, {}, {}, {}, {}, {}, {}},
     {28605, 0, "ibm-923", ""sv, 0x3F, 0x003F, 28591, {}, {}, {}, {}, {}, cFits28605},
-    {38598, 28598, nullptr, ""sv, 0x3F, 0x003F, 28598, {}, {}, {}, {}, {}, {}},
-    {51936, 0, "ibm-1383_P110-1999", "\xA1\xF7"sv, 0x3F, 0x003F, 936, {}, {}, {}, {}, {}, {}},
-    {51949, 20949, nullptr, "\xA1\xAC\xB0\xC8\xCA\xFD"sv, 0x3F, 0x003F, 949, {}, {}, {}, {}, {}, {}},
+    {38598, 28598, nullptr, ""sv, 0x3F, 0x003F, 28598, {}, {}, cLenient38598, {}, {}, {}},
+    {51936, 936, nullptr, "\x81\xFE"sv, 0x3F, 0x003F, 936, {}, {}, cLenient51936, {}, {}, {}},
+    {51949, 20949, nullptr, "\x81\xFE"sv, 0x3F, 0x003F, 949, cRows51949, {}, cLenient51949, {}, {}, {}},
 };
 
 const std::span<const TPageData> CodePageData = cPageData;

@@ -1,5 +1,5 @@
-// The data for code page tables beside ICU's converters: where Windows differs, and its
-// best fits. tools/code-page-tables makes the data.
+// The data for code page tables beside ICU's converters: codes that mean another character, and best fits.
+// tools/code-page-tables makes the data; docs/code-pages.md states the sources.
 #pragma once
 
 #include <cstdint>

@@ -88,14 +88,6 @@ std::size_t FindText(TView AText, TView APiece) {
     return Found == AText.end() ? TView::npos : static_cast<std::size_t>(Found - AText.begin());
 }
 
-// Each unit in its capital form, so that two texts of the same length can be compared in either case.
-std::u16string UpperUnits(TView AText) {
-    std::u16string Result(AText);
-    for (char16_t& Char : Result)
-        Char = Char < 0x80 ? UpCase(Char) : platform::UpperChar(Char);
-    return Result;
-}
-
 // The part of AText that starts at the position AIndex and has ACount units, cut to the text.
 TView Part(TView AText, int AIndex, int ACount) noexcept {
     const std::size_t First = AIndex < 1 ? 0 : static_cast<std::size_t>(AIndex) - 1;
@@ -106,6 +98,20 @@ TView Part(TView AText, int AIndex, int ACount) noexcept {
 
 constexpr bool IsIdentStart(char16_t AChar) noexcept {
     return (AChar >= u'A' && AChar <= u'Z') || (AChar >= u'a' && AChar <= u'z') || AChar == u'_';
+}
+
+// Moves AText, which begins with the quote, past the closing quote. False if that is missing.
+bool TakeQuoted(TView& AText, char16_t AQuote, UnicodeString& AContent) {
+    AText.remove_prefix(1);
+    while (true) {
+        const std::size_t At = AText.find(AQuote);
+        AContent.Append(AText.substr(0, At));
+        AText.remove_prefix(At == TView::npos ? AText.size() : At + 1);
+        if (At == TView::npos || !AText.starts_with(AQuote))
+            return At != TView::npos;
+        AContent += AQuote;
+        AText.remove_prefix(1);
+    }
 }
 
 } // namespace
@@ -121,6 +127,16 @@ UnicodeString AnsiUpperCase(const TStringArg& AText) {
 }
 UnicodeString AnsiLowerCase(const TStringArg& AText) {
     return platform::LowerCase(AText);
+}
+
+char16_t detail::UpperUnit(char16_t AChar) noexcept {
+    return AChar < 0x80 ? UpCase(AChar) : platform::UpperChar(AChar);
+}
+
+std::u16string detail::UpperUnits(TView AText) {
+    std::u16string Result(AText);
+    std::ranges::transform(Result, Result.begin(), UpperUnit);
+    return Result;
 }
 
 int detail::CompareUnits(TView ALeft, TView ARight) noexcept {
@@ -243,8 +259,8 @@ UnicodeString StringReplace(const TStringArg& AText, const TStringArg& AOld, con
                             TReplaceFlags AFlags) {
     const TView Text = AText;
     const bool IgnoreCase = AFlags.Contains(rfIgnoreCase);
-    const std::u16string UpperText = IgnoreCase ? UpperUnits(Text) : std::u16string();
-    const std::u16string UpperOld = IgnoreCase ? UpperUnits(AOld) : std::u16string();
+    const std::u16string UpperText = IgnoreCase ? detail::UpperUnits(Text) : std::u16string();
+    const std::u16string UpperOld = IgnoreCase ? detail::UpperUnits(AOld) : std::u16string();
     const TView Where = IgnoreCase ? TView(UpperText) : Text;
     const TView What = IgnoreCase ? TView(UpperOld) : AOld.View();
     std::size_t Found = What.empty() ? TView::npos : Find(Where, What, 0);
@@ -281,26 +297,17 @@ UnicodeString AnsiQuotedStr(const TStringArg& AText, char16_t AQuote) {
 
 UnicodeString AnsiExtractQuotedStr(TView& AText, char16_t AQuote) {
     UnicodeString Result;
-    if (AText.empty() || AText.front() != AQuote)
-        return Result;
-    AText.remove_prefix(1);
-    while (true) {
-        const std::size_t At = std::min(AText.find(AQuote), AText.size());
-        Result.Append(AText.substr(0, At));
-        AText.remove_prefix(std::min(At + 1, AText.size()));
-        if (AText.empty() || AText.front() != AQuote)
-            return Result;
-        Result += AQuote;
-        AText.remove_prefix(1);
-    }
+    if (AText.starts_with(AQuote))
+        TakeQuoted(AText, AQuote, Result);
+    return Result;
 }
 
 UnicodeString AnsiDequotedStr(const TStringArg& AText, char16_t AQuote) {
     TView Text = AText;
     if (Text.size() < 2 || Text.front() != AQuote || Text.back() != AQuote)
         return AText.ToString();
-    UnicodeString Result = AnsiExtractQuotedStr(Text, AQuote);
-    return Text.empty() ? Result : AText.ToString();
+    UnicodeString Result;
+    return TakeQuoted(Text, AQuote, Result) && Text.empty() ? Result : AText.ToString();
 }
 
 UnicodeString StringOfChar(char16_t AChar, int ACount) {

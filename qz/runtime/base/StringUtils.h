@@ -33,6 +33,9 @@ namespace detail {
 // CompareStr and CompareText of views, to be called by address.
 QZ_API int CompareUnits(std::u16string_view ALeft, std::u16string_view ARight) noexcept;
 QZ_API int CompareUnitsNoCase(std::u16string_view ALeft, std::u16string_view ARight) noexcept;
+// The capital form of a unit, and of each unit of a text: what is compared where case does not count.
+QZ_API char16_t UpperUnit(char16_t AChar) noexcept;
+QZ_API std::u16string UpperUnits(std::u16string_view AText);
 } // namespace detail
 
 // Comparison by 16-bit units: negative, zero or positive. CompareText and SameText take A to Z as a to z.
@@ -75,7 +78,8 @@ using enum TReplaceFlag;
 using TReplaceFlags = TSet<TReplaceFlag>;
 
 // Every occurrence of AOld from left to right, or the first without rfReplaceAll, replaced by ANew; what was
-// put in is not searched again. rfIgnoreCase ignores case in all of Unicode, character by character.
+// put in is not searched again. rfIgnoreCase ignores case in all of Unicode, unit by unit: two units are the
+// same if their capital forms are, by the simple mapping of Unicode and not by the user's locale.
 QZ_API UnicodeString StringReplace(const TStringArg& AText, const TStringArg& AOld, const TStringArg& ANew,
                                    TReplaceFlags AFlags = {});
 

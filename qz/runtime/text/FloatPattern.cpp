@@ -107,10 +107,10 @@ TPlaces Count(TView ASection) {
     }
 }
 
-// Keeps the digits that the places have room for.
-void RoundTo(const TPlaces& APlaces, TDecimal& AValue) {
+// Keeps the digits of ANumber that the places have room for.
+void RoundTo(const TPlaces& APlaces, double ANumber, TDecimal& AValue) {
     if (APlaces.IsScientific)
-        AValue.Round(std::max(APlaces.Whole + APlaces.Fraction, 1));
+        AValue.RoundNearest(ANumber, std::max(APlaces.Whole + APlaces.Fraction, 1));
     else
         AValue.Round(AValue.Exponent + APlaces.Fraction);
 }
@@ -227,7 +227,7 @@ UnicodeString FormatFloat(const TStringArg& APattern, double AValue, const TForm
         (!Places.IsScientific && Value.Exponent > cMaxWhole))
         return FloatToStrF(AValue, ffGeneral, cGeneralPrecision, 0, ASettings);
     const bool WasZero = Value.Count == 0;
-    RoundTo(Places, Value);
+    RoundTo(Places, AValue, Value);
     if (Value.Count == 0 && !WasZero) {
         const TView Zero = Section(APattern, 2);
         Chosen = Zero.empty() ? First : Zero;

@@ -73,9 +73,8 @@ void AppendFixed(UnicodeString& AText, const TDecimal& AValue, int AFraction, bo
         *Here++ = AValue.Digit(AValue.Exponent + I);
 }
 
-void AppendGeneral(UnicodeString& AText, TDecimal AValue, int APrecision, int ADigits,
+void AppendGeneral(UnicodeString& AText, const TDecimal& AValue, int APrecision, int ADigits,
                    const TFormatSettings& ASettings) {
-    AValue.Round(APrecision);
     if (AValue.IsNegative)
         AText += u'-';
     if (AValue.Exponent > APrecision || AValue.Exponent < cLeastFixedExponent)
@@ -183,15 +182,20 @@ void detail::AppendFloat(UnicodeString& AText, double AValue, TFloatFormat AForm
     TDecimal Value(AValue);
     if (AppendSpecial(AText, Value))
         return;
-    if (AFormat == ffGeneral || (AFormat != ffExponent && Value.Exponent > Precision))
+    const bool IsTooLong = Value.Exponent > Precision;
+    const bool IsByPoint =
+        AFormat != ffGeneral && AFormat != ffExponent && Value.Exponent + Digits < Precision;
+    if (IsByPoint)
+        Value.Round(Value.Exponent + Digits);
+    else
+        Value.RoundNearest(AValue, Precision);
+    if (AFormat == ffGeneral || (AFormat != ffExponent && IsTooLong))
         return AppendGeneral(AText, Value, Precision, AFormat == ffGeneral ? Digits : 0, ASettings);
     if (AFormat == ffExponent) {
-        Value.Round(Precision);
         if (Value.IsNegative)
             AText += u'-';
         return AppendScientific(AText, Value, Precision - 1, true, std::min(Digits, 4), ASettings);
     }
-    Value.Round(std::min(Value.Exponent + Digits, Precision));
     if (AFormat == ffCurrency)
         return AppendCurrency(AText, Value, Digits, ASettings);
     if (Value.IsNegative)

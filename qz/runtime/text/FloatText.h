@@ -4,8 +4,9 @@
 //     FloatToStrF(1234567.891, ffNumber, 15, 2);    // "1,234,567.89"
 //     StrToFloat(u" 1.5E3 ");                       // 1500
 //
-// Digits come from the shortest decimal number that reads back as the same double, and are rounded half away
-// from zero from there: 2.675 with two digits is "2.68". A number that rounds to zero has no sign. Infinity
+// Significant digits are those nearest to the double; of two as near, those away from zero. Digits after the
+// point are rounded half away from zero from the shortest decimal number that reads back as the same double:
+// 2.675 with two of them is "2.68", although the double is a little less. A number that rounds to zero has no sign. Infinity
 // is "INF" or "-INF", not a number "NAN". Functions without settings use DefaultFormatSettings(). All may run
 // on any number of threads.
 #pragma once
@@ -24,7 +25,7 @@ enum class TFloatFormat : std::uint8_t {
 };
 using enum TFloatFormat;
 
-// General form with 15 significant digits: scientific from 1E15 on and below 1E-4.
+// General form with the nearest 15 significant digits: scientific from 1E15 on and below 1E-4.
 QZ_API UnicodeString FloatToStr(double AValue);
 QZ_API UnicodeString FloatToStr(double AValue, const TFormatSettings& ASettings);
 

@@ -1,7 +1,6 @@
 #include <qz/runtime/text/RegEx.h>
 
 #include <algorithm>
-#include <chrono>
 
 #include <pcre2.h>
 
@@ -11,24 +10,27 @@
 namespace qz {
 namespace {
 
-constexpr std::uint32_t cMatchLimit = 2'000'000; // steps at one place of the text
-constexpr std::uint32_t cHeapLimit = 64 * 1024;  // KiB for choices that are open
+// The steps that a place of the text may take at once: some, and a few for each unit, as one match may take the
+// whole text.
+constexpr std::size_t cPlaceSteps = 2'000'000;
+constexpr std::size_t cPlaceStepsPerUnit = 8;
+// A place that takes no more than these is free; the others share the steps of the search.
+constexpr std::uint32_t cFreeSteps = 1000;
+constexpr std::size_t cSearchSteps = 100'000'000;
+constexpr std::size_t cPlacesOfLevel = 16; // the number of places after which fewer steps are tried
 
-// The steps that a whole search may take before it is limited, shared by all start positions.
-constexpr std::size_t cSteps = 400'000'000;
-constexpr std::size_t cLeastSteps = 500;
+constexpr std::size_t cFirstStack = 64 * 1024; // bytes for choices that are open
+constexpr std::size_t cMostStack = 512 * 1024 * 1024;
 
-// A search that is watched looks at its pace now and then. One that takes long, and gets on more slowly than
-// any sound pattern, ends.
-constexpr std::size_t cWindow = 2048; // units between two looks, less in a long text
-constexpr std::size_t cWindowTimesText = 2'000'000'000;
-constexpr std::chrono::seconds cPatience{3};
-constexpr double cLeastPace = 200'000; // units a second
+constexpr std::size_t cFirstWindow = 64; // places
+constexpr std::size_t cMostWindow = 1024 * 1024;
 
 template <auto Free> struct TFree {
     template <class T> void operator()(T* AObject) const noexcept { Free(AObject); }
 };
 template <class T, auto Free> using THandle = std::unique_ptr<T, TFree<Free>>;
+using TCompileContext = THandle<pcre2_compile_context, pcre2_compile_context_free>;
+using TStack = THandle<pcre2_jit_stack, pcre2_jit_stack_free>;
 using TMatchData = THandle<pcre2_match_data, pcre2_match_data_free>;
 
 PCRE2_SPTR Units(std::u16string_view AText) {
@@ -59,6 +61,80 @@ std::uint32_t FlagsOf(TRegExOptions AOptions) {
     return Flags;
 }
 
+// Finds what makes a search depend on where it started, or on what it skipped: \G, (*COMMIT) and (*SKIP).
+class TPatternScan {
+public:
+    TPatternScan(std::u16string_view APattern, bool AIsExtended)
+        : FRest(APattern),
+          FIsExtended(AIsExtended) {}
+
+    bool NeedsOnePiece() {
+        const auto Has = [this](std::u16string_view A) { return FRest.find(A) != std::u16string_view::npos; };
+        if (!Has(u"\\G") && !Has(u"(*COMMIT") && !Has(u"(*SKIP"))
+            return false;
+        if (FIsExtended && FRest.starts_with(u"(*"))
+            return true; // it may set the line ends, which end comments
+        while (!FRest.empty()) {
+            if (FRest.starts_with(u"\\G") || FRest.starts_with(u"(*COMMIT") || FRest.starts_with(u"(*SKIP") ||
+                SetsExtended())
+                return true;
+            SkipOne();
+        }
+        return false;
+    }
+
+private:
+    // Whether (?x) or the like stands here. Its scope is not followed.
+    bool SetsExtended() const {
+        if (!FRest.starts_with(u"(?"))
+            return false;
+        const std::size_t End = FRest.find_first_not_of(u"^aimnsxJU-", 2);
+        return FRest.substr(0, End).find(u'x') != std::u16string_view::npos;
+    }
+
+    void SkipOne() {
+        if (FRest[0] == u'\\')
+            SkipEscape();
+        else if (FRest[0] == u'[')
+            SkipClass();
+        else if (FRest.starts_with(u"(?#"))
+            SkipThrough(FRest.find(u')'), 1);
+        else if (FRest[0] == u'#' && FIsExtended)
+            SkipThrough(FRest.find_first_of(u"\r\n"), 1);
+        else
+            FRest.remove_prefix(1);
+    }
+
+    void SkipThrough(std::size_t AAt, std::size_t ALength) {
+        FRest.remove_prefix(AAt == std::u16string_view::npos ? FRest.size() : AAt + ALength);
+    }
+
+    void SkipEscape() {
+        if (FRest.starts_with(u"\\Q"))
+            SkipThrough(FRest.find(u"\\E"), 2);
+        else
+            FRest.remove_prefix(std::min<std::size_t>(FRest.size(), 2));
+    }
+
+    void SkipClass() {
+        FRest.remove_prefix(FRest.starts_with(u"[^") ? 2 : 1);
+        bool IsFirst = true;
+        while (!FRest.empty() && (IsFirst || FRest[0] != u']')) {
+            IsFirst = false;
+            if (FRest[0] == u'\\')
+                SkipEscape();
+            else if (FRest.starts_with(u"[:") && FRest.find(u":]") != std::u16string_view::npos)
+                SkipThrough(FRest.find(u":]"), 2);
+            else
+                FRest.remove_prefix(1);
+        }
+        FRest.remove_prefix(FRest.empty() ? 0 : 1);
+    }
+
+    std::u16string_view FRest;
+    bool FIsExtended;
+};
+
 } // namespace
 
 const TClassRec ERegularExpressionError::ClassRec =
@@ -70,6 +146,7 @@ struct TRegEx::TCode {
     std::uint32_t MatchFlags = 0;
     bool IsAnchored = false;   // matches where a search starts, if at all
     bool IsOfOnePiece = false; // the pattern may depend on where the search started, or stop it
+    bool PassesLineEnd = true; // no match begins within a CR LF
 
     TMatchData NewMatchData() const {
         TMatchData Data(pcre2_match_data_create_from_pattern(Code.get(), nullptr));
@@ -84,21 +161,27 @@ TRegEx::TRegEx(const TStringArg& APattern, TRegExOptions AOptions) {
     int Error = 0;
     PCRE2_SIZE Offset = 0;
     auto Code = std::make_shared<TCode>();
+    const TCompileContext Compiling(pcre2_compile_context_create(nullptr));
+    if (Compiling == nullptr)
+        throw std::bad_alloc();
+    pcre2_set_newline(Compiling.get(), PCRE2_NEWLINE_ANYCRLF);
     Code->Code.reset(
-        pcre2_compile(Units(Pattern), Pattern.size(), FlagsOf(AOptions), &Error, &Offset, nullptr));
+        pcre2_compile(Units(Pattern), Pattern.size(), FlagsOf(AOptions), &Error, &Offset, Compiling.get()));
     if (Code->Code == nullptr)
         throw ERegularExpressionError(u"Error in regular expression at offset %d: %s",
                                       {static_cast<std::int64_t>(Offset), ErrorText(Error)});
     Code->Context.reset(pcre2_match_context_create(nullptr));
     if (Code->Context == nullptr)
         throw std::bad_alloc();
-    pcre2_set_heap_limit(Code->Context.get(), cHeapLimit);
+    pcre2_set_heap_limit(Code->Context.get(), cMostStack / 1024);
     Code->MatchFlags = AOptions.Contains(roNotEmpty) ? PCRE2_NOTEMPTY : 0;
     std::uint32_t Options = 0;
     pcre2_pattern_info(Code->Code.get(), PCRE2_INFO_ALLOPTIONS, &Options);
     Code->IsAnchored = (Options & PCRE2_ANCHORED) != 0;
-    Code->IsOfOnePiece =
-        Pattern.find(u"\\G") != std::u16string_view::npos || Pattern.find(u"(*") != std::u16string_view::npos;
+    Code->IsOfOnePiece = TPatternScan(Pattern, AOptions.Contains(roIgnorePatternSpace)).NeedsOnePiece();
+    std::uint32_t NamesLineEnds = 0;
+    pcre2_pattern_info(Code->Code.get(), PCRE2_INFO_HASCRORLF, &NamesLineEnds);
+    Code->PassesLineEnd = NamesLineEnds == 0;
     // Where the machine has no such compiler, or not for this pattern, the pattern is interpreted.
     pcre2_jit_compile(Code->Code.get(), PCRE2_JIT_COMPLETE);
     FCode = std::move(Code);
@@ -123,15 +206,13 @@ public:
             return false;
         bool Found = Try(FNext, FWasEmpty ? PCRE2_NOTEMPTY_ATSTART | PCRE2_ANCHORED : 0);
         if (!Found && FWasEmpty) {
-            FNext += IsWithinPair(FNext + 1) ? 2 : 1;
+            FNext = NextPlace(FNext + 1);
             Found = FNext <= FText.size() && Try(FNext, 0);
         }
         if (!Found)
             return false;
         FWasEmpty = First() == Behind();
-        FDone += Behind() - std::min(FNext, Behind()) + 16;
         FNext = Behind();
-        CheckPace();
         return true;
     }
     std::size_t First() const { return std::min(Ends()[0], Ends()[1]); }
@@ -150,48 +231,82 @@ public:
 private:
     const PCRE2_SIZE* Ends() const { return pcre2_get_ovector_pointer(FData.get()); }
 
-    bool IsWithinPair(std::size_t AAt) const {
-        return AAt > 0 && AAt < FText.size() && IsHighSurrogate(FText[AAt - 1]) && IsLowSurrogate(FText[AAt]);
+    // The first place from AAt on at which a match may begin: not within a pair, nor within a line end that the
+    // pattern does not name.
+    std::size_t NextPlace(std::size_t AAt) const {
+        if (AAt == 0 || AAt >= FText.size())
+            return AAt;
+        const char16_t Before = FText[AAt - 1];
+        const bool IsWithin = (IsHighSurrogate(Before) && IsLowSurrogate(FText[AAt])) ||
+            (FCode.PassesLineEnd && Before == u'\r' && FText[AAt] == u'\n');
+        return AAt + (IsWithin ? 1 : 0);
+    }
+
+    std::size_t PlaceLimit() const {
+        return std::min<std::size_t>(cPlaceSteps + cPlaceStepsPerUnit * FText.size(), UINT32_MAX);
     }
 
     // Looks for a match that begins at AStart or after it.
     bool Try(std::size_t AStart, std::uint32_t AFlags) {
-        const std::size_t Rest = FText.size() - AStart;
         if (FCode.IsAnchored || (AFlags & PCRE2_ANCHORED) != 0)
-            return Judge(Run(AStart, AFlags, cMatchLimit, PCRE2_UNSET));
-        const auto Limit = static_cast<std::uint32_t>(
-            std::clamp<std::size_t>(cSteps / (Rest + 1), cLeastSteps, cMatchLimit));
-        const int Outcome = Run(AStart, AFlags, Limit, PCRE2_UNSET);
-        const bool IsWatched = Outcome == PCRE2_ERROR_MATCHLIMIT && !FCode.IsOfOnePiece;
-        return IsWatched ? TryWatched(AStart, AFlags) : Judge(Outcome);
+            return TryPlace(AStart, AFlags);
+        if (FCode.IsOfOnePiece) {
+            const std::size_t Share = cSearchSteps / (FText.size() - AStart + 1);
+            return Judge(
+                Run(AStart, AFlags, std::clamp<std::size_t>(Share, cFreeSteps, PlaceLimit()), PCRE2_UNSET));
+        }
+        const int Outcome = Run(AStart, AFlags, cFreeSteps, PCRE2_UNSET);
+        return Outcome == PCRE2_ERROR_MATCHLIMIT ? TryWindows(AStart, AFlags) : Judge(Outcome);
     }
 
-    // The same, a stretch of the text at a time.
-    bool TryWatched(std::size_t AStart, std::uint32_t AFlags) {
-        const std::size_t Window =
-            std::clamp<std::size_t>(cWindowTimesText / (FText.size() + 1), 16, cWindow);
-        for (;;) {
-            const bool IsLast = FText.size() - AStart <= Window;
-            if (Judge(Run(AStart, AFlags, cMatchLimit, IsLast ? PCRE2_UNSET : AStart + Window)))
+    // The same, some places at a time. The windows close in on a place that takes more steps than are free.
+    bool TryWindows(std::size_t AStart, std::uint32_t AFlags) {
+        for (std::size_t Window = cFirstWindow;;) {
+            const bool IsLast = FText.size() - AStart < Window;
+            const std::size_t Last = AStart + Window - 1;
+            const int Outcome = Run(AStart, AFlags, cFreeSteps, IsLast ? PCRE2_UNSET : Last);
+            const bool IsTooMuch = Outcome == PCRE2_ERROR_MATCHLIMIT;
+            if (IsTooMuch && Window > 1) {
+                Window /= 2;
+                continue;
+            }
+            if (IsTooMuch ? TryPlace(AStart, AFlags | PCRE2_ANCHORED) : Judge(Outcome))
                 return true;
             if (IsLast)
                 return false;
-            AStart += Window + 1;
-            AStart += IsWithinPair(AStart) ? 1 : 0;
-            FDone += Window;
-            CheckPace();
+            AStart = NextPlace(Last + 1);
+            Window = IsTooMuch ? 1 : std::min(Window * 2, cMostWindow);
         }
     }
 
-    int Run(std::size_t AStart, std::uint32_t AFlags, std::uint32_t ALimit, std::size_t ALastStart) {
-        pcre2_set_match_limit(FContext.get(), ALimit);
+    // Looks for a match that begins at AStart, with as many steps as the previous place took, then with more.
+    bool TryPlace(std::size_t AStart, std::uint32_t AFlags) {
+        if (++FPlaces % cPlacesOfLevel == 0)
+            FLevel = std::max<std::size_t>(FLevel / 2, cFreeSteps);
+        for (;; FLevel = std::min(FLevel * 2, PlaceLimit())) {
+            const int Outcome = Run(AStart, AFlags, FLevel, PCRE2_UNSET);
+            const bool IsTooMuch = Outcome == PCRE2_ERROR_MATCHLIMIT;
+            FSteps += FLevel == cFreeSteps && !IsTooMuch ? 0 : FLevel / 2;
+            if (!IsTooMuch || FLevel == PlaceLimit() || FSteps > cSearchSteps)
+                return Judge(FSteps > cSearchSteps ? PCRE2_ERROR_MATCHLIMIT : Outcome);
+        }
+    }
+
+    int Run(std::size_t AStart, std::uint32_t AFlags, std::size_t ALimit, std::size_t ALastStart) {
+        pcre2_set_match_limit(FContext.get(), static_cast<std::uint32_t>(ALimit));
         pcre2_set_offset_limit(FContext.get(), ALastStart);
-        const auto Ask = [&](std::uint32_t AMore) {
+        const auto Ask = [&] {
             return pcre2_match(FCode.Code.get(), Units(FText), FText.size(), AStart,
-                               FCode.MatchFlags | AFlags | AMore, FData.get(), FContext.get());
+                               FCode.MatchFlags | AFlags, FData.get(), FContext.get());
         };
-        const int Outcome = Ask(0);
-        return Outcome == PCRE2_ERROR_JIT_STACKLIMIT ? Ask(PCRE2_NO_JIT) : Outcome;
+        const int Outcome = Ask();
+        if (Outcome != PCRE2_ERROR_JIT_STACKLIMIT || FStack != nullptr)
+            return Outcome;
+        FStack.reset(pcre2_jit_stack_create(cFirstStack, cMostStack, nullptr));
+        if (FStack == nullptr)
+            throw std::bad_alloc();
+        pcre2_jit_stack_assign(FContext.get(), nullptr, FStack.get());
+        return Ask();
     }
 
     static bool Judge(int AOutcome) {
@@ -201,20 +316,16 @@ private:
         return AOutcome >= 0;
     }
 
-    void CheckPace() const {
-        const std::chrono::duration<double> Taken = std::chrono::steady_clock::now() - FBegin;
-        if (Taken > cPatience && static_cast<double>(FDone) < Taken.count() * cLeastPace)
-            throw ERegularExpressionError(u"Error in matching the regular expression: time limit exceeded");
-    }
-
     const TCode& FCode;
     std::u16string_view FText;
     TMatchData FData;
     THandle<pcre2_match_context, pcre2_match_context_free> FContext;
     std::size_t FNext;
     bool FWasEmpty = false;
-    std::chrono::steady_clock::time_point FBegin = std::chrono::steady_clock::now();
-    std::size_t FDone = 0; // units, and a little for each match
+    TStack FStack;          // null until the stack of the thread does not suffice
+    std::size_t FSteps = 0; // of places that took more than are free, at least half of them
+    std::size_t FLevel = cFreeSteps;
+    std::size_t FPlaces = 0;
 };
 
 TGroup TMatch::Place(int AGroup) const noexcept {

@@ -187,6 +187,19 @@ TEST_F(QzStringStream, LoadsStreamsAsTheyAreLabelled) {
     }
 }
 
+// Valid UTF-8 is taken as it is, any other is mended.
+TEST_F(QzStringStream, LoadsUtf8IntoUtf8) {
+    const std::tuple<std::string, bool, UnicodeString> Cases[] = {
+        {"\xEF\xBB\xBFä\U0001F600", true, u"ä\U0001F600"},
+        {"\xEF\xBB\xBFä", false, u"\uFEFFä"},
+        {"ä\xFFz", true, u"ä\uFFFDz"}};
+    for (const auto& [Bytes, Detect, Text] : Cases) {
+        TQzStringStream Stream(65001, 16);
+        Stream.LoadFromStream(StreamOf(Bytes).get(), false, false, Detect, 65001);
+        EXPECT_EQ(Content(Stream), ToUtf8(Text)) << Bytes;
+    }
+}
+
 TEST_F(QzStringStream, EndsAStreamThatItIsGivenInAnyCase) {
     int Ends = 0;
     const auto Fresh = [&] {

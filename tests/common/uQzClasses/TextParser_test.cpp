@@ -176,6 +176,26 @@ TEST(TextParser, SurvivesAStreamThatRaises) {
     }
 }
 
+TEST(TextParser, TheEndOfHalfAUnit) {
+    TQzTextParser Memory("abc", 3, 1252);
+    Memory.Next();
+    Memory.Last();
+    EXPECT_EQ(Memory.PrevChar(), u'a') << "the previous place stays";
+    for (const bool Jumps : {true, false}) {
+        TQzTextParser Odd("a\0b\0c", 5, 1200);
+        Odd.SetMark(tpMarkPos1);
+        if (Jumps)
+            Odd.Last();
+        else
+            Odd.SkipWhile(sopUnEq, u'x');
+        EXPECT_TRUE(Odd.Eof() && Odd.SelectedCnt(tpMarkPos1, tpCurPos) == 4) << Jumps;
+        Odd.SetCharacterSetType(SBCS);
+        Odd.SetContentCodePage(1252);
+        EXPECT_EQ(Odd.ReadChar(), u'c') << Jumps;
+        EXPECT_TRUE(Odd.Eof());
+    }
+}
+
 // Runs are passed as steps would pass them.
 TEST(TextParser, PassesRunsAsStepsWould) {
     const std::function<bool(char16_t, char16_t)> Matches[] = {std::equal_to<>(),   std::less<>(),

@@ -68,6 +68,7 @@ TEST(CharCase, ConvertsByModeInBothWidths) {
           u"xaxb => x => xAxB", u"éa éB =>   => Éa Éb");
     Check(rcLowerCamelCase, u"Hello  wORLD =>   => hello  World");
     Check(rcUpperCaseFirstLetter, u"éLLO =>  => ÉLLO");
+    EXPECT_EQ(QzCharCase(u"ΑΣ ΣΑΣ", rcUpperCamelCase, u" "), u"Ασ Σασ");
 }
 
 TEST(StringIncrement, CountsTheNumberAtTheEnd) {
@@ -120,6 +121,11 @@ TEST(Strings, ShortHelpersTreatTheEnds) {
 
 TEST(Strings, SetsAndSearches) {
     EXPECT_TRUE(QzContainsText(u"ÖL", u"Erdöl"));
+    EXPECT_TRUE(QzContainsText(u"ΟΔΟΣ", u"ΟΔΟΣΗ"));
+    for (const char16_t* Text : {u"οδοσ", u"οδος", u"ΟΔΟΣ"}) {
+        EXPECT_TRUE(QzContainsText(Text, u"ΟΔΟσ") && QzSameText(Text, u"ΟΔΟσ"));
+        EXPECT_EQ(StringReplace(u"ΟΔΟσ", Text, u"x", {rfIgnoreCase}), u"x");
+    }
     EXPECT_TRUE(QzIsUppercase(u"AÄä1") && QzIsUppercase(u"") && !QzIsUppercase(u"Az"));
 }
 

@@ -91,6 +91,8 @@ TEST(StringUtils, Replacing) {
 }
 
 TEST(StringUtils, Quoting) {
+    for (const char16_t* Open : {u"'open", u"'", u"'a''", u"'''", u"'a'b'"})
+        EXPECT_EQ(AnsiDequotedStr(Open, u'\''), Open) << "no closing quote at the end";
     struct {
         std::u16string_view Text;
         const char16_t* Result;

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdio>
 #include <limits>
 #include <map>
+#include <random>
 
 #include "tests/support/Message.h"
 #include "tests/support/Rows.h"
@@ -86,6 +88,23 @@ TEST(FloatText, GeneralForm) {
     EXPECT_EQ(FloatToStr(999999999999999, Neutral), u"999999999999999");
     EXPECT_EQ(FloatToStr(9999999999999995.0, Neutral), u"1E16");
     EXPECT_EQ(FloatToStr(1.7976931348623157e308, Neutral), u"1.79769313486232E308");
+}
+
+// The nearest digits, by an independent way to write them. Half of these have 16 digits and end in 5.
+TEST(FloatText, RoundsOnce) {
+    std::mt19937_64 Random(30);
+    for (int I = 0; I < 20'000; ++I) {
+        const auto Digits =
+            static_cast<double>(std::uniform_int_distribution<std::int64_t>(1, 999'999'999'999'999)(Random));
+        const double Power = std::pow(10.0, std::uniform_int_distribution<int>(-40, -13)(Random));
+        const double Value = (I % 2 == 0 ? Digits : Digits * 10 + 5) * Power;
+        char Expected[32];
+        std::snprintf(Expected, sizeof(Expected), "%.14E", Value);
+        ASSERT_EQ(FloatToStrF(Value, ffExponent, 15, 2, Neutral), UnicodeString(Expected));
+        ASSERT_EQ(FloatToStr(Value, Neutral), FloatToStr(std::strtod(Expected, nullptr), Neutral));
+    }
+    EXPECT_EQ(FloatToStr(100000000000000.5, Neutral), u"100000000000001")
+        << "away from zero where both are as near";
 }
 
 // The value, the form with its precision and digits, and the text.

@@ -37,6 +37,10 @@ TEST(RegEx, GoesOnBehindEmptyMatches) {
 TEST(RegEx, KeepsToItsOptions) {
     EXPECT_TRUE(TRegEx(u"ä", {roIgnoreCase}).IsMatch(u"Ä"));
     EXPECT_EQ(Found(TRegEx(u"^.$", {roMultiLine}), u"a\nb"), u"1:a 3:b ");
+    EXPECT_EQ(Found(TRegEx(u"^.*$", {roMultiLine}), u"a\r\nb\rc\n"), u"1:a 4:b 6:c ");
+    EXPECT_EQ(Found(TRegEx(u"$", {roMultiLine}), u"a\r\nb"), u"2: 5: ") << "not within CR LF";
+    EXPECT_EQ(Found(TRegEx(u"\n?"), u"\r\n"), u"1: 2:\n 3: ") << "but where the pattern names it";
+    EXPECT_TRUE(TRegEx(u"a$").IsMatch(u"a\r\n"));
     EXPECT_FALSE(TRegEx(u"a.b").IsMatch(u"a\nb"));
     EXPECT_TRUE(TRegEx(u"a b # c", {roIgnorePatternSpace}).IsMatch(u"ab"));
     EXPECT_EQ(TRegEx(u"(a)", {roExplicitCapture}).Match(u"a").GroupCount(), 1);
@@ -78,7 +82,13 @@ TEST(RegEx, SearchesAsOneSearch) {
     EXPECT_FALSE(TRegEx(u"a(*COMMIT)z|x").IsMatch(Far));
     EXPECT_FALSE(TRegEx(u"^x").IsMatch(Far));
     EXPECT_FALSE(TRegEx(u"a++[xy]").IsMatch(UnicodeString(1'000'000, u'a')));
-    EXPECT_EQ(TRegEx(u"(?:a|aa){12}[!?]|x").Match(UnicodeString(20000, u'a') + u"x").Index(), 20001);
+    EXPECT_EQ(TRegEx(u"(?:a|aa){12}[!?]|x").Match(UnicodeString(2000, u'a') + u"x").Index(), 2001);
+    const UnicodeString Rare = UnicodeString(1'000'000, u'b') + UnicodeString(30, u'a') + u"x";
+    for (const char16_t* Harmless : {u"(?:a|aa){12}([(*SKIP]|\\\\G)|x", u"(?:a|aa){12}\\(*SKIP|x",
+                                     u"(?:a|aa){12}\\Q(*SKIP\\E|(?#(*SKIP)x", u"(?:a|aa){12}[]\\](*SKIP]|x"})
+        EXPECT_EQ(TRegEx(Harmless).Match(Rare).Index(), 1'000'031) << UnicodeString(Harmless);
+    const UnicodeString Token = u"\"" + UnicodeString(4'000'000, u'a') + u"\"";
+    EXPECT_EQ(TRegEx(u"\"([^\"\\\\]|\\\\.)*\"").Match(Token).Length(), 4'000'002);
 }
 
 } // namespace

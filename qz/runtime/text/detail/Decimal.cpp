@@ -3,8 +3,22 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <string_view>
 
 namespace qz::detail {
+
+namespace {
+
+// Whether AValue, which is positive, is below the number of these digits, the shortest that reads back as it.
+bool IsBelow(double AValue, std::string_view ADigits) noexcept {
+    constexpr int cAllDigits = 766; // after the first one; no double has more
+    std::array<char, cAllDigits + 32> Text;
+    std::to_chars(Text.data(), Text.data() + Text.size(), AValue, std::chars_format::scientific, cAllDigits);
+    Text[1] = Text[0]; // in the place of the point
+    return std::string_view(&Text[1], ADigits.size()) < ADigits;
+}
+
+} // namespace
 
 TDecimal::TDecimal(double AValue) noexcept {
     IsNegative = std::signbit(AValue);
@@ -53,6 +67,17 @@ void TDecimal::Round(int ACount) noexcept {
         IsNegative = false;
         Exponent = 0;
     }
+}
+
+// The shortest digits lie on the same side of a half as the value does, unless they are that half.
+void TDecimal::RoundNearest(double AValue, int ACount) noexcept {
+    if (ACount >= 0 && ACount + 1 == Count) {
+        char& Last = Digits[static_cast<std::size_t>(ACount)];
+        const std::string_view All(Digits.data(), static_cast<std::size_t>(Count));
+        if (Last == '5' && IsBelow(std::fabs(AValue), All))
+            Last = '4';
+    }
+    Round(ACount);
 }
 
 } // namespace qz::detail
