@@ -50,3 +50,13 @@ cmake_path(RELATIVE_PATH QZ_PC_DIR BASE_DIRECTORY /prefix OUTPUT_VARIABLE QZ_PC_
 string(REGEX REPLACE "[^/]+" ".." QZ_PC_UP ${QZ_PC_UP})
 configure_file(cmake/rQzCommon210.pc.in rQzCommon210.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/rQzCommon210.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# The same package by the name without the version, for find_package(QzCommon) and pkg-config QzCommon.
+configure_file(cmake/QzCommonConfig.cmake.in QzCommonConfig.cmake @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/QzCommonConfig.cmake DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/QzCommon)
+install(FILES ${PROJECT_BINARY_DIR}/rQzCommon210ConfigVersion.cmake
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/QzCommon RENAME QzCommonConfigVersion.cmake)
+install(FILES ${PROJECT_BINARY_DIR}/rQzCommon210.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig RENAME QzCommon.pc)
+if(WIN32)
+    install(FILES cmake/mingw-w64.cmake DESTINATION ${QZ_PACKAGE_DIR})
+endif()
