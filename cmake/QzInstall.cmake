@@ -60,3 +60,10 @@ install(FILES ${PROJECT_BINARY_DIR}/rQzCommon210.pc DESTINATION ${CMAKE_INSTALL_
 if(WIN32)
     install(FILES cmake/mingw-w64.cmake DESTINATION ${QZ_PACKAGE_DIR})
 endif()
+
+# The printers for debuggers, and where gdb finds them for the shared library: below auto-load, by the path of the library.
+install(FILES debug/qzcommon_printers.py DESTINATION ${CMAKE_INSTALL_DATADIR}/rQzCommon210)
+if(QZ_BUILD_SHARED AND NOT WIN32)
+    install(FILES debug/qzcommon_printers.py RENAME librQzCommon210.so.${PROJECT_VERSION}-gdb.py
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/gdb/auto-load/\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}")
+endif()
