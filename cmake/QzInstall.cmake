@@ -52,3 +52,20 @@ cmake_path(RELATIVE_PATH QZ_PC_DIR BASE_DIRECTORY /prefix OUTPUT_VARIABLE QZ_PC_
 string(REGEX REPLACE "[^/]+" ".." QZ_PC_UP ${QZ_PC_UP})
 configure_file(cmake/rQzCommon210.pc.in rQzCommon210.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/rQzCommon210.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# The same package by the name without the version, for find_package(QzCommon) and pkg-config QzCommon.
+configure_file(cmake/QzCommonConfig.cmake.in QzCommonConfig.cmake @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/QzCommonConfig.cmake DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/QzCommon)
+install(FILES ${PROJECT_BINARY_DIR}/rQzCommon210ConfigVersion.cmake
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/QzCommon RENAME QzCommonConfigVersion.cmake)
+install(FILES ${PROJECT_BINARY_DIR}/rQzCommon210.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig RENAME QzCommon.pc)
+if(WIN32)
+    install(FILES cmake/mingw-w64.cmake DESTINATION ${QZ_PACKAGE_DIR})
+endif()
+
+# The printers for debuggers, and where gdb finds them for the shared library: below auto-load, by the path of the library.
+install(FILES debug/qzcommon_printers.py DESTINATION ${CMAKE_INSTALL_DATADIR}/rQzCommon210)
+if(QZ_BUILD_SHARED AND NOT WIN32)
+    install(FILES debug/qzcommon_printers.py RENAME librQzCommon210.so.${PROJECT_VERSION}-gdb.py
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/gdb/auto-load/\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}")
+endif()

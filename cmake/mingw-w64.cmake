@@ -1,4 +1,5 @@
-# Toolchain: 64-bit Windows programs by Debian's mingw-w64 with POSIX threads, run under Wine.
+# Toolchain: 64-bit Windows programs by Debian's mingw-w64 with POSIX threads, run under Wine. It is installed with the
+# Windows package, which it then finds without further settings.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
@@ -17,6 +18,10 @@ endif()
 
 # A user of this file adds his own prefixes with -DCMAKE_FIND_ROOT_PATH.
 list(APPEND CMAKE_FIND_ROOT_PATH ${QZ_DEPS_DIR}/mingw-w64 /usr/x86_64-w64-mingw32)
+if(EXISTS ${CMAKE_CURRENT_LIST_DIR}/rQzCommon210Config.cmake)
+    cmake_path(SET QZ_PREFIX NORMALIZE ${CMAKE_CURRENT_LIST_DIR}/../../..)
+    list(APPEND CMAKE_FIND_ROOT_PATH ${QZ_PREFIX})
+endif()
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
@@ -27,4 +32,13 @@ set(CMAKE_FIND_LIBRARY_SUFFIXES .a)
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 set(CMAKE_SHARED_LINKER_FLAGS_INIT -static)
 
-set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../tools/wine)
+# Programs that a build runs are started by this tree's own script, or by the Wine of the machine.
+if(EXISTS ${CMAKE_CURRENT_LIST_DIR}/../tools/wine)
+    set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../tools/wine)
+else()
+    find_program(QZ_WINE NAMES wine wine64 PATHS /usr/lib/wine)
+    mark_as_advanced(QZ_WINE)
+    if(QZ_WINE)
+        set(CMAKE_CROSSCOMPILING_EMULATOR ${QZ_WINE})
+    endif()
+endif()

@@ -68,7 +68,11 @@ void ShowThreads() {
 
 } // namespace
 
-int main() {
+int main(int ACount, char**) {
+    if (ACount > 1) {
+        std::cerr << "hello: takes no arguments\n";
+        return 2;
+    }
     std::cout << Format("QzCommon %s, day %d of the calendar\n", {Version(), static_cast<int>(Date())});
     ShowText();
     ShowErrors();

@@ -16,6 +16,7 @@
 #include <sstream>
 
 #include <qz/runtime/base/StringUtils.h>
+#include <qz/runtime/files/FileSystem.h>
 #include <qz/runtime/values/VariantArray.h>
 
 using namespace qz;
@@ -142,7 +143,7 @@ int main(int ACount, char** AArguments) {
     std::istringstream Defaults(cDefaults);
     if (ACount > 1) {
         File.open(AArguments[1]);
-        if (!File) {
+        if (!File || DirectoryExists(AArguments[1])) {
             std::cerr << "logconfig: cannot read " << AArguments[1] << '\n';
             return 2;
         }

@@ -104,6 +104,8 @@ TQzLogLevel LevelOf(std::u16string_view ALine) noexcept {
 // Text in the system's code page is walked as it stands in the file, any other as UTF-16.
 TTextFile LogTextFile(const UnicodeString& AFileName, std::uint16_t ACodePage, IQzLogger& ALog,
                       const TOnProgress& AProgress) {
+    if (DirectoryExists(AFileName))
+        throw Exception(u"is a directory; name the text files in it");
     TTextFile Result;
     if (FileExists(AFileName))
         Inspect(AFileName, Result);

@@ -87,7 +87,7 @@ TOptions ParseArguments(const std::vector<std::u16string>& AArguments) {
         else if (Argument == u"--help")
             Result.WantsHelp = true;
         else
-            throw Exception(u"unknown option %s", {Argument});
+            throw Exception(u"unknown option %s; --help lists the options", {Argument});
     }
     return Result;
 }
@@ -177,6 +177,8 @@ TTotal LogFiles(const TOptions& AOptions) {
             const TTextFile Done = LogTextFile(File, AOptions.CodePage, *Log,
                                                [&](const TTextFile& ASoFar) { Progress.Show(Name, ASoFar); });
             Progress.Clear();
+            if (Total.Files == 0)
+                PrintHead();
             PrintRow(Name, Done, PageText(Done.CodePage));
             Add(Total, Done);
         } catch (const Exception& Error) {
@@ -223,7 +225,6 @@ int Run(TOptions AOptions) {
         std::cerr << "logtour: " << ADrop.Appender << ": " << ADrop.Message << '\n';
     });
     Logger().SetConfig(TourConfiguration(Directory).Get());
-    PrintHead();
     const auto Start = std::chrono::steady_clock::now();
     const TTotal Total = LogFiles(AOptions);
     CloseRootLogger(); // ends the files
@@ -245,7 +246,7 @@ int main() {
     try {
         Options = ParseArguments(platform::CommandLineArguments());
     } catch (const Exception& Error) {
-        std::cerr << "logtour: " << Error.Message() << '\n' << cUsage;
+        std::cerr << "logtour: " << Error.Message() << '\n';
         return cStatusBadInput;
     }
     if (Options.WantsHelp) {
