@@ -47,7 +47,7 @@ TDrops& Drops() {
 std::shared_ptr<const TQzLogDropHook> HookFor(TDrops& ADrops, std::uint64_t AKey) {
     const std::int64_t Now = platform::UtcNow100ns();
     const TStateHold Hold;
-    const auto Hook = ADrops.Hook == nullptr && ADrops.Prints ? ADrops.Printer : ADrops.Hook;
+    auto Hook = ADrops.Hook == nullptr && ADrops.Prints ? ADrops.Printer : ADrops.Hook;
     if (Hook == nullptr || AKey == detail::TDropKey::Unlimited)
         return Hook;
     std::erase_if(ADrops.LastCalls, [Now](const auto& AEntry) {

@@ -52,12 +52,12 @@ inline void CountDrop() noexcept {
     CountDrops(1);
 }
 // The key by which calls of the hook are limited to one a second: the serial of an appender, or one of these.
-namespace TDropKey {
-inline constexpr std::uint64_t None = 0;
-inline constexpr std::uint64_t Buffer = UINT64_MAX;
-inline constexpr std::uint64_t QueueLimit = UINT64_MAX - 1;
-inline constexpr std::uint64_t Unlimited = UINT64_MAX - 2;
-} // namespace TDropKey
+struct TDropKey {
+    static constexpr std::uint64_t None = 0;
+    static constexpr std::uint64_t Buffer = UINT64_MAX;
+    static constexpr std::uint64_t QueueLimit = UINT64_MAX - 1;
+    static constexpr std::uint64_t Unlimited = UINT64_MAX - 2;
+};
 // Calls the hook, for a handler of exceptions; the second one counts a drop too.
 void ReportFailure(const UnicodeString& ALogger, std::uint64_t AKey, const UnicodeString& AAppender) noexcept;
 void ReportDrop(const UnicodeString& ALogger, std::uint64_t AKey, const UnicodeString& AAppender) noexcept;

@@ -9,7 +9,24 @@
 
 #include <qz/platform/Threads.h>
 
+#if defined(__SANITIZE_ADDRESS__)
+#define QZ_TESTS_CHECK_ADDRESSES 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define QZ_TESTS_CHECK_ADDRESSES 1
+#endif
+#endif
+
 namespace qz {
+
+// Whether a child can allocate after a fork among threads that allocate. The allocator of AddressSanitizer
+// does not take its locks around a fork, so that a child may wait for one for ever, with or without this
+// library.
+#if defined(QZ_TESTS_CHECK_ADDRESSES)
+inline constexpr bool cChildrenCanAllocate = false;
+#else
+inline constexpr bool cChildrenCanAllocate = true;
+#endif
 
 // The status of a child when it has ended, which is killed after half a minute.
 inline int AwaitChild(pid_t AChild) {
