@@ -1,12 +1,12 @@
-"""Shows values of QzCommon in gdb and lldb: UnicodeString and the 8-bit strings, TStringList, Variant, TValue, Ref,
-TDateTime, TDate, TTime.
+"""Shows values of QzCommon in gdb and lldb: UnicodeString and the 8-bit strings, TStringList, Variant, TValue,
+Ref, TDateTime, TDate, TTime.
 
     (gdb) source PREFIX/share/rQzCommon210/qzcommon_printers.py
     (lldb) command script import PREFIX/share/rQzCommon210/qzcommon_printers.py
 
-gdb loads it by itself with a shared library that lies where it was installed; docs/debugging.md says how. Values are read
-from memory by the layouts that the headers pin, so only the program itself needs debug information. Works with a core
-file too: nothing is called in the program.
+gdb loads it automatically with the shared library in the place where it was installed; see docs/debugging.md.
+Values are read from memory by the layouts of StringBlock.h, Variant.h, Value.h and TypeInfo.h. The library needs
+no debug information, and nothing is called in the program, so that core files can be read too.
 """
 import codecs
 import datetime
@@ -15,12 +15,14 @@ import struct
 
 LONGEST_TEXT = 0x3FFFFFF0
 SHOWN_UNITS = 200  # of a longer text
-VARIANT_TYPES = {0: "Empty", 1: "Null", 2: "Smallint", 3: "Integer", 4: "Single", 5: "Double", 6: "Currency", 7: "Date",
-                 8: "OleStr", 9: "Dispatch", 10: "Error", 11: "Boolean", 12: "Variant", 13: "Unknown", 14: "Decimal",
-                 16: "ShortInt", 17: "Byte", 18: "Word", 19: "LongWord", 20: "Int64", 21: "UInt64", 73: "Object",
-                 256: "String", 258: "UString"}
+VARIANT_TYPES = {
+    0: "Empty", 1: "Null", 2: "Smallint", 3: "Integer", 4: "Single", 5: "Double", 6: "Currency", 7: "Date",
+    8: "OleStr", 9: "Dispatch", 10: "Error", 11: "Boolean", 12: "Variant", 13: "Unknown", 14: "Decimal",
+    16: "ShortInt", 17: "Byte", 18: "Word", 19: "LongWord", 20: "Int64", 21: "UInt64", 73: "Object",
+    256: "String", 258: "UString"}
 # The form of a variant of that type, for struct.
-VARIANT_NUMBERS = {2: "<h", 3: "<i", 4: "<f", 5: "<d", 16: "<b", 17: "<B", 18: "<H", 19: "<I", 20: "<q", 21: "<Q"}
+VARIANT_NUMBERS = {
+    2: "<h", 3: "<i", 4: "<f", 5: "<d", 16: "<b", 17: "<B", 18: "<H", 19: "<I", 20: "<q", 21: "<Q"}
 KIND_ENUMERATION, KIND_FLOAT = 3, 4
 KINDS_OF_ORDINALS = (1, 2, KIND_ENUMERATION, 9, 16)  # tkInteger, tkChar, tkEnumeration, tkWChar, tkInt64
 KINDS_OF_CHARACTERS = (2, 9)
@@ -69,7 +71,9 @@ def date_text(value, kind="TDateTime"):
         return repr(value)
     date = datetime.date.fromordinal(day + 693594).isoformat()
     clock = f"{time // 3600000:02}:{time // 60000 % 60:02}:{time // 1000 % 60:02}.{time % 1000:03}"
-    return date if kind.endswith("Date") else clock if kind.endswith("UTCTime") or kind == "TTime" else f"{date} {clock}"
+    if kind in ("TDate", "TQzUTCDate"):
+        return date
+    return clock if kind in ("TTime", "TQzUTCTime") else f"{date} {clock}"
 
 
 def decimal_text(units, scale):
@@ -171,7 +175,7 @@ TYPES = {  # the full names of types, as a pattern, and what shows them
     r"^qz::TValue$": "value",
     r"^qz::TDateTimeKind<.*>$": "date",
     r"^qz::Ref<.*>$": "reference",
-    r"^qz::TQ?z?StringList$": "list",
+    r"^qz::T(Qz)?StringList$": "list",
 }
 
 
@@ -280,12 +284,13 @@ def lldb_summary(value, _):
         if show == "list":
             return f"list of {lldb_items(value)[1]}"
         if show == "date":
-            number = struct.unpack("<d", struct.pack("<Q", value.GetChildMemberWithName("Value").GetData().uint64[0]))
-            return date_text(number[0], date_name(name))
+            bits = value.GetChildMemberWithName("Value").GetData().uint64[0]
+            return date_text(struct.unpack("<d", struct.pack("<Q", bits))[0], date_name(name))
         if show == "reference":
             target = value.GetChildMemberWithName("FObject")
+            address = target.GetValueAsUnsigned()
             dynamic = target.GetDynamicValue(lldb.eDynamicDontRunTarget).GetType().GetPointeeType().GetName()
-            return f"{dynamic} at 0x{target.GetValueAsUnsigned():x}" if target.GetValueAsUnsigned() else "null"
+            return f"{dynamic} at 0x{address:x}" if address else "null"
         return READERS[show](memory, value.GetLoadAddress())
     except (UnicodeError, ValueError, OverflowError, struct.error):
         return "<unreadable>"
@@ -293,7 +298,8 @@ def lldb_summary(value, _):
 
 def __lldb_init_module(debugger, _):
     for pattern, show in TYPES.items():
-        debugger.HandleCommand(f'type summary add -x "{pattern}" -F {__name__}.lldb_summary {"-e" if show == "list" else ""}')
+        expand = "-e" if show == "list" else ""
+        debugger.HandleCommand(f'type summary add {expand} -x "{pattern}" -F {__name__}.lldb_summary')
         if show == "list":
             debugger.HandleCommand(f'type synthetic add -x "{pattern}" -l {__name__}.LldbList')
 

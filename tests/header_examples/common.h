@@ -27,6 +27,7 @@ inline bool IsOpen;
 extern TQzTextParser& Parser;
 extern const Exception& Failure;
 inline void Connect() {}
+inline void Alarm(const UnicodeString&) {}
 inline void Import() {}
 
 } // namespace qz
