@@ -11,6 +11,7 @@
 #include <string>
 
 #include "tests/support/Child.h"
+#include "tests/support/OrdinaryRights.h"
 #include "tests/support/TemporaryDirectory.h"
 #include <qz/platform/FileHandle.h>
 #include <qz/platform/linux/NativeText.h>
@@ -89,24 +90,16 @@ TEST(FilesLinux, ReadsAndWritesWhatHasNoSize) {
 // Root may do anything, so that the child becomes somebody else, who owns the directory and the locked file
 // then.
 TEST(FilesLinux, RightsAreRespected) {
-    constexpr uid_t cNobody = 65534;
     const TTemporaryDirectory Directory;
     const std::u16string Locked = Directory / u"locked";
     const std::u16string Open = Directory / u"open";
     const std::string Native = detail::ToNative(Directory.Path());
-    const bool AsRoot = geteuid() == 0;
     ASSERT_TRUE(Write(Locked, cOld));
     ASSERT_TRUE(Write(Open, cOld));
     ASSERT_EQ(chmod(detail::ToNative(Locked).c_str(), 0444), 0);
     ASSERT_EQ(chmod(detail::ToNative(Open).c_str(), 0666), 0);
-    if (AsRoot) {
-        ASSERT_EQ(chown(Native.c_str(), cNobody, cNobody), 0);
-        ASSERT_EQ(chown(detail::ToNative(Locked).c_str(), cNobody, cNobody), 0);
-    }
     const int Result = InChild([&] {
-        if (AsRoot &&
-            (setresgid(cNobody, cNobody, cNobody) != 0 || setresuid(cNobody, cNobody, cNobody) != 0))
-            return 1;
+        const TOrdinaryRights Rights;
         // The directory would take a new file in place of the locked one.
         if (Write(Locked, cNew).Code() != EACCES)
             return 2;
