@@ -17,7 +17,7 @@ const TSlimLockFunctions& Lock = *SystemSlimLock();
 // A reader stays until the next one is in, or until it is clear that none gets in. A lock that admitted
 // readers all the time would never be free of them.
 TEST(SlimLock, ReaderThreadsDoNotStarveAWriter) {
-    constexpr uint64_t cGiveUp = 6000;
+    constexpr uint64_t cGiveUp = 60'000;
     TSlimLockWord Word;
     std::atomic<bool> Stop = false;
     std::atomic<int> Entered = 0;

@@ -8,11 +8,11 @@
 
 namespace qz {
 
-// The result of ATest, which runs in a child made by fork(); -1 if the child does not end within 20 seconds.
+// The result of ATest, which runs in a child made by fork(); -1 if the child does not end within a minute.
 template <class TTest> int InChild(const TTest& ATest) {
     const pid_t Child = fork();
     if (Child == 0) {
-        alarm(20);
+        alarm(60);
         _exit(ATest());
     }
     int Status = -1;

@@ -91,7 +91,7 @@ TEST_F(FileAppender, LinesWaitInTheBuffer) {
     EXPECT_TRUE(Files.Text().ends_with("|six|"));
     File->SetBufferSize(4096);
     Say(File, u"seven");
-    for (int I = 0; I < 300 && !Files.Text().ends_with("|seven|"); ++I)
+    for (int I = 0; I < 6000 && !Files.Text().ends_with("|seven|"); ++I)
         platform::SleepMs(10);
     EXPECT_TRUE(Files.Text().ends_with("|seven|")); // written by the flusher
     Say(File, u"eight");
@@ -107,7 +107,7 @@ TEST_F(FileAppender, WhatCannotBeOpenedIsTriedAgain) {
     EXPECT_EQ(QzDroppedLogMessages(), Dropped + 1);
     EXPECT_THROW(File->Initialize(), EFCreateError);
     ASSERT_TRUE(platform::RemoveEmptyDirectory(Files.Path(u"app.log")));
-    for (int Try = 0; Try < 500 && Files.Text() == "-"; ++Try) {
+    for (int Try = 0; Try < 6000 && Files.Text() == "-"; ++Try) {
         Logger().Info("kept"); // dropped for a tenth of a second
         platform::SleepMs(10);
     }

@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include "tests/support/Child.h"
+#include "tests/support/OrdinaryRights.h"
 #include "tests/support/TemporaryDirectory.h"
 #include <qz/platform/Clock.h>
 #include <qz/platform/FileHandle.h>
@@ -76,24 +77,16 @@ TEST(FilesLinux, ReadsAndWritesWhatHasNoSize) {
 // Root may do anything, so that the child becomes somebody else, who owns the directory and the locked file
 // then.
 TEST(FilesLinux, RightsAreRespected) {
-    constexpr uid_t cNobody = 65534;
     const TTemporaryDirectory Directory;
     const std::u16string Locked = Directory / u"locked";
     const std::u16string Open = Directory / u"open";
     const std::string Native = detail::ToNative(Directory.Path());
-    const bool AsRoot = geteuid() == 0;
     ASSERT_TRUE(Write(Locked, cOld));
     ASSERT_TRUE(Write(Open, cOld));
     ASSERT_EQ(chmod(detail::ToNative(Locked).c_str(), 0444), 0);
     ASSERT_EQ(chmod(detail::ToNative(Open).c_str(), 0666), 0);
-    if (AsRoot) {
-        ASSERT_EQ(chown(Native.c_str(), cNobody, cNobody), 0);
-        ASSERT_EQ(chown(detail::ToNative(Locked).c_str(), cNobody, cNobody), 0);
-    }
     const int Result = InChild([&] {
-        if (AsRoot &&
-            (setresgid(cNobody, cNobody, cNobody) != 0 || setresuid(cNobody, cNobody, cNobody) != 0))
-            return 1;
+        const TOrdinaryRights Rights;
         // The directory would take a new file in place of the locked one.
         if (Write(Locked, cNew).Code() != EACCES)
             return 2;
@@ -239,14 +232,10 @@ TEST(FileTimesLinux, TimeThatNobodyCouldReadIsRefused) {
     const std::u16string File = Directory / u"file";
     const std::string Name = detail::ToNative(File);
     Make(File);
-    ASSERT_EQ(geteuid() == 0 ? chown(Name.c_str(), 65534, 65534) : 0, 0);
     for (const mode_t Mode : {0200U, 0400U}) {
         EXPECT_EQ(chmod(Name.c_str(), Mode), 0);
-        EXPECT_EQ(InChild([&] {
-                      const bool IsRoot = geteuid() == 0; // who may do all
-                      return IsRoot && seteuid(65534) != 0 ? -1 : SetFileCreated(File, cSummer).Code();
-                  }),
-                  EACCES);
+        const TOrdinaryRights Rights;
+        EXPECT_EQ(SetFileCreated(File, cSummer).Code(), EACCES);
     }
     EXPECT_EQ(AttributeOf(Name), "");
 }

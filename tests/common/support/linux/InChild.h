@@ -28,9 +28,9 @@ inline constexpr bool cChildrenCanAllocate = false;
 inline constexpr bool cChildrenCanAllocate = true;
 #endif
 
-// The status of a child when it has ended, which is killed after half a minute.
+// The status of a child when it has ended, which is killed after two minutes.
 inline int AwaitChild(pid_t AChild) {
-    constexpr int cMostTries = 3000;
+    constexpr int cMostTries = 12000;
     int Status = 0;
     for (int Try = 0; Try < cMostTries; ++Try) {
         if (waitpid(AChild, &Status, WNOHANG) == AChild)
