@@ -73,8 +73,8 @@ void TQzFileAppender::ContinueDocument(TQzTextFile& AFile) {
     const auto Document = As<IQzLogDocument>(Layout());
     if (!FIsContinuing || Document == nullptr || !Document->ContinuesDocument())
         return;
-    FIsContinuing = AFile.Size() != 0;
     AFile.RemoveEnd(Footer());
+    FIsContinuing = AFile.Size() != 0;
 }
 
 // A header that closes the appender, as it may once, has the file opened again.
@@ -136,6 +136,8 @@ void TQzFileAppender::Write(const UnicodeString& ASource, const UnicodeString& A
         return;
     if (FOwesHeader) [[unlikely]]
         PayHeader();
+    if (Layout() == nullptr) [[unlikely]] // the header has taken it away
+        return;
     const UnicodeString Line = FormatLine(ALogger, ALevel, AMessage, AValue, AIndent);
     if (FFileStream == nullptr) [[unlikely]] // the layout has closed the appender
         Inherited::Write(ASource, ALogger, ALevel, AMessage, AValue, AIndent);
@@ -157,7 +159,7 @@ void TQzFileAppender::RepeatFailure() {
 }
 
 void TQzFileAppender::WriteFooter() {
-    if (Layout() == nullptr || FFileStream == nullptr || FFileStream->IsInherited())
+    if (Layout() == nullptr || FFileStream == nullptr || FOwesHeader || FFileStream->IsInherited())
         return;
     const UnicodeString Text = Footer();
     if (!Text.IsEmpty() && FFileStream != nullptr)

@@ -1,6 +1,7 @@
 #include <qz/common/uQzLogAppenders/TextFile.h>
 
 #include <algorithm>
+#include <mutex>
 #include <tuple>
 #include <vector>
 
@@ -29,10 +30,17 @@ constexpr std::u16string_view cLineEnd = u"\r\n";
 constexpr std::size_t cMostBytesOfUnit = 3;
 // In milliseconds.
 constexpr std::uint64_t cLookEvery = 1000;
+constexpr int cTriesToOpen = 3;
 constexpr std::uint32_t cPatienceAtEnd = 300; // for a full pipe, when the program ends
 
 // After a fork the processes share their files.
 std::atomic<bool> GHasForked{false};
+
+// When the program ends, the first full pipe uses up the patience for all.
+std::atomic<std::uint32_t> GPatienceAtEnd{cPatienceAtEnd};
+
+// Held while a file that several objects share is written or cut. Replaced in the child of a fork.
+std::atomic<std::mutex*> GSharedFiles{new std::mutex};
 
 // Makes the file if it does not exist. Its creation time is set, since a file system may reuse that of an
 // earlier file of the name.
@@ -66,7 +74,6 @@ std::span<const std::byte> BytesOf(const char* AText, std::size_t ACount) {
 TQzTextFile::TQzTextFile(const TStringArg& AFileName, TCriticalSection* ALock)
     : FFileName(ExpandFileName(AFileName)),
       FLock(ALock != nullptr ? *ALock : FCritSect),
-      FPatienceAtEnd(cPatienceAtEnd),
       FSizeLimit(platform::FileSizeLimit()),
       FLookedAt(platform::CoarseTickCount64()) {
     Open();
@@ -79,7 +86,7 @@ TQzTextFile::~TQzTextFile() {
     try {
         FlushWaiting();
     } catch (...) {
-        detail::ReportLoss(FLines, {}, {}, u"Lines in the buffer of \"" + FFileName + u"\" are lost",
+        detail::ReportLoss(FLines, {}, FFileName, u"Lines in the buffer of the file are lost",
                            detail::TDropKey::Buffer);
     }
     if (FIsShared && GHasForked)
@@ -94,11 +101,16 @@ void TQzTextFile::Open() {
         ForceDirectories(Path);
     if (!IsThere)
         MakeFile(FFileName);
-    const platform::TResult<> Opened =
-        FHandle.Open(FFileName, platform::TFileAccess::ReadWrite, platform::TFileCreation::Never,
-                     {.Read = true, .Write = GHasForked});
-    if (!Opened && TLineFlusher::Instance().Duplicate(FFileName, FHandle))
-        FIsShared = true;
+    platform::TResult<> Opened;
+    // Another object may be opening or closing the file at this moment.
+    for (int Try = 0; Try < cTriesToOpen && !FHandle.IsOpen(); ++Try) {
+        if (Try != 0)
+            platform::SleepMs(1);
+        Opened = FHandle.Open(FFileName, platform::TFileAccess::ReadWrite, platform::TFileCreation::Never,
+                              {.Read = true, .Write = GHasForked});
+        if (!Opened && TLineFlusher::Instance().Duplicate(FFileName, FHandle))
+            FIsShared = true;
+    }
     if (!FHandle.IsOpen())
         detail::RaiseFileError<EFOpenError>(SFOpenError, FFileName, Opened.Error());
     if (const platform::TResult<> Moved = FHandle.WriteAtEnd(); !Moved)
@@ -147,32 +159,38 @@ void TQzTextFile::Put(const TStringArg& AText, std::u16string_view ATail) {
     char* const End = std::copy(ATail.begin(), ATail.end(), Utf16ToUtf8(Text, Start));
     const TScopedLock Hold(FLock);
     FlushWaiting();
-    PutBytes(BytesOf(Start, static_cast<std::size_t>(End - Start)));
-    AddTo(FSize, std::int64_t{End - Start});
+    platform::TError Error;
+    const std::size_t Done = PutBytes(BytesOf(Start, static_cast<std::size_t>(End - Start)), Error);
+    AddTo(FSize, static_cast<std::int64_t>(Done));
+    if (Error.Code != 0)
+        detail::RaiseFileError<EWriteError>(cCannotWrite, FFileName, Error);
 }
 
-// At the limit of file sizes this asks for the limit again, which may have been raised.
-void TQzTextFile::PutBytes(TBytes ABytes) {
+// Appends ABytes, and gives how many of them are in the file: all, or none where a part can be removed again. At
+// the limit of file sizes this asks for the limit again, which may have been raised.
+std::size_t TQzTextFile::PutBytes(TBytes ABytes, platform::TError& AError) {
     const auto Size = static_cast<std::uint64_t>(FSize.load(std::memory_order_relaxed));
     const bool IsShared = FIsShared.load(std::memory_order_relaxed);
-    if (Size + ABytes.size() <= FSizeLimit && (!IsShared || FSizeLimit == UINT64_MAX))
-        return AppendWhole(ABytes);
+    std::unique_lock<std::mutex> Hold;
+    if (IsShared) [[unlikely]]
+        Hold = std::unique_lock(*GSharedFiles.load(std::memory_order_acquire));
+    if (Size + ABytes.size() <= FSizeLimit && (!IsShared || FSizeLimit == UINT64_MAX)) [[likely]]
+        return AppendSome(ABytes, AError);
     FSizeLimit = platform::FileSizeLimit();
     const platform::TNoLimitSignal Quiet;
-    AppendWhole(ABytes);
+    return AppendSome(ABytes, AError);
 }
 
-// Appends all of ABytes or nothing.
-void TQzTextFile::AppendWhole(TBytes ABytes) {
+std::size_t TQzTextFile::AppendSome(TBytes ABytes, platform::TError& AError) {
+    const bool IsEnding = TLineFlusher::IsEnding();
     const platform::TWritten Written =
-        !TLineFlusher::IsEnding() ? FHandle.Append(ABytes) : FHandle.AppendWithin(ABytes, FPatienceAtEnd);
+        !IsEnding ? FHandle.Append(ABytes) : FHandle.AppendWithin(ABytes, GPatienceAtEnd);
     if (Written) [[likely]]
-        return;
-    if (TLineFlusher::IsEnding())
-        FPatienceAtEnd = 0;
-    if (Written.Done != 0)
-        TakeBack(ABytes.first(Written.Done));
-    detail::RaiseFileError<EWriteError>(cCannotWrite, FFileName, Written.Error);
+        return ABytes.size();
+    if (IsEnding)
+        GPatienceAtEnd = 0;
+    AError = Written.Error;
+    return Written.Done != 0 && !TakeBack(ABytes.first(Written.Done)) ? Written.Done : 0;
 }
 
 // Removes ABytes from the end of the file; false if other bytes are there.
@@ -195,6 +213,7 @@ bool TQzTextFile::RemoveEnd(const TStringArg& AText) {
     std::vector<char> Text(Utf16ToUtf8Length(AText));
     Utf16ToUtf8(AText, Text.data());
     const TScopedLock Hold(FLock);
+    const std::lock_guard Shared(*GSharedFiles.load(std::memory_order_acquire));
     const bool Result = TakeBack(BytesOf(Text.data(), Text.size()));
     if (Result)
         AddTo(FSize, -static_cast<std::int64_t>(Text.size()));
@@ -204,9 +223,13 @@ bool TQzTextFile::RemoveEnd(const TStringArg& AText) {
 void TQzTextFile::FlushWaiting() {
     if (FWaiting == 0)
         return;
-    PutBytes(BytesOf(FBuffer.get(), FWaiting));
-    FWaiting = 0;
-    FLines.store(0, std::memory_order_relaxed);
+    platform::TError Error;
+    const std::size_t Done = PutBytes(BytesOf(FBuffer.get(), FWaiting), Error);
+    FWaiting -= Done;
+    if (Error.Code == 0)
+        return FLines.store(0, std::memory_order_relaxed);
+    std::copy_n(FBuffer.get() + Done, FWaiting, FBuffer.get());
+    detail::RaiseFileError<EWriteError>(cCannotWrite, FFileName, Error);
 }
 
 void TQzTextFile::WriteLnLater(const TStringArg& AText) {
@@ -273,6 +296,7 @@ void TQzTextFile::Inherit(TAccessKey<TLineFlusher>) noexcept {
     FLines = 0;
     FIsInherited = true;
     Share();
+    GSharedFiles = new std::mutex; // a thread of the parent may have held the old one
 }
 
 } // namespace qz

@@ -73,8 +73,8 @@ private:
 
     void Put(const TStringArg& AText, std::u16string_view ATail);
     void Open();
-    void PutBytes(TBytes ABytes);
-    void AppendWhole(TBytes ABytes);
+    std::size_t PutBytes(TBytes ABytes, platform::TError& AError);
+    std::size_t AppendSome(TBytes ABytes, platform::TError& AError);
     bool TakeBack(TBytes ABytes);
     void FlushWaiting();
     void Share() noexcept;
@@ -87,7 +87,6 @@ private:
     std::atomic<bool> FIsShared{false};   // with another object, or with another process by a fork
     std::atomic<std::uint32_t> FLines{0}; // in the buffer
     bool FIsInherited = false;
-    std::uint32_t FPatienceAtEnd;
     std::uint64_t FSizeLimit;
     std::atomic<std::uint64_t> FLookedAt;
     std::unique_ptr<char[]> FBuffer;

@@ -121,6 +121,7 @@ std::uint64_t QzDroppedLogMessages() noexcept {
 
 void QzPrintLogDrops(bool AValue) noexcept {
     Drops().Prints = AValue;
+    Drops().HasLostFatal = false;
 }
 
 void detail::ForgetHookCall() noexcept {
@@ -155,14 +156,18 @@ void detail::ReportLoss(std::uint64_t ACount, const UnicodeString& ALogger, cons
 
 void detail::ReportProblem(const TQzLogDrop& ADrop, std::uint64_t AKey) noexcept {
     const TLogThread& Thread = ThisLogThread();
-    const bool IsFree = Thread.MayWait() && !Thread.IsInHook;
+    const bool IsFree = Thread.MayWait() && Thread.Trees == 0 && !Thread.IsInHook;
     if (IsFree || !Queue(ADrop, AKey))
         CallHook(ADrop, AKey);
 }
 
 void detail::ReportLostFatal(const UnicodeString& ALogger, const UnicodeString& AMessage) noexcept {
-    if (!Drops().HasLostFatal.exchange(true))
+    if (Drops().HasLostFatal.exchange(true))
+        return;
+    try {
         ReportProblem({ALogger, {}, {}, u"No appender for the fatal message: " + AMessage});
+    } catch (...) { // NOLINT(bugprone-empty-catch): no memory for the text
+    }
 }
 
 } // namespace qz

@@ -54,7 +54,8 @@ struct TLogUnit {
         detail::TLogThread& Thread = detail::ThisLogThread();
         if (Root == nullptr || !Root->FSet->TryEnter(Thread, cPatienceAtEnd))
             return; // an appender blocks on another thread
-        Root->Retire();
+        if (detail::AwaitAppenders(cPatienceAtEnd))
+            Root->Retire();
         Root->FSet->Leave(Thread);
     }
 };

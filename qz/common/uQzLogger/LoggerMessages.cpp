@@ -169,6 +169,8 @@ void TQzLogger::Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const Varian
                     TQzLogIndent AIndent) {
     if (IsTaken(ALevel))
         LogValue(ALevel, AMessage, TValue::From(AValue), AIndent);
+    else
+        SendToNobody(ALevel, AMessage);
 }
 void TQzLogger::Log(TQzLogLevel ALevel, const TQzLogText& AMessage, const TObject* AValue,
                     TQzLogIndent AIndent) {

@@ -212,11 +212,12 @@ void TLogDispatch::DropMessages() noexcept {
     if (Queue == nullptr)
         return;
     try {
-        for (TQueuedMessage& Message : Queue->Messages)
-            Queue->Loggers.push_back(std::move(Message.Logger));
+        Queue->Loggers.reserve(Queue->Loggers.size() + Queue->Messages.size());
     } catch (const std::bad_alloc&) {
         return; // the child delivers them too
     }
+    for (TQueuedMessage& Message : Queue->Messages)
+        Queue->Loggers.push_back(std::move(Message.Logger));
     Queue->Messages.clear();
     Queue->Drops.clear();
 }
@@ -240,7 +241,7 @@ bool TLogDispatch::SettleOne(TLogThread& AThread) noexcept {
         const TQueuedMessage Message = std::move(Queue.Messages.front());
         Queue.Messages.pop_front();
         DeliverQueued(AThread, Message);
-    } else if (!Queue.Drops.empty()) {
+    } else if (!Queue.Drops.empty() && AThread.Trees == 0) {
         for (const TQueuedDrop& Each : std::exchange(Queue.Drops, {}))
             ReportProblem(Each.Drop, Each.Key);
     } else if (!Queue.Configurations.empty()) {
@@ -256,7 +257,8 @@ bool TLogDispatch::SettleOne(TLogThread& AThread) noexcept {
             Ending.Finish(AThread);
         std::exchange(Queue.Loggers, {}).clear();
     } else {
-        const std::unique_ptr<TLogQueue> Done(std::exchange(AThread.Queue, nullptr));
+        if (Queue.Drops.empty())
+            const std::unique_ptr<TLogQueue> Done(std::exchange(AThread.Queue, nullptr));
         return false;
     }
     return true;

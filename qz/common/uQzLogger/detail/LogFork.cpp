@@ -32,6 +32,7 @@ void AwaitFork() noexcept {
 class TLogFork {
 public:
     static void Prepare();
+    static bool Await(std::uint32_t ATimeOut);
     static void InParent() noexcept;
     static void InChild();
 
@@ -83,6 +84,20 @@ void TLogFork::Prepare() {
     }
 }
 
+bool TLogFork::Await(std::uint32_t ATimeOut) {
+    const std::uint32_t Start = platform::TickCount();
+    for (;;) {
+        {
+            const TStateHold Hold;
+            const bool AreFree = Instance().TryAppenders();
+            Instance().Release();
+            if (AreFree || platform::TickCount() - Start >= ATimeOut)
+                return AreFree;
+        }
+        platform::SleepMs(1);
+    }
+}
+
 void TLogFork::InParent() noexcept {
     Instance().Release();
     TStateHold::Section().Leave();
@@ -101,6 +116,10 @@ void TLogFork::InChild() {
         Each->BecomeLost({});
     Instance().Release();
     TStateHold::Section().Leave();
+}
+
+bool AwaitAppenders(std::uint32_t ATimeOut) {
+    return TLogFork::Await(ATimeOut);
 }
 
 void WatchForks() {

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <atomic>
+#include <cstdint>
 
 namespace qz::detail {
 
@@ -18,6 +19,9 @@ inline void LetForkPass() noexcept {
     if (GPendingForks.load(std::memory_order_relaxed) != 0) [[unlikely]]
         AwaitFork();
 }
+
+// Whether the locks of all appenders were free at one moment within so many milliseconds.
+bool AwaitAppenders(std::uint32_t ATimeOut);
 
 // Called once, at the start of the program.
 void WatchForks();

@@ -38,14 +38,20 @@ TCriticalSection& TStateHold::Section() noexcept {
 
 void TTreeLock::Enter() noexcept {
     TreeSection()->Enter();
+    ++ThisLogThread().Trees;
 }
 
 bool TTreeLock::TryEnter(std::uint32_t ATimeOut) noexcept {
-    return TreeSection()->TryEnter(ATimeOut);
+    const bool Result = TreeSection()->TryEnter(ATimeOut);
+    ThisLogThread().Trees += Result ? 1 : 0;
+    return Result;
 }
 
 void TTreeLock::Leave() noexcept {
     TreeSection()->Leave();
+    TLogThread& Thread = ThisLogThread();
+    if (--Thread.Trees == 0 && Thread.Queue != nullptr)
+        Settle();
 }
 
 void TTreeLock::BeginChild() {

@@ -31,6 +31,7 @@ struct TLogQueue;
 struct TLogThread {
     int Busy = 0;             // messages being delivered, and locks of appenders held
     int Gates = 0;            // gates held
+    int Trees = 0;            // how often the tree lock is held
     bool IsSettling = false;  // the queue is being worked off
     bool IsInHook = false;    // the drop hook runs
     bool IsForking = false;   // it has the locks for a fork
