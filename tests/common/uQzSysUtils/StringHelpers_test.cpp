@@ -179,7 +179,7 @@ TEST(Strings, SetsAndSearches) {
     EXPECT_FALSE(QzContainsText(u"Erdöl", u"öl"));
     EXPECT_FALSE(QzContainsText(u"", u"a"));
     EXPECT_TRUE(QzContainsText(u"ΟΔΟΣ", u"ΟΔΟΣΗ"));
-    for (const char16_t* Text : {u"οδοσ", u"οδος", u"ΟΔΟΣ"}) {
+    for (const char16_t* Text : {u"οδοσ", u"ΟΔΟΣ"}) {
         EXPECT_TRUE(QzContainsText(Text, u"ΟΔΟσ") && QzSameText(Text, u"ΟΔΟσ"));
         EXPECT_EQ(StringReplace(u"ΟΔΟσ", Text, u"x", {rfIgnoreCase}), u"x");
     }
