@@ -130,10 +130,10 @@ public:
     void First();
     void Last();
 
-    // One step, which counts a column. The first character of the text is column 0 of line 1. Column 1 of each
-    // further line is the line feed that starts it, but in UTF-8 the character after that line feed. A carriage
-    // return is a character like any other. An odd last byte of UTF-16 is no character. Raises EQzTextParserEOF at the end, and within a UTF-8 form that the end
-    // cuts off.
+    // One step, which counts a column. The first character of the text is column 0 of line 1. Column 1 of
+    // each further line is the line feed that starts it, but in UTF-8 the character after that line feed. A
+    // carriage return is a character like any other. An odd last byte of UTF-16 is no character. Raises
+    // EQzTextParserEOF at the end, and within a UTF-8 form that the end cuts off.
     void Next() { FnNext(*this); }
     // A step, and more while the character is a control character (below 32).
     void NextChar();

@@ -23,10 +23,10 @@ enum class TQzCharCase : std::uint8_t {
 };
 using enum TQzCharCase;
 
-// The delimiters, which matter to the camel cases alone, stay in the text. The camel cases convert each character
-// for itself, so that a capital sigma at the end of a word gives σ; rcLowerCase gives ς. The length may change where the
-// system maps one letter to several. The 8-bit text is converted to 16 bits and back unless it stays as it
-// is.
+// The delimiters, which matter to the camel cases alone, stay in the text. The camel cases convert each
+// character for itself, so that a capital sigma at the end of a word gives σ; rcLowerCase gives ς. The
+// length may change where the system maps one letter to several. The 8-bit text is converted to 16 bits and
+// back unless it stays as it is.
 QZ_API WideString QzCharCase(const WideString& AText, TQzCharCase ACase, const WideString& ADelimiters);
 QZ_API AnsiString QzCharCase(const AnsiString& AText, TQzCharCase ACase, const AnsiString& ADelimiters);
 

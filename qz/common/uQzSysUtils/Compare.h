@@ -14,8 +14,8 @@
 namespace qz {
 
 // Equality without regard to the case of letters of any language, by the rule of StringReplace for
-// rfIgnoreCase: unit by unit, by their capital forms, so that σ and ς are the same. QzSameTrimmedText also
-// without regard to characters up to U+0020 at the ends.
+// rfIgnoreCase: unit by unit, by the capital forms of the system. Linux takes the final sigma for σ, too;
+// under Wine it has no capital form. QzSameTrimmedText also ignores characters up to U+0020 at the ends.
 QZ_API bool QzSameText(const TStringArg& ALeft, const TStringArg& ARight) noexcept;
 QZ_API bool QzSameText(const AnsiString& ALeft, const AnsiString& ARight);
 QZ_API bool QzSameTrimmedText(const TStringArg& ALeft, const TStringArg& ARight);

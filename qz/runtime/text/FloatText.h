@@ -4,11 +4,11 @@
 //     FloatToStrF(1234567.891, ffNumber, 15, 2);    // "1,234,567.89"
 //     StrToFloat(u" 1.5E3 ");                       // 1500
 //
-// Significant digits are those nearest to the double; of two as near, those away from zero. Digits after the
-// point are rounded half away from zero from the shortest decimal number that reads back as the same double:
-// 2.675 with two of them is "2.68", although the double is a little less. A number that rounds to zero has no sign. Infinity
-// is "INF" or "-INF", not a number "NAN". Functions without settings use DefaultFormatSettings(). All may run
-// on any number of threads.
+// Significant digits are those nearest to the double; of two as near, those away from zero. Digits after
+// the point are rounded half away from zero from the shortest decimal number that reads back as the same
+// double: 2.675 with two of them is "2.68", although the double is a little less. A number that rounds to
+// zero has no sign. Infinity is "INF" or "-INF", not a number "NAN". Functions without settings use
+// DefaultFormatSettings(). All may run on any number of threads.
 #pragma once
 
 #include <qz/runtime/base/StringArg.h>

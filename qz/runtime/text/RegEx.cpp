@@ -10,8 +10,8 @@
 namespace qz {
 namespace {
 
-// The steps that a place of the text may take at once: some, and a few for each unit, as one match may take the
-// whole text.
+// The steps that a place of the text may take at once: some, and a few for each unit, as one match may take
+// the whole text.
 constexpr std::size_t cPlaceSteps = 2'000'000;
 constexpr std::size_t cPlaceStepsPerUnit = 8;
 // A place that takes no more than these is free; the others share the steps of the search.
@@ -231,8 +231,8 @@ public:
 private:
     const PCRE2_SIZE* Ends() const { return pcre2_get_ovector_pointer(FData.get()); }
 
-    // The first place from AAt on at which a match may begin: not within a pair, nor within a line end that the
-    // pattern does not name.
+    // The first place from AAt on at which a match may begin: not within a pair, nor within a line end that
+    // the pattern does not name.
     std::size_t NextPlace(std::size_t AAt) const {
         if (AAt == 0 || AAt >= FText.size())
             return AAt;

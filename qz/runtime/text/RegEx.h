@@ -5,15 +5,16 @@
 //         Use(Match.Value(), Match.Group(1));
 //     TRegEx(u"\\s+").Replace(Text, u" ");
 //
-// Places count 16-bit units from 1. Classes such as \w and \d and the cases of letters are those of Unicode;
-// a lone surrogate matches nothing. Copies share the compiled pattern, and any number of threads may use one.
-// CR, LF and CR LF end a line. No match begins between CR and LF, unless the pattern itself names one of them.
+// Places count 16-bit units from 1. Classes such as \w and \d and the cases of letters are those of
+// Unicode; a lone surrogate matches nothing. Copies share the compiled pattern, and any number of threads
+// may use one. CR, LF and CR LF end a line. No match begins between CR and LF, unless the pattern itself
+// names one of them.
 //
-// A compiled pattern has at most 65,535 units: some 32,000 letters, fewer with groups and classes. A search is
-// limited by steps and memory alone, so a pattern gives the same answer for a text on each run: 2,000,000 steps
-// and 8 a unit of the text at one place, 100,000,000 at all places that take more than 1000 each, and 512 MiB.
-// With (*COMMIT), (*SKIP) or \G all places have equal shares of those, at least 1000. Beyond the limits an
-// exception is raised.
+// A compiled pattern has at most 65,535 units: some 32,000 letters, fewer with groups and classes. A search
+// is limited by steps and memory alone, so a pattern gives the same answer for a text on each run:
+// 2,000,000 steps and 8 a unit of the text at one place, 100,000,000 at all places that take more than 1000
+// each, and 512 MiB. With (*COMMIT), (*SKIP) or \G all places have equal shares of those, at least 1000.
+// Beyond the limits an exception is raised.
 #pragma once
 
 #include <memory>

@@ -122,7 +122,7 @@ TEST(Strings, ShortHelpersTreatTheEnds) {
 TEST(Strings, SetsAndSearches) {
     EXPECT_TRUE(QzContainsText(u"ÖL", u"Erdöl"));
     EXPECT_TRUE(QzContainsText(u"ΟΔΟΣ", u"ΟΔΟΣΗ"));
-    for (const char16_t* Text : {u"οδοσ", u"οδος", u"ΟΔΟΣ"}) {
+    for (const char16_t* Text : {u"οδοσ", u"ΟΔΟΣ"}) {
         EXPECT_TRUE(QzContainsText(Text, u"ΟΔΟσ") && QzSameText(Text, u"ΟΔΟσ"));
         EXPECT_EQ(StringReplace(u"ΟΔΟσ", Text, u"x", {rfIgnoreCase}), u"x");
     }
