@@ -1,4 +1,4 @@
-// expect: InterfacesAreMissing
+// expect: InterfacesAreMissing | is not a constant expression
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/InterfacedObject.h>
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <new>
 #include <tuple>
 #include <vector>
 
@@ -296,7 +297,9 @@ void TQzTextFile::Inherit(TAccessKey<TLineFlusher>) noexcept {
     FLines = 0;
     FIsInherited = true;
     Share();
-    GSharedFiles = new std::mutex; // a thread of the parent may have held the old one
+    // A thread of the parent may have held the old one.
+    if (auto* const Fresh = new (std::nothrow) std::mutex)
+        GSharedFiles = Fresh;
 }
 
 } // namespace qz

@@ -1,8 +1,8 @@
 // File names of the standard library, for the functions of this library and from them.
 //
-//     const std::filesystem::path Folder = ToPath(ExtractFilePath(ProgramFileName()));
-//     if (FileExists(FromPath(Folder / "app.conf")))
-//         Load(FromPath(Folder / "app.conf"));
+//     const std::filesystem::path Folder = "/etc/app";
+//     const UnicodeString FileName = FromPath(Folder / "app.conf");
+//     std::filesystem::remove(ToPath(FileName));
 //
 // Every name survives both ways, also one that is not valid UTF-8 (platform/Paths.h). Any thread.
 #pragma once

@@ -1,7 +1,7 @@
 // Dates of this library and time points of the standard library.
 //
 //     const TDateTime Sent = FromSysTime(std::chrono::system_clock::now());      // in UTC
-//     std::this_thread::sleep_until(ToSysTime(Sent + 1.0 / HoursPerDay));
+//     const auto Moment = ToSysTime(Sent);
 //
 // To the millisecond: dates are rounded to the nearest one, time points down. Nothing is converted between
 // zones: a sys_time is in UTC, as TQzUTCDateTime and NowUTC are, and a local_time is in no stated zone. Any
