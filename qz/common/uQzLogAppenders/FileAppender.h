@@ -62,8 +62,8 @@ public:
     void SetLayout(IQzLogLayout* ALayout) override;
 
     // The default is the name of the program with ".log", in a directory of that name below the documents of
-    // all users (QzGetShellFolder), or beside the program if that directory cannot be made. A relative name is
-    // completed with the current directory at the first opening.
+    // all users (QzGetShellFolder), or beside the program if that directory cannot be made. A relative name
+    // is completed with the current directory at the first opening.
     UnicodeString GetFileName() override;
     bool GetAppendExisting() override;
     UnicodeString GetFileExt() override;

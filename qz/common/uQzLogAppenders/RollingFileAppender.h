@@ -8,11 +8,12 @@
 //
 // A message that finds the file at its size or above rolls over first: the file becomes number 1, the number
 // of each backup grows by one, and backups beyond the count are deleted. Files of equal number, such as those
-// with a date, count as newer if they were written later. The family is read from the directory, so that it outlives the program. It is every entry whose name begins with that of the file:
-// app2.log, a directory app.d and a stylesheet belong to the family of app.log, so give a family a directory
-// of its own. A file whose name is only an extension, such as .log, is a family of one. A backup that cannot
-// be renamed stays until its name is needed. A live file that cannot be renamed is continued, and the next
-// attempt comes a second later.
+// with a date, count as newer if they were written later. The family is read from the directory, so that it
+// outlives the program. It is every entry whose name begins with that of the file: app2.log, a directory
+// app.d and a stylesheet belong to the family of app.log, so give a family a directory of its own. A file
+// whose name is only an extension, such as .log, is a family of one. A backup that cannot be renamed stays
+// until its name is needed. A live file that cannot be renamed is continued, and the next attempt comes a
+// second later.
 //
 // A name consists of the base, a point, the number, what followed the number before, and the extension. The
 // base is the name of the file without its extension (".log.xml" under an XML layout). Two processes that

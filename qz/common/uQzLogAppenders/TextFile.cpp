@@ -167,8 +167,8 @@ void TQzTextFile::Put(const TStringArg& AText, std::u16string_view ATail) {
         detail::RaiseFileError<EWriteError>(cCannotWrite, FFileName, Error);
 }
 
-// Appends ABytes, and gives how many of them are in the file: all, or none where a part can be removed again. At
-// the limit of file sizes this asks for the limit again, which may have been raised.
+// Appends ABytes, and gives how many of them are in the file: all, or none if a part could be removed again.
+// At the limit of file sizes this asks for the limit again, which may have been raised.
 std::size_t TQzTextFile::PutBytes(TBytes ABytes, platform::TError& AError) {
     const auto Size = static_cast<std::uint64_t>(FSize.load(std::memory_order_relaxed));
     const bool IsShared = FIsShared.load(std::memory_order_relaxed);

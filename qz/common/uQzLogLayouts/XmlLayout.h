@@ -10,8 +10,8 @@
 //
 // Markup characters are escaped, U+0000 is left out, and all others stay, also control characters that XML
 // excludes and at which a reader of XML stops. A continued file goes on after the end of the document.
-// SetStrictXml replaces these characters by U+FFFD, escapes the path in the header, and continues a file inside
-// its document, so that the file is always well-formed.
+// SetStrictXml replaces these characters by U+FFFD, escapes the path in the header, and continues a file
+// inside its document, so that the file is always well-formed.
 //
 // Any number of threads may format lines.
 #pragma once

@@ -25,9 +25,10 @@ struct TQzLogDrop {
 using TQzLogDropHook = std::function<void(const TQzLogDrop& ADrop)>;
 
 // Sets the hook of the process; an empty one removes it. The hook is called on the logging thread, when that
-// holds no lock of an appender, a list or the tree any more, and never while it runs on this or another thread. It is called at most once a
-// second for each appender that raises, for the buffers of files, and for messages that arise too quickly. It
-// is called once for each of these faults, which are not counted as lost messages:
+// holds no lock of an appender, a list or the tree any more, and never while it runs on this or another
+// thread. It is called at most once a second for each appender that raises, for the buffers of files, and for
+// messages that arise too quickly. It is called once for each of these faults, which are not counted as lost
+// messages:
 //
 //     a logger is configured with an appender that does not exist and has no class
 //     an appender without a layout was given a message

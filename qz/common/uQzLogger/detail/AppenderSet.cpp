@@ -16,7 +16,7 @@ bool Contains(const TAppenderEntries* AEntries, const IQzLogAppender* AAppender)
 }
 
 // The count of the list is that of the base only if the appender is an interface of the base itself. Other
-// appenders are told apart by their addresses, in a range of their own.
+// appenders are distinguished by their addresses, in a separate range.
 TAppenderEntry EntryOf(IQzLogAppender* AAppender) {
     constexpr std::uint64_t cForeign = std::uint64_t{1} << 62;
     TComponent* const Component = AAppender->Component();

@@ -33,7 +33,7 @@ using TAppenderEntries = std::vector<TAppenderEntry>;
 
 class TAppenderSet : public std::enable_shared_from_this<TAppenderSet> {
 public:
-    // AList is told when an appender that is no TQzLogBase ends.
+    // AList is notified when an appender that is no TQzLogBase is destroyed.
     TAppenderSet(TQzLogger* ALogger, TComponent& AList) noexcept;
     TAppenderSet(const TAppenderSet&) = delete;
     TAppenderSet& operator=(const TAppenderSet&) = delete;
