@@ -24,9 +24,9 @@ enum class TForkRank : std::uint8_t {
 };
 
 // A handler of the application that was registered with pthread_atfork before the library runs while these
-// locks are held, and must not use the library. Calls ABefore on the forking thread before each fork(), and after it AInParent in the parent or AInChild in
-// the child. ABefore runs in the order of the ranks, the other two in reverse order, whatever the order of
-// registration. Each rank is registered once, at program start. Does nothing on a system without fork().
+// locks are held, and must not use the library. Calls ABefore on the forking thread before each fork(), and
+// after it AInParent in the parent or AInChild in the child. ABefore runs in the order of the ranks, the other
+// two in reverse order, whatever the order of registration. Each rank is registered once, at program start. Does nothing on a system without fork().
 QZ_API void AroundFork(TForkRank ARank, void (*ABefore)(), void (*AInParent)(), void (*AInChild)());
 
 } // namespace qz::platform

@@ -13,9 +13,9 @@
 //
 // Any thread may call any operation; it must not be cancelled by pthread_cancel meanwhile. A message that
 // arises while an appender writes or a layout formats a line, on the same thread, is queued and delivered
-// next, to all appenders that take it. So is a message of a thread that holds the lock of an appender, when it
-// has left the lock. The text of an object that is its value is taken at once. Of more than 1000 such messages
-// in a row the rest is dropped. The child of a fork does not deliver what the parent has queued.
+// next, to all appenders that take it. So is a message of a thread that holds the lock of an appender, when
+// it has left the lock. The text of an object that is its value is taken at once. Of more than 1000 such
+// messages in a row the rest is dropped. The child of a fork does not deliver what the parent has queued.
 //
 // This header is for code that only logs. A message with a value needs Variant.h or Value.h as well.
 #pragma once

@@ -7,8 +7,8 @@
 //     List.Unlock();
 //
 // Loggers come and go on any thread. While a thread holds the lock, no other thread adds or removes a logger,
-// but for one that writes to an appender at that moment: it may add a logger or close the tree. Hold the lock briefly: it is that of
-// the whole tree.
+// but for one that writes to an appender at that moment: it may add a logger or close the tree. Hold the lock
+// briefly: it is that of the whole tree.
 #pragma once
 
 #include <unordered_map>

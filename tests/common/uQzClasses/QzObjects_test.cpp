@@ -151,7 +151,7 @@ TEST(QzFreeNotifies, NodesOfManyThreadsEndAtTheSameMoment) {
     EXPECT_EQ(Told, 50 * 8 * 7 / 2) << "each link told one of its two sides";
 }
 
-// Has a text and a number, of which changes are told to its bindings.
+// Has a text and a number, and notifies its bindings of their changes.
 class TView : public TQzComponent {
     QZ_CLASS(TView, TQzComponent)
 

@@ -14,7 +14,7 @@ namespace qz::detail {
 extern constinit std::atomic<int> GPendingForks;
 void AwaitFork() noexcept;
 
-// Delays a message while a fork waits for the locks of appenders, so that it gets them. At most about a second.
+// Delays a message, for about a second at most, while a fork waits for the locks of appenders.
 inline void LetForkPass() noexcept {
     if (GPendingForks.load(std::memory_order_relaxed) != 0) [[unlikely]]
         AwaitFork();

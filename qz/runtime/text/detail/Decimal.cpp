@@ -14,7 +14,7 @@ bool IsBelow(double AValue, std::string_view ADigits) noexcept {
     constexpr int cAllDigits = 766; // after the first one; no double has more
     std::array<char, cAllDigits + 32> Text;
     std::to_chars(Text.data(), Text.data() + Text.size(), AValue, std::chars_format::scientific, cAllDigits);
-    Text[1] = Text[0]; // in the place of the point
+    Text[1] = Text[0]; // replaces the point
     return std::string_view(&Text[1], ADigits.size()) < ADigits;
 }
 
