@@ -38,12 +38,34 @@ const char* Path(std::int64_t ADepth) {
 }
 
 // The root has an appender, but its level is higher.
-void NobodyTakes(benchmark::State& AState) {
+Ref<IQzLogger> LoggerThatNobodyReads(std::int64_t ADepth) {
     static const Ref<IQzLogAppender> Appender = Logger().AddAppender(TQzLogBaseClass::Of<TNoAppender>());
     Logger().SetLevel(llError);
-    const Ref<IQzLogger> Log = Logger().GetLogger(Path(AState.range(0)));
+    return Logger().GetLogger(Path(ADepth));
+}
+
+void NobodyTakes(benchmark::State& AState) {
+    const Ref<IQzLogger> Log = LoggerThatNobodyReads(AState.range(0));
     for (auto _ : AState)
         Log->Info(u"connected to the server");
+}
+
+void NobodyTakesNarrow(benchmark::State& AState) {
+    const Ref<IQzLogger> Log = LoggerThatNobodyReads(4);
+    const char* Text = "connected to the server";
+    for (auto _ : AState) {
+        benchmark::DoNotOptimize(Text);
+        Log->Info(Text);
+    }
+}
+
+void NobodyTakesPattern(benchmark::State& AState) {
+    const Ref<IQzLogger> Log = LoggerThatNobodyReads(4);
+    int Port = 80;
+    for (auto _ : AState) {
+        benchmark::DoNotOptimize(Port);
+        Log->Debug(u"%s:%d answers in %f ms", {u"host", Port, 1.5});
+    }
 }
 
 log4cplus::Logger Peer(std::int64_t ADepth) {
@@ -65,6 +87,19 @@ void NobodyTakesSpdlog(benchmark::State& AState) {
         Log.info("connected to the server");
 }
 
+void NobodyTakesPatternSpdlog(benchmark::State& AState) {
+    spdlog::logger Log("a", std::make_shared<spdlog::sinks::null_sink_mt>());
+    Log.set_level(spdlog::level::err);
+    int Port = 80;
+    for (auto _ : AState) {
+        benchmark::DoNotOptimize(Port);
+        Log.debug("{}:{} answers in {} ms", "host", Port, 1.5);
+    }
+}
+
+BENCHMARK(NobodyTakesNarrow);
+BENCHMARK(NobodyTakesPattern);
+BENCHMARK(NobodyTakesPatternSpdlog);
 BENCHMARK(NobodyTakes)->Arg(1)->Arg(4)->Threads(1)->Threads(4)->UseRealTime();
 BENCHMARK(NobodyTakesLog4cplus)->Arg(1)->Arg(4)->Threads(1)->Threads(4)->UseRealTime();
 BENCHMARK(NobodyTakesSpdlog)->Arg(1)->Threads(1)->Threads(4)->UseRealTime();

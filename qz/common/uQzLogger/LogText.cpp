@@ -7,8 +7,8 @@ namespace qz {
 UnicodeString TQzLogText::Plain() const {
     switch (FKind) {
     case TKind::Text: return *static_cast<const UnicodeString*>(FData);
-    case TKind::Wide: return std::u16string_view(static_cast<const char16_t*>(FData), FMore.Size);
-    case TKind::Utf8: return std::string_view(static_cast<const char*>(FData), FMore.Size);
+    case TKind::Wide: return View<char16_t>();
+    case TKind::Utf8: return View<char>();
     case TKind::Other: break;
     }
     return FMore.Convert(FData);
@@ -18,14 +18,12 @@ UnicodeString TQzLogText::ToString() const {
     return FArgs == nullptr ? Plain() : Format(Plain(), *FArgs);
 }
 
-void TQzLogText::Check() const {
-    if (FArgs == nullptr)
-        return;
+void TQzLogText::CheckFor(const TVarRecs& AArgs) const {
     switch (FKind) {
-    case TKind::Wide: return CheckFormat({static_cast<const char16_t*>(FData), FMore.Size}, *FArgs);
-    case TKind::Utf8: return CheckFormat({static_cast<const char*>(FData), FMore.Size}, *FArgs);
+    case TKind::Wide: return CheckFormat(View<char16_t>(), AArgs);
+    case TKind::Utf8: return CheckFormat(View<char>(), AArgs);
     case TKind::Text:
-    case TKind::Other: return CheckFormat(Plain().View(), *FArgs);
+    case TKind::Other: return CheckFormat(Plain().View(), AArgs);
     }
 }
 

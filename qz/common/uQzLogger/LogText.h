@@ -8,6 +8,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
+#include <type_traits>
 
 #include <qz/runtime/base/StringArg.h>
 #include <qz/runtime/base/VarRec.h>
@@ -19,18 +21,18 @@ public:
     TQzLogText(const UnicodeString& AText) noexcept : FData(&AText), FKind(TKind::Text) {}
     TQzLogText(const TStringArg& AText) noexcept
         : TQzLogText(AText.Source() != nullptr ? TQzLogText(*AText.Source()) : TQzLogText(AText.View())) {}
-    template <CWideText T>
-    TQzLogText(const T& AText) noexcept : TQzLogText(detail::ViewOf<char16_t>(AText), TKind::Wide) {}
-    template <std::size_t N>
-    TQzLogText(const TTextConstant<N>& AText) noexcept
-        : TQzLogText(std::u16string_view(AText), TKind::Wide) {}
-    template <CUtf8Text T>
-    TQzLogText(const T& AText) noexcept
-        : TQzLogText(detail::NarrowView(detail::ViewOf<char8_t>(AText)), TKind::Utf8) {}
+    template <CWideText T> TQzLogText(const T& AText) noexcept : FKind(TKind::Wide) {
+        Refer<char16_t>(AText);
+    }
+    template <std::size_t N> TQzLogText(const TTextConstant<N>& AText) noexcept : FKind(TKind::Wide) {
+        Refer<char16_t>(std::u16string_view(AText));
+    }
+    template <CUtf8Text T> TQzLogText(const T& AText) noexcept : FKind(TKind::Utf8) { Refer<char8_t>(AText); }
     // Text with a code page of its own is converted by its own type.
     template <CNarrowText T> TQzLogText(const T& AText) noexcept : FKind(TKind::Other) {
         if constexpr (detail::CUtf8Argument<T>) {
-            *this = TQzLogText(detail::ViewOf<char>(AText), TKind::Utf8);
+            FKind = TKind::Utf8;
+            Refer<char>(AText);
         } else {
             FData = &AText;
             FMore.Convert = [](const void* AFrom) { return UnicodeString(*static_cast<const T*>(AFrom)); };
@@ -44,7 +46,12 @@ public:
     // Raises EConvertError for a pattern that does not fit its arguments.
     UnicodeString ToString() const;
     // Raises what ToString would raise for the pattern and its arguments, without building the text.
-    void Check() const;
+    void Check() const {
+        if (FArgs != nullptr)
+            CheckFor(*FArgs);
+    }
+    // The same for this text as the pattern of those arguments.
+    void CheckFor(const TVarRecs& AArgs) const;
     // The text itself where it is a UnicodeString that needs no formatting; otherwise null.
     const UnicodeString* Source() const noexcept {
         return FKind == TKind::Text && FArgs == nullptr ? static_cast<const UnicodeString*>(FData) : nullptr;
@@ -53,11 +60,24 @@ public:
 
 private:
     enum class TKind : std::uint8_t { Text, Wide, Utf8, Other };
-    template <class TChar>
-    TQzLogText(std::basic_string_view<TChar> AText, TKind AKind) noexcept
-        : FData(AText.data()),
-          FMore{.Size = AText.size()},
-          FKind(AKind) {}
+    // Marks a terminated text whose length is counted when it is read.
+    static constexpr auto cUncounted = static_cast<std::size_t>(-1);
+    template <class TChar, class T> void Refer(const T& AText) noexcept {
+        if constexpr (std::is_pointer_v<std::decay_t<T>>) {
+            const TChar* const First = AText;
+            FData = First;
+            FMore.Size = First != nullptr ? cUncounted : 0;
+        } else {
+            const std::basic_string_view<TChar> View(AText);
+            FData = View.data();
+            FMore.Size = View.size();
+        }
+    }
+    template <class TChar> std::basic_string_view<TChar> View() const noexcept {
+        const auto* const First = static_cast<const TChar*>(FData);
+        return FMore.Size == cUncounted ? std::basic_string_view<TChar>(First)
+                                        : std::basic_string_view<TChar>(First, FMore.Size);
+    }
     TQzLogText(const TQzLogText&) = default;
     TQzLogText& operator=(const TQzLogText&) = default;
     UnicodeString Plain() const;

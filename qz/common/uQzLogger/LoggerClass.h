@@ -177,6 +177,8 @@ private:
     bool TryAddRef() noexcept;
     void Send(TQzLogLevel ALevel, const TQzLogText& AMessage, PQzDataRec AValue = nullptr,
               TQzLogIndent AIndent = liIndentNone);
+    void SendPattern(TQzLogLevel ALevel, const TQzLogText& APattern, const TVarRecs& AArgs,
+                     TQzLogIndent AIndent = liIndentNone);
     void SendTaken(TQzLogLevel ALevel, const TQzLogText& AMessage, PQzDataRec AValue, TQzLogIndent AIndent);
     void SendToNobody(TQzLogLevel ALevel, const TQzLogText& AMessage) const;
     Ref<TQzLogger> Child(std::u16string_view AName);

@@ -22,7 +22,7 @@ UnicodeString MethodText(const TObject* AObject, const TQzLogText& AMessage) {
 
 bool IsSound(const TQzLogText& APattern, TVarRecs AArgs) {
     try {
-        TQzLogText(APattern, AArgs).Check();
+        APattern.CheckFor(AArgs);
         return true;
     } catch (const EConvertError&) {
         return false;
@@ -52,6 +52,16 @@ inline void TQzLogger::Send(TQzLogLevel ALevel, const TQzLogText& AMessage, PQzD
         SendTaken(ALevel, AMessage, AValue, AIndent);
     else if (AMessage.HasArgs() || ALevel >= llFatal)
         SendToNobody(ALevel, AMessage);
+}
+
+// The same for a pattern. The check reads it where it is: a copy would cost more than the rest.
+inline void TQzLogger::SendPattern(TQzLogLevel ALevel, const TQzLogText& APattern, const TVarRecs& AArgs,
+                                   TQzLogIndent AIndent) {
+    if (IsTaken(ALevel))
+        return SendTaken(ALevel, TQzLogText(APattern, AArgs), nullptr, AIndent);
+    APattern.CheckFor(AArgs);
+    if (ALevel >= llFatal)
+        SendToNobody(ALevel, TQzLogText(APattern, AArgs));
 }
 
 void TQzLogger::SendTaken(TQzLogLevel ALevel, const TQzLogText& AMessage, PQzDataRec AValue,
@@ -93,7 +103,7 @@ void TQzLogger::Debug(const TQzLogText& AMessage) {
     Send(llDebug, AMessage);
 }
 void TQzLogger::Debug(const TQzLogText& APattern, TVarRecs AArgs) {
-    Send(llDebug, TQzLogText(APattern, AArgs));
+    SendPattern(llDebug, APattern, AArgs);
 }
 void TQzLogger::Debug(const TQzLogText& AMessage, const Variant& AValue) {
     Log(llDebug, AMessage, AValue);
@@ -119,7 +129,7 @@ void TQzLogger::Fatal(const TQzLogText& AMessage) {
     Send(llFatal, AMessage);
 }
 void TQzLogger::Fatal(const TQzLogText& APattern, TVarRecs AArgs) {
-    Send(llFatal, TQzLogText(APattern, AArgs));
+    SendPattern(llFatal, APattern, AArgs);
 }
 void TQzLogger::Fatal(const Exception& AValue) {
     Log(llFatal, AValue.Message(), AValue);
@@ -139,7 +149,7 @@ void TQzLogger::EnterMethod(const TQzLogText& AMessage, TQzLogLevel ALevel) {
     Send(ALevel, AMessage, nullptr, liIndentIncrease);
 }
 void TQzLogger::EnterMethod(const TQzLogText& APattern, TVarRecs AArgs, TQzLogLevel ALevel) {
-    Send(ALevel, TQzLogText(APattern, AArgs), nullptr, liIndentIncrease);
+    SendPattern(ALevel, APattern, AArgs, liIndentIncrease);
 }
 void TQzLogger::EnterMethod(const TObject* AObject, const TQzLogText& AMessage, TQzLogLevel ALevel) {
     if (IsTaken(ALevel))
@@ -155,7 +165,7 @@ void TQzLogger::ExitMethod(const TQzLogText& AMessage, TQzLogLevel ALevel) {
     Send(ALevel, AMessage, nullptr, liIndentDecrease);
 }
 void TQzLogger::ExitMethod(const TQzLogText& APattern, TVarRecs AArgs, TQzLogLevel ALevel) {
-    Send(ALevel, TQzLogText(APattern, AArgs), nullptr, liIndentDecrease);
+    SendPattern(ALevel, APattern, AArgs, liIndentDecrease);
 }
 void TQzLogger::ExitMethod(const TObject* AObject, const TQzLogText& AMessage, TQzLogLevel ALevel) {
     if (IsTaken(ALevel))

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstring>
 
 #include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/text/AnsiString.h>
@@ -26,29 +28,29 @@ struct TPlace {
     char16_t Type = 0;
 };
 
-bool IsInteger(TVarRecKind AKind) noexcept {
-    return AKind == vtInteger || AKind == vtInt64 || AKind == vtUInt64;
+// A set of kinds of arguments, a bit each.
+using TKinds = std::uint32_t;
+template <std::same_as<TVarRecKind>... T> constexpr TKinds KindsOf(T... AKinds) noexcept {
+    return ((TKinds{1} << static_cast<unsigned>(AKinds)) | ...);
 }
 
-bool IsPointer(TVarRecKind AKind) noexcept {
-    return AKind == vtPointer || AKind == vtObject || AKind == vtClass || AKind == vtInterface;
-}
+// The kinds that a place of each type takes, by its letter.
+constexpr std::array<TKinds, 26> cKindsOfType = [] {
+    constexpr TKinds Integers = KindsOf(vtInteger, vtInt64, vtUInt64);
+    std::array<TKinds, 26> Kinds{};
+    for (const unsigned Type : {u'd', u'u', u'x'})
+        Kinds[Type - u'a'] = Integers;
+    for (const unsigned Type : {u'e', u'f', u'g', u'n', u'm'})
+        Kinds[Type - u'a'] = Integers | KindsOf(vtExtended);
+    Kinds['p' - 'a'] = KindsOf(vtPointer, vtObject, vtClass, vtInterface);
+    Kinds['s' - 'a'] = ~(Integers | KindsOf(vtExtended, vtPointer, vtInterface));
+    return Kinds;
+}();
 
-// Whether a place of that type, a lower-case letter, takes the argument.
+// Whether a place of that type, a letter of any case, takes the argument.
 bool Fits(char16_t AType, TVarRecKind AKind) noexcept {
-    switch (AType) {
-    case u'd':
-    case u'u':
-    case u'x': return IsInteger(AKind);
-    case u'e':
-    case u'f':
-    case u'g':
-    case u'n':
-    case u'm': return IsInteger(AKind) || AKind == vtExtended;
-    case u'p': return IsPointer(AKind);
-    case u's': return !IsInteger(AKind) && AKind != vtExtended && AKind != vtPointer && AKind != vtInterface;
-    default: return false;
-    }
+    const auto Letter = static_cast<unsigned>((AType | 0x20) - u'a');
+    return Letter < cKindsOfType.size() && (cKindsOfType[Letter] >> static_cast<unsigned>(AKind) & 1) != 0;
 }
 
 // Walks through a pattern, and hands its literal pieces and its places to TTarget:
@@ -287,6 +289,47 @@ struct TFormatCheck {
     void Place(const TPlace&, const TVarRec&) const noexcept {}
 };
 
+// The first "%" from AHere on, or AEnd. Reads eight bytes at a time.
+template <class TChar> const TChar* NextMark(const TChar* AHere, const TChar* AEnd) noexcept {
+    static_assert(std::endian::native == std::endian::little);
+    constexpr int cBits = 8 * sizeof(TChar);
+    constexpr std::uint64_t cOnes =
+        ~std::uint64_t{0} / ((std::uint64_t{1} << cBits) - 1); // 1 in each character
+    while (static_cast<std::size_t>(AEnd - AHere) >= 8 / sizeof(TChar)) {
+        std::uint64_t Block = 0;
+        std::memcpy(&Block, AHere, sizeof(Block));
+        Block ^= cOnes * '%'; // a mark is a character of zero bits now
+        const std::uint64_t Zero = (Block - cOnes) & ~Block & cOnes << (cBits - 1);
+        if (Zero != 0)
+            return AHere + std::countr_zero(Zero) / cBits;
+        AHere += 8 / sizeof(TChar);
+    }
+    return std::find(AHere, AEnd, TChar{'%'});
+}
+
+// Whether the pattern has only places without width, precision and index, and each takes its argument.
+template <class TChar> bool FitsPlainly(std::basic_string_view<TChar> APattern, TVarRecs AArgs) noexcept {
+    const TVarRec* Arg = AArgs.begin();
+    const TChar* const End = APattern.data() + APattern.size();
+    for (const TChar* Here = NextMark(APattern.data(), End); Here != End; Here = NextMark(Here + 1, End)) {
+        if (++Here == End)
+            return false;
+        if (*Here == TChar{'%'})
+            continue;
+        if (Arg == AArgs.end() || !Fits(static_cast<char16_t>(*Here), Arg->Kind()))
+            return false;
+        ++Arg;
+    }
+    return true;
+}
+
+template <class TChar> void CheckAny(std::basic_string_view<TChar> APattern, TVarRecs AArgs) {
+    if (FitsPlainly(APattern, AArgs))
+        return;
+    TFormatCheck Check;
+    TFormatReader<TChar, TFormatCheck>(APattern, AArgs, Check).Run();
+}
+
 } // namespace
 
 // Declared with Exception. It stands here because Format raises exceptions, and they are formatted by it.
@@ -301,13 +344,11 @@ UnicodeString Format(const TStringArg& APattern, TVarRecs AArgs, const TFormatSe
 }
 
 void CheckFormat(std::u16string_view APattern, TVarRecs AArgs) {
-    TFormatCheck Check;
-    TFormatReader<char16_t, TFormatCheck>(APattern, AArgs, Check).Run();
+    CheckAny(APattern, AArgs);
 }
 
 void CheckFormat(std::string_view APattern, TVarRecs AArgs) {
-    TFormatCheck Check;
-    TFormatReader<char, TFormatCheck>(APattern, AArgs, Check).Run();
+    CheckAny(APattern, AArgs);
 }
 
 } // namespace qz
