@@ -114,6 +114,21 @@ void BM_DecodeDate_chrono(benchmark::State& AState) {
 }
 BENCHMARK(BM_DecodeDate_chrono);
 
+// From the same float as ours, rounded to the millisecond.
+void BM_DecodeDate_chronoFromFloat(benchmark::State& AState) {
+    using namespace std::chrono;
+    Over(AState, [](const TSample& ASample) {
+        constexpr sys_days cDayZero = year(1899) / 12 / 30;
+        const duration<double, days::period> Span(ASample.Ours.Value);
+        const year_month_day Date(floor<days>(cDayZero + round<milliseconds>(Span)));
+        if (!Date.ok())
+            std::abort();
+        Keep(static_cast<int>(Date.year()), static_cast<unsigned>(Date.month()),
+             static_cast<unsigned>(Date.day()));
+    });
+}
+BENCHMARK(BM_DecodeDate_chronoFromFloat);
+
 void BM_DecodeDateTime_ours(benchmark::State& AState) {
     Over(AState, [](const TSample& ASample) {
         std::uint16_t Year, Month, Day, Hour, Minute, Second, MSec;

@@ -40,10 +40,19 @@ double MondayOf(int AYear, int AWeek) {
     return detail::FirstThursday(AYear) + 7.0 * (static_cast<double>(AWeek) - 1) - 3;
 }
 
+// The Monday of week 1, as a day number; the year is 1 to 9999.
+constexpr int FirstMonday(int AYear) noexcept {
+    const int Before = AYear - 1;
+    const int NewYear = 365 * Before + Before / 4 - Before / 100 + Before / 400; // from 0001-01-01, a Monday
+    return NewYear + 3 - (NewYear + 3) % 7 - (DateDelta - 1);
+}
+static_assert(FirstMonday(1) == MinDateTime && FirstMonday(1900) == 2 && FirstMonday(2026) == 46020);
+
 // The division cuts towards zero, so that the up to three days before week 1 are of week 1 too.
 TWeek WeekOf(TDateTime ADate) {
-    const int Year = QzDecodeDate(ADate, dtYear);
-    return {Year, QzDateCompare(ADate, MondayOf(Year, 1)) / 7 + 1};
+    std::uint16_t Year, Month, Day;
+    DecodeDate(ADate, Year, Month, Day); // refuses what does not fit into int
+    return {Year, (static_cast<int>(ADate.Value) - FirstMonday(Year)) / 7 + 1};
 }
 
 } // namespace

@@ -126,6 +126,17 @@ TDayAndTime Split(TDateTime AValue) {
     return Result;
 }
 
+// The day of Split, without the time of day.
+std::int32_t DayOf(TDateTime AValue) {
+    if (!(AValue.Value > cFirstDay - 1 && AValue.Value < cLastDay + 1)) [[unlikely]]
+        RaiseInvalidDateTime();
+    auto Day = static_cast<std::int32_t>(AValue.Value);
+    Day += std::fabs(AValue.Value - Day) * MSecsPerDay >= MSecsPerDay - 0.5 ? 1 : 0;
+    if (Day < cFirstDay || Day > cLastDay) [[unlikely]]
+        RaiseInvalidDateTime();
+    return Day;
+}
+
 TDateTime Join(TDayAndTime AParts) noexcept {
     const double Fraction = AParts.MSecs / static_cast<double>(MSecsPerDay);
     return AParts.Day < 0 ? AParts.Day - Fraction : AParts.Day + Fraction;
@@ -219,7 +230,7 @@ TDateTime JoinDateTime(TDayAndTime AParts) noexcept {
 }
 
 void DecodeDate(TDateTime AValue, std::uint16_t& AYear, std::uint16_t& AMonth, std::uint16_t& ADay) {
-    DecodeDay(Split(AValue).Day, AYear, AMonth, ADay);
+    DecodeDay(DayOf(AValue), AYear, AMonth, ADay);
 }
 
 bool DecodeDateFully(TDateTime AValue, std::uint16_t& AYear, std::uint16_t& AMonth, std::uint16_t& ADay,
@@ -246,7 +257,7 @@ void DecodeDateTime(TDateTime AValue, std::uint16_t& AYear, std::uint16_t& AMont
 static std::uint32_t DaysSinceSaturday(TDateTime AValue) {
     constexpr std::int32_t cWholeWeeks = 693595;
     static_assert(cWholeWeeks % 7 == 0 && cWholeWeeks + cFirstDay > 0);
-    return static_cast<std::uint32_t>(Split(AValue).Day + cWholeWeeks);
+    return static_cast<std::uint32_t>(DayOf(AValue) + cWholeWeeks);
 }
 
 int DayOfWeek(TDateTime AValue) {
