@@ -191,6 +191,15 @@ TEST(DateTime, EveryMilliSecondSurvivesOnBothSidesOfDayZero) {
             ASSERT_EQ(Parts.Day, Day);
             ASSERT_EQ(Parts.MSecs, MSecs);
         }
+    // Half a millisecond before midnight counts to the next day, for whatever takes a value apart.
+    for (const double Day : {1.0, 45000.0}) {
+        EXPECT_EQ(PartsOf(Day + (MSecsPerDay - 0.4) / MSecsPerDay), PartsOf(Day + 1));
+        EXPECT_EQ(DayOfWeek(Day + (MSecsPerDay - 0.4) / MSecsPerDay), DayOfWeek(Day + 1));
+        EXPECT_EQ(DayOfWeek(Day + (MSecsPerDay - 0.6) / MSecsPerDay), DayOfWeek(Day));
+        std::uint16_t P[3];
+        DecodeDate(Day + (MSecsPerDay - 0.4) / MSecsPerDay, P[0], P[1], P[2]);
+        EXPECT_EQ(TDateTime(Day + 1), EncodeDate(P[0], P[1], P[2]));
+    }
 }
 
 TEST(DateTime, RefusesWhatIsNoDate) {

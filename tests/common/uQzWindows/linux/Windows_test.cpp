@@ -1,6 +1,10 @@
 #include <qz/common/uQzWindows.h>
 
 #include <gtest/gtest.h>
+#include <sys/xattr.h>
+
+#include <array>
+#include <cstring>
 
 #include "tests/support/TemporaryDirectory.h"
 #include "tests/support/ZoneOfTheEnvironment.h"
@@ -33,6 +37,30 @@ TEST(FileTimesLinux, CreationIsLocalTimeOfItsMoment) {
         QzSetFileCreated(Path, Utc);
         EXPECT_EQ(QzGetFileCreated(Path), Local);
     }
+}
+
+// A copy of a file with its attributes is another file, which was made when it was copied.
+TEST(FileTimesLinux, ACopyDoesNotInheritTheCreation) {
+    const platform::TTemporaryDirectory Directory;
+    const std::u16string Path = Directory / u"file";
+    const std::u16string Copy = Directory / u"copy";
+    for (const std::u16string& Each : {Path, Copy})
+        ASSERT_TRUE(platform::WriteWholeFile(Each, std::span<const std::byte>()));
+    constexpr std::int64_t cYear2000 = 125911584000000000;
+    ASSERT_TRUE(platform::SetFileCreated(Path, cYear2000));
+    EXPECT_EQ(platform::ReadFileTimes(Path)->Created, cYear2000);
+    const std::string From(UnicodeString{Path});
+    const std::string To(UnicodeString{Copy});
+    std::array<char, 4096> Names, Value;
+    const ssize_t Length = listxattr(From.c_str(), Names.data(), Names.size());
+    ASSERT_GT(Length, 0);
+    for (const char* Name = Names.data(); Name < Names.data() + Length; Name += std::strlen(Name) + 1) {
+        const ssize_t Size = getxattr(From.c_str(), Name, Value.data(), Value.size());
+        if (std::string_view(Name).starts_with("user.") && Size > 0) {
+            ASSERT_EQ(setxattr(To.c_str(), Name, Value.data(), static_cast<std::size_t>(Size), 0), 0);
+        }
+    }
+    EXPECT_GT(platform::ReadFileTimes(Copy)->Created, cYear2000);
 }
 
 } // namespace

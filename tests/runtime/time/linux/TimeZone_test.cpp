@@ -13,6 +13,7 @@
 #include "tests/support/Message.h"
 #include "tests/support/Rows.h"
 #include "tests/support/ZoneOfTheEnvironment.h"
+#include <qz/runtime/text/Format.h>
 #include <qz/runtime/text/NumberText.h>
 #include <qz/runtime/time/DateTimeText.h>
 #include <qz/runtime/time/LocalClock.h>
@@ -160,6 +161,43 @@ TEST(TimeZoneLinux, RuleTextsAreTakenAsTheCLibraryTakesThem) {
           "ABC", "AB5", "<+3>-3", "nosuch", "", ":", "::Europe/Paris", "/etc/passwd", "Europe", "/dev/zero",
           "ABC:5", "ABC 5"})
         EXPECT_EQ(CheckZone(Text, cFrom, cTo).Wrong, "") << Text;
+    // RFC 8536 gives the second as an example of daylight saving time all year. The C library has standard time for
+    // some hours of New Year.
+    for (const char* Text : {"EST5EDT,0/0,J365/25", "XXX3EDT4,0/0,J365/23"}) {
+        TZoneOfTheEnvironment::Set(Text);
+        for (std::int64_t Moment = cFrom; Moment < cTo; Moment += 3600)
+            ASSERT_EQ(UnixOf(TTimeZone::Local().ToLocalTime(DateOf(Moment))), Moment - 4 * 3600) << Text;
+        EXPECT_EQ(TTimeZone::Local().GetDisplayName(EncodeDate(2022, 1, 1), false), "EDT") << Text;
+    }
+}
+
+// By the rules of the zone database, as occurrences of weekdays.
+TEST(TimeZoneLinux, DaysOfAYearThatChangeTheClock) {
+    const TZoneOfTheEnvironment Keep("UTC0");
+    for (const auto& Case :
+         Rows(u"Europe/Paris => 2024 => 3.5.7 02:00 10.5.7 03:00",
+              u"Europe/Paris => 1990 => 3.5.7 02:00 9.5.7 03:00",
+              u"America/New_York => 2024 => 3.2.7 02:00 11.1.7 02:00",
+              u"America/New_York => 2006 => 4.1.7 02:00 10.5.7 02:00",
+              u"Australia/Lord_Howe => 2024 => 10.1.7 02:00 4.1.7 02:00",
+              // Two o'clock after the fourth Thursday is on a fourth Friday, or the last.
+              u"IST-2IDT,M3.4.4/26,M10.5.0 => 2023 => 3.4.5 02:00 10.5.7 02:00",
+              u"IST-2IDT,M3.4.4/26,M10.5.0 => 2022 => 3.5.5 02:00 10.5.7 02:00",
+              // Standard time of another offset began with the end of daylight saving time.
+              u"Europe/Istanbul => 2016 => 3.5.7 03:00 9.1.3 00:00",
+              // Years with one change, and with changes of standard time alone.
+              u"America/Sao_Paulo => 2019 => ", u"Europe/Istanbul => 2017 => ", u"Asia/Pyongyang => 2015 => ",
+              u"Europe/Moscow => 2014 => ", u"EST5EDT,0/0,J365/25 => 2024 => ")) {
+        TZoneOfTheEnvironment::Set(Case[0]);
+        const detail::TZoneYear Year = detail::CurrentZone().YearAt(StrToInt(Case[1]));
+        UnicodeString Text;
+        for (const TZoneYearDay& Day : {Year.ToDaylight, Year.ToStandard})
+            if (Day.Month != 0)
+                Text += Format(u"%s%d.%d.%d %s",
+                               {Text.IsEmpty() ? u"" : u" ", Day.Month, Day.Occurrence, Day.DayOfTheWeek,
+                                FormatDateTime(u"hh:nn", Day.Time)});
+        EXPECT_EQ(Text, Case[2]) << Case[0] << ' ' << Case[1];
+    }
 }
 
 TEST(TimeZoneLinux, FarYearsFollowTheRule) {
