@@ -27,13 +27,15 @@ void Print(const TQzLogDrop& ADrop) {
     std::fprintf(stderr, "%s\n", std::string(Line).c_str());
 }
 
-// Lives to the very end of the process. The first two are guarded by the state lock.
+// Lives to the very end of the process. The first three are guarded by the state lock.
 struct TDrops {
     std::shared_ptr<const TQzLogDropHook> Hook;
     std::map<std::uint64_t, std::int64_t> LastCalls; // the time of the last call, by key
+    std::vector<detail::TQueuedDrop> Waiting;        // for the thread that runs the hook
     const std::shared_ptr<const TQzLogDropHook> Printer = std::make_shared<const TQzLogDropHook>(Print);
     std::atomic<std::uint64_t> Count{0};
     std::atomic<bool> IsCalling{false};
+    std::atomic<bool> HasWaiting{false};
     std::atomic<bool> Prints{false};
     std::atomic<bool> HasLostFatal{false};
 };
@@ -56,34 +58,68 @@ std::shared_ptr<const TQzLogDropHook> HookFor(TDrops& ADrops, std::uint64_t AKey
     return ADrops.LastCalls.try_emplace(AKey, Now).second ? Hook : nullptr;
 }
 
-// Messages of the hook are queued, and do not reach the appender of that serial.
-void CallHook(const TQzLogDrop& ADrop, std::uint64_t AKey) noexcept {
-    TDrops& All = Drops();
+// Adds the drop unless one of that key waits already.
+void AddDrop(std::vector<detail::TQueuedDrop>& ADrops, const TQzLogDrop& ADrop, std::uint64_t AKey) {
+    const bool IsKnown = AKey != detail::TDropKey::Unlimited &&
+        std::ranges::find(ADrops, AKey, &detail::TQueuedDrop::Key) != ADrops.end();
+    if (!IsKnown && ADrops.size() < cMostQueued)
+        ADrops.push_back({ADrop, AKey});
+}
+
+// The calling thread is the one that runs the hook. Messages of the hook are queued, and do not reach the
+// appender of that serial.
+void RunHook(TDrops& AAll, const TQzLogDrop& ADrop, std::uint64_t AKey) noexcept {
     detail::TLogThread& Thread = detail::ThisLogThread();
-    if (All.IsCalling.exchange(true, std::memory_order_acquire))
-        return;
     Thread.IsInHook = true;
     Thread.Failed = AKey;
     try {
-        if (const auto Hook = HookFor(All, AKey))
+        if (const auto Hook = HookFor(AAll, AKey))
             (*Hook)(ADrop);
     } catch (...) { // NOLINT(bugprone-empty-catch): the hook is the last resort
     }
     Thread.Failed = 0;
     Thread.IsInHook = false;
-    All.IsCalling.store(false, std::memory_order_release);
-    if (Thread.Queue != nullptr)
+}
+
+// For drops that arose while another thread ran the hook. Either that thread finds them when it is done, or
+// the one that added them finds the hook free.
+void RunHookForWaiting(TDrops& AAll) noexcept {
+    while (AAll.HasWaiting && !AAll.IsCalling.exchange(true)) {
+        std::vector<detail::TQueuedDrop> Waiting;
+        {
+            const TStateHold Hold;
+            AAll.HasWaiting = false;
+            Waiting.swap(AAll.Waiting);
+        }
+        for (const detail::TQueuedDrop& Each : Waiting)
+            RunHook(AAll, Each.Drop, Each.Key);
+        AAll.IsCalling = false;
+    }
+}
+
+// One thread at a time runs the hook; drops of others wait for it.
+void CallHook(const TQzLogDrop& ADrop, std::uint64_t AKey) noexcept {
+    TDrops& All = Drops();
+    if (!All.IsCalling.exchange(true)) {
+        RunHook(All, ADrop, AKey);
+        All.IsCalling = false;
+    } else {
+        try {
+            const TStateHold Hold;
+            AddDrop(All.Waiting, ADrop, AKey);
+            All.HasWaiting = true;
+        } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch): it is counted all the same
+        }
+    }
+    RunHookForWaiting(All);
+    if (detail::ThisLogThread().Queue != nullptr)
         detail::Settle();
 }
 
 // Leaves the call to the time when the thread is free. False if there is no memory.
 bool Queue(const TQzLogDrop& ADrop, std::uint64_t AKey) noexcept {
     try {
-        std::vector<detail::TQueuedDrop>& Drops = detail::QueueOf(detail::ThisLogThread()).Drops;
-        const bool IsKnown = AKey != detail::TDropKey::Unlimited &&
-            std::ranges::find(Drops, AKey, &detail::TQueuedDrop::Key) != Drops.end();
-        if (!IsKnown && Drops.size() < cMostQueued)
-            Drops.push_back({ADrop, AKey});
+        AddDrop(detail::QueueOf(detail::ThisLogThread()).Drops, ADrop, AKey);
         return true;
     } catch (const std::bad_alloc&) {
         return false;
@@ -126,6 +162,8 @@ void QzPrintLogDrops(bool AValue) noexcept {
 
 void detail::ForgetHookCall() noexcept {
     Drops().IsCalling.store(false, std::memory_order_relaxed);
+    Drops().HasWaiting = false;
+    Drops().Waiting.clear();
 }
 
 void detail::CountDrops(std::uint64_t ACount) noexcept {

@@ -185,6 +185,7 @@ private:
     void Recompute();
     bool RecomputeOwn() noexcept;
     void DetachChildren(bool ADropParent);
+    void DropQueuedConfigurations();
     void ReadLevel(IQzLogConfigurator& AConfigurator);
     void ReadAppenders(IQzLogConfigurator& AConfigurator);
     bool DropReference(std::int32_t& ACount);

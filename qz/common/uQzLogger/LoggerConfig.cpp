@@ -18,8 +18,23 @@ Ref<IQzLogConfigurator> TQzLogger::Configurator() const {
     return FConfigurator;
 }
 
+// The calling thread no longer configures this logger and those below it later.
+void TQzLogger::DropQueuedConfigurations() {
+    detail::TLogQueue* const Queue = detail::ThisLogThread().Queue;
+    if (Queue == nullptr)
+        return;
+    std::erase_if(Queue->Configurations, [this](const detail::TQueuedConfiguration& AEach) {
+        const TQzLogger* Node = AEach.Logger.Get();
+        while (Node != nullptr && Node != this)
+            Node = Node->FParent.Get();
+        return Node == this;
+    });
+}
+
 void TQzLogger::SetConfig(IQzLogConfigurator* AConfigurator) {
     const Ref<IQzLogConfigurator> Configurator(AConfigurator);
+    if (Configurator == nullptr)
+        DropQueuedConfigurations();
     const detail::TTreeHold Tree; // one thread at a time asks, and two make one appender of a name
     if (Configurator != nullptr && !Tree.IsHeld()) {
         detail::QueueOf(detail::ThisLogThread())

@@ -59,8 +59,9 @@ public:
     // Whether the level is the parent's. False restores the logger's own level.
     virtual void SetParentLevel(bool AValue) = 0;
     virtual void SetLevel(TQzLogLevel AValue) = 0;
-    // Asks for the values of this logger now. Null removes the configurator from this logger and all below
-    // it, and changes no values.
+    // Asks for the values of this logger now. A thread that holds an appender or a list of appenders, while
+    // another one configures, asks when it releases the last of them, and overwrites what was set until then.
+    // Null removes the configurator from this logger and all below it, and changes no values.
     virtual void SetConfig(IQzLogConfigurator* AConfigurator) = 0;
 
     // The logger of that path below this one. A new logger is configured by the configurator of the root. A

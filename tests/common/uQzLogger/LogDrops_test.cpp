@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "tests/common/support/LogConfiguration.h"
 #include "tests/common/support/LogFiles.h"
 #include "tests/common/support/MemoryAppender.h"
@@ -57,6 +59,23 @@ TEST(LogDrops, QueueAndBufferAreReported) {
     EXPECT_EQ(Out.Lines.size(), 1001u);
     EXPECT_EQ(QzDroppedLogMessages(), Dropped + 1);
     EXPECT_EQ(Hook.Notes, u"root/: More than 1000 messages arose while one was delivered|");
+}
+
+// The only report of a fault that is told once must not be lost.
+TEST(LogDrops, WhatAnotherThreadReportsWaitsForTheHook) {
+    const TLogTree Tree;
+    UnicodeString Notes;
+    QzSetLogDropHook([&Notes](const TQzLogDrop& ADrop) {
+        if (Notes.IsEmpty())
+            std::thread([] { Logger().Fatal("second"); }).join();
+        Notes += ADrop.Message + u'|';
+    });
+    const Ref<TConfiguration> Values = TConfiguration::Create();
+    Values->Answers[u"root/Appenders"] = VarArrayOf({u"misspelt"});
+    Logger().SetConfig(Values.Get());
+    QzSetLogDropHook(nullptr);
+    EXPECT_EQ(Notes,
+              u"The appender does not exist and has no class|No appender for the fatal message: second|");
 }
 
 TEST(LogDrops, PatternsAreCheckedWhereNoAppenderTakesThem) {

@@ -33,6 +33,7 @@ struct TLogDispatch::TProgress {
     std::uint64_t Except;     // the serial of the appender to leave out; 0 for none
     std::uint64_t Failed = 0; // of the appender that raised
     UnicodeString FailedName;
+    const TQzLogger* Last = nullptr; // the last logger whose gate the thread holds; null: no limit
 };
 
 void TLogQueue::ReserveEnding() {
@@ -99,20 +100,22 @@ void TLogDispatch::Walk(TProgress& AProgress, const TQzLogger& ALogger, const TL
     const UnicodeString* Text = AMessage.Text.Source();
     for (const TQzLogger* Node = &ALogger; Node != nullptr; Node = Node->NextOnTheWay({})) {
         TAppenderSet& Set = Node->AppenderSet({});
-        if (AMessage.Level < Node->GetLevel() || Set.IsEmpty())
-            continue;
-        if (Text == nullptr) {
-            Made = AMessage.Text.ToString();
-            Text = &Made;
+        if (AMessage.Level >= Node->GetLevel() && !Set.IsEmpty()) {
+            if (Text == nullptr) {
+                Made = AMessage.Text.ToString();
+                Text = &Made;
+            }
+            WriteToAll(AProgress, Set, Node->FullName(), AMessage, *Text);
         }
-        WriteToAll(AProgress, Set, Node->FullName(), AMessage, *Text);
+        if (Node == AProgress.Last)
+            return; // the logger became additive after the gates were taken
     }
 }
 
 // An exception ends the delivery. It is reported when the thread is free.
 void TLogDispatch::Deliver(TLogThread& AThread, TQzLogger& ALogger, const TLogMessage& AMessage,
-                           std::uint64_t AExcept) noexcept {
-    TProgress Progress{AThread, AExcept, 0, {}};
+                           std::uint64_t AExcept, const TQzLogger* ALast) noexcept {
+    TProgress Progress{AThread, AExcept, 0, {}, ALast};
     ++AThread.Busy;
     try {
         Walk(Progress, ALogger, AMessage);
@@ -124,7 +127,8 @@ void TLogDispatch::Deliver(TLogThread& AThread, TQzLogger& ALogger, const TLogMe
 
 void TLogDispatch::Send(TQzLogger& ALogger, const TLogMessage& AMessage) noexcept {
     TLogThread& Thread = ThisLogThread();
-    if (Thread.QueuesMessages())
+    // While the queue is settled, a configurator may log under the lock of an appender and after it.
+    if (Thread.QueuesMessages() || (Thread.IsSettling && !Thread.Queue->Messages.empty()))
         return Enqueue(Thread, ALogger, AMessage);
     LetForkPass();
     if (Thread.Gates != 0)
@@ -155,12 +159,16 @@ public:
             if (!Node->AppenderSet({}).TryEnter(FThread, cPatience))
                 return false;
             FHeld.push_back(&Node->AppenderSet({}));
+            FLast = Node;
         }
         return true;
     }
+    // The logger of the last gate.
+    const TQzLogger* Last() const noexcept { return FLast; }
 
 private:
     TLogThread& FThread;
+    const TQzLogger* FLast = nullptr;
     std::vector<TAppenderSet*> FHeld;
 };
 
@@ -171,7 +179,7 @@ void TLogDispatch::SendWithGates(TLogThread& AThread, TQzLogger& ALogger,
     const bool OthersWait = AThread.Queue != nullptr && !AThread.Queue->Messages.empty();
     TGates Gates(AThread);
     if (!OthersWait && Gates.TryEnter(ALogger))
-        Deliver(AThread, ALogger, AMessage, 0);
+        Deliver(AThread, ALogger, AMessage, 0, Gates.Last());
     else
         Enqueue(AThread, ALogger, AMessage);
     if (AThread.Queue != nullptr && !AThread.IsSettling)
@@ -189,7 +197,7 @@ void TLogDispatch::SettleWithGates(TLogThread& AThread) noexcept {
             break;
         const TQueuedMessage Message = std::move(Queue.Messages.front());
         Queue.Messages.pop_front();
-        DeliverQueued(AThread, Message);
+        DeliverQueued(AThread, Message, Gates.Last());
     }
     AThread.IsSettling = false;
 }
@@ -222,7 +230,8 @@ void TLogDispatch::DropMessages() noexcept {
     Queue->Drops.clear();
 }
 
-void TLogDispatch::DeliverQueued(TLogThread& AThread, const TQueuedMessage& AMessage) noexcept {
+void TLogDispatch::DeliverQueued(TLogThread& AThread, const TQueuedMessage& AMessage,
+                                 const TQzLogger* ALast) noexcept {
     if (!AMessage.Dump.IsEmpty()) {
         AThread.DumpedValue = &AMessage.Value;
         AThread.Dump = &AMessage.Dump;
@@ -230,7 +239,7 @@ void TLogDispatch::DeliverQueued(TLogThread& AThread, const TQueuedMessage& AMes
     Deliver(AThread, *AMessage.Logger,
             {AMessage.Source, AMessage.Level, AMessage.Text, AMessage.HasValue ? &AMessage.Value : nullptr,
              AMessage.Indent},
-            AMessage.Except);
+            AMessage.Except, ALast);
     AThread.DumpedValue = nullptr;
 }
 

@@ -79,14 +79,16 @@ private:
     friend void Settle() noexcept;
     static void Enqueue(TLogThread& AThread, TQzLogger& ALogger, const TLogMessage& AMessage) noexcept;
     static void SendWithGates(TLogThread& AThread, TQzLogger& ALogger, const TLogMessage& AMessage) noexcept;
+    // A thread that holds gates delivers up to ALast, the last logger whose gate it holds.
     static void Deliver(TLogThread& AThread, TQzLogger& ALogger, const TLogMessage& AMessage,
-                        std::uint64_t AExcept) noexcept;
+                        std::uint64_t AExcept, const TQzLogger* ALast = nullptr) noexcept;
     static void Walk(TProgress& AProgress, const TQzLogger& ALogger, const TLogMessage& AMessage);
     static void WriteToAll(TProgress& AProgress, TAppenderSet& ASet, const UnicodeString& ALogger,
                            const TLogMessage& AMessage, const UnicodeString& AText);
     class TGates;
     static void SettleWithGates(TLogThread& AThread) noexcept;
-    static void DeliverQueued(TLogThread& AThread, const TQueuedMessage& AMessage) noexcept;
+    static void DeliverQueued(TLogThread& AThread, const TQueuedMessage& AMessage,
+                              const TQzLogger* ALast = nullptr) noexcept;
     static bool SettleOne(TLogThread& AThread) noexcept;
 };
 
