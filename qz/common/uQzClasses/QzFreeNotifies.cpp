@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <qz/platform/Fork.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/threads/CriticalSection.h>
@@ -20,6 +21,9 @@ TCriticalSection& Links() {
     static auto* const Lock = new TCriticalSection;
     return *Lock;
 }
+
+[[maybe_unused]] const bool GIsWatched =
+    platform::HoldAroundFork(platform::TForkRank::FreeNotifies, [] { return &Links(); });
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include <mutex>
 
+#include <qz/platform/Fork.h>
 #include <qz/platform/Module.h>
 #include <qz/runtime/base/StringUtils.h>
 
@@ -21,6 +22,9 @@ TDesignHost& DesignHost() {
     static auto* const Result = new TDesignHost;
     return *Result;
 }
+
+[[maybe_unused]] const bool GIsWatched =
+    platform::HoldAroundFork(platform::TForkRank::Designing, [] { return &DesignHost().Lock; });
 
 // A point in the name need not begin an extension.
 bool IsHost(std::u16string_view APath, std::u16string_view AHost) {

@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <cstring>
 
-#include <unicode/unorm2.h>
+#include <qz/platform/linux/Icu.h>
 
 namespace qz::platform::detail {
 
@@ -182,9 +182,9 @@ TResult<std::size_t> DecodeDouble(const TCodePage& APage, std::span<const std::u
 char16_t Compose(char16_t AFirst, char16_t ASecond) noexcept {
     if (AFirst >= 0x1100 && ASecond >= 0x1161 && ASecond <= 0x11C2)
         return 0;
-    UErrorCode Status = U_ZERO_ERROR;
-    const UChar32 Result = unorm2_composePair(unorm2_getNFCInstance(&Status), AFirst, ASecond);
-    return U_SUCCESS(Status) && Result > 0 && Result <= 0xFFFF ? static_cast<char16_t>(Result) : char16_t{0};
+    const UNormalizer2* const Normalizer = IcuNormalizer(1);
+    const UChar32 Result = Normalizer != nullptr ? unorm2_composePair(Normalizer, AFirst, ASecond) : 0;
+    return Result > 0 && Result <= 0xFFFF ? static_cast<char16_t>(Result) : char16_t{0};
 }
 
 // Whether some character may be composed with this one after it: a rough answer that is quick.

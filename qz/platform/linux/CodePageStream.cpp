@@ -7,6 +7,8 @@
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_err.h>
 
+#include <qz/platform/linux/Icu.h>
+
 namespace qz::platform::detail {
 
 namespace {
@@ -32,24 +34,33 @@ constexpr TStreamPage cPages[] = {
     {65000, 5, "UTF-7"},           {cUtf8Page, 4, "UTF-8"},
 };
 
-using TConverter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
+struct TCloseConverter {
+    void operator()(UConverter* AConverter) const noexcept {
+        const std::lock_guard Hold(IcuLock());
+        ucnv_close(AConverter);
+    }
+};
+using TConverter = std::unique_ptr<UConverter, TCloseConverter>;
 
 TConverter OpenCodePage(std::uint32_t APage) {
     for (const TStreamPage& Known : cPages) {
         if (APage != Known.Page)
             continue;
         UErrorCode Status = U_ZERO_ERROR;
-        TConverter Result(ucnv_open(Known.Converter, &Status), ucnv_close);
+        std::unique_lock Hold(IcuLock());
+        UConverter* const Opened = ucnv_open(Known.Converter, &Status);
+        Hold.unlock();
+        TConverter Result(Opened);
         if (U_SUCCESS(Status))
             return Result;
     }
-    return {nullptr, ucnv_close};
+    return nullptr;
 }
 
 // A converter in its first state, or null. The thread keeps the last one, as making one is dear.
 UConverter* Converter(std::uint32_t APage) {
     thread_local std::uint32_t Page = 0;
-    thread_local TConverter Kept(nullptr, ucnv_close);
+    thread_local TConverter Kept;
     if (Kept && Page == APage) {
         ucnv_reset(Kept.get());
         return Kept.get();

@@ -203,11 +203,7 @@ std::unique_ptr<const TCodePage> Build(const TPageData& AData) {
 }
 
 constinit std::mutex Making;
-[[maybe_unused]] const bool IsWatched = [] {
-    AroundFork(
-        TForkRank::CodePages, [] { Making.lock(); }, [] { Making.unlock(); }, [] { Making.unlock(); });
-    return true;
-}();
+[[maybe_unused]] const bool IsWatched = HoldAroundFork(TForkRank::CodePages, [] { return &Making; });
 
 const TCodePage* Keep(std::unique_ptr<const TCodePage> ATables) noexcept {
     std::size_t Slot = FirstCodePageSlot(ATables->Page);

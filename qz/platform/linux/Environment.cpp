@@ -14,12 +14,8 @@ namespace {
 // Has no destructor that does anything: threads may ask while the program ends.
 constinit std::mutex GEnvironmentLock;
 
-[[maybe_unused]] const bool GIsWatched = [] {
-    AroundFork(
-        TForkRank::Environment, [] { GEnvironmentLock.lock(); }, [] { GEnvironmentLock.unlock(); },
-        [] { GEnvironmentLock.unlock(); });
-    return true;
-}();
+[[maybe_unused]] const bool GIsWatched =
+    HoldAroundFork(TForkRank::Environment, [] { return &GEnvironmentLock; });
 
 std::optional<std::string> NativeName(std::u16string_view AName) {
     if (AName.empty() || AName.find(u'=') != std::u16string_view::npos)

@@ -160,11 +160,7 @@ TLocale ReadLocale(const TLocaleNames& ANames) {
 }
 
 constinit std::mutex GLock;
-[[maybe_unused]] const bool GIsWatched = [] {
-    AroundFork(
-        TForkRank::Locale, [] { GLock.lock(); }, [] { GLock.unlock(); }, [] { GLock.unlock(); });
-    return true;
-}();
+[[maybe_unused]] const bool GIsWatched = HoldAroundFork(TForkRank::Locale, [] { return &GLock; });
 
 // Calls AUse with the locale that the environment names now.
 template <class TUse> auto WithUserLocale(const TUse& AUse) {

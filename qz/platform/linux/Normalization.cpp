@@ -3,22 +3,13 @@
 #include <cerrno>
 #include <climits>
 
-#include <unicode/unorm2.h>
 #include <unicode/utf16.h>
+
+#include <qz/platform/linux/Icu.h>
 
 namespace qz::platform {
 
 namespace {
-
-const UNormalizer2* NormalizerOf(int AForm, UErrorCode& AStatus) {
-    switch (AForm) {
-    case 1: return unorm2_getNFCInstance(&AStatus);
-    case 2: return unorm2_getNFDInstance(&AStatus);
-    case 5: return unorm2_getNFKCInstance(&AStatus);
-    case 6: return unorm2_getNFKDInstance(&AStatus);
-    default: AStatus = U_ILLEGAL_ARGUMENT_ERROR; return nullptr;
-    }
-}
 
 // ICU takes lone surrogates as they are; Windows refuses them.
 bool IsWellFormed(std::u16string_view AText) {
@@ -40,8 +31,8 @@ TNormalizer PrepareNormalizer() {
 
 TResult<std::u16string> NormalizeText(int AForm, std::u16string_view AText) {
     UErrorCode Status = U_ZERO_ERROR;
-    const UNormalizer2* Normalizer = NormalizerOf(AForm, Status);
-    if (AText.empty() || AText.size() > INT_MAX || U_FAILURE(Status) || !IsWellFormed(AText))
+    const UNormalizer2* const Normalizer = detail::IcuNormalizer(AForm);
+    if (AText.empty() || AText.size() > INT_MAX || Normalizer == nullptr || !IsWellFormed(AText))
         return TError(EINVAL);
     const auto Length = static_cast<std::int32_t>(AText.size());
     std::u16string Result(AText.size() * 2 + 16, u'\0');

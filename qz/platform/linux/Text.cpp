@@ -1,6 +1,7 @@
 #include <qz/platform/Text.h>
 
 #include <algorithm>
+#include <atomic>
 #include <memory>
 #include <new>
 
@@ -8,6 +9,7 @@
 #include <unicode/ucol.h>
 #include <unicode/ustring.h>
 
+#include <qz/platform/linux/Icu.h>
 #include <qz/platform/linux/LocaleName.h>
 
 namespace qz::platform {
@@ -31,9 +33,24 @@ TCaseRules AskCaseRules() {
     return {std::move(Locale), !DotlessI};
 }
 
+// A value that is made at first use and kept for ever. Two threads may both make it; one of the two is kept.
+// There is no lock that a fork could find held.
+template <class T, T (*VMake)()> const T& MadeOnce() {
+    constinit static std::atomic<const T*> Kept{nullptr};
+    if (const T* Known = Kept.load(std::memory_order_acquire))
+        return *Known;
+    auto Made = std::make_unique<const T>(VMake());
+    const T* Known = nullptr;
+    return Kept.compare_exchange_strong(Known, Made.get(), std::memory_order_acq_rel) ? *Made.release()
+                                                                                      : *Known;
+}
+
 const TCaseRules& CaseRules() {
-    static const TCaseRules& Rules = *new TCaseRules(AskCaseRules());
-    return Rules;
+    return MadeOnce<TCaseRules, AskCaseRules>();
+}
+
+std::string AskCollationLocale() {
+    return detail::IcuLocaleName(detail::PosixLocaleName("LC_COLLATE"));
 }
 
 constexpr char16_t AsciiUpper(char16_t AChar) {
@@ -87,15 +104,23 @@ char16_t OneUnit(UChar32 AMapped, char16_t AOriginal) {
     return AMapped <= 0xFFFF ? static_cast<char16_t>(AMapped) : AOriginal;
 }
 
-using TCollator = std::unique_ptr<UCollator, decltype(&ucol_close)>;
+struct TCloseCollator {
+    void operator()(UCollator* ACollator) const noexcept {
+        const std::lock_guard Hold(detail::IcuLock());
+        ucol_close(ACollator);
+    }
+};
+using TCollator = std::unique_ptr<UCollator, TCloseCollator>;
 
 TCollator OpenCollator(bool AIgnoreCase) {
-    static const std::string& Locale =
-        *new std::string(detail::IcuLocaleName(detail::PosixLocaleName("LC_COLLATE")));
+    const std::string& Locale = MadeOnce<std::string, AskCollationLocale>();
     UErrorCode Status = U_ZERO_ERROR;
-    TCollator Result(ucol_open(Locale.c_str(), &Status), ucol_close);
+    std::unique_lock Hold(detail::IcuLock());
+    UCollator* const Opened = ucol_open(Locale.c_str(), &Status);
+    Hold.unlock();
+    TCollator Result(Opened);
     if (U_FAILURE(Status))
-        return {nullptr, ucol_close};
+        return nullptr;
     ucol_setStrength(Result.get(), AIgnoreCase ? UCOL_SECONDARY : UCOL_TERTIARY);
     return Result;
 }

@@ -4,6 +4,7 @@
 #include <mutex>
 #include <unordered_map>
 
+#include <qz/platform/Fork.h>
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/components/Component.h>
 #include <qz/runtime/objects/DescribeException.h>
@@ -27,6 +28,8 @@ public:
         static auto* const Table = new TBindingTable;
         return *Table;
     }
+
+    std::mutex& Lock() noexcept { return FMutex; }
 
     void Add(TBindingPtr ABinding) {
         const std::lock_guard Hold(FMutex);
@@ -90,6 +93,9 @@ private:
     std::unordered_multimap<const TObject*, TBindingExpression*> FReaders;
     std::uint64_t FLastNumber = 0;
 };
+
+[[maybe_unused]] const bool GIsWatched =
+    platform::HoldAroundFork(platform::TForkRank::Bindings, [] { return &TBindingTable::Instance().Lock(); });
 
 detail::TBoundPath Resolve(std::initializer_list<TBindingScope> AScopes, const TStringArg& AExpression) {
     std::vector<UnicodeString> Parts = detail::TBoundPath::Split(AExpression);

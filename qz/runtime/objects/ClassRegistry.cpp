@@ -1,9 +1,11 @@
 #include <qz/runtime/objects/ClassRegistry.h>
 
+#include <memory>
 #include <mutex>
 #include <shared_mutex>
 #include <unordered_map>
 
+#include <qz/platform/Fork.h>
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/objects/Exceptions.h>
 
@@ -36,6 +38,11 @@ public:
         return Found == FItems.end() ? nullptr : Found->second;
     }
 
+    void BeginFork() { FMutex.lock(); }
+    void EndFork() { FMutex.unlock(); }
+    // The system's lock knows its owner by a number that the child does not have.
+    void BeginChild() { std::construct_at(&FMutex); }
+
 private:
     mutable std::shared_mutex FMutex;
     std::unordered_map<UnicodeString, TItem> FItems;
@@ -51,6 +58,24 @@ TNameTable<PTypeInfo>& Types() {
     static auto* const Table = new TNameTable<PTypeInfo>;
     return *Table;
 }
+
+[[maybe_unused]] const bool GIsWatched = [] {
+    platform::AroundFork(
+        platform::TForkRank::Classes,
+        [] {
+            Classes().BeginFork();
+            Types().BeginFork();
+        },
+        [] {
+            Types().EndFork();
+            Classes().EndFork();
+        },
+        [] {
+            Types().BeginChild();
+            Classes().BeginChild();
+        });
+    return true;
+}();
 
 } // namespace
 

@@ -65,10 +65,7 @@ std::atomic<const TFormatSettings*> GDefault{nullptr};
 std::mutex GChange;
 [[maybe_unused]] const bool GIsWatched = [] {
     TFormatSettings::Neutral(); // so that no fork happens while a thread makes it
-    platform::AroundFork(
-        platform::TForkRank::FormatSettings, [] { GChange.lock(); }, [] { GChange.unlock(); },
-        [] { GChange.unlock(); });
-    return true;
+    return platform::HoldAroundFork(platform::TForkRank::FormatSettings, [] { return &GChange; });
 }();
 
 const TFormatSettings& Install(const TFormatSettings& ASettings) {

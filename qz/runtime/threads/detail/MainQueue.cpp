@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <chrono>
+#include <memory>
 
+#include <qz/platform/Fork.h>
 #include <qz/platform/Threads.h>
 
 namespace qz {
@@ -40,6 +42,18 @@ TMainQueue& TMainQueue::Instance() {
     static auto* const Queue = new TMainQueue;
     return *Queue;
 }
+
+void TMainQueue::BeginChild() {
+    std::construct_at(&FChanged);
+    FMutex.unlock();
+}
+
+[[maybe_unused]] static const bool GIsWatched = [] {
+    platform::AroundFork(
+        platform::TForkRank::MainQueue, [] { TMainQueue::Instance().BeginFork(); },
+        [] { TMainQueue::Instance().EndFork(); }, [] { TMainQueue::Instance().BeginChild(); });
+    return true;
+}();
 
 // An exception of the wake procedure is dropped; the caller's work is queued.
 void TMainQueue::Add(TThread* AThread, TThreadProc AProc) {

@@ -23,6 +23,11 @@ public:
     void Poke();
     void SetWake(TThreadProc AProc);
 
+    void BeginFork() { FMutex.lock(); }
+    void EndFork() { FMutex.unlock(); }
+    // The threads that waited are not in the child, and what counted them is not valid there.
+    void BeginChild();
+
 private:
     struct TItem {
         TThread* Thread;

@@ -35,11 +35,8 @@ private:
 
 // Of all that follows, and of writes to GZoneState. Held around a fork, from the start of the program on.
 constinit TEarlyLock GLock;
-[[maybe_unused]] const bool GIsWatched = [] {
-    platform::AroundFork(
-        platform::TForkRank::Zone, [] { GLock.lock(); }, [] { GLock.unlock(); }, [] { GLock.unlock(); });
-    return true;
-}();
+[[maybe_unused]] const bool GIsWatched =
+    platform::HoldAroundFork(platform::TForkRank::Zone, [] { return &GLock; });
 
 struct TLoader {
     std::string Stamp;
