@@ -1,5 +1,5 @@
-// Any bytes in any code page become text, in as many units as was said, and the text becomes bytes in any other, which
-// say the same from then on.
+// Any bytes in any code page become text, in as many units as was said, and the text becomes bytes in any
+// other, which say the same from then on.
 
 #include "fuzz/Fuzz.h"
 #include <qz/common/uQzTypes.h>

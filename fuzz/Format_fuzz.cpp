@@ -1,5 +1,5 @@
-// Any pattern either writes its arguments or raises EConvertError; what it writes is bounded by the widths that a
-// pattern may ask for.
+// Any pattern either writes its arguments or raises EConvertError; what it writes is bounded by the widths
+// that a pattern may ask for.
 
 #include "fuzz/Fuzz.h"
 #include <qz/runtime/objects/Exceptions.h>

@@ -1,4 +1,5 @@
-// Text that is read as a number is written so that it reads back as the same one; any pattern writes any number.
+// Text that is read as a number is written so that it reads back as the same one; any pattern writes any
+// number.
 #include <cmath>
 #include <cstring>
 

@@ -1,6 +1,6 @@
-// Runs a fuzz target without a fuzzer: replay_NAME CORPUS_FOLDER
-// Every file of the folder (which need not exist) is an input, and so are a fixed number of inputs made from a
-// fixed seed: noise, text from a small alphabet, and files of the folder with a few bytes changed.
+// Runs a fuzz target without a fuzzer: replay_NAME CORPUS_FOLDER Every file of the folder (which need not
+// exist) is an input, and so are a fixed number of inputs made from a fixed seed: noise, text from a small
+// alphabet, and files of the folder with a few bytes changed.
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>

@@ -1,5 +1,5 @@
-// Dates put together, taken apart and moved, beside the calendar types of the standard library, the functions of C and
-// the dates of POCO. Each step takes another of a thousand dates of the years 1900 to 2100.
+// Dates put together, taken apart and moved, beside the calendar types of the standard library, the functions
+// of C and the dates of POCO. Each step takes another of a thousand dates of the years 1900 to 2100.
 #include <benchmark/benchmark.h>
 
 #include <Poco/DateTime.h>

@@ -1,5 +1,5 @@
-// TQzCriticalSection beside the re-entrant lock of the standard library, and the multi-read lock beside its shared
-// one.
+// TQzCriticalSection beside the re-entrant lock of the standard library, and the multi-read lock beside its
+// shared one.
 #include <benchmark/benchmark.h>
 
 #include <mutex>

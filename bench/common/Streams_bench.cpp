@@ -1,5 +1,5 @@
-// Streams in memory beside what a user would write by hand: many small writes beside std::vector growing by the same
-// step, and texts written into a UTF-8 stream beside ICU's conversion appended to a std::string.
+// Streams in memory beside what a user would write by hand: many small writes beside std::vector growing by
+// the same step, and texts written into a UTF-8 stream beside ICU's conversion appended to a std::string.
 #include <benchmark/benchmark.h>
 #include <unicode/ustring.h>
 

@@ -1,5 +1,6 @@
-// Local time and UTC, beside the functions of C, POCO's local dates and, as the least that can be, the addition of a fixed
-// offset with std::chrono. Each step takes another of a thousand moments of the years 1950 to 2060, in New York's zone.
+// Local time and UTC, beside the functions of C, POCO's local dates and, as the least that can be, the
+// addition of a fixed offset with std::chrono. Each step takes another of a thousand moments of the years
+// 1950 to 2060, in New York's zone.
 #include <benchmark/benchmark.h>
 
 #include <Poco/LocalDateTime.h>

@@ -1,5 +1,5 @@
-// Taking texts apart and replacing in them, beside what one would take otherwise: boost::split, and loops of find and
-// replace over std::u16string.
+// Taking texts apart and replacing in them, beside what one would take otherwise: boost::split, and loops of
+// find and replace over std::u16string.
 #include <benchmark/benchmark.h>
 
 #include <array>

@@ -1,6 +1,7 @@
-// Conversions between UTF-8 and UTF-16 beside ICU's, glibc's iconv and a plain loop. "caller" asks for the length and
-// then converts, as one does who makes a string; "ours" and the peers convert alone, into a target that is large enough.
-// The argument is the size of the text in bytes of UTF-8, about. Bytes per second are those of the source.
+// Conversions between UTF-8 and UTF-16 beside ICU's, glibc's iconv and a plain loop. "caller" asks for the
+// length and then converts, as one does who makes a string; "ours" and the peers convert alone, into a target
+// that is large enough. The argument is the size of the text in bytes of UTF-8, about. Bytes per second are
+// those of the source.
 #include <benchmark/benchmark.h>
 #include <iconv.h>
 #include <unicode/ustring.h>

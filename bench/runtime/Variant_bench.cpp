@@ -1,4 +1,5 @@
-// Copies of variants beside std::any, std::variant and POCO's dynamic value, and conversions beside the latter's.
+// Copies of variants beside std::any, std::variant and POCO's dynamic value, and conversions beside the
+// latter's.
 #include <benchmark/benchmark.h>
 
 #include <any>

@@ -4,7 +4,8 @@
 //     root.app.db.Appenders = errors, screen
 //     screen.class = TScreenAppender
 //
-// from the file that is given, or from the text below, and an appender of its own, found by the name of its class.
+// from the file that is given, or from the text below, and an appender of its own, found by the name of its
+// class.
 #include <qz/common/uQzLogAppenders.h>
 #include <qz/common/uQzLogLayouts.h>
 #include <qz/common/uQzLogger.h>

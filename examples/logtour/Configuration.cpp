@@ -18,8 +18,8 @@ constexpr int cFlushed = static_cast<int>(llFatal);
 constexpr int cAll = static_cast<int>(llTrace);
 constexpr int cFileSize = 16 << 20; // of a file of the family that rolls by size
 
-// A layout of the application's own, found by the name of its class: files hold anything, so control characters have to be
-// replaced for the document to stay well-formed.
+// A layout of the application's own, found by the name of its class: files hold anything, so control
+// characters have to be replaced for the document to stay well-formed.
 class TStrictXmlLayout : public TQzXmlLayout {
     QZ_CLASS(TStrictXmlLayout, TQzXmlLayout)
 
@@ -54,8 +54,8 @@ public:
 protected:
     explicit TConfigurator(const UnicodeString& ADirectory)
         : FValues{
-              // The lines of a file bear the name of the logger that has the appender, so each has all four; the one above
-              // keeps them, and their files open, from one file to the next.
+              // The lines of a file bear the name of the logger that has the appender, so each has all four;
+              // the one above keeps them, and their files open, from one file to the next.
               {u"root.tour.Level", cAll},
               {u"root.tour.Appenders", VarArrayOf({u"plain", u"sizes", u"days", u"table"})},
               {u"root.tour.*.Level", cAll},

@@ -1,5 +1,6 @@
-// Reads text files of any code page and logs their lines, by a tree of loggers that an application's configurator sets up, to
-// a plain file, two families of files and an XML document with its stylesheet; then tells what it did and how fast.
+// Reads text files of any code page and logs their lines, by a tree of loggers that an application's
+// configurator sets up, to a plain file, two families of files and an XML document with its stylesheet; then
+// tells what it did and how fast.
 #include <qz/common/uQzClasses.h>
 #include <qz/common/uQzLogger.h>
 #include <qz/common/uQzTypes.h>

@@ -1,5 +1,5 @@
-// Any logger, message and value in strict XML make a document that another's parser takes, and takes for what went in. The
-// layout is the same on all systems; the parser is at hand on this one.
+// Any logger, message and value in strict XML make a document that another's parser takes, and takes for what
+// went in. The layout is the same on all systems; the parser is at hand on this one.
 #include <algorithm>
 #include <cstring>
 #include <string>
@@ -47,7 +47,8 @@ private:
     std::vector<std::size_t> FOpen;
 };
 
-// What a reader of XML gets of a text: no character that XML knows nothing of, and line feeds for all ends of lines.
+// What a reader of XML gets of a text: no character that XML knows nothing of, and line feeds for all ends of
+// lines.
 std::string AsRead(std::u16string AText, bool AKeepsZeros) {
     if (!AKeepsZeros)
         std::erase(AText, u'\0');

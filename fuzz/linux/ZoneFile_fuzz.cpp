@@ -1,4 +1,5 @@
-// Any bytes as a compiled zone or a rule text are refused, or make a table that takes each local time back to its moment.
+// Any bytes as a compiled zone or a rule text are refused, or make a table that takes each local time back to
+// its moment.
 
 #include "fuzz/Fuzz.h"
 #include <qz/platform/linux/ZoneFile.h>

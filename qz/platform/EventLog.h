@@ -7,11 +7,12 @@
 //     Log.CloseSource(Source);
 //
 // On Linux writing waits while the queue of the daemon is full, at most a second for an event. The event is
-// lost then, and no later one waits until the daemon accepts one again. The journal receives the text as MESSAGE, with PRIORITY, SYSLOG_IDENTIFIER (the source) and EVENT_ID. The syslog
-// receives "source[process]: text", without the event number; control characters other than tab become # and
-// three octal digits, and a text over 8000 bytes becomes several messages. Priorities are 6 for information,
-// 5 for success, 4 for a warning, 3 for an error. Lone surrogates become U+FFFD. A source finds a daemon that
-// starts or restarts later. A stream connection is kept as long as the daemon holds its end.
+// lost then, and no later one waits until the daemon accepts one again. The journal receives the text as
+// MESSAGE, with PRIORITY, SYSLOG_IDENTIFIER (the source) and EVENT_ID. The syslog receives "source[process]:
+// text", without the event number; control characters other than tab become # and three octal digits, and a
+// text over 8000 bytes becomes several messages. Priorities are 6 for information, 5 for success, 4 for a
+// warning, 3 for an error. Lone surrogates become U+FFFD. A source finds a daemon that starts or restarts
+// later. A stream connection is kept as long as the daemon holds its end.
 //
 // On Windows a text over 31,000 units becomes several events, and U+0000 becomes U+2400. A source whose name
 // contains a backslash reports events but is not registered, since the registry would take the name for a

@@ -31,14 +31,14 @@ enum class TForkRank : std::uint8_t {
 
 // A handler of the application that was registered with pthread_atfork before the library runs while these
 // locks are held, and must not use the library. Calls ABefore on the forking thread before each fork(), and
-// after it AInParent in the parent or AInChild in the child. ABefore runs in the order of the ranks, the other
-// two in reverse order, whatever the order of registration. Each rank is registered once, at program start. Does
-// nothing on a system without fork().
+// after it AInParent in the parent or AInChild in the child. ABefore runs in the order of the ranks, the
+// other two in reverse order, whatever the order of registration. Each rank is registered once, at program
+// start. Does nothing on a system without fork().
 QZ_API void AroundFork(TForkRank ARank, void (*ABefore)(), void (*AInParent)(), void (*AInChild)());
 
-// Holds a lock around each fork(). AGetLock is a lambda without captures that gives a pointer to the lock, which the
-// child must be able to release: std::mutex and TCriticalSection, but not std::shared_mutex. Gives true, so
-// that a variable of the namespace can register it at program start.
+// Holds a lock around each fork(). AGetLock is a lambda without captures that gives a pointer to the lock,
+// which the child must be able to release: std::mutex and TCriticalSection, but not std::shared_mutex. Gives
+// true, so that a variable of the namespace can register it at program start.
 template <class TGetLock> bool HoldAroundFork(TForkRank ARank, TGetLock) {
     AroundFork(
         ARank, [] { TGetLock()()->lock(); }, [] { TGetLock()()->unlock(); }, [] { TGetLock()()->unlock(); });

@@ -1,5 +1,5 @@
-// Uses the library as an application does: derives from its classes, raises and catches its exceptions, and reads
-// its data across the border of the library.
+// Uses the library as an application does: derives from its classes, raises and catches its exceptions, and
+// reads its data across the border of the library.
 #include <qz/common/Version.h>
 #include <qz/common/uQzClasses.h>
 #include <qz/common/uQzSysUtils.h>

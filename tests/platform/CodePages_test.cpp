@@ -268,8 +268,8 @@ std::string Hex(uint64_t AValue) {
     return (std::ostringstream() << std::hex << AValue).str();
 }
 
-// Of each code that means a character, and of that character, which some code encodes. Strict decoding refuses a
-// byte of the private area.
+// Of each code that means a character, and of that character, which some code encodes. Strict decoding
+// refuses a byte of the private area.
 uint64_t DecodingDigest(uint32_t APage) {
     TDigest Result;
     for (int Code = 0; Code < 0x10000; ++Code) {

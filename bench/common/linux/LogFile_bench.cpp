@@ -1,5 +1,6 @@
-// A line of a log file per call, beside spdlog, log4cplus and POCO with the same content: with every line in the kernel when
-// the call returns, beside a bare write of the same bytes, and with buffers; and what it costs to roll over.
+// A line of a log file per call, beside spdlog, log4cplus and POCO with the same content: with every line in
+// the kernel when the call returns, beside a bare write of the same bytes, and with buffers; and what it
+// costs to roll over.
 #include <benchmark/benchmark.h>
 
 #include <fcntl.h>

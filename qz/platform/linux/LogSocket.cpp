@@ -44,8 +44,8 @@ TSent OutcomeOf(int ACode) noexcept {
     }
 }
 
-// Makes a call without waiting, and with waiting as long as that fails for a full queue. ACall takes the flags
-// of the call and gives its result.
+// Makes a call without waiting, and with waiting as long as that fails for a full queue. ACall takes the
+// flags of the call and gives its result.
 template <class TCall> ssize_t Patiently(const TLogSocket& ASocket, TLogDeadline ADeadline, TCall ACall) {
     int Flags = MSG_DONTWAIT | MSG_NOSIGNAL;
     for (;;) {

@@ -12,8 +12,8 @@ namespace qz::platform::detail {
 constexpr std::size_t cLongestZoneFile = std::size_t{1} << 20;
 
 // Fills in all but the Id. False, and AZone unchanged, for data that is cut off or breaks the format before
-// its footer. A footer that cannot be read counts as empty. Leap seconds are not counted: the second in which a "right/" file changes is that of its
-// own clock.
+// its footer. A footer that cannot be read counts as empty. Leap seconds are not counted: the second in which
+// a "right/" file changes is that of its own clock.
 bool ReadZoneFile(std::span<const std::byte> AData, TSystemZone& AZone);
 
 } // namespace qz::platform::detail

@@ -168,8 +168,8 @@ private:
 QZ_API UnicodeString SysErrorMessage(std::int32_t ACode);
 
 // Hands the exception that is being handled to AHandler as an Exception; for use in a catch block. What is no
-// Exception comes as one with the same message, or "Unknown exception". Inline, since a library that is linked
-// dynamically by mingw cannot rethrow what its caller handles.
+// Exception comes as one with the same message, or "Unknown exception". Inline, since a library that is
+// linked dynamically by mingw cannot rethrow what its caller handles.
 inline void HandleException(const std::function<void(Exception&)>& AHandler) {
     try {
         throw;

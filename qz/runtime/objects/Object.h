@@ -8,9 +8,9 @@
 //     auto Shape = TShape::Create();        // TOwned<TShape>; a counted class gives a TShape* instead
 //     Shape->ClassName();                   // "TShape"
 //
-// An object of an ordinary class is an ordinary C++ object: on the stack, a member, or held by
-// TOwned, which runs BeforeDestruction. Objects of the counted families (see Interface.h) are made by Create only and ended by
-// Free or by their last reference.
+// An object of an ordinary class is an ordinary C++ object: on the stack, a member, or held by TOwned, which
+// runs BeforeDestruction. Objects of the counted families (see Interface.h) are made by Create only and ended
+// by Free or by their last reference.
 #pragma once
 
 #include <memory>

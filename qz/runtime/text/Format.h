@@ -12,8 +12,8 @@
 //     p       a pointer in 16 hexadecimal digits
 //     e f g n m   a float: scientific, fixed, general, fixed with thousand separators, money
 //
-// A pattern or an argument that does not fit raises EConvertError whose text quotes the pattern. All functions
-// are pure and may run on any number of threads.
+// A pattern or an argument that does not fit raises EConvertError whose text quotes the pattern. All
+// functions are pure and may run on any number of threads.
 #pragma once
 
 #include <qz/runtime/base/StringArg.h>
@@ -26,8 +26,8 @@ namespace qz {
 QZ_API UnicodeString Format(const TStringArg& APattern, TVarRecs AArgs);
 QZ_API UnicodeString Format(const TStringArg& APattern, TVarRecs AArgs, const TFormatSettings& ASettings);
 
-// Raises what Format would raise for the pattern and the arguments, without building the text. Narrow patterns
-// are UTF-8.
+// Raises what Format would raise for the pattern and the arguments, without building the text. Narrow
+// patterns are UTF-8.
 QZ_API void CheckFormat(std::u16string_view APattern, TVarRecs AArgs);
 QZ_API void CheckFormat(std::string_view APattern, TVarRecs AArgs);
 

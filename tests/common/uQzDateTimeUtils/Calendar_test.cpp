@@ -194,7 +194,8 @@ TEST(Calendar, IntegersAreYearsAndFloatsAreDates) {
 }
 
 TEST(TimeZones, FindsByAbbreviationAndByName) {
-    // "Samoa" is the Windows name of UTC+13.2 too, "Greenwich" the name of GMT-S, "singapore" one that a skipped row has.
+    // "Samoa" is the Windows name of UTC+13.2 too, "Greenwich" the name of GMT-S, "singapore" one that a
+    // skipped row has.
     for (const auto& Case :
          Rows(u"IST => IST => 60", u"UTC+13.2 => UTC+13.2 => 780", u"LINT => LINT => 840",
               u"central european time => CET => 60", u"CENTRAL EUROPEAN STANDARD TIME => UTC+1.3 => 60",

@@ -15,7 +15,8 @@
 namespace qz {
 namespace {
 
-// One variant of each type. Values are their codes modulo 100, so that a result tells by itself what it came from.
+// One variant of each type. Values are their codes modulo 100, so that a result tells by itself what it came
+// from.
 std::vector<Variant> Samples() {
     std::vector<Variant> Result;
     const auto Add = [&Result](const auto&... AValues) { (Result.emplace_back(AValues), ...); };
@@ -40,7 +41,8 @@ const UnicodeString& Show(const UnicodeString& AValue) {
     return AValue;
 }
 
-// What a function makes of each sample: its number (=), the default (d), a truth (T, F), another text (?), an error (!).
+// What a function makes of each sample: its number (=), the default (d), a truth (T, F), another text (?), an
+// error (!).
 template <class TCall> std::string Marks(const UnicodeString& AKind, TCall ACall) {
     std::string Result;
     for (const Variant& Sample : Samples()) {

@@ -40,7 +40,8 @@ public:
         unlink(FPath.c_str());
     }
 
-    // The next datagram, the content of the file that came in its place, or "-"; of a stream, see TakeStream().
+    // The next datagram, the content of the file that came in its place, or "-"; of a stream, see
+    // TakeStream().
     std::string Take() {
         if (FType == SOCK_STREAM)
             return TakeStream();

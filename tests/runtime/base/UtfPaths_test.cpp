@@ -1,5 +1,5 @@
-// Every way of converting that this machine can go, beside a plain decoder. Sources are of their exact size, so that
-// a sanitizer sees a read beyond them; targets have a canary behind what is promised to be enough.
+// Every way of converting that this machine can go, beside a plain decoder. Sources are of their exact size,
+// so that a sanitizer sees a read beyond them; targets have a canary behind what is promised to be enough.
 #include <qz/runtime/base/detail/UtfPaths.h>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
-// The conversions as plainly as they can be said, from the definition of the forms: what the fast ones must equal.
+// The conversions as plainly as they can be said, from the definition of the forms: what the fast ones must
+// equal.
 #pragma once
 
 #include <bit>
@@ -13,8 +14,8 @@ inline bool IsCodePoint(std::uint32_t AValue) {
     return AValue <= 0x10FFFF && (AValue < 0xD800 || AValue > 0xDFFF);
 }
 
-// Whether ABytes begin a well-formed sequence: some values that are in order have such a beginning. ACode becomes
-// the least of them, which is the one there is when the sequence is whole; ASize its size.
+// Whether ABytes begin a well-formed sequence: some values that are in order have such a beginning. ACode
+// becomes the least of them, which is the one there is when the sequence is whole; ASize its size.
 inline bool BeginsSequence(std::string_view ABytes, std::uint32_t& ACode, std::size_t& ASize) {
     const auto Lead = static_cast<unsigned char>(ABytes[0]);
     ASize = Lead < 0x80 ? 1u : Lead < 0xC0 ? 0u : Lead < 0xE0 ? 2u : Lead < 0xF0 ? 3u : Lead < 0xF8 ? 4u : 0u;

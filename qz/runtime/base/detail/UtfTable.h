@@ -14,8 +14,8 @@ inline constexpr std::uint8_t cNoByte = 0x80;
 
 template <std::size_t cCount> struct TShuffleTable { alignas(16) std::array<TShuffle, cCount> Rows; };
 
-// Closes the gaps: of AGroups groups of ASize bytes each, group I stays with the bytes from AFirst(Row, I) up to
-// AEnd(Row, I), both counted within the group.
+// Closes the gaps: of AGroups groups of ASize bytes each, group I stays with the bytes from AFirst(Row, I) up
+// to AEnd(Row, I), both counted within the group.
 template <std::size_t cRows, class TFirst, class TEnd>
 constexpr TShuffleTable<cRows> MakeShuffles(std::size_t AGroups, TFirst AFirst, TEnd AEnd) {
     TShuffleTable<cRows> Result{};
@@ -64,15 +64,17 @@ inline constexpr auto cKeepValues = MakeShuffles<16>(
     4, [](std::size_t, std::size_t) { return std::size_t{0}; },
     [](std::size_t ARow, std::size_t AIndex) { return 4 * BitOf(ARow, AIndex); });
 
-// What two bytes in a row can have wrong. A fault is there when the first byte's upper half, its lower half and the
-// second byte's upper half are each in a set of values; so each rule is three sets, with bit N for the value N.
+// What two bytes in a row can have wrong. A fault is there when the first byte's upper half, its lower half
+// and the second byte's upper half are each in a set of values; so each rule is three sets, with bit N for
+// the value N.
 struct TUtf8Rule {
     std::uint16_t FirstHigh;
     std::uint16_t FirstLow;
     std::uint16_t SecondHigh;
 };
 
-// The last rule, bit 7, is a fault only where no third or fourth byte of a character is due; there its absence is.
+// The last rule, bit 7, is a fault only where no third or fourth byte of a character is due; there its
+// absence is.
 inline constexpr TUtf8Rule cUtf8Rules[8] = {
     {0xF000, 0xFFFF, 0xF0FF}, // a lead, then no continuation
     {0x00FF, 0xFFFF, 0x0F00}, // ASCII, then a continuation

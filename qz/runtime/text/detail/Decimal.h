@@ -20,8 +20,8 @@ struct TDecimal {
 
     // Keeps ACount digits, which may be none or fewer than none, rounding half away from zero.
     void Round(int ACount) noexcept;
-    // Keeps the ACount digits that are nearest to AValue, which this was made from; of two as near the one away
-    // from zero.
+    // Keeps the ACount digits that are nearest to AValue, which this was made from; of two as near the one
+    // away from zero.
     void RoundNearest(double AValue, int ACount) noexcept;
     // The digit at a place counted from 0, also in front of the digits and after them.
     char16_t Digit(int AIndex) const noexcept {

@@ -56,7 +56,8 @@ TEST(LocalZoneLinux, OffsetsAsTextAndAsParts) {
     }
 }
 
-// The names of Windows are those that are known elsewhere, but for a few that are gone or written in another way.
+// The names of Windows are those that are known elsewhere, but for a few that are gone or written in another
+// way.
 TEST(TimeZonesLinux, WindowsNamesAreKnown) {
     const std::set<std::u16string_view> cOthers = {u"Altai Standard", u"N. Central Asia Standard",
                                                    u"Mid-Atlantic Standard Time", u"Kamchatka Standard Time"};

@@ -161,8 +161,8 @@ TEST(TimeZoneLinux, RuleTextsAreTakenAsTheCLibraryTakesThem) {
           "ABC", "AB5", "<+3>-3", "nosuch", "", ":", "::Europe/Paris", "/etc/passwd", "Europe", "/dev/zero",
           "ABC:5", "ABC 5"})
         EXPECT_EQ(CheckZone(Text, cFrom, cTo).Wrong, "") << Text;
-    // RFC 8536 gives the second as an example of daylight saving time all year. The C library has standard time for
-    // some hours of New Year.
+    // RFC 8536 gives the second as an example of daylight saving time all year. The C library has standard
+    // time for some hours of New Year.
     for (const char* Text : {"EST5EDT,0/0,J365/25", "XXX3EDT4,0/0,J365/23"}) {
         TZoneOfTheEnvironment::Set(Text);
         for (std::int64_t Moment = cFrom; Moment < cTo; Moment += 3600)
@@ -223,7 +223,8 @@ TEST(TimeZoneLinux, KnownMoments) {
     EXPECT_EQ(Zone.ToUniversalTime(Twice), EncodeDateTime(2024, 10, 27, 1, 30, 0, 250));
     EXPECT_EQ(Zone.ToUniversalTime(Twice, true), EncodeDateTime(2024, 10, 27, 0, 30, 0, 250));
     EXPECT_EQ(Zone.GetDisplayName(Twice, true), u"CEST");
-    // Before day 0 the fraction runs against the time; the mean time of Paris was 9 minutes and 21 seconds ahead.
+    // Before day 0 the fraction runs against the time; the mean time of Paris was 9 minutes and 21 seconds
+    // ahead.
     EXPECT_EQ(Zone.ToLocalTime(EncodeDateTime(1880, 5, 1, 23, 55, 0, 500)),
               EncodeDateTime(1880, 5, 2, 0, 4, 21, 500));
     EXPECT_NEAR(Now(), Zone.ToLocalTime(NowUTC()), 10.0 / SecsPerDay); // by LocalClock()
