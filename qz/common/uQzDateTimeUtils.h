@@ -20,3 +20,15 @@
 // QzUTCToLocal, QzLocalToUTC, QzLocalTimeZone and their
 // kin: the zone of this machine.
 #include <qz/common/uQzDateTimeUtils/LocalZone.h>
+// TQzDateTimeParts and QzDecodeISODateTime: ISO 8601
+// as the numbers that a text holds.
+#include <qz/common/uQzDateTimeUtils/DateTimeParts.h>
+// QzDateTimeToISOStr, QzISOStrToDateTime and their
+// kin: texts of ISO 8601.
+#include <qz/common/uQzDateTimeUtils/ISOStrings.h>
+// ConvertDateTimeToLUO, QzStrToDateTime:
+// other texts of dates.
+#include <qz/common/uQzDateTimeUtils/SpelledDates.h>
+// QzTimeToStr, QzStrToTimeToInt:
+// lengths of time and times of day.
+#include <qz/common/uQzDateTimeUtils/TimeStrings.h>
