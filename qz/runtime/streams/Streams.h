@@ -5,3 +5,4 @@
 #include <qz/runtime/streams/MemoryStream.h>
 #include <qz/runtime/streams/Stream.h>
 #include <qz/runtime/streams/StringStream.h>
+#include <qz/runtime/streams/ZStreams.h>
