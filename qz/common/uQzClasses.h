@@ -52,3 +52,6 @@
 // TQzMemoList, texts of many lines,
 // each under a code of its own.
 #include <qz/common/uQzClasses/QzMemoList.h>
+// TQzDN, a distinguished name,
+// as in the subject of a certificate.
+#include <qz/common/uQzClasses/DistinguishedName.h>
