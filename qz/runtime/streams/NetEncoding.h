@@ -1,6 +1,6 @@
 // TNetEncoding: an encoding of bytes as text for the network, as an object; TBase64Encoding and THTMLEncoding.
 //
-//     TNetEncoding::Base64().EncodeBytesToString(Bytes);     // lines of 76 characters
+//     TNetEncoding::Base64().EncodeBytesToString(TBytes(90));     // lines of 76 characters
 //     TBase64Encoding(0).Encode(u"Zoë");                     // one line, of the UTF-8 form
 //     TNetEncoding::HTML().Encode(u"a < b");                 // "a &lt; b"
 //

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include <qz/runtime/base/UtfForms.h>
-#include <qz/runtime/text/detail/BinaryScalar.h>
+#include <qz/runtime/text/detail/BinaryPaths.h>
 
 namespace qz {
 namespace {
@@ -33,19 +33,19 @@ std::byte* Start(const TBytes& ABytes) noexcept {
 } // namespace
 
 char* BytesToBase64(std::span<const std::byte> ABytes, TBase64Alphabet AAlphabet, char* ADest) noexcept {
-    return detail::ScalarBytesToBase64(ABytes.data(), ABytes.data() + ABytes.size(), AAlphabet, ADest);
+    return detail::BestBinaryPath().BytesToBase64(ABytes, AAlphabet, ADest);
 }
 
 std::byte* Base64ToBytes(std::string_view AText, std::byte* ADest) noexcept {
-    return detail::ScalarBase64ToBytes(AText.data(), AText.data() + AText.size(), ADest);
+    return detail::BestBinaryPath().Base64ToBytes(AText, ADest);
 }
 
 char* BytesToHex(std::span<const std::byte> ABytes, char* ADest) noexcept {
-    return detail::ScalarBytesToHex(ABytes.data(), ABytes.data() + ABytes.size(), ADest);
+    return detail::BestBinaryPath().BytesToHex(ABytes, ADest);
 }
 
 std::byte* HexToBytes(std::string_view AText, std::byte* ADest) noexcept {
-    return detail::ScalarHexToBytes(AText.data(), AText.data() + AText.size(), ADest);
+    return detail::BestBinaryPath().HexToBytes(AText, ADest);
 }
 
 UnicodeString Base64Text(std::span<const std::byte> ABytes, TBase64Alphabet AAlphabet) {

@@ -1,9 +1,10 @@
 // Bytes as Base64 (RFC 4648) and as hexadecimal text, and back, between blocks of memory.
 //
-//     char Text[8];
-//     char* End = BytesToBase64(Bytes, TBase64Alphabet::Standard, Text);   // Base64Length of them
-//     std::vector<std::byte> Back(Base64Room(8));
-//     Back.resize(static_cast<std::size_t>(Base64ToBytes({Text, End}, Back.data()) - Back.data()));
+//     const std::byte Bytes[] = {std::byte{0xFB}, std::byte{0xEF}};
+//     char Text[Base64Length(sizeof Bytes, TBase64Alphabet::Standard)];
+//     char* End = BytesToBase64(Bytes, TBase64Alphabet::Standard, Text); // ++8=
+//     std::byte Back[Base64Room(sizeof Text)];
+//     std::byte* BackEnd = Base64ToBytes({Text, End}, Back);             // two bytes after Back
 //
 // Nothing fails. Targets have the room that the contract states and are not written to beyond it; they do not
 // overlap the source. All functions may run on any number of threads.

@@ -1,7 +1,7 @@
 // TUtf8Form: the UTF-8 form of a 16-bit text for the duration of a call; short text takes no allocation.
 //
 //     const TUtf8Form Bytes(u"Zoë");
-//     Send(Bytes.View());
+//     Show(Bytes.View());
 //
 // Ill-formed text is converted as Utf.h states. An object belongs to one thread.
 #pragma once

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -64,6 +65,18 @@ inline void DecodeNextFour(const char*& AHere, const char* AEnd, std::byte*& ADe
         *ADest++ = static_cast<std::byte>(Bits >> 10);
     if (Count >= 2)
         *ADest++ = static_cast<std::byte>(Count == 3 ? Bits >> 2 : Bits >> 4);
+}
+
+// Goes on after a vector of characters that is decoded and in which those with a bit in ABad are not in the
+// alphabets. ABad is not 0.
+inline void GoPastBad(std::uint32_t ABad, const char*& AHere, const char* AEnd, std::byte*& ADest) noexcept {
+    const int Good = std::countr_zero(ABad);
+    AHere += Good / 4 * 4;
+    ADest += Good / 4 * 3;
+    if (Good % 4 == 0)
+        AHere += std::countr_one(ABad >> Good);
+    else
+        DecodeNextFour(AHere, AEnd, ADest);
 }
 
 inline std::byte* ScalarBase64ToBytes(const char* AHere, const char* AEnd, std::byte* ADest) noexcept {
