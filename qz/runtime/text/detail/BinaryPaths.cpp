@@ -1,0 +1,55 @@
+#include <qz/runtime/text/detail/BinaryPaths.h>
+
+#include <qz/platform/Machine.h>
+#include <qz/runtime/text/detail/BinaryScalar.h>
+
+namespace qz::detail {
+namespace {
+
+char* BytesToBase64(std::span<const std::byte> ABytes, TBase64Alphabet AAlphabet, char* ADest) noexcept {
+    return ScalarBytesToBase64(ABytes.data(), ABytes.data() + ABytes.size(), AAlphabet, ADest);
+}
+
+std::byte* Base64ToBytes(std::string_view AText, std::byte* ADest) noexcept {
+    return ScalarBase64ToBytes(AText.data(), AText.data() + AText.size(), ADest);
+}
+
+char* BytesToHex(std::span<const std::byte> ABytes, char* ADest) noexcept {
+    return ScalarBytesToHex(ABytes.data(), ABytes.data() + ABytes.size(), ADest);
+}
+
+std::byte* HexToBytes(std::string_view AText, std::byte* ADest) noexcept {
+    return ScalarHexToBytes(AText.data(), AText.data() + AText.size(), ADest);
+}
+
+const TBinaryPath* const cPaths[] = {
+    &cBinaryPortablePath,
+#ifdef __x86_64__
+    &cBinarySse4Path,
+    &cBinaryAvx2Path,
+#endif
+};
+
+constinit platform::TChosenPath<TBinaryPath> Best(cBinaryPortablePath);
+
+[[maybe_unused]] const bool cIsChosen = Best.Choose(*BinaryPaths().back());
+
+} // namespace
+
+constinit const TBinaryPath cBinaryPortablePath = {
+    .Name = "portable",
+    .BytesToBase64 = BytesToBase64,
+    .Base64ToBytes = Base64ToBytes,
+    .BytesToHex = BytesToHex,
+    .HexToBytes = HexToBytes,
+};
+
+std::span<const TBinaryPath* const> BinaryPaths() noexcept {
+    return {cPaths, static_cast<std::size_t>(platform::BestMachine()) + 1};
+}
+
+const TBinaryPath& BestBinaryPath() noexcept {
+    return *Best;
+}
+
+} // namespace qz::detail
