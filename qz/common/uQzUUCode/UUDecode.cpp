@@ -66,8 +66,9 @@ public:
         const char* const LineEnd = std::min(FCarriageReturn, FLineFeed);
         ALine = {FPos, static_cast<std::size_t>(LineEnd - FPos)};
         FPos = LineEnd;
-        if (FPos < FEnd && FPos++ == FCarriageReturn && FPos == FLineFeed)
-            ++FPos;
+        // A line end that is not there is at the end of the text.
+        if (FPos < FEnd)
+            FPos += LineEnd == FCarriageReturn && LineEnd + 1 < FEnd && LineEnd + 1 == FLineFeed ? 2 : 1;
         if (FCarriageReturn < FPos)
             FCarriageReturn = Find('\r');
         if (FLineFeed < FPos)

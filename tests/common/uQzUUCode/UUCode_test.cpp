@@ -64,22 +64,23 @@ TEST(UUCode, ReadsBackAnyBytesOfAnyLength) {
 }
 
 TEST(UUCode, ReadsWhatTheRulesAllowAndRefusesTheRest) {
-    for (const auto& Row :
-         Rows(u"begin 644 a b|#0V%T|`|end => Cat; a b 644", u"BEGIN 0007 |#0V%T|`|END|more => Cat;  7",
-              u"begin 644|#0V%T|`|end => Cat;  644", u"begin 1 x|!00``|`|end => A; x 1",
-              u"begin 1 x|!00|`|end => A; x 1", u"begin 1 x|\"04(|`|end => AB; x 1",
-              u"begin 1 x|#0V%Tignored|`|end => Cat; x 1", u"begin 1 x|`|`|end => ; x 1",
-              u"begin 1 x|#0V%T|#0V%T|`|end => CatCat; x 1",
-              u"begin 1 x|`|end => ; Exception: Unexpected EOF", u"begin 1 x => ; Exception: Unexpected EOF",
-              u" => ; Exception: Unexpected EOF", u"begin 1 x|#0V%T => Cat; Exception: Unexpected EOF",
-              u"begin 1 x|#0V%T|` => Cat; Exception: Unexpected EOF",
-              u"begin 1 x|#0V%T|` |end => Cat; Exception: Unexpected EOF",
-              u"begin 1 x|#0V%T||`|end => Cat; Exception: Invalid UUData",
-              u"begin 1 x||`|end => ; Exception: Invalid UUData", u"begin => ; Exception: Invalid UUData",
-              u"begin  => ; Exception: Invalid UUData", u"begin 0 x => ; Exception: Invalid UUData",
-              u"begin 65536 x => ; Exception: Invalid UUData", u"begin -1 x => ; Exception: Invalid UUData",
-              u"begin $1 x => ; Exception: Invalid UUData",
-              u"first|begin 1 x => ; Exception: Invalid UUData")) {
+    for (const auto& Row : Rows(
+             u"begin 644 a b|#0V%T|`|end => Cat; a b 644", u"BEGIN 0007 |#0V%T|`|END|more => Cat;  7",
+             u"begin 644|#0V%T|`|end => Cat;  644", u"begin 1 x|!00``|`|end => A; x 1",
+             u"begin 1 x|!00|`|end => A; x 1", u"begin 1 x|\"04(|`|end => AB; x 1",
+             u"begin 1 x|#0V%Tignored|`|end => Cat; x 1", u"begin 1 x|`|`|end => ; x 1",
+             u"begin 1 x|#0V%T|#0V%T|`|end => CatCat; x 1", u"begin 1 x|`|end => ; Exception: Unexpected EOF",
+             u"begin 1 x|#0V%T| => Cat; Exception: Unexpected EOF",
+             u"begin 1 x => ; Exception: Unexpected EOF", u" => ; Exception: Unexpected EOF",
+             u"begin 1 x|#0V%T => Cat; Exception: Unexpected EOF",
+             u"begin 1 x|#0V%T|` => Cat; Exception: Unexpected EOF",
+             u"begin 1 x|#0V%T|` |end => Cat; Exception: Unexpected EOF",
+             u"begin 1 x|#0V%T||`|end => Cat; Exception: Invalid UUData",
+             u"begin 1 x||`|end => ; Exception: Invalid UUData", u"begin => ; Exception: Invalid UUData",
+             u"begin  => ; Exception: Invalid UUData", u"begin 0 x => ; Exception: Invalid UUData",
+             u"begin 65536 x => ; Exception: Invalid UUData", u"begin -1 x => ; Exception: Invalid UUData",
+             u"begin $1 x => ; Exception: Invalid UUData",
+             u"first|begin 1 x => ; Exception: Invalid UUData")) {
         for (const std::string_view LineEnd : {"\r\n", "\n", "\r"}) {
             const std::string Text = TextOf(Row[0], LineEnd);
             TStringList Lines;
