@@ -1,5 +1,5 @@
-// TQzDN: a distinguished name (X.500, as in the subject of a certificate) as a list of names with their values,
-// read from and written to its text form.
+// TQzDN: a distinguished name (X.500, as in the subject of a certificate) as a list of names with their
+// values, read from and written to its text form.
 //
 //     TQzDN Subject = u"CN=Anna, OU=Sales, O=\"Smith, Jones\"";
 //     Subject.Values(u"ou");                      // "Sales"
@@ -8,10 +8,10 @@
 //     for (const TQzRDN& Entry : Subject)
 //         Show(Entry.FName, Entry.FValue);
 //
-// Entries stay in the order of the text, separated by commas. Comparison ignores the order of the entries and
-// the case of letters, by the simple mapping of Unicode. Copies share their entries: one that is set through a
-// copy is seen through the others, until one of them adds or deletes. Different handles may be used by
-// different threads as long as none sets a shared entry.
+// Entries stay in the order of the text, where commas separate them. Comparison ignores the order of the
+// entries and, by the simple mapping of Unicode, the case of letters. Copies share their entries: a change by
+// SetName or SetValue appears in all copies, until one of them adds or deletes. Different threads may use
+// different copies if none changes a shared entry.
 #pragma once
 
 #include <compare>
@@ -52,16 +52,16 @@ public:
     static TQzDN Empty() noexcept { return GetEmpty(); }
     static TQzDN GetEmpty() noexcept { return {}; }
 
-    // Replaces the content. A name ends at "=" and is trimmed; blanks before a value are skipped; a value ends
-    // at a comma. In a value "\" stands before a blank or one of "#+,/;<=>\ and before two hex digits, which
-    // give the character of that number, 1 to 255. Any other two characters after "\" stand for themselves. A
-    // value in quotes may contain a comma, but the second of two in a row ends it; quotes elsewhere are dropped. A
-    // text without "=" is a name with an empty value. Raises EQzTextParserEOF, "Unexpected EOF", for a quote
-    // that is not closed and an escape that the end cuts; the content is as before then.
+    // Replaces the content. A name ends at "=" and is trimmed; blanks before a value are skipped; a value
+    // ends at a comma. In a value, "\" escapes a blank and each of "#+,/;<=>\. With two hex digits it gives
+    // the character of that number, 1 to 255; any other two characters after it stand for themselves. A value
+    // in quotes may contain commas, but of two in a row the second ends it. Other quotes are dropped. A text
+    // without "=" is a name with an empty value. Raises EQzTextParserEOF, "Unexpected EOF", for a quote that
+    // is not closed and an escape that is cut off; the content then stays as it was.
     void ParseDN(const TStringArg& AText);
-    // The text form, without blanks around commas. Special characters, the first "#", and blanks at both ends
-    // of a value are escaped; line feed and carriage return are \0A and \0D. A character after blanks within a value
-    // is written as it is, so "a ,b" as a value does not read back.
+    // The text form, without blanks around commas. Special characters, "#" at the start, and blanks at both
+    // ends of a value are escaped; line feed and carriage return become \0A and \0D. The character after
+    // blanks within a value is never escaped, so the value "a ,b" does not read back.
     operator UnicodeString() const;
 
     int Count() const noexcept { return static_cast<int>(FData.Length()); }

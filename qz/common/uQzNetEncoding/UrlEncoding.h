@@ -30,17 +30,17 @@ class QZ_API TURLEncoding : public TObject {
 public:
     TURLEncoding() = default;
 
-    // Encodes bytes of the UTF-8 form: always 0 to 32, and those of AUnsafeChars, which by default are
-    // !#$&'()*+,/:;=?@[]. Any other byte of AUnsafeChars is dropped, as it has no escape. A percent sign stays as
-    // it is unless it is dropped. The UTF-8 bytes of characters beyond ASCII are read as text of the system's
-    // code page: where that is UTF-8 the characters stay as they are.
+    // Escapes bytes of the UTF-8 form: 0 to 32 always, and those of !#$&'()*+,/:;=?@[] that are in
+    // AUnsafeChars. An empty set stands for all of these. Any other byte of AUnsafeChars has no escape and is
+    // dropped. A percent sign is no unsafe character by default and stays. The UTF-8 bytes of characters
+    // beyond ASCII are read in the system's code page: if that is UTF-8, the characters stay.
     UnicodeString Encode(const TStringArg& AValue, const TUnsafeChars& AUnsafeChars = {},
                          TEncodeOptions AOptions = {}) const;
 
-    // Each "%" and two hex digits is a byte; the bytes, and all other characters in the system's code page, are
-    // read as UTF-8. Control characters right after "%" are ignored. Raises EConvertError, "'$zz' is not a valid
-    // integer value", for other characters than hex digits, and EQzTextParserEOF, "Unexpected EOF", for fewer
-    // than two of them.
+    // "%" and two hex digits are a byte; other characters are their bytes in the system's code page. All the
+    // bytes together are read as UTF-8. Control characters right after "%" are ignored. Raises EConvertError,
+    // "'$zz' is not a valid integer value", for characters that are no hex digits, and EQzTextParserEOF,
+    // "Unexpected EOF", for fewer than two characters.
     UnicodeString Decode(const TStringArg& AValue, TDecodeOptions AOptions = {}) const;
 };
 

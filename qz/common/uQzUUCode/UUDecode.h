@@ -1,20 +1,20 @@
 // QzUUDecode: reads uuencoded text.
 //
-//     const TQzUUData Data = QzUUDecode(Mail, u"photo.jpg", Target);  // passes over what stands before it
+//     const TQzUUData Data = QzUUDecode(Lines, u"photo.jpg", Target); // passes over what stands before it
 //     Data.FileName;                                                  // "photo.jpg"
 //     Data.Mode;                                                      // 644, the digits of the header
 //
-// Without a file name the header is the first line. It is "begin", a blank, the mode in decimal digits, a
-// blank, and the name with all that follows on the line. The name may be missing. "`" and a blank are both the
-// value 0; of any other character the lowest six bits of its distance from the blank count, so no data
-// is invalid. Characters missing at the end of a data line are taken as blanks, which mail programs cut off. A
-// byte after the given count is ignored.
+// Without a file name the header is the first line. It holds "begin", the mode in decimal digits, and the
+// name up to the end of the line, with a blank between them; the name may be missing. In data, "`" and a
+// blank are the value 0. Of any character the lowest six bits of its distance from the blank count, so no
+// data is invalid. Characters missing at the end of a data line count as blanks, since some programs cut
+// these off. Characters beyond the promised number of bytes are ignored.
 //
-// The functions raise Exception, "Invalid UUData", for a line that should be a header and is none, a mode
-// that is no number from 1 to 65535, and an empty data line; "Unexpected EOF" where the lines end before a
-// header, a data line or the two lines "`" and "end". At least one data line is expected, so the
-// text of an empty file raises "Unexpected EOF". The bytes before the fault are in the output then. The
-// functions may run on any number of threads with streams and lists of their own.
+// The functions raise Exception, "Invalid UUData", for a header without "begin ", a mode that is no number
+// from 1 to 65535, and an empty data line. They raise "Unexpected EOF" if the lines end before a header, a
+// data line, or the two lines "`" and "end". At least one data line is required, so the text of an empty file
+// raises "Unexpected EOF". The output then holds the bytes before the fault. Threads may call the functions
+// at the same time, each with its own streams and lists.
 #pragma once
 
 #include <qz/runtime/lists/Strings.h>

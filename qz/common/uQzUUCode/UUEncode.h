@@ -7,9 +7,9 @@
 //     `
 //     end
 //
-// Each line ends with CR LF, except the last. A data line holds up to 45 bytes; its first character is 32 plus
-// their count. The six-bit value 0 is a blank. The input is read from its position to its end, in blocks. The
-// functions may run on any number of threads with streams of their own.
+// Each line ends with CR LF, except the last. A data line holds up to 45 bytes; its first character is 32
+// plus their number. The six-bit value 0 is a blank. The input is read in blocks, from its position to its
+// end. Threads may call the functions at the same time, each with its own streams.
 #pragma once
 
 #include <qz/runtime/base/StringArg.h>
@@ -18,9 +18,9 @@
 
 namespace qz {
 
-// Writes at the position of the output. The mode appears as a decimal number, the name in code page 0 as it
-// is: a line end in it makes a text that cannot be decoded. Raises what the streams raise, EWriteError among
-// it; whole lines may have been written before.
+// Writes at the position of the output, the mode as a decimal number and the name in code page 0. A name with
+// a line end makes a text that cannot be decoded. Raises what the streams raise; lines that were written
+// before stay.
 QZ_API void QzUUEncode(TStream& AInput, TStream& AOutput, const TStringArg& AFileName, std::uint16_t AMode);
 // The text itself, in code page 0.
 QZ_API AnsiString QzUUEncode(TStream& AInput, const TStringArg& AFileName, std::uint16_t AMode);

@@ -1,10 +1,10 @@
 // The vocabulary of uQzZLib: levels, strategies, kinds of flush, and the exceptions with the codes of zlib.
 //
 //     try {
-//         ...
+//         Import();
 //     } catch (const EQzZLibDecompressionError& E) {
 //         if (E.ErrorCode() == -5)                  // "Buffer error": the data ends too early
-//             ...
+//             Alarm(E.Message());
 //     }
 #pragma once
 
@@ -44,8 +44,8 @@ enum class TQzZLibFlush : std::uint8_t {
 };
 using enum TQzZLibFlush;
 
-// A failure with the code of zlib, 2 to -6, and its text: "Data error" for -3. Any other code gives "Error" and
-// the number.
+// A failure with the code of zlib, 2 to -6, and its text: "Data error" for -3. Any other code gives the text
+// "Error" and the number.
 class QZ_API EQzZLibException : public Exception {
     QZ_EXCEPTION(EQzZLibException, Exception)
 public:

@@ -1,16 +1,17 @@
 // TZCompressionStream and TZDecompressionStream: deflate and inflate (RFC 1950, 1951, 1952) as streams over
 // another stream.
 //
-//     TZCompressionStream Packer(File, zcMax);
-//     Packer.WriteBuffer(Text.data(), Size);
+//     TMemoryStream Packed;
+//     TZCompressionStream Packer(Packed, zcMax);
+//     Packer.WriteBuffer("text", 4);
 //     Packer.Finish();                              // raises what the destructor would drop
+//     Packed.SetPosition(0);
+//     char Text[4];
+//     TZDecompressionStream(Packed).ReadBuffer(Text, 4);
 //
-//     TZDecompressionStream Unpacker(File);         // reads from the position of File on
-//     Output.CopyFrom(Unpacker, 100);
-//
-// The number of window bits selects the format: 9 to 15 is zlib, -9 to -15 raw deflate, 25 to 31 gzip. Both streams work in blocks of 64 KiB and need at most 400 KiB, whatever the size of the data. The
-// other stream must outlive them and belongs to them while they work; nobody else moves its position. Each
-// belongs to one thread at a time.
+// The number of window bits selects the format: 9 to 15 is zlib, -9 to -15 raw deflate, 25 to 31 gzip. Both
+// streams work in blocks of 64 KiB and need less than 400 KiB, whatever the size of the data. The other
+// stream must outlive them, and nothing else may move its position. Each belongs to one thread at a time.
 #pragma once
 
 #include <memory>
@@ -77,19 +78,19 @@ public:
     // zlib refuses and if it has no memory.
     explicit TZCompressionStream(TStream& ATarget, TZCompressionLevel ALevel = zcDefault,
                                  std::int32_t AWindowBits = 15);
-    // Finishes, but not after Finish, after a failed write, or while an exception leaves the scope: data that is
-    // incomplete gets no end. Exceptions are dropped.
+    // Calls Finish and drops its exceptions. Does not after a failed write or while an exception leaves the
+    // scope: incomplete data gets no end.
     ~TZCompressionStream() override;
 
     // Raises EZCompressionError, "Invalid stream operation".
     std::int32_t Read(void* ABuffer, std::int32_t ACount) override;
-    // Always ACount. Raises what writing to the target raises; the compressed data is then incomplete, and
-    // each further write raises EZCompressionError. So does a write after Finish.
+    // Always ACount. Raises what the target raises; then the compressed data is incomplete, and each further
+    // write raises EZCompressionError. So does a write after Finish.
     std::int32_t Write(const void* ABuffer, std::int32_t ACount) override;
     // Gives the number of bytes written. Raises EZCompressionError, "Invalid stream operation", for any other
     // place.
     std::int64_t Seek(std::int64_t AOffset, TSeekOrigin AOrigin) override;
-    // Writes what is left and the end of the compressed data. Does nothing the second time. Raises as Write.
+    // Writes the rest and the end of the compressed data. A second call does nothing. Raises as Write.
     void Finish();
 
 private:
@@ -107,21 +108,21 @@ class QZ_API TZDecompressionStream : public TCustomZStream {
 public:
     using TCustomZStream::Seek;
 
-    // Reads compressed data from ASource from its position on; 0 window bits take them from the zlib header,
-    // and 32 more than those of zlib accept gzip as well. Raises EZDecompressionError for window bits that
+    // Reads compressed data from ASource from its position on. With 0 window bits the zlib header gives them;
+    // 41 to 47 accept zlib and gzip. Raises EZDecompressionError for window bits that
     // zlib refuses and if it has no memory.
     explicit TZDecompressionStream(TStream& ASource, std::int32_t AWindowBits = 15);
 
-    // Gives fewer than ACount bytes at the end of the compressed data, or before a fault in it; the source then
-    // stands right after that end, and what follows there is left to the caller. Raises EZDecompressionError
-    // once no byte comes before the fault: code -3 for corrupt data, -5 for data that ends too early, 2 for a
-    // missing dictionary.
+    // Gives fewer than ACount bytes only at the end of the compressed data or before a fault in it. At that
+    // end the source stands right after the compressed data; bytes that follow are left to the caller. The
+    // read that starts at a fault raises EZDecompressionError: code -3 for corrupt data, -5 for data that
+    // ends too early, 2 for a missing dictionary.
     std::int32_t Read(void* ABuffer, std::int32_t ACount) override;
     // Raises EZDecompressionError, "Invalid stream operation".
     std::int32_t Write(const void* ABuffer, std::int32_t ACount) override;
-    // Forward by reading on, at most to the end; backward by reading again from the start, for which the
-    // source must be able to seek. From the end, and so GetSize, by reading all. Raises as Read; a place
-    // before the start raises EZDecompressionError, "Invalid stream operation".
+    // Moves forward by reading on, at most to the end. Moves backward by reading again from the start, for
+    // which the source must be able to seek. A place from the end, and GetSize, read all of the data. Raises
+    // as Read; a place before the start raises EZDecompressionError, "Invalid stream operation".
     std::int64_t Seek(std::int64_t AOffset, TSeekOrigin AOrigin) override;
 
 private:
