@@ -7,19 +7,19 @@ namespace qz::detail {
 namespace {
 
 char* BytesToBase64(std::span<const std::byte> ABytes, TBase64Alphabet AAlphabet, char* ADest) noexcept {
-    return ScalarBytesToBase64(ABytes.data(), ABytes.data() + ABytes.size(), AAlphabet, ADest);
+    return ScalarBytesToBase64({ABytes.data(), ADest}, ABytes.data() + ABytes.size(), AAlphabet);
 }
 
 std::byte* Base64ToBytes(std::string_view AText, std::byte* ADest) noexcept {
-    return ScalarBase64ToBytes(AText.data(), AText.data() + AText.size(), ADest);
+    return ScalarBase64ToBytes({AText.data(), ADest}, AText.data() + AText.size());
 }
 
 char* BytesToHex(std::span<const std::byte> ABytes, char* ADest) noexcept {
-    return ScalarBytesToHex(ABytes.data(), ABytes.data() + ABytes.size(), ADest);
+    return ScalarBytesToHex({ABytes.data(), ADest}, ABytes.data() + ABytes.size());
 }
 
 std::byte* HexToBytes(std::string_view AText, std::byte* ADest) noexcept {
-    return ScalarHexToBytes(AText.data(), AText.data() + AText.size(), ADest);
+    return ScalarHexToBytes({AText.data(), ADest}, AText.data() + AText.size());
 }
 
 const TBinaryPath* const cPaths[] = {

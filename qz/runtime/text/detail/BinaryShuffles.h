@@ -11,6 +11,15 @@ namespace qz::detail {
 
 // The bytes b, a, c, b of each group a, b, c.
 alignas(16) inline constexpr TShuffle cSpreadGroups = {1, 0, 2, 1, 4, 3, 5, 4, 7, 6, 8, 7, 10, 9, 11, 10};
+// The same for groups of which the last one, of three, one or two bytes, ends at the end of the vector.
+alignas(16) inline constexpr TShuffle cSpreadLastGroups[] = {
+    {5, 4, 6, 5, 8, 7, 9, 8, 11, 10, 12, 11, 14, 13, 15, 14},
+    {7, 6, 8, 7, 10, 9, 11, 10, 13, 12, 14, 13, cNoByte, 15, cNoByte, cNoByte},
+    {6, 5, 7, 6, 9, 8, 10, 9, 12, 11, 13, 12, 15, 14, cNoByte, 15}};
+// Added to the characters of these groups, gives "=" for the "A" of missing bytes.
+alignas(16) inline constexpr TShuffle cPadding[] = {{},
+                                                    {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xFC, 0xFC},
+                                                    {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xFC}};
 // The three bytes of each group from a number of 32 bits.
 alignas(16) inline constexpr TShuffle cGatherGroups = {2, 1,  0,  6,  5,    4,    10,   9,
                                                        8, 14, 13, 12, 0x80, 0x80, 0x80, 0x80};
