@@ -34,19 +34,19 @@ std::byte* Start(const TBytes& ABytes) noexcept {
 
 char* detail::ManyToBase64(std::span<const std::byte> ABytes, TBase64Alphabet AAlphabet,
                            char* ADest) noexcept {
-    return BestBinaryPath().BytesToBase64(ABytes, AAlphabet, ADest);
+    return BestBinaryPath->BytesToBase64(ABytes, AAlphabet, ADest);
 }
 
 std::byte* detail::ManyToBytes(std::string_view AText, std::byte* ADest) noexcept {
-    return BestBinaryPath().Base64ToBytes(AText, ADest);
+    return BestBinaryPath->Base64ToBytes(AText, ADest);
 }
 
 char* BytesToHex(std::span<const std::byte> ABytes, char* ADest) noexcept {
-    return detail::BestBinaryPath().BytesToHex(ABytes, ADest);
+    return detail::BestBinaryPath->BytesToHex(ABytes, ADest);
 }
 
 std::byte* HexToBytes(std::string_view AText, std::byte* ADest) noexcept {
-    return detail::BestBinaryPath().HexToBytes(AText, ADest);
+    return detail::BestBinaryPath->HexToBytes(AText, ADest);
 }
 
 UnicodeString Base64Text(std::span<const std::byte> ABytes, TBase64Alphabet AAlphabet) {

@@ -1,6 +1,5 @@
 #include <qz/runtime/text/detail/BinaryPaths.h>
 
-#include <qz/platform/Machine.h>
 #include <qz/runtime/text/detail/BinaryScalar.h>
 
 namespace qz::detail {
@@ -30,9 +29,7 @@ const TBinaryPath* const cPaths[] = {
 #endif
 };
 
-constinit platform::TChosenPath<TBinaryPath> Best(cBinaryPortablePath);
-
-[[maybe_unused]] const bool cIsChosen = Best.Choose(*BinaryPaths().back());
+[[maybe_unused]] const bool cIsChosen = BestBinaryPath.Choose(*BinaryPaths().back());
 
 } // namespace
 
@@ -44,12 +41,10 @@ constinit const TBinaryPath cBinaryPortablePath = {
     .HexToBytes = HexToBytes,
 };
 
+constinit platform::TChosenPath<TBinaryPath> BestBinaryPath(cBinaryPortablePath);
+
 std::span<const TBinaryPath* const> BinaryPaths() noexcept {
     return {cPaths, static_cast<std::size_t>(platform::BestMachine()) + 1};
-}
-
-const TBinaryPath& BestBinaryPath() noexcept {
-    return *Best;
 }
 
 } // namespace qz::detail
