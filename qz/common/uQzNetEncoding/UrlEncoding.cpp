@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <memory>
 #include <string>
 
 #include <qz/common/uQzClasses/TextParser.h>
+#include <qz/common/uQzNetEncoding/QzNetEncoding.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/text/AnsiString.h>
 #include <qz/runtime/text/NumberText.h>
@@ -112,6 +114,11 @@ UnicodeString TURLEncoding::Decode(const TStringArg& AValue, TDecodeOptions) con
     AnsiString Bytes(AValue.ToString());
     char* const Text = Bytes.UniqueData();
     return UnicodeString(std::string_view(Text, Bytes.empty() ? 0 : DecodeInPlace(Text, Bytes.size())));
+}
+
+const TURLEncoding& TQzNetEncoding::URL() {
+    static const TURLEncoding* const Made = std::make_unique<TURLEncoding>().release(); // never destroyed
+    return *Made;
 }
 
 } // namespace qz

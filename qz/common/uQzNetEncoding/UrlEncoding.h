@@ -1,6 +1,6 @@
 // TURLEncoding: percent-encoding of text for URLs (RFC 3986, section 2.1), and back.
 //
-//     const TURLEncoding Url;
+//     const TURLEncoding& Url = TQzNetEncoding::URL();
 //     Url.Encode(u"a b/c");                     // "a%20b%2Fc"
 //     Url.Encode(u"a b/c!", {'/'});             // "a%20b%2Fc!"
 //     Url.Decode(u"%C3%A9+1");                  // "é+1"

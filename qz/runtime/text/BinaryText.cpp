@@ -32,20 +32,21 @@ std::byte* Start(const TBytes& ABytes) noexcept {
 
 } // namespace
 
-char* BytesToBase64(std::span<const std::byte> ABytes, TBase64Alphabet AAlphabet, char* ADest) noexcept {
-    return detail::BestBinaryPath().BytesToBase64(ABytes, AAlphabet, ADest);
+char* detail::ManyToBase64(std::span<const std::byte> ABytes, TBase64Alphabet AAlphabet,
+                           char* ADest) noexcept {
+    return BestBinaryPath->BytesToBase64(ABytes, AAlphabet, ADest);
 }
 
-std::byte* Base64ToBytes(std::string_view AText, std::byte* ADest) noexcept {
-    return detail::BestBinaryPath().Base64ToBytes(AText, ADest);
+std::byte* detail::ManyToBytes(std::string_view AText, std::byte* ADest) noexcept {
+    return BestBinaryPath->Base64ToBytes(AText, ADest);
 }
 
 char* BytesToHex(std::span<const std::byte> ABytes, char* ADest) noexcept {
-    return detail::BestBinaryPath().BytesToHex(ABytes, ADest);
+    return detail::BestBinaryPath->BytesToHex(ABytes, ADest);
 }
 
 std::byte* HexToBytes(std::string_view AText, std::byte* ADest) noexcept {
-    return detail::BestBinaryPath().HexToBytes(AText, ADest);
+    return detail::BestBinaryPath->HexToBytes(AText, ADest);
 }
 
 UnicodeString Base64Text(std::span<const std::byte> ABytes, TBase64Alphabet AAlphabet) {

@@ -1,4 +1,4 @@
-#include <qz/common/uQzNetEncoding/UrlEncoding.h>
+#include <qz/common/uQzNetEncoding.h>
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ namespace qz {
 namespace {
 
 TEST(UrlEncoding, EncodesWhatIsUnsafe) {
-    const TURLEncoding Url;
+    const TURLEncoding& Url = TQzNetEncoding::URL();
     for (const auto& Row :
          Rows(u"a b/c => a%20b%2Fc", u"100% => 100%", u" => ", u"\1\x1F => %01%1F",
               u"!#$&'()*+,/:;=?@[] => %21%23%24%26%27%28%29%2A%2B%2C%2F%3A%3B%3D%3F%40%5B%5D",
@@ -25,7 +25,7 @@ TEST(UrlEncoding, EncodesWhatIsUnsafe) {
 }
 
 TEST(UrlEncoding, DecodesBytesAsUtf8) {
-    const TURLEncoding Url;
+    const TURLEncoding& Url = TQzNetEncoding::URL();
     for (const auto& Row : Rows(
              u"a%20b => a b", u"%C3%A9 => é", u"%c3%a9%F0%9F%98%80 => é\U0001F600", u"a+b => a+b",
              u"%\t\n41 => A", u"%E9x => \uFFFDx", u"%zz => EConvertError: '$zz' is not a valid integer value",
@@ -43,7 +43,7 @@ TEST(UrlEncoding, DecodesBytesAsUtf8) {
 }
 
 TEST(UrlEncoding, TakesOtherCharactersInTheCodePageOfTheSystem) {
-    const TURLEncoding Url;
+    const TURLEncoding& Url = TQzNetEncoding::URL();
     for (const auto& [Page, Encoded, Decoded] : {std::tuple(std::uint16_t{65001}, u"Zoë", u"Zoë"),
                                                  std::tuple(std::uint16_t{1252}, u"ZoÃ«", u"Zo\uFFFD")}) {
         const TSystemPage SystemPage(Page);

@@ -1,25 +1,24 @@
 #include <qz/runtime/text/detail/BinaryPaths.h>
 
-#include <qz/platform/Machine.h>
 #include <qz/runtime/text/detail/BinaryScalar.h>
 
 namespace qz::detail {
 namespace {
 
 char* BytesToBase64(std::span<const std::byte> ABytes, TBase64Alphabet AAlphabet, char* ADest) noexcept {
-    return ScalarBytesToBase64(ABytes.data(), ABytes.data() + ABytes.size(), AAlphabet, ADest);
+    return ScalarBytesToBase64({ABytes.data(), ADest}, ABytes.data() + ABytes.size(), AAlphabet);
 }
 
 std::byte* Base64ToBytes(std::string_view AText, std::byte* ADest) noexcept {
-    return ScalarBase64ToBytes(AText.data(), AText.data() + AText.size(), ADest);
+    return ScalarBase64ToBytes({AText.data(), ADest}, AText.data() + AText.size());
 }
 
 char* BytesToHex(std::span<const std::byte> ABytes, char* ADest) noexcept {
-    return ScalarBytesToHex(ABytes.data(), ABytes.data() + ABytes.size(), ADest);
+    return ScalarBytesToHex({ABytes.data(), ADest}, ABytes.data() + ABytes.size());
 }
 
 std::byte* HexToBytes(std::string_view AText, std::byte* ADest) noexcept {
-    return ScalarHexToBytes(AText.data(), AText.data() + AText.size(), ADest);
+    return ScalarHexToBytes({AText.data(), ADest}, AText.data() + AText.size());
 }
 
 const TBinaryPath* const cPaths[] = {
@@ -30,9 +29,7 @@ const TBinaryPath* const cPaths[] = {
 #endif
 };
 
-constinit platform::TChosenPath<TBinaryPath> Best(cBinaryPortablePath);
-
-[[maybe_unused]] const bool cIsChosen = Best.Choose(*BinaryPaths().back());
+[[maybe_unused]] const bool cIsChosen = BestBinaryPath.Choose(*BinaryPaths().back());
 
 } // namespace
 
@@ -44,12 +41,10 @@ constinit const TBinaryPath cBinaryPortablePath = {
     .HexToBytes = HexToBytes,
 };
 
+constinit platform::TChosenPath<TBinaryPath> BestBinaryPath(cBinaryPortablePath);
+
 std::span<const TBinaryPath* const> BinaryPaths() noexcept {
     return {cPaths, static_cast<std::size_t>(platform::BestMachine()) + 1};
-}
-
-const TBinaryPath& BestBinaryPath() noexcept {
-    return *Best;
 }
 
 } // namespace qz::detail

@@ -9,6 +9,7 @@
 
 #include <span>
 
+#include <qz/platform/Machine.h>
 #include <qz/runtime/text/BinaryText.h>
 
 namespace qz::detail {
@@ -31,7 +32,7 @@ extern const TBinaryPath cBinaryAvx2Path;
 // The paths that this machine can go, the best one last.
 QZ_API std::span<const TBinaryPath* const> BinaryPaths() noexcept;
 
-// The best path for this machine.
-const TBinaryPath& BestBinaryPath() noexcept;
+// The best path for this machine, once static initialisation has chosen it.
+extern platform::TChosenPath<TBinaryPath> BestBinaryPath;
 
 } // namespace qz::detail

@@ -11,120 +11,77 @@
 
 namespace qz::detail {
 
-// What a byte outside the alphabets has in the table of values.
-inline constexpr std::uint8_t cNoBase64 = 0xFF;
-
-constexpr std::array<std::uint8_t, 256> MakeBase64Values() noexcept {
-    std::array<std::uint8_t, 256> Result{};
-    Result.fill(cNoBase64);
-    for (const std::string_view Chars : cBase64Chars)
-        for (std::size_t I = 0; I < Chars.size(); ++I)
-            Result[static_cast<unsigned char>(Chars[I])] = static_cast<std::uint8_t>(I);
-    return Result;
-}
-inline constexpr std::array<std::uint8_t, 256> cBase64Values = MakeBase64Values();
-
-inline std::uint32_t Base64Value(char AChar) noexcept {
-    return cBase64Values[static_cast<unsigned char>(AChar)];
-}
-
-inline void PutThree(std::uint32_t ABits, std::byte* ADest) noexcept {
-    ADest[0] = static_cast<std::byte>(ABits >> 16);
-    ADest[1] = static_cast<std::byte>(ABits >> 8);
-    ADest[2] = static_cast<std::byte>(ABits);
-}
-
-// Decodes four characters that are all in the alphabet; false, and nothing is written, if one is not.
-inline bool DecodeFour(const char* ASource, std::byte* ADest) noexcept {
-    const std::uint32_t First = Base64Value(ASource[0]), Second = Base64Value(ASource[1]);
-    const std::uint32_t Third = Base64Value(ASource[2]), Fourth = Base64Value(ASource[3]);
-    if (((First | Second | Third | Fourth) & 0x80) != 0)
-        return false;
-    PutThree(First << 18 | Second << 12 | Third << 6 | Fourth, ADest);
-    return true;
-}
+// Where a conversion stands. It is passed by value, so that both places stay in registers.
+struct TDecoded {
+    const char* Here;
+    std::byte* Dest;
+};
+struct TEncoded {
+    const std::byte* Here;
+    char* Dest;
+};
 
 // Decodes the next four characters of the alphabet and skips what stands between them. At the end of the text
-// there may be fewer. Moves both places.
-inline void DecodeNextFour(const char*& AHere, const char* AEnd, std::byte*& ADest) noexcept {
+// there may be fewer.
+inline TDecoded DecodeNextFour(TDecoded APlace, const char* AEnd) noexcept {
     std::uint32_t Bits = 0;
     int Count = 0;
-    while (AHere != AEnd && Count < 4) {
-        const std::uint32_t Value = Base64Value(*AHere++);
+    while (APlace.Here != AEnd && Count < 4) {
+        const std::uint32_t Value = Base64Value(*APlace.Here++);
         if (Value == cNoBase64)
             continue;
         Bits = Bits << 6 | Value;
         ++Count;
     }
-    if (Count == 4) {
-        PutThree(Bits, ADest);
-        ADest += 3;
-        return;
-    }
-    if (Count == 3)
-        *ADest++ = static_cast<std::byte>(Bits >> 10);
-    if (Count >= 2)
-        *ADest++ = static_cast<std::byte>(Count == 3 ? Bits >> 2 : Bits >> 4);
+    if (Count < 2)
+        return APlace;
+    Bits <<= 6 * (4 - Count);
+    for (int I = 1; I < Count; ++I)
+        *APlace.Dest++ = static_cast<std::byte>(Bits >> (24 - 8 * I));
+    return APlace;
 }
 
 // Goes on after a vector of characters that is decoded and in which those with a bit in ABad are not in the
 // alphabets. ABad is not 0.
-inline void GoPastBad(std::uint32_t ABad, const char*& AHere, const char* AEnd, std::byte*& ADest) noexcept {
+inline TDecoded GoPastBad(std::uint32_t ABad, TDecoded APlace, const char* AEnd) noexcept {
     const int Good = std::countr_zero(ABad);
-    AHere += Good / 4 * 4;
-    ADest += Good / 4 * 3;
-    if (Good % 4 == 0)
-        AHere += std::countr_one(ABad >> Good);
-    else
-        DecodeNextFour(AHere, AEnd, ADest);
+    APlace.Here += Good / 4 * 4;
+    APlace.Dest += Good / 4 * 3;
+    if (Good % 4 != 0)
+        return DecodeNextFour(APlace, AEnd);
+    APlace.Here += std::countr_one(ABad >> Good);
+    return APlace;
 }
 
-inline std::byte* ScalarBase64ToBytes(const char* AHere, const char* AEnd, std::byte* ADest) noexcept {
-    while (AHere != AEnd) {
-        if (AEnd - AHere >= 4 && DecodeFour(AHere, ADest)) {
-            AHere += 4;
-            ADest += 3;
+inline std::byte* ScalarBase64ToBytes(TDecoded APlace, const char* AEnd) noexcept {
+    while (AEnd - APlace.Here > 4) {
+        if (GroupToBytes(APlace.Here, APlace.Dest)) {
+            APlace.Here += 4;
+            APlace.Dest += 3;
         } else {
-            DecodeNextFour(AHere, AEnd, ADest);
+            APlace = DecodeNextFour(APlace, AEnd);
         }
     }
-    return ADest;
+    const auto Left = static_cast<std::size_t>(AEnd - APlace.Here);
+    std::byte* const Done =
+        Left == 4 ? PaddedToBytes(APlace.Here, APlace.Dest) : LastToBytes({APlace.Here, Left}, APlace.Dest);
+    return Done != nullptr ? Done : DecodeNextFour(APlace, AEnd).Dest;
 }
 
-inline char* ScalarBytesToBase64(const std::byte* AHere, const std::byte* AEnd, TBase64Alphabet AAlphabet,
-                                 char* ADest) noexcept {
-    const char* Chars = cBase64Chars[static_cast<std::size_t>(AAlphabet)].data();
-    const auto At = [&AHere](int AIndex) { return std::to_integer<std::uint32_t>(AHere[AIndex]); };
-    for (; AEnd - AHere >= 3; AHere += 3, ADest += 4) {
-        const std::uint32_t Bits = At(0) << 16 | At(1) << 8 | At(2);
-        ADest[0] = Chars[Bits >> 18];
-        ADest[1] = Chars[Bits >> 12 & 0x3F];
-        ADest[2] = Chars[Bits >> 6 & 0x3F];
-        ADest[3] = Chars[Bits & 0x3F];
-    }
-    if (AHere == AEnd)
-        return ADest;
-    const bool AreTwo = AEnd - AHere == 2;
-    const std::uint32_t Bits = At(0) << 16 | (AreTwo ? At(1) << 8 : 0);
-    *ADest++ = Chars[Bits >> 18];
-    *ADest++ = Chars[Bits >> 12 & 0x3F];
-    if (AreTwo)
-        *ADest++ = Chars[Bits >> 6 & 0x3F];
-    if (AAlphabet == TBase64Alphabet::Standard) {
-        *ADest++ = '=';
-        if (!AreTwo)
-            *ADest++ = '=';
-    }
-    return ADest;
+inline char* ScalarBytesToBase64(TEncoded APlace, const std::byte* AEnd, TBase64Alphabet AAlphabet) noexcept {
+    for (; AEnd - APlace.Here > 3; APlace.Here += 3, APlace.Dest += 4)
+        GroupToBase64(APlace.Here, 3, AAlphabet, APlace.Dest);
+    const auto Left = static_cast<std::size_t>(AEnd - APlace.Here);
+    return Left == 0 ? APlace.Dest : GroupToBase64(APlace.Here, Left, AAlphabet, APlace.Dest);
 }
 
-inline char* ScalarBytesToHex(const std::byte* AHere, const std::byte* AEnd, char* ADest) noexcept {
+inline char* ScalarBytesToHex(TEncoded APlace, const std::byte* AEnd) noexcept {
     constexpr std::string_view cDigits = "0123456789ABCDEF";
-    for (; AHere != AEnd; ++AHere) {
-        *ADest++ = cDigits[std::to_integer<std::size_t>(*AHere >> 4)];
-        *ADest++ = cDigits[std::to_integer<std::size_t>(*AHere & std::byte{0xF})];
+    for (; APlace.Here != AEnd; ++APlace.Here) {
+        *APlace.Dest++ = cDigits[std::to_integer<std::size_t>(*APlace.Here >> 4)];
+        *APlace.Dest++ = cDigits[std::to_integer<std::size_t>(*APlace.Here & std::byte{0xF})];
     }
-    return ADest;
+    return APlace.Dest;
 }
 
 inline std::uint32_t HexValue(char AChar) noexcept {
@@ -133,10 +90,10 @@ inline std::uint32_t HexValue(char AChar) noexcept {
     return Digit <= 9 ? Digit : Letter <= 5 ? Letter + 10 : 0;
 }
 
-inline std::byte* ScalarHexToBytes(const char* AHere, const char* AEnd, std::byte* ADest) noexcept {
-    for (; AEnd - AHere >= 2; AHere += 2)
-        *ADest++ = static_cast<std::byte>(HexValue(AHere[0]) << 4 | HexValue(AHere[1]));
-    return ADest;
+inline std::byte* ScalarHexToBytes(TDecoded APlace, const char* AEnd) noexcept {
+    for (; AEnd - APlace.Here >= 2; APlace.Here += 2)
+        *APlace.Dest++ = static_cast<std::byte>(HexValue(APlace.Here[0]) << 4 | HexValue(APlace.Here[1]));
+    return APlace.Dest;
 }
 
 } // namespace qz::detail

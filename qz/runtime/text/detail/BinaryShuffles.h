@@ -11,6 +11,35 @@ namespace qz::detail {
 
 // The bytes b, a, c, b of each group a, b, c.
 alignas(16) inline constexpr TShuffle cSpreadGroups = {1, 0, 2, 1, 4, 3, 5, 4, 7, 6, 8, 7, 10, 9, 11, 10};
+// The same for groups of which the last one, of three, one or two bytes, ends at the end of the vector.
+alignas(16) inline constexpr TShuffle cSpreadLastGroups[] = {
+    {5, 4, 6, 5, 8, 7, 9, 8, 11, 10, 12, 11, 14, 13, 15, 14},
+    {7, 6, 8, 7, 10, 9, 11, 10, 13, 12, 14, 13, cNoByte, 15, cNoByte, cNoByte},
+    {6, 5, 7, 6, 9, 8, 10, 9, 12, 11, 13, 12, 15, 14, cNoByte, 15}};
+// Added to the characters of these groups, gives "=" for the "A" of missing bytes.
+alignas(16) inline constexpr TShuffle cPadding[] = {{},
+                                                    {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xFC, 0xFC},
+                                                    {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xFC}};
+// A number of 32 bits, repeated.
+constexpr TShuffle Repeated32(std::uint32_t AValue) noexcept {
+    TShuffle Result{};
+    for (std::size_t I = 0; I < Result.size(); ++I)
+        Result[I] = static_cast<std::uint8_t>(AValue >> 8 * (I % 4));
+    return Result;
+}
+// The bits of the odd and the even characters of a spread group, and the factors that move them to their places.
+alignas(16) inline constexpr TShuffle cOddBits = Repeated32(0x0FC0FC00);
+alignas(16) inline constexpr TShuffle cOddPlaces = Repeated32(0x04000040);
+alignas(16) inline constexpr TShuffle cEvenBits = Repeated32(0x003F03F0);
+alignas(16) inline constexpr TShuffle cEvenPlaces = Repeated32(0x01000010);
+// The values of the last upper case letter and of the last letter.
+alignas(16) inline constexpr TShuffle cLastUpper = Repeated32(0x19191919);
+alignas(16) inline constexpr TShuffle cLastLetter = Repeated32(0x33333333);
+alignas(16) inline constexpr TShuffle cHalfByte = Repeated32(0x0F0F0F0F);
+// The factors that join values: 64 and 1 for pairs, 4096 and 1 for pairs of those, 16 and 1 for digits.
+alignas(16) inline constexpr TShuffle cPairPlaces = Repeated32(0x01400140);
+alignas(16) inline constexpr TShuffle cFourPlaces = Repeated32(0x00011000);
+alignas(16) inline constexpr TShuffle cHexPlaces = Repeated32(0x01100110);
 // The three bytes of each group from a number of 32 bits.
 alignas(16) inline constexpr TShuffle cGatherGroups = {2, 1,  0,  6,  5,    4,    10,   9,
                                                        8, 14, 13, 12, 0x80, 0x80, 0x80, 0x80};

@@ -23,10 +23,18 @@ constexpr std::size_t cWidth = 16;
 #include <qz/runtime/base/detail/UtfPieces.inc>
 
 // There are no steps of 32 bytes.
-template <class... T> QZ_STEP void EncodeWide(T&&...) noexcept {}
-template <class... T> QZ_STEP void DecodeWide(T&&...) noexcept {}
-template <class... T> QZ_STEP void EncodeHexWide(T&&...) noexcept {}
-template <class... T> QZ_STEP void DecodeHexWide(T&&...) noexcept {}
+QZ_STEP TEncoded EncodeWide(TEncoded APlace, const std::byte*, const TShuffle&) noexcept {
+    return APlace;
+}
+QZ_STEP TDecoded DecodeWide(TDecoded APlace, const char*) noexcept {
+    return APlace;
+}
+QZ_STEP TEncoded EncodeHexWide(TEncoded APlace, const std::byte*) noexcept {
+    return APlace;
+}
+QZ_STEP TDecoded DecodeHexWide(TDecoded APlace, const char*) noexcept {
+    return APlace;
+}
 
 #include <qz/runtime/text/detail/BinaryVectors.inc>
 
