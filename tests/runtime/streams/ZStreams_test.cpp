@@ -90,7 +90,7 @@ TEST(ZStreams, ReadWhatTheStandardsSay) {
 }
 
 TEST(ZStreams, GiveBackAllThatWasWrittenInAnyFormatAndPieces) {
-    for (const std::size_t Size : {0, 1, 100, 65535, 65536, 65537, 1'000'000}) {
+    for (const std::size_t Size : {0u, 1u, 100u, 65535u, 65536u, 65537u, 1'000'000u}) {
         const std::string Text = Sample(Size);
         for (const std::int32_t WindowBits : {15, 9, -15, 31}) {
             TMemoryStream Packed;
