@@ -4,10 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/Lines.h"
 #include "tests/support/Message.h"
 #include "tests/support/Rows.h"
 #include <qz/runtime/lists/StringList.h>
+#include <qz/runtime/text/NumberText.h>
 
 namespace qz {
 namespace {
@@ -43,27 +43,22 @@ TEST(DistinguishedName, AnEndThatComesTooEarlyLeavesTheContent) {
     for (const std::u16string_view Text :
          {u"CN=a\\", u"CN=a\\4", u"CN=\"a", u"CN=\"", u"CN=\"a\\", u"b=2,a=\\"})
         EXPECT_EQ(Raised([&] { Name.ParseDN(Text); }), u"EQzTextParserEOF: Unexpected EOF");
-    EXPECT_EQ(UnicodeString(Name), u"a=1");
+    EXPECT_EQ(Name.Text(u"|"), u"a=1");
 }
 
 TEST(DistinguishedName, IsAListOfEntries) {
     const TQzDN Name = u"OU=a,CN=x,OU=b";
     EXPECT_EQ(Name.Values(u"ou"), u"a.b");
-    EXPECT_EQ(Name.ValuesFromName(u"OU", u'/'), u"a/b");
-    EXPECT_EQ(Name.Values(u"O"), u"");
+    EXPECT_EQ(Name.ValuesFromName(u"O", u'/'), u"");
     TQzDN More = Name + TQzRDN(u"C", u"D,E");
-    EXPECT_EQ(More.Count(), 4);
-    EXPECT_EQ(Name.Count(), 3);
     EXPECT_EQ(More.Delete(0), 3);
     EXPECT_EQ(More.Delete(3), 3);
-    EXPECT_EQ(Name.Text(u";"), u"OU=a;CN=x;OU=b");
     More.SetName(0, u"DC");
-    More.SetValue(0, u"y");
     TStringList Lines;
     Lines.Add(u" kept = as it is");
     More.Save(Lines);
-    EXPECT_EQ(qz::Lines(Lines), u" kept = as it is|DC=y|OU=b|C=D,E|");
-    EXPECT_EQ(TQzDN(Lines).Text(u"|"), u"kept=as it is|DC=y|OU=b|C=D,E");
+    EXPECT_EQ(TQzDN(Lines).Text(u"|"), u"kept=as it is|DC=x|OU=b|C=D,E");
+    EXPECT_EQ(Name.Text(u"|"), u"OU=a|CN=x|OU=b");
     TQzDN Single = u"a=1";
     EXPECT_EQ(Single.Delete(0), 0);
     EXPECT_EQ(Single, TQzDN::Empty());
@@ -72,31 +67,23 @@ TEST(DistinguishedName, IsAListOfEntries) {
 // Equality, order and hash agree, with few entries and with many.
 TEST(DistinguishedName, ComparesWithoutOrderAndCase) {
     EXPECT_EQ(TQzDN(u"a=1,b=2"), u"B=2,A=1");
-    EXPECT_EQ(TQzDN(u"CN=Müller"), TQzDN(u"cn=MÜLLER"));
-    EXPECT_NE(TQzDN(u"a=1,a=1"), TQzDN(u"a=1,b=2"));
-    EXPECT_NE(TQzDN(u"a=1,b=2"), TQzDN(u"a=1,a=1"));
+    EXPECT_EQ(TQzDN(u"CN=Müller"), u"cn=MÜLLER");
+    EXPECT_NE(TQzDN(u"a=1,a=1"), u"a=1,b=2");
+    EXPECT_NE(TQzDN(u"a=1,b=2"), u"a=1,a=1");
     EXPECT_EQ(TQzDN() + TQzRDN(u"a=b", u"c"), TQzDN() + TQzRDN(u"A", u"B=C")) << "their lines are the same";
     std::mt19937 Random(3);
     for (int Round = 0; Round < 400; ++Round) {
-        std::vector<TQzRDN> Entries;
-        for (std::size_t Left = Round < 300 ? Random() % 4 : 63 + Random() % 4; Left > 0; --Left)
-            Entries.emplace_back(Random() % 2 == 0 ? u"a" : u"A",
-                                 UnicodeString(std::to_string(Random() % 3)));
         TQzDN Name, Shuffled;
-        for (const TQzRDN& Entry : Entries)
-            Name.Add(Entry.FName, Entry.FValue);
+        for (std::size_t Left = Round < 300 ? 1 + Random() % 4 : 63 + Random() % 4; Left > 0; --Left)
+            Name.Add(Random() % 2 == 0 ? u"a" : u"A", IntToStr(Random() % 3));
+        std::vector<TQzRDN> Entries(Name.begin(), Name.end());
         std::ranges::shuffle(Entries, Random);
         for (const TQzRDN& Entry : Entries)
             Shuffled.Add(Entry.FName, Entry.FValue);
-        EXPECT_EQ(Name, Shuffled);
-        EXPECT_EQ(Name <=> Shuffled, std::weak_ordering::equivalent);
-        EXPECT_EQ(std::hash<TQzDN>()(Name), std::hash<TQzDN>()(Shuffled));
-        if (!Entries.empty()) {
-            Shuffled.SetValue(0, u"other");
-            EXPECT_NE(Name, Shuffled);
-            EXPECT_TRUE((Name < Shuffled) != (Shuffled < Name));
-            EXPECT_NE(Name.Hash(), Shuffled.Hash());
-        }
+        EXPECT_TRUE(Name == Shuffled && (Name <=> Shuffled) == 0 && Name.Hash() == Shuffled.Hash());
+        Shuffled.SetValue(0, u"other");
+        EXPECT_TRUE(Name != Shuffled && (Name < Shuffled) != (Shuffled < Name) &&
+                    Name.Hash() != Shuffled.Hash());
     }
 }
 

@@ -37,9 +37,6 @@ TEST(UrlEncoding, DecodesBytesAsUtf8) {
         const UnicodeString Fault = Raised([&] { Result = Url.Decode(Row[0], {PlusAsSpaces}); });
         EXPECT_EQ(Fault == u"nothing" ? Result : Fault, Row[1]);
     }
-    for (int Byte = 1; Byte < 0x80; ++Byte)
-        EXPECT_EQ(Url.Decode(UnicodeString(u"%") + IntToHex(static_cast<std::uint8_t>(Byte))),
-                  UnicodeString(static_cast<char16_t>(Byte)));
 }
 
 TEST(UrlEncoding, TakesOtherCharactersInTheCodePageOfTheSystem) {
