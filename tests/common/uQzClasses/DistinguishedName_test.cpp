@@ -59,9 +59,6 @@ TEST(DistinguishedName, IsAListOfEntries) {
     More.Save(Lines);
     EXPECT_EQ(TQzDN(Lines).Text(u"|"), u"kept=as it is|DC=x|OU=b|C=D,E");
     EXPECT_EQ(Name.Text(u"|"), u"OU=a|CN=x|OU=b");
-    TQzDN Single = u"a=1";
-    EXPECT_EQ(Single.Delete(0), 0);
-    EXPECT_EQ(Single, TQzDN::Empty());
 }
 
 // Equality, order and hash agree, with few entries and with many.

@@ -4,8 +4,6 @@
 
 #include "tests/common/support/Streams.h"
 #include "tests/support/Message.h"
-#include "tests/support/Rows.h"
-#include <qz/runtime/text/NumberText.h>
 
 namespace qz {
 namespace {
@@ -18,16 +16,12 @@ std::string Packed(std::string_view AText, TQzZLibCompressionLevel ALevel) {
     return Content(Target);
 }
 
+// Bits 6 and 7 of the second byte are the level as RFC 1950 classes it.
 TEST(ZLib, LevelsAreThoseOfTheirMapping) {
-    std::string Text;
-    for (int I = 0; I < 3000; ++I)
-        Text += std::to_string(I * I % 977) + " lines of text, ";
-    EXPECT_GT(Packed(Text, clNone).size(), Text.size());
-    // Bits 6 and 7 of the second byte are the level as RFC 1950 classes it.
-    for (const auto& [Level, Class] : {std::pair(clFastest, 0), std::pair(clDefault, 2), std::pair(clMax, 3)})
-        EXPECT_EQ(Packed(Text, Level)[1] >> 6 & 3, Class);
-    EXPECT_EQ(Packed(Text, clLevel1), Packed(Text, clDefault));
-    EXPECT_EQ(Packed(Text, clLevel9), Packed(Text, clDefault));
+    for (const auto& [Level, Class] : {std::pair(clNone, 0), std::pair(clFastest, 0), std::pair(clDefault, 2),
+                                       std::pair(clMax, 3), std::pair(clLevel1, 2), std::pair(clLevel9, 2)})
+        EXPECT_EQ(Packed("text", Level)[1] >> 6 & 3, Class);
+    EXPECT_GT(Packed(std::string(1000, 'x'), clNone).size(), 1000u);
 }
 
 TEST(ZLib, StartsAtThePositionAndStopsAfterTheData) {
@@ -36,29 +30,25 @@ TEST(ZLib, StartsAtThePositionAndStopsAfterTheData) {
     Data->SetPosition(2);
     ZlCompressStream(*Source, *Data, clDefault, false);
     Data->WriteBuffer("tail", 4);
-    TQzMemoryStream Target(16);
-    ZlDecompressStream(*Data, Target, true);
-    EXPECT_EQ(Content(Target), "");
-    ZlDecompressStream(*Data, Target, false);
-    EXPECT_EQ(Content(Target), "text");
+    EXPECT_EQ(ZlDecompressStreamToAnsiString(*Data, true).View(), "");
+    EXPECT_EQ(ZlDecompressStreamToAnsiString(*Data, false).View(), "text");
     EXPECT_EQ(Data->GetSize() - Data->Position(), 4);
 }
 
-TEST(ZLib, FaultsHaveTheirClassCodeAndText) {
+TEST(ZLib, FaultsHaveTheirClassAndText) {
     for (const auto& [Data, Text] :
          {std::pair(""s, u"Stream end"), std::pair("x"s, u"Buffer error"),
-          std::pair("x\x9C\xFF\xFF"s, u"Data error"), // gzip is taken for raw deflate:
-          std::pair("\x1F\x8B\x08\x00"s, u"Data error"),
+          std::pair("x\x9C\xFF\xFF"s, u"Data error"), std::pair("\x1F\x8B\x08\x00"s, u"Data error"),
           std::pair("x\xBB\x01\x02\x03\x04"s, u"Need dictionary")})
         EXPECT_EQ(Raised([&] { ZlDecompressStreamToString(*StreamOf(Data), true); }),
                   u"EQzZLibDecompressionError: "s + Text);
-    for (const auto& Row : Rows(u"2 => Need dictionary", u"1 => Stream end", u"0 => OK", u"-1 => File error",
-                                u"-2 => Stream error", u"-3 => Data error", u"-4 => Insufficient memory",
-                                u"-5 => Buffer error", u"-6 => Incompatible version", u"-7 => Error -7")) {
-        const EQzZLibCompressionError Error(StrToInt(Row[0]));
-        EXPECT_EQ(Error.Message(), Row[1]);
-        EXPECT_EQ(Error.ErrorCode(), StrToInt(Row[0]));
-    }
+    EXPECT_EQ(EQzZLibException(-6).Message(), u"Incompatible version");
+    EXPECT_EQ(EQzZLibException(-7).ErrorCode(), -7);
+    char Block[1000];
+    TQzMemoryStream Target(Block, sizeof Block);
+    const auto Data = StreamOf(Packed(std::string(10'000'000, 'x'), clMax));
+    EXPECT_EQ(Message([&] { ZlDecompressStream(*Data, Target, true); }),
+              u"It is not possible to resize the buffer!");
 }
 
 TEST(ZLib, TextsAreUtf16) {
@@ -66,20 +56,8 @@ TEST(ZLib, TextsAreUtf16) {
         TQzMemoryStream Data(16);
         ZlStringToCompressedStream(Text, Data, clDefault);
         EXPECT_EQ(ZlDecompressStreamToString(Data, true), Text);
-        EXPECT_EQ(ZlDecompressStreamToWideString(Data, true), Text);
     }
-    const auto Odd = StreamOf(Packed("a\0b\0\xFF"s, clNone));
-    EXPECT_EQ(ZlDecompressStreamToString(*Odd, true), u"ab");
-    EXPECT_EQ(ZlDecompressStreamToAnsiString(*Odd, true).View(), "a\0b\0\xFF"s);
-}
-
-TEST(ZLib, ATargetThatRefusesToGrowEndsTheDecompression) {
-    char Block[100'000];
-    TQzMemoryStream Target(Block, sizeof Block);
-    const auto Data = StreamOf(Packed(std::string(10'000'000, 'x'), clMax));
-    EXPECT_LT(Data->GetSize(), 20'000);
-    EXPECT_EQ(Message([&] { ZlDecompressStream(*Data, Target, true); }),
-              u"It is not possible to resize the buffer!");
+    EXPECT_EQ(ZlDecompressStreamToWideString(*StreamOf(Packed("a\0b\0\xFF"s, clNone)), true), u"ab");
 }
 
 } // namespace

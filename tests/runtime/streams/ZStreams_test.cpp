@@ -35,20 +35,16 @@ std::string Sample(std::size_t ASize) {
 
 // Bytes that RFC 1950 and RFC 1951 give for stored and fixed blocks. After whole data follows "tail".
 TEST(ZStreams, ReadWhatTheStandardsSay) {
-    const struct {
-        std::int32_t WindowBits;
-        std::string Data;
-        std::u16string_view Result;
-    } cCases[] = {{-15, "\x01\x05\x00\xFA\xFFhellotail"s, u"hello, then tail"},
-                  {-15, "\x03\x00tail"s, u", then tail"},
-                  {15, "\x78\x9C\x4B\x04\x00\x00\x62\x00\x62tail"s, u"a, then tail"},
-                  {15, "\x78\x9C\x4B\x04\x00\x00\x62\x00\x63"s, u"a, then -3"},
-                  {15, "\x78\x9C\x4B\x04\x00\x00\x62\x00"s, u"a, then -5"},
-                  {15, ""s, u", then -5"},
-                  {15, "\x78\xBB\x00\x62\x00\x62\x4B\x04"s, u", then 2"},
-                  {-15, "\x00\x02\x00\xFD\xFFhi\x07"s, u"hi, then -3"},
-                  {31, "hello"s, u", then -3"},
-                  {99, "hello"s, u", then -2"}};
+    using TCase = std::tuple<std::int32_t, std::string, std::u16string_view>;
+    const TCase cCases[] = {{-15, "\x01\x05\x00\xFA\xFFhellotail"s, u"hello, then tail"},
+                            {-15, "\x03\x00tail"s, u", then tail"},
+                            {15, "\x78\x9C\x4B\x04\x00\x00\x62\x00\x62tail"s, u"a, then tail"},
+                            {15, "\x78\x9C\x4B\x04\x00\x00\x62\x00\x63"s, u"a, then -3"},
+                            {15, "\x78\x9C\x4B\x04\x00\x00\x62\x00"s, u"a, then -5"},
+                            {15, "\x78\xBB\x00\x62\x00\x62\x4B\x04"s, u", then 2"},
+                            {-15, "\x00\x02\x00\xFD\xFFhi\x07"s, u"hi, then -3"},
+                            {31, "hello"s, u", then -3"},
+                            {99, "hello"s, u", then -2"}};
     for (const auto& [WindowBits, Data, Expected] : cCases) {
         TMemoryStream Source;
         Put(Source, Data);
