@@ -171,7 +171,7 @@ TQzUUData DataOfHeader(std::u16string_view ALine) {
 template <class TLines> TQzUUData ReadHeader(TLines& ALines, std::u16string_view AFileName) {
     typename TLines::TLine Line;
     while (ALines.Next(Line)) {
-        const UnicodeString Text = ALines.Text(Line);
+        const auto& Text = ALines.Text(Line);
         if (AFileName.empty() || ContainsText(Text, AFileName))
             return DataOfHeader(Text);
     }
@@ -186,7 +186,8 @@ template <class TLines> void DecodeLines(TLines& ALines, TOutput& AOutput) {
     do {
         if (!HasNext)
             RaiseEnd();
-        Line = std::exchange(Next, std::move(AfterNext));
+        std::swap(Line, Next);
+        std::swap(Next, AfterNext);
         HasNext = std::exchange(HasAfterNext, HasAfterNext && ALines.Next(AfterNext));
         if (Line.empty())
             RaiseInvalid();
