@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <memory>
 #include <vector>
 
 #include <qz/common/uQzSha1/detail/Sha1Blocks.h>
@@ -59,12 +60,12 @@ TSHA1Digest DigestOf(std::span<const std::byte> ABytes) {
 // What is left of the stream. A read that gives less than asked is no end.
 TSHA1Digest DigestOf(TStream& AStream) {
     constexpr std::int64_t cPiece = 64 << 10;
-    std::vector<std::byte> Piece(cPiece);
+    const std::unique_ptr<std::byte[]> Piece(new std::byte[cPiece]); // not initialised
     detail::TSha1State State = detail::cSha1Start;
     std::uint64_t Total = 0;
     for (;;) {
-        const auto Now =
-            std::span(Piece).first(static_cast<std::size_t>(AStream.ReadUpTo(Piece.data(), cPiece)));
+        const std::int64_t Read = AStream.ReadUpTo(Piece.get(), cPiece);
+        const std::span<const std::byte> Now(Piece.get(), static_cast<std::size_t>(Read));
         Total += Now.size();
         if (Total == 0)
             return {};
