@@ -84,11 +84,10 @@ template <class T> void Wipe(T& AValue) noexcept {
 TMD5Digest Finish(TMD5State& AState, const std::uint8_t* ARest, std::size_t ACount,
                   std::uint64_t ABits) noexcept {
     constexpr std::size_t cSize = sizeof(TMD5Buffer);
-    std::array<std::uint8_t, 2 * cSize> Tail;
+    std::array<std::uint8_t, 2 * cSize> Tail{};
     const std::size_t Size = ACount + 9 <= cSize ? cSize : 2 * cSize;
     if (ACount != 0)
         std::memcpy(Tail.data(), ARest, ACount);
-    std::memset(&Tail[ACount], 0, Size - ACount);
     Tail[ACount] = 0x80;
     const std::uint32_t Bits[] = {LittleEndian(static_cast<std::uint32_t>(ABits)),
                                   LittleEndian(static_cast<std::uint32_t>(ABits >> 32))};
@@ -99,7 +98,6 @@ TMD5Digest Finish(TMD5State& AState, const std::uint8_t* ARest, std::size_t ACou
         const std::uint32_t Word = LittleEndian(AState[I]);
         std::memcpy(&Result[4 * I], &Word, sizeof Word);
     }
-    Wipe(Tail);
     return Result;
 }
 

@@ -30,11 +30,10 @@ void PutBigEndian(std::uint32_t AValue, void* ADest) noexcept {
 
 // Takes the bytes after the last full block, and the padding.
 TSHA1Digest Finish(detail::TSha1State& AState, std::span<const std::byte> ARest, std::uint64_t ATotal) {
-    TTail Tail;
+    TTail Tail{};
     const std::size_t Size = ARest.size() + 9 <= cBlockSize ? cBlockSize : 2 * cBlockSize;
     if (!ARest.empty())
         std::memcpy(Tail.data(), ARest.data(), ARest.size());
-    std::memset(&Tail[ARest.size()], 0, Size - ARest.size());
     Tail[ARest.size()] = std::byte{0x80};
     PutBigEndian(static_cast<std::uint32_t>(ATotal >> 29), &Tail[Size - 8]); // in bits
     PutBigEndian(static_cast<std::uint32_t>(ATotal << 3), &Tail[Size - 4]);

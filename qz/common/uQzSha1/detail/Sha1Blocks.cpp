@@ -1,6 +1,7 @@
 #include <qz/common/uQzSha1/detail/Sha1Blocks.h>
 
 #include <bit>
+#include <utility>
 
 namespace qz::detail {
 namespace {
@@ -23,39 +24,40 @@ template <int cPart> std::uint32_t Mixed(std::uint32_t AX, std::uint32_t AY, std
         return (AX ^ AY ^ AZ) + 0xCA62C1D6;
 }
 
-template <int cPart>
-void Step(std::uint32_t AA, std::uint32_t& AB, std::uint32_t AC, std::uint32_t AD, std::uint32_t& AE,
-          std::uint32_t AWord) noexcept {
-    AE += std::rotl(AA, 5) + Mixed<cPart>(AB, AC, AD) + AWord;
+// Takes a word of the message schedule, of which the last sixteen are kept.
+template <int cStep>
+[[gnu::always_inline]] inline void Step(std::uint32_t AA, std::uint32_t& AB, std::uint32_t AC,
+                                        std::uint32_t AD, std::uint32_t& AE, std::uint32_t* AWords) noexcept {
+    std::uint32_t& Word = AWords[cStep % 16];
+    if constexpr (cStep >= 16)
+        Word = std::rotl(
+            AWords[(cStep - 3) % 16] ^ AWords[(cStep - 8) % 16] ^ AWords[(cStep - 14) % 16] ^ Word, 1);
+    AE += std::rotl(AA, 5) + Mixed<cStep / 20>(AB, AC, AD) + Word;
     AB = std::rotl(AB, 30);
 }
 
 // Five steps bring each word of the state back to its place.
-template <int cPart> void TwentySteps(TSha1State& AState, const std::uint32_t* AWords) noexcept {
-    auto& [A, B, C, D, E] = AState;
-    for (const std::uint32_t* Word = AWords + 20 * cPart; Word != AWords + 20 * (cPart + 1); Word += 5) {
-        Step<cPart>(A, B, C, D, E, Word[0]);
-        Step<cPart>(E, A, B, C, D, Word[1]);
-        Step<cPart>(D, E, A, B, C, Word[2]);
-        Step<cPart>(C, D, E, A, B, Word[3]);
-        Step<cPart>(B, C, D, E, A, Word[4]);
-    }
+template <int... cFives>
+[[gnu::always_inline]] inline void AllSteps(TSha1State& AState, std::uint32_t* AWords,
+                                            std::integer_sequence<int, cFives...>) noexcept {
+    auto [A, B, C, D, E] = AState;
+    const auto FiveSteps = [&]<int cFirst>() __attribute__((always_inline)) {
+        Step<cFirst>(A, B, C, D, E, AWords);
+        Step<cFirst + 1>(E, A, B, C, D, AWords);
+        Step<cFirst + 2>(D, E, A, B, C, AWords);
+        Step<cFirst + 3>(C, D, E, A, B, AWords);
+        Step<cFirst + 4>(B, C, D, E, A, AWords);
+    };
+    (FiveSteps.template operator()<5 * cFives>(), ...);
+    AState = {AState[0] + A, AState[1] + B, AState[2] + C, AState[3] + D, AState[4] + E};
 }
 
 void Blocks(TSha1State& AState, const std::byte* ABytes, std::size_t ACount) noexcept {
     for (; ACount > 0; --ACount, ABytes += 64) {
-        std::uint32_t Words[80];
+        std::uint32_t Words[16];
         for (int I = 0; I < 16; ++I)
             Words[I] = WordAt(ABytes + 4 * I);
-        for (int I = 16; I < 80; ++I)
-            Words[I] = std::rotl(Words[I - 3] ^ Words[I - 8] ^ Words[I - 14] ^ Words[I - 16], 1);
-        TSha1State State = AState;
-        TwentySteps<0>(State, Words);
-        TwentySteps<1>(State, Words);
-        TwentySteps<2>(State, Words);
-        TwentySteps<3>(State, Words);
-        for (std::size_t I = 0; I < State.size(); ++I)
-            AState[I] += State[I];
+        AllSteps(AState, Words, std::make_integer_sequence<int, 16>());
     }
 }
 
