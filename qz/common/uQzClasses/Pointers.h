@@ -1,8 +1,9 @@
 // Pointers as numbers and arithmetic on them, in bytes.
 //
-//     void* Here = Start;
+//     char Block[32];
+//     void* Here = Block;
 //     QzIncPtr(Here, 16);
-//     QzPtrDiff(Here, Start);                       // 16
+//     QzPtrDiff(Here, Block);                       // 16
 //
 // Nothing is checked: a result that points into no block must not be dereferenced.
 #pragma once

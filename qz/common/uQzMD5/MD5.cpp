@@ -47,7 +47,7 @@ template <int cStep>
 template <int... cFours>
 [[gnu::always_inline]] inline void AllSteps(TMD5State& AState, const TMD5Block& ABlock,
                                             std::integer_sequence<int, cFours...>) noexcept {
-    auto [A, B, C, D] = AState;
+    std::uint32_t A = AState[0], B = AState[1], C = AState[2], D = AState[3];
     const auto FourSteps = [&]<int cFirst>() __attribute__((always_inline)) {
         Step<cFirst>(A, B, C, D, ABlock);
         Step<cFirst + 1>(D, A, B, C, ABlock);

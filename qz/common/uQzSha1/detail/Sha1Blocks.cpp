@@ -40,7 +40,7 @@ template <int cStep>
 template <int... cFives>
 [[gnu::always_inline]] inline void AllSteps(TSha1State& AState, std::uint32_t* AWords,
                                             std::integer_sequence<int, cFives...>) noexcept {
-    auto [A, B, C, D, E] = AState;
+    std::uint32_t A = AState[0], B = AState[1], C = AState[2], D = AState[3], E = AState[4];
     const auto FiveSteps = [&]<int cFirst>() __attribute__((always_inline)) {
         Step<cFirst>(A, B, C, D, E, AWords);
         Step<cFirst + 1>(E, A, B, C, D, AWords);
