@@ -1,7 +1,8 @@
 // TQzBinEncoding: how bytes are written as text.
 //
-//     TQzBytes Bytes(u"Zm9v", beBase64);
-//     Bytes.Encode(beHexEncoded);                // "666F6F"
+//     TQzBinEncoding Encoding = beBase64Url;
+//     if (Encoding != beHexEncoded)
+//         Show("four characters for three bytes");
 #pragma once
 
 #include <span>

@@ -1,9 +1,9 @@
 // TNetEncodingEx: a TNetEncoding that also encodes and decodes plain memory, and streams into arrays.
 // TQzBase64Encoding, TQzBase64UrlEncoding and TQzHexEncoding are its classes.
 //
-//     const TQzBase64Encoding& Base64 = TQzNetEncoding::GetBase64ExEncoding();
+//     const TQzBase64Encoding Base64;
 //     Base64.Encode(u"Zoë");                        // "Wm/Dqw=="
-//     Base64.Encode("abc", 3).size();               // 4 bytes
+//     Base64.Encode("abc", 3);                      // an array of four characters
 //
 // None of them writes line breaks. Encodings hold constant tables only, so that one object serves all threads.
 #pragma once
