@@ -79,9 +79,10 @@ TEST(ZStreams, GiveBackWhatWasWrittenAndKnowTheirPlace) {
             TZDecompressionStream Unpacker(Packed, WindowBits);
             EXPECT_TRUE(Take(Unpacker, Size + 1) == Text);
             EXPECT_EQ(Unpacker.Size(), static_cast<std::int64_t>(Size));
-            for (const std::size_t Place : {Size / 3, Size / 5, Size})
-                EXPECT_TRUE((Unpacker.SetPosition(static_cast<std::int64_t>(Place)), Take(Unpacker, 5)) ==
-                            Text.substr(Place, 5));
+            for (const std::size_t Place : {Size / 3, Size / 5, Size}) {
+                Unpacker.SetPosition(static_cast<std::int64_t>(Place));
+                EXPECT_EQ(Take(Unpacker, 5), Text.substr(Place, 5));
+            }
             EXPECT_EQ(Unpacker.Seek(std::int64_t{9}, soCurrent), static_cast<std::int64_t>(Size));
             EXPECT_THROW(Unpacker.SetPosition(-1), EZDecompressionError);
         }
