@@ -36,12 +36,12 @@ TEST(ZLib, StartsAtThePositionAndStopsAfterTheData) {
 }
 
 TEST(ZLib, FaultsHaveTheirClassAndText) {
-    for (const auto& [Data, Text] :
+    for (const auto& Case :
          {std::pair(""s, u"Stream end"), std::pair("x"s, u"Buffer error"),
           std::pair("x\x9C\xFF\xFF"s, u"Data error"), std::pair("\x1F\x8B\x08\x00"s, u"Data error"),
           std::pair("x\xBB\x01\x02\x03\x04"s, u"Need dictionary")})
-        EXPECT_EQ(Raised([&] { ZlDecompressStreamToString(*StreamOf(Data), true); }),
-                  u"EQzZLibDecompressionError: "s + Text);
+        EXPECT_EQ(Raised([&] { ZlDecompressStreamToString(*StreamOf(Case.first), true); }),
+                  u"EQzZLibDecompressionError: "s + Case.second);
     EXPECT_EQ(EQzZLibException(-6).Message(), u"Incompatible version");
     EXPECT_EQ(EQzZLibException(-7).ErrorCode(), -7);
     char Block[1000];
