@@ -29,13 +29,14 @@ install(FILES
     ${PROJECT_BINARY_DIR}/rQzCommon210Config.cmake ${PROJECT_BINARY_DIR}/rQzCommon210ConfigVersion.cmake
     cmake/FindPCRE2.cmake DESTINATION ${QZ_PACKAGE_DIR})
 
-# Libraries that pkg-config knows by a name of their own, and those it is given as flags. The mingw libraries of
-# Debian have no pkg-config files.
-set(QZ_PC_REQUIRES libpcre2-16)
+# Libraries that pkg-config knows by a name of their own, and those it is given as flags: on Windows all of them, since
+# pkg-config searches the folders of Linux.
+set(QZ_PC_REQUIRES libpcre2-16 zlib)
 set(QZ_PC_LIBS ${QZ_LIBRARIES})
 if(WIN32)
     set(QZ_PC_REQUIRES)
     list(TRANSFORM QZ_PC_LIBS REPLACE "^PCRE2::16BIT$" pcre2-16)
+    list(TRANSFORM QZ_PC_LIBS REPLACE "^ZLIB::ZLIB$" z)
 else()
     list(APPEND QZ_PC_REQUIRES icu-i18n icu-uc)
     list(APPEND QZ_PC_LIBS stdc++ m)

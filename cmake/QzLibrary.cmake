@@ -32,7 +32,9 @@ target_link_libraries(qz_platform PRIVATE ${QZ_PLATFORM_LIBRARIES})
 target_link_libraries(qz_runtime PRIVATE ${QZ_RUNTIME_LIBRARIES})
 if(MINGW)
     # gcc aligns the stack to 16 bytes there and yet takes vectors of 32 bytes on it for aligned.
-    set_source_files_properties(${PROJECT_SOURCE_DIR}/qz/runtime/base/detail/UtfAvx2.cpp PROPERTIES
+    set_source_files_properties(
+        ${PROJECT_SOURCE_DIR}/qz/runtime/base/detail/UtfAvx2.cpp
+        ${PROJECT_SOURCE_DIR}/qz/runtime/text/detail/BinaryAvx2.cpp PROPERTIES
         COMPILE_OPTIONS -Wa,-muse-unaligned-vector-move)
 endif()
 

@@ -22,6 +22,18 @@
 // QzStreamToReadBuf and QzStreamToWriteBuf,
 // streams as blocks of memory.
 #include <qz/common/uQzClasses/StreamBuf.h>
+// TQzBytes, an array of bytes as a value
+// with operators and text forms.
+#include <qz/common/uQzClasses/QzBytes.h>
+// TQzMemoryBuffer and IQzMemoryBuffer,
+// blocks of memory that know their size.
+#include <qz/common/uQzClasses/MemoryBuffer.h>
+// QzBufToHex, QzStringToBuf and the like,
+// bytes between memory, arrays, streams and text.
+#include <qz/common/uQzClasses/BufferText.h>
+// QzIncPtr, QzPtrDiff and the like,
+// pointers as numbers.
+#include <qz/common/uQzClasses/Pointers.h>
 // TQzStringStream, a stream of text
 // in one code page.
 #include <qz/common/uQzClasses/QzStringStream.h>
@@ -52,3 +64,6 @@
 // TQzMemoList, texts of many lines,
 // each under a code of its own.
 #include <qz/common/uQzClasses/QzMemoList.h>
+// TQzDN, a distinguished name,
+// as in the subject of a certificate.
+#include <qz/common/uQzClasses/DistinguishedName.h>

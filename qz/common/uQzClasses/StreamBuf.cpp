@@ -1,31 +1,13 @@
 #include <qz/common/uQzClasses/StreamBuf.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
 #include <new>
 
 #include <qz/common/uQzClasses/QzMemoryStream.h>
+#include <qz/runtime/base/Memory.h>
 #include <qz/runtime/streams/MemoryStream.h>
 
 namespace qz {
-namespace {
-
-struct TFree {
-    void operator()(void* ABlock) const noexcept { std::free(ABlock); }
-};
-using TBlock = std::unique_ptr<std::byte, TFree>;
-
-// Never null, so that a block without bytes is one too.
-TBlock NewBlock(std::size_t ASize) {
-    TBlock Block(static_cast<std::byte*>(std::malloc(std::max<std::size_t>(ASize, 1))));
-    if (Block == nullptr)
-        throw std::bad_alloc();
-    return Block;
-}
-
-} // namespace
-
 bool QzStreamToReadBuf(TStream& AStream, void*& ABuffer, std::size_t& ASize) {
     const std::int64_t Position = AStream.Position();
     const auto Size = static_cast<std::size_t>(std::max<std::int64_t>(AStream.Size() - Position, 0));
@@ -39,7 +21,7 @@ bool QzStreamToReadBuf(TStream& AStream, void*& ABuffer, std::size_t& ASize) {
         ASize = Size;
         return false;
     }
-    TBlock Block = NewBlock(Size);
+    TMemBlock Block = NewMemBlock(Size);
     ASize = static_cast<std::size_t>(AStream.ReadUpTo(Block.get(), static_cast<std::int64_t>(Size)));
     ABuffer = Block.release();
     return true;
@@ -48,7 +30,7 @@ bool QzStreamToReadBuf(TStream& AStream, void*& ABuffer, std::size_t& ASize) {
 bool QzStreamToWriteBuf(TStream& AStream, void*& ABuffer, std::size_t ASize) {
     auto* Memory = dynamic_cast<TQzMemoryStream*>(&AStream);
     if (Memory == nullptr) {
-        ABuffer = NewBlock(ASize).release();
+        ABuffer = GetMem(ASize);
         return true;
     }
     const std::int64_t Position = Memory->Position();
@@ -60,7 +42,7 @@ bool QzStreamToWriteBuf(TStream& AStream, void*& ABuffer, std::size_t ASize) {
 }
 
 void QzFreeStreamBuf(void* ABuffer) noexcept {
-    std::free(ABuffer);
+    FreeMem(ABuffer);
 }
 
 } // namespace qz

@@ -18,6 +18,7 @@
 #include <new>
 #include <span>
 #include <stdexcept>
+#include <type_traits>
 #include <utility>
 
 namespace qz {
@@ -35,6 +36,15 @@ public:
         TDynArray Fresh;
         Fresh.Fill(AItems.size(), AItems.size(), AItems, false);
         Swap(Fresh);
+    }
+    // ALength elements that are not set yet.
+    static TDynArray ForOverwrite(std::size_t ALength) requires(std::is_trivially_copyable_v<T>) {
+        TDynArray Result;
+        if (ALength != 0) {
+            Result.FBlock = NewBlock(ALength);
+            Result.FBlock->Length = ALength;
+        }
+        return Result;
     }
     TDynArray(const TDynArray& AOther) noexcept : FBlock(AOther.FBlock) {
         if (FBlock != nullptr)
@@ -109,14 +119,18 @@ private:
         FBlock->Length = ALength;
     }
 
+    static TBlock* NewBlock(std::size_t ACapacity) {
+        if (ACapacity > (static_cast<std::size_t>(PTRDIFF_MAX) - sizeof(TBlock)) / sizeof(T))
+            throw std::length_error("an array cannot be that long");
+        return new (::operator new(sizeof(TBlock) + ACapacity * sizeof(T))) TBlock{1, 0, ACapacity};
+    }
+
     // Builds a block of ALength elements of which the first are those of AItems, moved where that cannot fail
     // and AMayMove says that no other handle shares them. This handle is empty.
     void Fill(std::size_t ALength, std::size_t ACapacity, std::span<const T> AItems, bool AMayMove) {
         if (ALength == 0)
             return;
-        if (ACapacity > (static_cast<std::size_t>(PTRDIFF_MAX) - sizeof(TBlock)) / sizeof(T))
-            throw std::length_error("an array cannot be that long");
-        auto* Block = new (::operator new(sizeof(TBlock) + ACapacity * sizeof(T))) TBlock{1, 0, ACapacity};
+        auto* Block = NewBlock(ACapacity);
         try {
             FillItems(Block->Items(), ALength, AItems, AMayMove);
         } catch (...) {

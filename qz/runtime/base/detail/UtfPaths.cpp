@@ -1,6 +1,6 @@
 #include <qz/runtime/base/detail/UtfPaths.h>
 
-#include <atomic>
+#include <qz/platform/Machine.h>
 
 namespace qz::detail {
 namespace {
@@ -13,36 +13,18 @@ const TUtfPath* const cPaths[] = {
 #endif
 };
 
-std::size_t CountPaths() noexcept {
-    std::size_t Count = 1;
-#ifdef __x86_64__
-    __builtin_cpu_init();
-    if (__builtin_cpu_supports("ssse3") && __builtin_cpu_supports("sse4.1") &&
-        __builtin_cpu_supports("popcnt"))
-        ++Count;
-    if (Count == 2 && __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi"))
-        ++Count;
-#endif
-    return Count;
-}
+constinit platform::TChosenPath<TUtfPath> Best(cUtfPortablePath);
 
-// Every path gives the same answers, so that no other data has to be ordered with the choice; until the
-// initialiser below has run, conversions are merely slower.
-constinit std::atomic<const TUtfPath*> Best{&cUtfPortablePath};
-
-[[maybe_unused]] const bool cIsChosen = [] {
-    Best.store(UtfPaths().back(), std::memory_order_relaxed);
-    return true;
-}();
+[[maybe_unused]] const bool cIsChosen = Best.Choose(*UtfPaths().back());
 
 } // namespace
 
 std::span<const TUtfPath* const> UtfPaths() noexcept {
-    return {cPaths, CountPaths()};
+    return {cPaths, static_cast<std::size_t>(platform::BestMachine()) + 1};
 }
 
 const TUtfPath& BestUtfPath() noexcept {
-    return *Best.load(std::memory_order_relaxed);
+    return *Best;
 }
 
 } // namespace qz::detail

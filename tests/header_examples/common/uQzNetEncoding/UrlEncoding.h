@@ -1,0 +1,1 @@
+#include <qz/common/uQzNetEncoding/QzNetEncoding.h>

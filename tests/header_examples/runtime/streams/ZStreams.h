@@ -1,0 +1,1 @@
+#include <qz/runtime/streams/MemoryStream.h>
