@@ -15,6 +15,8 @@
 
 namespace qz {
 
+class TQzBytes;
+
 // What lies between the position and the end of AInput, written to AOutput as TQzBase64Encoding does; the
 // number of bytes written.
 QZ_API std::int64_t QzEncodeBase64(TStream& AInput, TStream& AOutput);
@@ -24,6 +26,7 @@ QZ_API AnsiString QzEncodeBase64(const TByteText& AText);
 // The UTF-8 form.
 QZ_API AnsiString QzEncodeBase64(const TStringArg& AText);
 QZ_API AnsiString QzEncodeBase64(const TBytes& ABytes);
+QZ_API AnsiString QzEncodeBase64(const TQzBytes& ABytes);
 QZ_API AnsiString QzEncodeBase64(const void* AData, std::uint32_t ASize);
 
 QZ_API std::int64_t QzEncodeBase64Url(TStream& AInput, TStream& AOutput);
@@ -31,6 +34,7 @@ QZ_API AnsiString QzEncodeBase64Url(TStream& AStream);
 QZ_API AnsiString QzEncodeBase64Url(const TByteText& AText);
 QZ_API AnsiString QzEncodeBase64Url(const TStringArg& AText);
 QZ_API AnsiString QzEncodeBase64Url(const TBytes& ABytes);
+QZ_API AnsiString QzEncodeBase64Url(const TQzBytes& ABytes);
 QZ_API AnsiString QzEncodeBase64Url(const void* AData, std::uint32_t ASize);
 
 // Both alphabets, as TQzBase64Encoding does: text of any length to a stream, else "Invalid Base64 data!" for a

@@ -1,5 +1,6 @@
 #include <qz/common/uQzBase64.h>
 
+#include <qz/common/uQzClasses/QzBytes.h>
 #include <qz/common/uQzClasses/StreamBuf.h>
 #include <qz/common/uQzNetEncoding.h>
 #include <qz/runtime/base/UtfForms.h>
@@ -45,6 +46,10 @@ AnsiString QzEncodeBase64(const TBytes& ABytes) {
     return Encoded(std::as_bytes(std::span(ABytes)), TBase64Alphabet::Standard);
 }
 
+AnsiString QzEncodeBase64(const TQzBytes& ABytes) {
+    return Encoded(ABytes, TBase64Alphabet::Standard);
+}
+
 AnsiString QzEncodeBase64(const void* AData, std::uint32_t ASize) {
     return Encoded(BytesAt(AData, ASize), TBase64Alphabet::Standard);
 }
@@ -67,6 +72,10 @@ AnsiString QzEncodeBase64Url(const TStringArg& AText) {
 
 AnsiString QzEncodeBase64Url(const TBytes& ABytes) {
     return Encoded(std::as_bytes(std::span(ABytes)), TBase64Alphabet::Url);
+}
+
+AnsiString QzEncodeBase64Url(const TQzBytes& ABytes) {
+    return Encoded(ABytes, TBase64Alphabet::Url);
 }
 
 AnsiString QzEncodeBase64Url(const void* AData, std::uint32_t ASize) {

@@ -80,25 +80,30 @@ template <class T> void Wipe(T& AValue) noexcept {
     asm volatile("" : : "r"(&AValue) : "memory"); // so that the compiler keeps it
 }
 
-// Takes the bytes after the last full block, and the padding.
-TMD5Digest Finish(TMD5State& AState, const std::uint8_t* ARest, std::size_t ACount,
-                  std::uint64_t ABits) noexcept {
-    constexpr std::size_t cSize = sizeof(TMD5Buffer);
-    std::array<std::uint8_t, 2 * cSize> Tail{};
-    const std::size_t Size = ACount + 9 <= cSize ? cSize : 2 * cSize;
+// Takes the bytes after the last full block, and the padding, which make cCount blocks.
+template <std::size_t cCount>
+TMD5Digest FinishIn(TMD5State& AState, const std::uint8_t* ARest, std::size_t ACount,
+                    std::uint64_t ABits) noexcept {
+    std::array<std::uint8_t, cCount * sizeof(TMD5Buffer)> Tail{};
     if (ACount != 0)
         std::memcpy(Tail.data(), ARest, ACount);
     Tail[ACount] = 0x80;
     const std::uint32_t Bits[] = {LittleEndian(static_cast<std::uint32_t>(ABits)),
                                   LittleEndian(static_cast<std::uint32_t>(ABits >> 32))};
-    std::memcpy(&Tail[Size - sizeof Bits], Bits, sizeof Bits);
-    Blocks(AState, Tail.data(), Size / cSize);
+    std::memcpy(&Tail[Tail.size() - sizeof Bits], Bits, sizeof Bits);
+    Blocks(AState, Tail.data(), cCount);
     TMD5Digest Result;
     for (std::size_t I = 0; I < AState.size(); ++I) {
         const std::uint32_t Word = LittleEndian(AState[I]);
         std::memcpy(&Result[4 * I], &Word, sizeof Word);
     }
     return Result;
+}
+
+TMD5Digest Finish(TMD5State& AState, const std::uint8_t* ARest, std::size_t ACount,
+                  std::uint64_t ABits) noexcept {
+    return ACount + 9 <= sizeof(TMD5Buffer) ? FinishIn<1>(AState, ARest, ACount, ABits)
+                                            : FinishIn<2>(AState, ARest, ACount, ABits);
 }
 
 TMD5Digest DigestOf(const void* AData, std::size_t ASize) noexcept {

@@ -15,7 +15,6 @@ namespace qz {
 namespace {
 
 constexpr std::size_t cBlockSize = 64;
-using TTail = std::array<std::byte, 2 * cBlockSize>;
 
 template <class T> void Wipe(T& AValue) noexcept {
     std::memset(&AValue, 0, sizeof AValue);
@@ -28,22 +27,27 @@ void PutBigEndian(std::uint32_t AValue, void* ADest) noexcept {
     std::memcpy(ADest, &AValue, sizeof AValue);
 }
 
-// Takes the bytes after the last full block, and the padding.
-TSHA1Digest Finish(detail::TSha1State& AState, std::span<const std::byte> ARest, std::uint64_t ATotal) {
-    TTail Tail{};
-    const std::size_t Size = ARest.size() + 9 <= cBlockSize ? cBlockSize : 2 * cBlockSize;
+// Takes the bytes after the last full block, and the padding, which make cCount blocks.
+template <std::size_t cCount>
+TSHA1Digest FinishIn(detail::TSha1State& AState, std::span<const std::byte> ARest, std::uint64_t ATotal) {
+    std::array<std::byte, cCount * cBlockSize> Tail{};
     if (!ARest.empty())
         std::memcpy(Tail.data(), ARest.data(), ARest.size());
     Tail[ARest.size()] = std::byte{0x80};
-    PutBigEndian(static_cast<std::uint32_t>(ATotal >> 29), &Tail[Size - 8]); // in bits
-    PutBigEndian(static_cast<std::uint32_t>(ATotal << 3), &Tail[Size - 4]);
-    detail::BestSha1Path->Blocks(AState, Tail.data(), Size / cBlockSize);
+    PutBigEndian(static_cast<std::uint32_t>(ATotal >> 29), &Tail[Tail.size() - 8]); // in bits
+    PutBigEndian(static_cast<std::uint32_t>(ATotal << 3), &Tail[Tail.size() - 4]);
+    detail::BestSha1Path->Blocks(AState, Tail.data(), cCount);
     TSHA1Digest Result;
     for (std::size_t I = 0; I < AState.size(); ++I)
         PutBigEndian(AState[I], &Result[4 * I]);
     Wipe(AState);
     Wipe(Tail);
     return Result;
+}
+
+TSHA1Digest Finish(detail::TSha1State& AState, std::span<const std::byte> ARest, std::uint64_t ATotal) {
+    return ARest.size() + 9 <= cBlockSize ? FinishIn<1>(AState, ARest, ATotal)
+                                          : FinishIn<2>(AState, ARest, ATotal);
 }
 
 TSHA1Digest DigestOf(std::span<const std::byte> ABytes) {

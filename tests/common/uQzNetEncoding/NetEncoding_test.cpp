@@ -1,4 +1,5 @@
 #include <qz/common/uQzBase64.h>
+#include <qz/common/uQzClasses/QzBytes.h>
 #include <qz/common/uQzNetEncoding.h>
 
 #include <gtest/gtest.h>
@@ -57,6 +58,7 @@ TEST(NetEncodingUnit, EachFormOfPublishedVectors) {
         EXPECT_EQ(std::string(QzEncodeBase64(Row[0]).View()), std::string(Row[1]));
         EXPECT_EQ(std::string(QzEncodeBase64Url(UTF8String(Row[0])).View()), std::string(Row[2]));
     }
+    EXPECT_EQ(QzEncodeBase64(TQzBytes("\xFB\xEF", 2)).View(), "++8=");
     EXPECT_EQ(Message([] { TQzNetEncoding::GetEncoding(static_cast<TQzBinEncoding>(3)); }),
               u"The specified NetEncoding is not supported!");
 }

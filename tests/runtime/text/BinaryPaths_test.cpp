@@ -110,6 +110,10 @@ TEST_F(BinaryPaths, Base64SkipsWhatIsNotInTheAlphabet) {
             Text[Place] = Clean[Place];
         }
     }
+    // Characters before a byte that fills the last group, whose lowest bits are not 0.
+    for (std::size_t Length = 1; Length < 100; ++Length)
+        for (const char* Filler : {"=", "==", "\x82", "z\x82", "===", "=z"})
+            CheckDecoding(std::string(Length, '/') + Filler);
     for (int Round = 0; Round < 3000; ++Round) {
         std::string Text = Clean.substr(0, FRandom() % Clean.size());
         for (std::size_t Count = FRandom() % 8; Count > 0; --Count)

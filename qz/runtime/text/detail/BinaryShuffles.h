@@ -35,6 +35,7 @@ alignas(16) inline constexpr TShuffle cEvenPlaces = Repeated32(0x01000010);
 // The values of the last upper case letter and of the last letter.
 alignas(16) inline constexpr TShuffle cLastUpper = Repeated32(0x19191919);
 alignas(16) inline constexpr TShuffle cLastLetter = Repeated32(0x33333333);
+alignas(16) inline constexpr TShuffle cSixBits = Repeated32(0x3F3F3F3F);
 alignas(16) inline constexpr TShuffle cHalfByte = Repeated32(0x0F0F0F0F);
 // The factors that join values: 64 and 1 for pairs, 4096 and 1 for pairs of those, 16 and 1 for digits.
 alignas(16) inline constexpr TShuffle cPairPlaces = Repeated32(0x01400140);
