@@ -61,6 +61,11 @@ private:
     [[noreturn]] static void RaiseEnd() { throw EQzTextParserEOF(u"Unexpected EOF"); }
 
     UnicodeString Value() {
+        const std::size_t First = FPos;
+        FPos = FindOf(FText, First, cStops);
+        if (AtEnd() || Is(u','))
+            return FText.substr(First, FPos - First);
+        FPos = First;
         UnicodeString Result;
         bool Quoted = Is(u'"');
         if (Quoted)

@@ -113,12 +113,18 @@ private:
     int FNext = 0;
 };
 
-// The low bytes of the characters: eight at a time, which becomes one instruction or two.
+// The low bytes of the characters; of 16-bit ones eight at a time.
 template <class TChar> void CopyLowBytes(const TChar* ASource, std::size_t ACount, char* ATarget) noexcept {
-    constexpr std::size_t cStep = 8;
-    for (; ACount >= cStep; ACount -= cStep, ASource += cStep, ATarget += cStep) {
-        for (std::size_t I = 0; I < cStep; ++I)
-            ATarget[I] = static_cast<char>(ASource[I]);
+    if constexpr (sizeof(TChar) == 2) {
+        using TUnits = std::uint16_t __attribute__((vector_size(16)));
+        using TUnitBytes = std::uint8_t __attribute__((vector_size(8)));
+        constexpr std::size_t cStep = 8;
+        for (; ACount >= cStep; ACount -= cStep, ASource += cStep, ATarget += cStep) {
+            TUnits Units;
+            std::memcpy(&Units, ASource, sizeof Units);
+            const TUnitBytes Bytes = __builtin_convertvector(Units, TUnitBytes);
+            std::memcpy(ATarget, &Bytes, sizeof Bytes);
+        }
     }
     for (std::size_t I = 0; I < ACount; ++I)
         ATarget[I] = static_cast<char>(ASource[I]);
