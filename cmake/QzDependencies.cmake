@@ -2,6 +2,10 @@
 set(THREADS_PREFER_PTHREAD_FLAG ON)
 find_package(Threads REQUIRED)
 find_package(PCRE2 REQUIRED)
+# A Windows program has no DLL but those of the system.
+if(WIN32)
+    set(ZLIB_USE_STATIC_LIBS ON)
+endif()
 find_package(ZLIB REQUIRED)
 
 set(QZ_RUNTIME_LIBRARIES PCRE2::16BIT ZLIB::ZLIB)

@@ -1,5 +1,5 @@
-// Bytes become Base64 of both alphabets and the same bytes again, also in lines, and cut at any place the first of
-// them; any text decodes alike on every path of the machine.
+// Bytes become Base64 of both alphabets and the same bytes again, also in lines, and cut at any place the
+// first of them; any text decodes alike on every path of the machine.
 
 #include "fuzz/Fuzz.h"
 #include <qz/common/uQzNetEncoding.h>

@@ -1,4 +1,5 @@
-// Any text is read by each reader of dates, or refused by its exceptions; parts that make a date survive being written.
+// Any text is read by each reader of dates, or refused by its exceptions; parts that make a date survive
+// being written.
 #include "fuzz/Fuzz.h"
 #include <qz/common/uQzDateTimeUtils.h>
 #include <qz/runtime/lists/Strings.h>

@@ -1,5 +1,5 @@
-// A name that is read, written and read again has the same entries. Left out is what the text form cannot say: a comma at
-// the start of a name, and what is special right after a blank.
+// A name that is read, written and read again has the same entries. Left out is what the text form cannot
+// say: a comma at the start of a name, and what is special right after a blank.
 #include "fuzz/Fuzz.h"
 #include <qz/common/uQzClasses/DistinguishedName.h>
 #include <qz/runtime/objects/Exceptions.h>

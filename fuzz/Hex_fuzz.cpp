@@ -1,4 +1,5 @@
-// Bytes become digits and the same bytes again; any text decodes to half as many bytes, whose digits decode to them.
+// Bytes become digits and the same bytes again; any text decodes to half as many bytes, whose digits decode
+// to them.
 
 #include "fuzz/Fuzz.h"
 #include <qz/runtime/text/BinaryText.h>

@@ -1,6 +1,6 @@
-// Base64 and hexadecimal text beside OpenSSL's EVP_EncodeBlock and EVP_DecodeBlock, from block to block. Speeds are of
-// bytes, not of characters. EVP_DecodeBlock refuses line breaks, so that its text has none. The class is measured with
-// the array that it makes.
+// Base64 and hexadecimal text beside OpenSSL's EVP_EncodeBlock and EVP_DecodeBlock, from block to block.
+// Speeds are of bytes, not of characters. EVP_DecodeBlock refuses line breaks, so that its text has none. The
+// class is measured with the array that it makes.
 #include <benchmark/benchmark.h>
 #include <openssl/evp.h>
 

@@ -1,4 +1,5 @@
-// Dates written and read as ISO 8601, beside POCO and Howard Hinnant's date. Each step takes another of a thousand dates.
+// Dates written and read as ISO 8601, beside POCO and Howard Hinnant's date. Each step takes another of a
+// thousand dates.
 #include <benchmark/benchmark.h>
 
 #include <Poco/DateTime.h>

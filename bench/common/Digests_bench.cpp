@@ -1,5 +1,6 @@
-// SHA-1 and MD5 beside OpenSSL: EVP_Q_digest, which fetches the algorithm at each call, the functions SHA1 and MD5 for one
-// message, and the three calls of the low-level interface on a context on the stack, which are its fastest way.
+// SHA-1 and MD5 beside OpenSSL: EVP_Q_digest, which fetches the algorithm at each call, the functions SHA1
+// and MD5 for one message, and the three calls of the low-level interface on a context on the stack, which
+// are its fastest way.
 #define OPENSSL_SUPPRESS_DEPRECATED
 
 #include <benchmark/benchmark.h>

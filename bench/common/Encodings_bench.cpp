@@ -1,5 +1,5 @@
-// Compression, UU text, percent-encoding and distinguished names. The peer of compression is zlib itself over the same
-// blocks.
+// Compression, UU text, percent-encoding and distinguished names. The peer of compression is zlib itself over
+// the same blocks.
 #include <benchmark/benchmark.h>
 #include <zlib.h>
 

@@ -12,6 +12,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include <qz/runtime/base/StringArg.h>
@@ -34,12 +35,12 @@ struct TMD5Context {
 
 QZ_API void MD5Init(TMD5Context& AContext) noexcept;
 // Adds bytes. The count of bits wraps at 2^64.
-QZ_API void MD5Update(TMD5Context& AContext, const void* AInput, std::uint32_t ALength) noexcept;
+QZ_API void MD5Update(TMD5Context& AContext, const void* AInput, std::size_t ALength) noexcept;
 // Gives the digest and clears the context, which MD5Init makes usable again.
 QZ_API void MD5Final(TMD5Context& AContext, TMD5Digest& ADigest) noexcept;
 
 // A negative size counts as 0.
-QZ_API TMD5Digest MD5Hash(const void* ABuffer, std::int32_t ASize) noexcept;
+QZ_API TMD5Digest MD5Hash(const void* ABuffer, std::int64_t ASize) noexcept;
 // As 32 upper case digits: of the bytes as they stand, and of the UTF-8 form.
 QZ_API UnicodeString MD5Hash(const TByteText& AText);
 QZ_API UnicodeString MD5Hash(const TStringArg& AText);

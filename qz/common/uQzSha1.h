@@ -24,8 +24,8 @@ namespace qz {
 using TSHA1Digest = std::array<std::uint8_t, 20>;
 
 // A negative size counts as 0.
-QZ_API TSHA1Digest QzHashBuffer(const void* ABuffer, std::int32_t ASize);
-QZ_API UnicodeString QzHashBuffer(const void* ABuffer, std::int32_t ASize, TQzBinEncoding AEncoding);
+QZ_API TSHA1Digest QzHashBuffer(const void* ABuffer, std::int64_t ASize);
+QZ_API UnicodeString QzHashBuffer(const void* ABuffer, std::int64_t ASize, TQzBinEncoding AEncoding);
 
 // Of the UTF-8 form.
 QZ_API void QzHashString(const TStringArg& AText, TSHA1Digest& ADigest);
@@ -35,8 +35,9 @@ QZ_API UnicodeString QzHashStringA(const RawByteString& AText, TQzBinEncoding AE
 // Of the 16-bit units, low byte first.
 QZ_API UnicodeString QzHashStringW(const TStringArg& AText, TQzBinEncoding AEncoding);
 
-// Read by blocks, to the end: the stream from its position or from its start, in Base64; and a file, which
-// others may have open. Raise what the stream raises, and EFOpenError.
+// Read by blocks: the stream from its position or from its start, in Base64, and at most as many bytes as its
+// Size says; and a file, which others may have open. A file of /proc, whose size is 0, counts as empty. Raise
+// what the stream raises, and EFOpenError.
 QZ_API UnicodeString QzHashStream(TStream& AStream, bool AFromStart);
 QZ_API UnicodeString QzHashFile(const TStringArg& AFileName, TQzBinEncoding AEncoding);
 

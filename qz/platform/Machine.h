@@ -22,8 +22,8 @@ QZ_API TMachine BestMachine() noexcept;
 // Whether the processor has the SHA extensions and SSE4.1.
 QZ_API bool HasShaInstructions() noexcept;
 
-// One of several ways to the same result. It is the portable one until static initialisation has chosen; until
-// then the work takes longer.
+// One of several ways to the same result. It is the portable one until static initialisation has chosen;
+// until then the work takes longer.
 template <class T> class TChosenPath {
 public:
     constexpr explicit TChosenPath(const T& APortable) noexcept : FPath(&APortable) {}

@@ -20,7 +20,7 @@ AnsiString EncodedRest(TStream& AStream, TBase64Alphabet AAlphabet) {
     return Encoded(TQzReadBuf(AStream).Bytes(), AAlphabet);
 }
 
-std::span<const std::byte> BytesAt(const void* AData, std::uint32_t ASize) noexcept {
+std::span<const std::byte> BytesAt(const void* AData, std::size_t ASize) noexcept {
     return {static_cast<const std::byte*>(AData), ASize};
 }
 
@@ -50,7 +50,7 @@ AnsiString QzEncodeBase64(const TQzBytes& ABytes) {
     return Encoded(ABytes, TBase64Alphabet::Standard);
 }
 
-AnsiString QzEncodeBase64(const void* AData, std::uint32_t ASize) {
+AnsiString QzEncodeBase64(const void* AData, std::size_t ASize) {
     return Encoded(BytesAt(AData, ASize), TBase64Alphabet::Standard);
 }
 
@@ -78,7 +78,7 @@ AnsiString QzEncodeBase64Url(const TQzBytes& ABytes) {
     return Encoded(ABytes, TBase64Alphabet::Url);
 }
 
-AnsiString QzEncodeBase64Url(const void* AData, std::uint32_t ASize) {
+AnsiString QzEncodeBase64Url(const void* AData, std::size_t ASize) {
     return Encoded(BytesAt(AData, ASize), TBase64Alphabet::Url);
 }
 

@@ -4,10 +4,11 @@
 //     TBytes Bytes = QzStringToBuf(RawByteString("Zm9v"), beBase64);
 //     TBytes Same = QzHexToBuf(QzBufToHex(Bytes));
 //
-// A stream is read from its position to its end, as by QzStreamToReadBuf, and written at its position. Text is
-// encoded and decoded as by the classes of uQzNetEncoding: an unknown TQzBinEncoding raises Exception, "The
-// specified NetEncoding is not supported!", and Base64 of 4n + 1 characters "Invalid Base64 data!". A plain
-// block that a function returns belongs to the caller, who frees it by FreeMem; it is null without bytes.
+// A stream is read from its position to its end, as by QzStreamToReadBuf, and written at its position. Text
+// is encoded and decoded as by the classes of uQzNetEncoding: an unknown TQzBinEncoding raises Exception,
+// "The specified NetEncoding is not supported!", and Base64 of 4n + 1 characters "Invalid Base64 data!". A
+// plain block that a function returns belongs to the caller, who frees it by FreeMem; it is null without
+// bytes.
 #pragma once
 
 #include <cstddef>

@@ -17,10 +17,16 @@ using TView = std::u16string_view;
 // Above this count equality sorts the lines.
 constexpr std::size_t cFewEntries = 64;
 
+// The capital form of a unit. A unit whose capital form is an ASCII letter stays as it is, unless it is
+// ASCII: a dotless i must not pass for an i.
+char16_t Folded(char16_t AChar) noexcept {
+    const char16_t Upper = detail::UpperUnit(AChar);
+    return AChar >= 0x80 && Upper < 0x80 ? AChar : Upper;
+}
+
 bool SameUnits(TView ALeft, TView ARight) noexcept {
-    return std::equal(ALeft.begin(), ALeft.end(), ARight.begin(), ARight.end(), [](char16_t A, char16_t B) {
-        return A == B || detail::UpperUnit(A) == detail::UpperUnit(B);
-    });
+    return std::equal(ALeft.begin(), ALeft.end(), ARight.begin(), ARight.end(),
+                      [](char16_t A, char16_t B) { return A == B || Folded(A) == Folded(B); });
 }
 
 UnicodeString LineOf(const TQzRDN& AEntry) {
@@ -39,8 +45,10 @@ bool SameLine(const TQzRDN& ALeft, const TQzRDN& ARight) {
 std::vector<std::u16string> SortedLines(const TQzDN& AName) {
     std::vector<std::u16string> Result;
     Result.reserve(AName.size());
-    for (const TQzRDN& Entry : AName)
-        Result.push_back(detail::UpperUnits(LineOf(Entry)));
+    for (const TQzRDN& Entry : AName) {
+        std::u16string& Line = Result.emplace_back(LineOf(Entry).View());
+        std::ranges::transform(Line, Line.begin(), Folded);
+    }
     std::ranges::sort(Result);
     return Result;
 }
@@ -143,12 +151,12 @@ std::size_t TQzDN::Hash() const noexcept {
         std::uint64_t Line = cStart;
         const auto Take = [&Line](TView AText) {
             for (const char16_t Char : AText)
-                Line = (Line ^ detail::UpperUnit(Char)) * cFactor;
+                Line = (Line ^ Folded(Char)) * cFactor;
         };
         Take(Entry.FName);
         Take(u"=");
         Take(Entry.FValue);
-        // The sum ignores the order; mixed, so that no two lines make up for each other.
+        // The sum ignores the order. Each line is mixed, so that sums of different lines rarely meet.
         Line ^= Line >> 32;
         Sum += Line * 0x9E3779B97F4A7C15;
     }

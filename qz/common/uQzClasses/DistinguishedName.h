@@ -1,5 +1,5 @@
-// TQzDN: a distinguished name (X.500, as in the subject of a certificate) as a list of names with their
-// values, read from and written to its text form.
+// TQzDN: a distinguished name (X.500, as in the subject of a certificate) as a list of names with values. It
+// is read from its text form and written to it.
 //
 //     TQzDN Subject = u"CN=Anna, OU=Sales, O=\"Smith, Jones\"";
 //     Subject.Values(u"ou");                      // "Sales"
@@ -9,9 +9,9 @@
 //         Show(Entry.FName, Entry.FValue);
 //
 // Entries stay in the order of the text, where commas separate them. Comparison ignores the order of the
-// entries and, by the simple mapping of Unicode, the case of letters. Copies share their entries: a change by
-// SetName or SetValue appears in all copies, until one of them adds or deletes. Different threads may use
-// different copies if none changes a shared entry.
+// entries and the case of letters, 16-bit unit by unit; only a to z equal A to Z. Copies share their entries:
+// a change by SetName or SetValue appears in all copies, until one of them adds or deletes. Different threads
+// may use different copies if none changes a shared entry.
 #pragma once
 
 #include <compare>
@@ -45,7 +45,7 @@ public:
     TQzDN() noexcept = default;
     // As ParseDN.
     template <class T>
-        requires(!std::same_as<T, TQzDN> && std::convertible_to<const T&, UnicodeString>)
+        requires(!std::derived_from<T, TQzDN> && std::convertible_to<const T&, UnicodeString>)
     TQzDN(const T& AText) { ParseDN(AText); }
     // As Load.
     explicit TQzDN(const TStrings& AStrings);
@@ -102,8 +102,13 @@ public:
     friend QZ_API std::weak_ordering operator<=>(const TQzDN& ALeft, const TQzDN& ARight);
     // The text is parsed first.
     template <class T>
-        requires(!std::same_as<T, TQzDN> && std::convertible_to<const T&, UnicodeString>)
+        requires(!std::derived_from<T, TQzDN> && std::convertible_to<const T&, UnicodeString>)
     friend bool operator==(const TQzDN& ALeft, const T& ARight) { return ALeft == TQzDN(ARight); }
+    template <class T>
+        requires(!std::derived_from<T, TQzDN> && std::convertible_to<const T&, UnicodeString>)
+    friend std::weak_ordering operator<=>(const TQzDN& ALeft, const T& ARight) {
+        return ALeft <=> TQzDN(ARight);
+    }
     // The same for equal names.
     std::size_t Hash() const noexcept;
 

@@ -139,9 +139,11 @@ void AppendValue(UnicodeString& AText, TView AValue) {
         if (RunEnd > Pos && RunEnd < AValue.size()) {
             AText.Append(AValue.substr(Pos, RunEnd + 1 - Pos));
             Pos = RunEnd + 1;
-        } else {
-            AppendEscaped(AText, AValue[Pos++]);
+            continue;
         }
+        do // blanks at the end, or one other character
+            AppendEscaped(AText, AValue[Pos++]);
+        while (Pos < RunEnd);
     }
 }
 

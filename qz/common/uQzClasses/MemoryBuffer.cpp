@@ -32,7 +32,10 @@ public:
 protected:
     TQzMemoryBufferImpl(TMemBlock ABuffer, std::size_t ASize) noexcept
         : FBuffer(std::move(ABuffer)),
-          FBufferSize(FBuffer == nullptr ? 0 : ASize) {}
+          FBufferSize(FBuffer == nullptr ? 0 : ASize) {
+        if (FBufferSize == 0)
+            FBuffer.reset();
+    }
     ~TQzMemoryBufferImpl() override = default;
 
 private:
@@ -115,7 +118,7 @@ Ref<IQzMemoryBuffer> QzCreateMemoryBuffer(std::size_t ASize) {
 
 Ref<IQzMemoryBuffer> QzCreateMemoryBuffer(TStream& AStream, std::int64_t APosition, std::int64_t ASize) {
     AStream.SetPosition(APosition);
-    const std::int64_t Rest = std::max<std::int64_t>(AStream.Size() - APosition, 0);
+    const std::int64_t Rest = std::max<std::int64_t>(AStream.Size() - AStream.Position(), 0);
     const std::int64_t Size = ASize == -1 ? Rest : std::clamp<std::int64_t>(ASize, 0, Rest);
     Ref<IQzMemoryBuffer> Result = QzCreateMemoryBuffer(static_cast<std::size_t>(Size));
     Result->SetBufferSize(static_cast<std::size_t>(AStream.ReadUpTo(Result->GetBuffer(), Size)));

@@ -53,8 +53,8 @@ public:
     virtual RawByteString GetAsString(TQzBinEncoding AEncoding) = 0;
     // A copy.
     virtual TBytes GetAsBytes() = 0;
-    // Keeps the content up to the smaller size; added bytes are not set. 0 frees the block. The same size does
-    // nothing.
+    // Keeps the content up to the smaller size; added bytes are not set. 0 frees the block. The same size
+    // does nothing.
     virtual void SetBufferSize(std::size_t ASize) = 0;
     // Replace the content by what the text decodes to, or by a copy. When they raise, it is as before.
     virtual void SetAsString(TQzBinEncoding AEncoding, const RawByteString& AValue) = 0;

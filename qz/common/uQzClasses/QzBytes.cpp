@@ -6,6 +6,7 @@
 
 #include <qz/runtime/base/UtfForms.h>
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/text/Utf8Form.h>
 #include <qz/runtime/values/BasicTypes.h>
 
@@ -82,6 +83,11 @@ UnicodeString TQzBytes::ToString(bool AUTF8) const {
 
 TQzBytes& TQzBytes::operator+=(const TQzBytes& ABytes) {
     return *this = Concat(*this, ABytes);
+}
+
+std::span<const std::byte> TQzBytes::Memory(const void* ABuffer, std::size_t ASize) {
+    Assert(ABuffer != nullptr || ASize == 0, u"There is no memory to copy");
+    return {static_cast<const std::byte*>(ABuffer), ASize};
 }
 
 TQzBytes TQzBytes::Concat(std::span<const std::byte> ALeft, std::span<const std::byte> ARight) {

@@ -6,14 +6,15 @@
 //     for (std::uint8_t Each : Bytes)
 //         Use(Each);
 //
-// It holds a TBytes: copies share the array, a change of the size makes it private, and a byte that is written
-// is seen through every copy. CopyFrom and CopyTo make private copies. Threads: as for TBytes.
+// It holds a TBytes: copies share the array, a change of the size makes it private, and a byte that is
+// written is seen through every copy. CopyFrom and CopyTo make private copies. Threads: as for TBytes.
 #pragma once
 
 #include <compare>
 #include <concepts>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -42,17 +43,17 @@ public:
     TQzBytes(TBytes&& ABytes) noexcept                         // NOLINT(google-explicit-constructor)
         : FData(std::move(ABytes)) {}
     TQzBytes(const RawByteString& AText) : TQzBytes(AText.Bytes()) {} // NOLINT(google-explicit-constructor)
+    TQzBytes(std::initializer_list<std::uint8_t> ABytes) : FData(ABytes) {}
     // A copy.
     explicit TQzBytes(std::span<const std::byte> ABytes)
         : FData(std::span(reinterpret_cast<const std::uint8_t*>(ABytes.data()), ABytes.size())) {}
     // That many zeros.
     explicit TQzBytes(std::uint32_t ASize) : FData(std::size_t{ASize}) {}
-    // A copy of ASize bytes; none if ASize is below 1.
+    // A copy of ASize bytes; none if ASize is below 1. Asserts that the pointer is not null then.
     template <std::integral T>
         requires(!std::same_as<T, bool>)
     TQzBytes(const void* ABuffer, T ASize)
-        : TQzBytes(std::span(static_cast<const std::byte*>(ABuffer),
-                             std::cmp_less(ASize, 1) ? 0 : static_cast<std::size_t>(ASize))) {}
+        : TQzBytes(Memory(ABuffer, std::cmp_less(ASize, 1) ? 0 : static_cast<std::size_t>(ASize))) {}
     // What the text decodes to; see TQzNetEncoding. Raise as the encodings do.
     TQzBytes(const TStringArg& AText, TQzBinEncoding AEncoding);
     TQzBytes(const RawByteString& AText, TQzBinEncoding AEncoding);
@@ -86,7 +87,8 @@ public:
     std::uint8_t operator[](std::size_t AIndex) const noexcept { return FData[AIndex]; }
     std::uint8_t& operator[](std::size_t AIndex) noexcept { return FData[AIndex]; }
 
-    // The array itself, a copy of the bytes as text without a code page, a view of them.
+    // The array itself (TBytes Array = Bytes;), a copy of the bytes as text without a code page, a view of
+    // them.
     operator const TBytes&() const noexcept { return FData; } // NOLINT(google-explicit-constructor)
     operator RawByteString() const;                           // NOLINT(google-explicit-constructor)
     operator std::span<const std::byte>() const noexcept {    // NOLINT(google-explicit-constructor)
@@ -96,15 +98,16 @@ public:
     // Replace the content by a private copy.
     void CopyFrom(const TQzBytes& ASource) { CopyFrom(ASource.FData); }
     void CopyFrom(const TBytes& ASource) { FData = ASource.Copy(); }
-    // Reads from APosition on, or from where the stream stands if it is negative: ACount bytes at most, or all
-    // if it is 0 or less. A stream that ends early gives what it has. When it raises, the content is as before.
+    // Reads from APosition on, or from where the stream stands if it is negative: ACount bytes at most, or
+    // all if it is 0 or less. A stream that ends early gives what it has. When it raises, the content is as
+    // before. Raises std::length_error or std::bad_alloc for a size that memory cannot hold.
     void CopyFrom(TStream& AStream, std::int64_t APosition, std::int32_t ACount);
     void CopyTo(TQzBytes& ATarget) const { ATarget.FData = FData.Copy(); }
     void CopyTo(TBytes& ATarget) const { ATarget = FData.Copy(); }
     // Writes all bytes at the stream's position.
     void CopyTo(TStream& AStream) const { AStream.WriteBuffer(FData); }
-    // Copies ACount bytes from AOffset on, or all from there if it is 0 or less. Bytes outside the value are not
-    // copied.
+    // Copies ACount bytes from AOffset on, or all from there if it is 0 or less. A negative offset counts as
+    // 0. Bytes after the end are not copied.
     void CopyTo(void* ATarget, std::int32_t AOffset, std::int32_t ACount) const noexcept;
 
     UnicodeString Encode(TQzBinEncoding AEncoding) const;
@@ -114,6 +117,12 @@ public:
     TQzBytes& operator+=(const TQzBytes& ABytes);
     // A new array; the operands keep theirs.
     friend TQzBytes operator+(const TQzBytes& ALeft, const TQzBytes& ARight) { return Concat(ALeft, ARight); }
+    friend TQzBytes operator+(const TQzBytes& ALeft, const RawByteString& ARight) {
+        return Concat(ALeft, ARight.Bytes());
+    }
+    friend TQzBytes operator+(const RawByteString& ALeft, const TQzBytes& ARight) {
+        return Concat(ALeft.Bytes(), ARight);
+    }
 
     // Byte by byte.
     friend bool operator==(const TQzBytes& ALeft, const TQzBytes& ARight) noexcept {
@@ -136,6 +145,7 @@ private:
     friend struct std::hash<TQzBytes>;
 
     std::string_view View() const noexcept { return {reinterpret_cast<const char*>(data()), size()}; }
+    static std::span<const std::byte> Memory(const void* ABuffer, std::size_t ASize);
     static TQzBytes Concat(std::span<const std::byte> ALeft, std::span<const std::byte> ARight);
 };
 

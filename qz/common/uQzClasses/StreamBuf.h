@@ -15,9 +15,9 @@ namespace qz {
 
 // ABuffer and ASize receive what lies between the position and the end of the stream. False: the block is
 // that of a TQzMemoryStream or TMemoryStream, which stays where it is and must not change meanwhile. True:
-// the caller must free the block by QzFreeStreamBuf or FreeMem; the stream stands after what was read. A stream that
-// ends early gives what it has. Raises what the stream raises, and std::bad_alloc; nothing has to be freed
-// then.
+// the caller must free the block by QzFreeStreamBuf or FreeMem; the stream stands after what was read. A
+// stream that ends early gives what it has. Raises what the stream raises, and std::bad_alloc; nothing has to
+// be freed then.
 QZ_API bool QzStreamToReadBuf(TStream& AStream, void*& ABuffer, std::size_t& ASize);
 // ABuffer receives a block of ASize bytes that are not set. False: it lies in a TQzMemoryStream at its
 // position, whose size is the position and ASize now; the position stays. True: it is a new block, which the

@@ -39,7 +39,8 @@ std::uint16_t Number(std::u16string_view AText) {
     return static_cast<std::uint16_t>(Result);
 }
 
-// Steps through a text as TQzTextParser does: a step passes the control characters after it. At the end it stays.
+// Steps through a text as TQzTextParser does: a step passes the control characters after it. At the end it
+// stays.
 class TIsoReader {
 public:
     explicit TIsoReader(std::u16string_view AText) noexcept : FText(AText) {}

@@ -1,4 +1,5 @@
-// TQzDateTimeParts: a date and time of ISO 8601 as the numbers that its text holds, and the reader that fills it.
+// TQzDateTimeParts: a date and time of ISO 8601 as the numbers that its text holds, and the reader that fills
+// it.
 //
 //     const TQzDateTimeParts Parts = QzDecodeISODateTime(u"2021-03-07T10:30:15,25+05:30");
 //     Parts.MSec;          // 250
@@ -43,13 +44,13 @@ struct TQzDateTimeParts {
 // - A zone is "Z", or a sign, two digits, one character of any kind and the minutes.
 // - Control characters (below 32) between characters are passed, and what follows is ignored.
 //
-// The empty text and "0" give parts that hold nothing. Raises EConvertError, "'%s' is not a valid integer value",
-// where a number is missing, is no integer as StrToInt reads it, or does not fit into 16 bits. The ranges of a
-// calendar are not checked.
+// The empty text and "0" give parts that hold nothing. Raises EConvertError, "'%s' is not a valid integer
+// value", where a number is missing, is no integer as StrToInt reads it, or does not fit into 16 bits. The
+// ranges of a calendar are not checked.
 QZ_API TQzDateTimeParts QzDecodeISODateTime(const TStringArg& AText);
 
-// The same. If reading raises, the parts hold the numbers of ADefault, but HasDate and HasTime are false, so that
-// DateTime gives 0. Raises EConvertError, "Invalid date and time", if ADefault is no date.
+// The same. If reading raises, the parts hold the numbers of ADefault, but HasDate and HasTime are false, so
+// that DateTime gives 0. Raises EConvertError, "Invalid date and time", if ADefault is no date.
 QZ_API TQzDateTimeParts QzDecodeISODateTimeDef(const TStringArg& AText, TDateTime ADefault);
 
 } // namespace qz

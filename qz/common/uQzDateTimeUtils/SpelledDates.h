@@ -11,16 +11,16 @@
 
 namespace qz {
 
-// An English month of three capital letters, day, year, and the time of a 12-hour clock with milliseconds. Raises
-// EConvertError, "Invalid date and time", for a value that is no date.
+// An English month of three capital letters, day, year, and the time of a 12-hour clock with milliseconds.
+// Raises EConvertError, "Invalid date and time", for a value that is no date.
 QZ_API UnicodeString ConvertDateTimeToLUO(TDateTime AValue);
 // Reads it back. Any delimiters of QzTokenize may separate the seven pieces, and small letters are taken too.
-// Raises EStringListError for a missing piece, and EConvertError for a piece that is no number, a month of another
-// name and numbers out of range.
+// Raises EStringListError for a missing piece, and EConvertError for a piece that is no number, a month of
+// another name and numbers out of range.
 QZ_API TDateTime ConvertLUOToDateTime(const TStringArg& AText);
 
-// Day, month and year with dashes, whatever the settings of the machine are; the time, if there is one, by its
-// settings. Raises EConvertError, "'%s' is not a valid date and time".
+// Day, month and year with dashes, whatever the settings of the machine are; the time, if there is one, by
+// its settings. Raises EConvertError, "'%s' is not a valid date and time".
 QZ_API TDateTime QzStrToDateTime(const TStringArg& AText);
 
 // The short date format of DefaultFormatSettings with a year of four digits: "d/M/yy" becomes "d/M/yyyy".

@@ -34,8 +34,8 @@ inline constexpr TTextConstant STimeConvertError =
     u"An error has occurred while converting a string to a time format.";
 inline constexpr TTextConstant STimeDecodeError = u"An error has occurred while decoding a time parameter";
 
-// Hours without limit, and two digits each of minutes and, if wanted, seconds. Halves of a second are rounded to
-// the even one. A "-" stands before every negative value, also before one that is rounded to 0. Raises
+// Hours without limit, and two digits each of minutes and, if wanted, seconds. Halves of a second are rounded
+// to the even one. A "-" stands before every negative value, also before one that is rounded to 0. Raises
 // EConvertError, STimeDecodeError, for what is no number or beyond 2^62 seconds.
 QZ_API UnicodeString QzTimeToStr(double ASeconds, bool AWithSeconds);
 

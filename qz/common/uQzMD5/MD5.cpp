@@ -6,6 +6,7 @@
 #include <span>
 #include <utility>
 
+#include <qz/runtime/base/Memory.h>
 #include <qz/runtime/text/BinaryText.h>
 #include <qz/runtime/text/Utf8Form.h>
 
@@ -14,7 +15,8 @@ namespace {
 
 constexpr TMD5State cStart = {0x67452301, 0xEFCDAB89, 0x98BADCFE, 0x10325476};
 
-// RFC 1321, section 3.4: what is added, how far is rotated, and which word of the block is taken in each step.
+// RFC 1321, section 3.4: what is added, how far is rotated, and which word of the block is taken in each
+// step.
 constexpr std::uint32_t cAdded[] = {
     0xD76AA478, 0xE8C7B756, 0x242070DB, 0xC1BDCEEE, 0xF57C0FAF, 0x4787C62A, 0xA8304613, 0xFD469501,
     0x698098D8, 0x8B44F7AF, 0xFFFF5BB1, 0x895CD7BE, 0x6B901122, 0xFD987193, 0xA679438E, 0x49B40821,
@@ -75,11 +77,6 @@ void Blocks(TMD5State& AState, const std::uint8_t* ABytes, std::size_t ACount) n
     AState = State;
 }
 
-template <class T> void Wipe(T& AValue) noexcept {
-    std::memset(&AValue, 0, sizeof AValue);
-    asm volatile("" : : "r"(&AValue) : "memory"); // so that the compiler keeps it
-}
-
 // Takes the bytes after the last full block, and the padding, which make cCount blocks.
 template <std::size_t cCount>
 TMD5Digest FinishIn(TMD5State& AState, const std::uint8_t* ARest, std::size_t ACount,
@@ -134,7 +131,7 @@ void MD5Init(TMD5Context& AContext) noexcept {
     AContext = {cStart, {}, {}};
 }
 
-void MD5Update(TMD5Context& AContext, const void* AInput, std::uint32_t ALength) noexcept {
+void MD5Update(TMD5Context& AContext, const void* AInput, std::size_t ALength) noexcept {
     const auto* Input = static_cast<const std::uint8_t*>(AInput);
     std::size_t Length = ALength;
     const std::size_t Used = UsedOf(AContext);
@@ -159,11 +156,11 @@ void MD5Update(TMD5Context& AContext, const void* AInput, std::uint32_t ALength)
 
 void MD5Final(TMD5Context& AContext, TMD5Digest& ADigest) noexcept {
     ADigest = Finish(AContext.State, AContext.Buffer.data(), UsedOf(AContext), BitsOf(AContext));
-    Wipe(AContext);
+    WipeValue(AContext);
 }
 
-TMD5Digest MD5Hash(const void* ABuffer, std::int32_t ASize) noexcept {
-    return DigestOf(ABuffer, static_cast<std::size_t>(std::max(ASize, 0)));
+TMD5Digest MD5Hash(const void* ABuffer, std::int64_t ASize) noexcept {
+    return DigestOf(ABuffer, static_cast<std::size_t>(std::max<std::int64_t>(ASize, 0)));
 }
 
 UnicodeString MD5Hash(const TByteText& AText) {

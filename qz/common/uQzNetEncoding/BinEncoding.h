@@ -27,9 +27,9 @@ inline constexpr TTextConstant SInvalidBase64Data = u"Invalid Base64 data!";
 
 namespace detail {
 
-// The text of bytes and the bytes of text, as the encoding classes of the unit make them. All raise Exception,
-// SNetEncodingNotSupported, for a value that is none of the three; decoding of Base64 raises Exception,
-// SInvalidBase64Data, for a text of 4n + 1 characters.
+// The text of bytes and the bytes of text, as the encoding classes of the unit make them. All raise
+// Exception, SNetEncodingNotSupported, for a value that is none of the three; decoding of Base64 raises
+// Exception, SInvalidBase64Data, for a text of 4n + 1 characters.
 QZ_API RawByteString EncodeBinary(std::span<const std::byte> ABytes, TQzBinEncoding AEncoding);
 QZ_API UnicodeString EncodeBinaryText(std::span<const std::byte> ABytes, TQzBinEncoding AEncoding);
 QZ_API TBytes DecodeBinary(std::string_view AText, TQzBinEncoding AEncoding);

@@ -7,6 +7,7 @@
 #include <qz/common/uQzClasses/StreamBuf.h>
 #include <qz/runtime/base/UtfForms.h>
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/text/BinaryText.h>
 #include <qz/runtime/text/Utf8Form.h>
 
@@ -62,8 +63,24 @@ template <class TUse> std::int64_t WithRest(TStream& AInput, const TStream& AOut
     return AUse(std::span<const std::byte>(Copy));
 }
 
-// The rest of AInput by blocks, which AConvert(source, count, target) turns into others; the new size of the
-// output without what stood before its position. Two bytes of digits stand for one.
+void CheckTwo(const TStream& AInput, const TStream& AOutput) {
+    Assert(&AInput != &AOutput, u"Hexadecimal text needs two streams");
+}
+
+// Writes zeros from APosition up to AEnd. The position of the stream stays.
+void WriteZeros(TStream& AOutput, std::int64_t APosition, std::int64_t AEnd) {
+    constexpr std::int64_t cBlock = 4096;
+    constexpr std::byte cZeros[cBlock] = {};
+    const std::int64_t Old = AOutput.Position();
+    AOutput.SetPosition(APosition);
+    for (; APosition < AEnd; APosition += cBlock)
+        AOutput.WriteBuffer(cZeros, std::min(cBlock, AEnd - APosition));
+    AOutput.SetPosition(Old);
+}
+
+// Converts the rest of AInput by blocks with AConvert(source, count, target). Gives the new size of the
+// output, counted from its position before. Two bytes of digits stand for one. If it raises, the output keeps
+// what was written, and no byte after it that was not set.
 template <class TConvert>
 std::int64_t ConvertDigits(TStream& AInput, TStream& AOutput, bool ToDigits, TConvert AConvert) {
     constexpr std::int64_t cBlock = 8192;
@@ -71,19 +88,22 @@ std::int64_t ConvertDigits(TStream& AInput, TStream& AOutput, bool ToDigits, TCo
     const std::int64_t Start = AOutput.Position();
     const std::int64_t Rest = std::max<std::int64_t>(AInput.Size() - AInput.Position(), 0);
     const std::int64_t OldSize = AOutput.Size();
-    AOutput.SetSize(OldSize + (ToDigits ? 2 * Rest : Rest / 2));
-    while (const std::int64_t Count = AInput.ReadUpTo(Source, cBlock))
-        AOutput.WriteBuffer(Target, AConvert(Source, static_cast<std::size_t>(Count), Target) - Target);
-    // In the middle of the output fewer bytes are written beyond its old end than it has grown by.
-    const std::int64_t End = std::max(AOutput.Position(), OldSize);
-    if (const std::int64_t Unset = AOutput.Size() - End; Unset > 0) {
-        const std::vector<std::byte> Zeros(static_cast<std::size_t>(Unset));
-        const std::int64_t Position = AOutput.Position();
-        AOutput.SetPosition(End);
-        AOutput.WriteBuffer(Zeros.data(), Unset);
-        AOutput.SetPosition(Position);
+    std::int64_t Written = 0;
+    try {
+        AOutput.SetSize(OldSize + (ToDigits ? 2 * Rest : Rest / 2));
+        while (const std::int64_t Count = AInput.ReadUpTo(Source, cBlock)) {
+            const std::int64_t Made = AConvert(Source, static_cast<std::size_t>(Count), Target) - Target;
+            AOutput.WriteBuffer(Target, Made);
+            Written += Made;
+        }
+        // In the middle of the output fewer bytes are written beyond its old end than it has grown by.
+        WriteZeros(AOutput, std::max(AOutput.Position(), OldSize), OldSize + Written);
+        AOutput.SetSize(OldSize + Written);
+    } catch (...) {
+        AOutput.SetSize(std::max(AOutput.Position(), OldSize));
+        throw;
     }
-    return AOutput.Size() - Start;
+    return OldSize + Written - Start;
 }
 
 } // namespace
@@ -209,6 +229,7 @@ std::int64_t TQzBase64Encoding::DoEncode(TStream& AInput, TStream& AOutput) cons
 }
 
 std::int64_t TQzHexEncoding::DoEncode(TStream& AInput, TStream& AOutput) const {
+    CheckTwo(AInput, AOutput);
     return ConvertDigits(AInput, AOutput, true,
                          [](const std::byte* ASource, std::size_t ACount, std::byte* ATarget) {
                              return reinterpret_cast<std::byte*>(
@@ -217,6 +238,7 @@ std::int64_t TQzHexEncoding::DoEncode(TStream& AInput, TStream& AOutput) const {
 }
 
 std::int64_t TQzHexEncoding::DoDecode(TStream& AInput, TStream& AOutput) const {
+    CheckTwo(AInput, AOutput);
     return ConvertDigits(AInput, AOutput, false,
                          [](const std::byte* ASource, std::size_t ACount, std::byte* ATarget) {
                              return HexToBytes({reinterpret_cast<const char*>(ASource), ACount}, ATarget);

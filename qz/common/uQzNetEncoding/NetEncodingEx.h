@@ -5,7 +5,8 @@
 //     Base64.Encode(u"Zoë");                        // "Wm/Dqw=="
 //     Base64.Encode("abc", 3);                      // an array of four characters
 //
-// None of them writes line breaks. Encodings hold constant tables only, so that one object serves all threads.
+// None of them writes line breaks. Encodings hold constant tables only, so that one object serves all
+// threads.
 #pragma once
 
 #include <array>
@@ -112,8 +113,8 @@ protected:
     explicit TQzBase64Encoding(TQzBinEncoding AEncoding) noexcept;
 
     // From stream to stream. An output TQzMemoryStream is filled in place: it ends with the result, and its
-    // position stays. To any other the result is written. Without input nothing is written. AInput and AOutput
-    // may be one stream. Each gives the number of bytes.
+    // position stays. To any other the result is written. Without input nothing is written. AInput and
+    // AOutput may be one stream. Each gives the number of bytes.
     std::int64_t DoDecode(TStream& AInput, TStream& AOutput) const override;
     std::int64_t DoEncode(TStream& AInput, TStream& AOutput) const override;
 
@@ -145,9 +146,10 @@ protected:
     using detail::TBinaryNetEncoding::DoDecode;
     using detail::TBinaryNetEncoding::DoEncode;
 
-    // From stream to stream, which must be two. The output grows by as many bytes as the result has, wherever
-    // its position is; the result overwrites what stands at the position. Both positions move past what was
-    // read and written. Each gives the new size of the output without what stood before the position.
+    // From stream to stream; asserts that these are two. The output grows by as many bytes as the result has,
+    // wherever its position is; the result overwrites what stands at the position. Both positions move past
+    // what was read and written. Each gives the new size of the output without what stood before the
+    // position.
     std::int64_t DoDecode(TStream& AInput, TStream& AOutput) const override;
     std::int64_t DoEncode(TStream& AInput, TStream& AOutput) const override;
     UnicodeString DoDecode(std::u16string_view AText) const override;

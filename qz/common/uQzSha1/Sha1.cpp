@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <qz/common/uQzSha1/detail/Sha1Blocks.h>
+#include <qz/runtime/base/Memory.h>
 #include <qz/runtime/base/UtfForms.h>
 #include <qz/runtime/streams/FileStream.h>
 #include <qz/runtime/text/Utf8Form.h>
@@ -15,11 +16,6 @@ namespace qz {
 namespace {
 
 constexpr std::size_t cBlockSize = 64;
-
-template <class T> void Wipe(T& AValue) noexcept {
-    std::memset(&AValue, 0, sizeof AValue);
-    asm volatile("" : : "r"(&AValue) : "memory"); // so that the compiler keeps it
-}
 
 void PutBigEndian(std::uint32_t AValue, void* ADest) noexcept {
     if constexpr (std::endian::native == std::endian::little)
@@ -40,8 +36,8 @@ TSHA1Digest FinishIn(detail::TSha1State& AState, std::span<const std::byte> ARes
     TSHA1Digest Result;
     for (std::size_t I = 0; I < AState.size(); ++I)
         PutBigEndian(AState[I], &Result[4 * I]);
-    Wipe(AState);
-    Wipe(Tail);
+    WipeValue(AState);
+    WipeValue(Tail);
     return Result;
 }
 
@@ -66,8 +62,10 @@ TSHA1Digest DigestOf(TStream& AStream) {
     const std::unique_ptr<std::byte[]> Piece(new std::byte[cPiece]); // not initialised
     detail::TSha1State State = detail::cSha1Start;
     std::uint64_t Total = 0;
+    std::int64_t Left = AStream.Size(); // a file that grows has an end all the same
     for (;;) {
-        const std::int64_t Read = AStream.ReadUpTo(Piece.get(), cPiece);
+        const std::int64_t Read = AStream.ReadUpTo(Piece.get(), std::min(cPiece, Left));
+        Left -= Read;
         const std::span<const std::byte> Now(Piece.get(), static_cast<std::size_t>(Read));
         Total += Now.size();
         if (Total == 0)
@@ -88,17 +86,18 @@ UnicodeString HashText(std::span<const std::byte> ABytes, TQzBinEncoding AEncodi
     return ABytes.empty() ? UnicodeString() : TextOf(DigestOf(ABytes), AEncoding);
 }
 
-std::span<const std::byte> BytesAt(const void* ABuffer, std::int32_t ASize) noexcept {
-    return {static_cast<const std::byte*>(ABuffer), static_cast<std::size_t>(std::max(ASize, 0))};
+std::span<const std::byte> BytesAt(const void* ABuffer, std::int64_t ASize) noexcept {
+    return {static_cast<const std::byte*>(ABuffer),
+            static_cast<std::size_t>(std::max<std::int64_t>(ASize, 0))};
 }
 
 } // namespace
 
-TSHA1Digest QzHashBuffer(const void* ABuffer, std::int32_t ASize) {
+TSHA1Digest QzHashBuffer(const void* ABuffer, std::int64_t ASize) {
     return DigestOf(BytesAt(ABuffer, ASize));
 }
 
-UnicodeString QzHashBuffer(const void* ABuffer, std::int32_t ASize, TQzBinEncoding AEncoding) {
+UnicodeString QzHashBuffer(const void* ABuffer, std::int64_t ASize, TQzBinEncoding AEncoding) {
     return HashText(BytesAt(ABuffer, ASize), AEncoding);
 }
 

@@ -5,8 +5,10 @@
 #include <cstring>
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include <qz/common/uQzClasses/StreamBuf.h>
+#include <qz/common/uQzTypes/QzEncoding.h>
 #include <qz/common/uQzUUCode/detail/UUGroups.h>
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/lists/StringList.h>
@@ -217,6 +219,25 @@ template <class TLines> TQzUUData Decode(TLines ALines, std::u16string_view AFil
     return Result;
 }
 
+// Bytes that are all ASCII are decoded where they are. In any other text characters count, so it becomes a
+// list.
+TQzUUData DecodeText(std::string_view AText, const TEncoding& AEncoding, std::u16string_view AFileName,
+                     TStream& AOutput) {
+    const bool IsPlain = IsAscii(AText) && !QzIsWideCodePage(AEncoding.CodePage());
+    if (IsPlain)
+        return Decode(TByteLines(AText, AEncoding.CodePage()), AFileName, AOutput);
+    TStringList Lines;
+    Lines.SetText(AEncoding.GetString(std::as_bytes(std::span(AText))));
+    return Decode(TListLines(Lines), AFileName, AOutput);
+}
+
+TQzUUData DecodeContent(std::span<const std::byte> ABytes, TStream& AOutput) {
+    std::size_t Mark = 0;
+    const TEncoding Encoding = TEncoding::Detect(ABytes, TEncoding(), Mark);
+    const auto Text = ABytes.subspan(Mark);
+    return DecodeText({reinterpret_cast<const char*>(Text.data()), Text.size()}, Encoding, u"", AOutput);
+}
+
 } // namespace
 
 TQzUUData QzUUDecode(const TStrings& ALines, const TStringArg& AFileName, TStream& AOutput) {
@@ -230,17 +251,11 @@ TQzUUData QzUUDecode(const TStrings& ALines, TStream& AOutput) {
 TQzUUData QzUUDecode(TStream& AInput, TStream& AOutput) {
     const TQzReadBuf Content(AInput);
     AInput.Seek(std::int64_t{0}, soEnd);
-    const auto Bytes = Content.Bytes();
-    std::size_t Mark = 0;
-    const TEncoding Encoding = TEncoding::Detect(Bytes, TEncoding(), Mark);
-    const auto Text = Bytes.subspan(Mark);
-    if (Mark == 0 || Encoding == TEncoding::UTF8())
-        return Decode(
-            TByteLines({reinterpret_cast<const char*>(Text.data()), Text.size()}, Encoding.CodePage()), u"",
-            AOutput);
-    TStringList Lines;
-    Lines.SetText(Encoding.GetString(Text));
-    return QzUUDecode(Lines, AOutput);
+    if (&AInput != &AOutput)
+        return DecodeContent(Content.Bytes(), AOutput);
+    // The output would overwrite and move what is read.
+    const std::vector<std::byte> Copy(Content.Bytes().begin(), Content.Bytes().end());
+    return DecodeContent(Copy, AOutput);
 }
 
 TQzUUData QzUUDecode(const AnsiString& AText, TStream& AOutput) {
@@ -248,7 +263,7 @@ TQzUUData QzUUDecode(const AnsiString& AText, TStream& AOutput) {
 }
 
 TQzUUData QzUUDecode(const AnsiString& AText, const TStringArg& AFileName, TStream& AOutput) {
-    return Decode(TByteLines(AText.View(), AText.CodePage()), AFileName, AOutput);
+    return DecodeText(AText.View(), TEncoding(AText.CodePage()), AFileName, AOutput);
 }
 
 } // namespace qz

@@ -5,6 +5,7 @@
 
 #include <qz/common/uQzClasses/QzMemoryStream.h>
 #include <qz/common/uQzUUCode/detail/UUGroups.h>
+#include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/streams/MemoryStream.h>
 #include <qz/runtime/text/Format.h>
 
@@ -33,6 +34,8 @@ char* EncodeLines(const std::uint8_t* ASource, std::size_t ACount, char* ATarget
 } // namespace
 
 void QzUUEncode(TStream& AInput, TStream& AOutput, const TStringArg& AFileName, std::uint16_t AMode) {
+    if (AFileName.View().find_first_of(u"\r\n") != std::u16string_view::npos)
+        throw Exception(u"Invalid UUData");
     const AnsiString Header(Format(u"begin %d %s\r\n", {AMode, AFileName.View()}));
     AOutput.WriteBuffer(Header.data(), Header.Length());
     const auto Bytes = std::make_unique_for_overwrite<std::uint8_t[]>(cBlockBytes + detail::cUUSlack);

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <memory>
 #include <new>
 #include <span>
+#include <stdexcept>
 
 #include <qz/runtime/streams/MemoryStream.h>
 #include <qz/runtime/streams/ZStreams.h>

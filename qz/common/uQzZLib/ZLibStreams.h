@@ -8,8 +8,9 @@
 //
 // All work in blocks, whatever the size of the data. With AFromStart the input is read from position 0, else
 // from its position. A failed compression raises EQzZLibCompressionError and a failed decompression
-// EQzZLibDecompressionError, both with the code of zlib. Exceptions of the two streams pass through. Threads
-// may call the functions at the same time, each with its own streams.
+// EQzZLibDecompressionError, both with the code of zlib. Exceptions of the two streams pass through, but for
+// EZCompressionError and EZDecompressionError, which are converted too. Threads may call the functions at the
+// same time, each with its own streams.
 #pragma once
 
 #include <qz/common/uQzZLib/ZLibTypes.h>

@@ -1,4 +1,5 @@
-// GetMem and FreeMem: the pair that all blocks of memory come from which functions hand out as plain pointers.
+// GetMem and FreeMem: the functions that allocate and free each block that the library gives as a plain
+// pointer.
 //
 //     void* Block = GetMem(100);
 //     ReallocMem(Block, 200);
@@ -8,7 +9,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <memory>
+#include <type_traits>
 
 #include <qz/platform/Export.h>
 
@@ -18,8 +21,8 @@ namespace qz {
 [[nodiscard]] QZ_API void* GetMem(std::size_t ASize);
 // Null does nothing.
 QZ_API void FreeMem(void* ABlock) noexcept;
-// Resizes the block, which may move. The bytes stay up to the smaller size; new ones are not set. Null gives a
-// new block. Raises std::bad_alloc, and the block is as before.
+// Resizes the block, which may move. The bytes stay up to the smaller size; new ones are not set. Null gives
+// a new block. Raises std::bad_alloc, and the block is as before.
 QZ_API void ReallocMem(void*& ABlock, std::size_t ASize);
 
 struct TFreeMem {
@@ -27,6 +30,14 @@ struct TFreeMem {
 };
 // Owns a block of that pair.
 using TMemBlock = std::unique_ptr<std::byte, TFreeMem>;
+
+// Overwrites a value with zeros. The compiler does not remove it, although the value is not read afterwards.
+template <class T>
+    requires std::is_trivially_copyable_v<T>
+void WipeValue(T& AValue) noexcept {
+    std::memset(&AValue, 0, sizeof AValue);
+    asm volatile("" : : "r"(&AValue) : "memory");
+}
 
 inline TMemBlock NewMemBlock(std::size_t ASize) {
     return TMemBlock(static_cast<std::byte*>(GetMem(ASize)));

@@ -1,6 +1,7 @@
 #include <qz/runtime/streams/NetEncoding.h>
 
 #include <algorithm>
+#include <cstring>
 #include <string>
 
 #include <qz/runtime/base/Utf.h>
@@ -112,7 +113,21 @@ UnicodeString TBase64Encoding::DoEncodeBytesToString(std::span<const std::uint8_
 }
 
 TBytes TBase64Encoding::DoEncode(std::span<const std::uint8_t> ABytes) const {
-    return BytesOf(TUtf8Form(InLines(std::as_bytes(ABytes))).View());
+    const std::size_t Length = Base64Length(ABytes.size(), TBase64Alphabet::Standard);
+    const auto PerLine = static_cast<std::size_t>(std::max(FCharsPerLine, 0));
+    const TUtf8Form Separator(FLineSeparator);
+    const std::size_t Gap = Separator.View().size();
+    std::size_t Breaks = PerLine == 0 || Length == 0 ? 0 : (Length - 1) / PerLine;
+    TBytes Result = TBytes::ForOverwrite(Length + Breaks * Gap);
+    char* Target = reinterpret_cast<char*>(Result.data());
+    // The text is made at the end of the array, and its lines move to the front one by one.
+    const char* Text = Target + Breaks * Gap;
+    BytesToBase64(std::as_bytes(ABytes), TBase64Alphabet::Standard, Target + Breaks * Gap);
+    for (; Breaks > 0; --Breaks, Text += PerLine) {
+        std::memmove(Target, Text, PerLine);
+        Target = std::copy_n(Separator.View().data(), Gap, Target + PerLine);
+    }
+    return Result;
 }
 
 UnicodeString TBase64Encoding::DoEncode(std::u16string_view AText) const {

@@ -1,11 +1,12 @@
-// TNetEncoding: an encoding of bytes as text for the network, as an object; TBase64Encoding and THTMLEncoding.
+// TNetEncoding: an encoding of bytes as text for the network, as an object; TBase64Encoding and
+// THTMLEncoding.
 //
 //     TNetEncoding::Base64().EncodeBytesToString(TBytes(90));     // lines of 76 characters
 //     TBase64Encoding(0).Encode(u"Zoë");                     // one line, of the UTF-8 form
 //     TNetEncoding::HTML().Encode(u"a < b");                 // "a &lt; b"
 //
-// Where text is encoded, its UTF-8 form is; where text is decoded, the bytes are read as UTF-8. Encodings have
-// no state that changes, so any number of threads may share one. A class implements the nine protected
+// Where text is encoded, its UTF-8 form is; where text is decoded, the bytes are read as UTF-8. Encodings
+// have no state that changes, so any number of threads may share one. A class implements the nine protected
 // operations or inherits those that it does not need to change.
 #pragma once
 
@@ -22,7 +23,7 @@ class QZ_API TNetEncoding : public TObject {
 
 public:
     // What lies between the position of AInput and its end, written at the position of AOutput; the number of
-    // bytes written. Both may be one stream.
+    // bytes written. Both may be one stream, but for hexadecimal text.
     std::int64_t Decode(TStream& AInput, TStream& AOutput) const { return DoDecode(AInput, AOutput); }
     std::int64_t Encode(TStream& AInput, TStream& AOutput) const { return DoEncode(AInput, AOutput); }
     // The bytes of the text, and back.
@@ -59,8 +60,8 @@ protected:
     virtual UnicodeString DoEncodeBytesToString(const void* ABytes, std::int32_t ASize) const;
 };
 
-// Base64 of RFC 4648 in lines. Lines are separated, the last one is not ended. Decoding takes both alphabets of
-// RFC 4648, "+/" and "-_", and skips any other byte.
+// Base64 of RFC 4648 in lines. Lines are separated, the last one is not ended. Decoding takes both alphabets
+// of RFC 4648, "+/" and "-_", and skips any other byte.
 class QZ_API TBase64Encoding : public TNetEncoding {
     QZ_CLASS(TBase64Encoding, TNetEncoding)
 

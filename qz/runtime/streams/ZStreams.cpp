@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <exception>
+#include <utility>
 
 #include <zlib.h>
 
@@ -148,17 +149,34 @@ std::int32_t TZDecompressionStream::Read(void* ABuffer, std::int32_t ACount) {
     FState->next_out = static_cast<Bytef*>(ABuffer);
     FState->avail_out = static_cast<uInt>(std::max(ACount, 0));
     const std::int64_t Start = FPosition;
+    // What was read before a fault is given. zlib repeats the code of a fault, so the read that finds nothing
+    // before it raises.
     while (FState->avail_out > 0 && !FAtEnd) {
-        Refill();
+        try {
+            Refill();
+        } catch (...) {
+            if (FPosition == Start)
+                throw;
+            break;
+        }
         const int Code = Inflate();
         if (Code == Z_OK)
             continue;
-        // zlib repeats the code of a fault, so the read that finds nothing before it raises.
         if (FPosition == Start)
             RaiseCode<EZDecompressionError>(Code);
         break;
     }
+    if (FAtEnd && FPosition == Start)
+        GiveBack();
     return static_cast<std::int32_t>(FPosition - Start);
+}
+
+// Moves the source back to the end of the compressed data.
+void TZDecompressionStream::GiveBack() {
+    const std::int64_t Unused = std::exchange(FState->avail_in, 0);
+    FTaken -= Unused;
+    if (Unused > 0)
+        FStream.Seek(-Unused, soCurrent);
 }
 
 // Reads the next block when the previous one is used up.
@@ -180,10 +198,6 @@ int TZDecompressionStream::Inflate() {
     if (Code != Z_STREAM_END)
         return Code;
     FAtEnd = true;
-    if (FState->avail_in > 0)
-        FStream.Seek(-std::int64_t{FState->avail_in}, soCurrent);
-    FTaken -= FState->avail_in;
-    FState->avail_in = 0;
     return Z_OK;
 }
 

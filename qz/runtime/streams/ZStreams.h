@@ -109,13 +109,14 @@ public:
     using TCustomZStream::Seek;
 
     // Reads compressed data from ASource from its position on. With 0 window bits the zlib header gives them;
-    // 41 to 47 accept zlib and gzip. Raises EZDecompressionError for window bits that
-    // zlib refuses and if it has no memory.
+    // 41 to 47 accept zlib and gzip. Raises EZDecompressionError for window bits that zlib refuses and if it
+    // has no memory.
     explicit TZDecompressionStream(TStream& ASource, std::int32_t AWindowBits = 15);
 
-    // Gives fewer than ACount bytes only at the end of the compressed data or before a fault in it. At that
-    // end the source stands right after the compressed data; bytes that follow are left to the caller. The
-    // read that starts at a fault raises EZDecompressionError: code -3 for corrupt data, -5 for data that
+    // Gives fewer than ACount bytes only at the end of the compressed data, or before a fault in it or in the
+    // source. The read that gives 0 at that end moves the source back to right after the compressed data, so
+    // that bytes which follow are left to the caller. It raises if the source cannot seek and has such bytes.
+    // The read that starts at a fault raises EZDecompressionError: code -3 for corrupt data, -5 for data that
     // ends too early, 2 for a missing dictionary.
     std::int32_t Read(void* ABuffer, std::int32_t ACount) override;
     // Raises EZDecompressionError, "Invalid stream operation".
@@ -127,6 +128,7 @@ public:
 
 private:
     void Refill();
+    void GiveBack();
     int Inflate();
     void Rewind();
     void SkipTo(std::int64_t APosition);

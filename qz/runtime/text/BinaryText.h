@@ -84,8 +84,8 @@ inline bool GroupToBytes(const char* ASource, std::byte* ADest) noexcept {
     return (First | Second | Third | Fourth) < cNoBase64;
 }
 
-// The bytes of the last characters, less than four: their end; null, and nothing that counts is written, if one is
-// in no alphabet.
+// The bytes of the last characters, less than four: their end; null, and nothing that counts is written, if
+// one is in no alphabet.
 inline std::byte* LastToBytes(std::string_view AText, std::byte* ADest) noexcept {
     if (AText.size() < 2)
         return AText.empty() || Base64Value(AText[0]) != cNoBase64 ? ADest : nullptr;

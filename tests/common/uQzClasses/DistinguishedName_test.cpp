@@ -66,6 +66,10 @@ TEST(DistinguishedName, ComparesWithoutOrderAndCase) {
     EXPECT_EQ(TQzDN(u"a=1,b=2"), u"B=2,A=1");
     EXPECT_EQ(TQzDN(u"CN=Müller"), u"cn=MÜLLER");
     EXPECT_NE(TQzDN(u"a=1,a=1"), u"a=1,b=2");
+    for (const char16_t* Other : {u"CN=adm\u0131n", u"CN=admin\u0301", u"CN=admi\uFF4E"})
+        EXPECT_NE(TQzDN(u"CN=admin"), Other);
+    EXPECT_NE(TQzDN(u"CN=s"), u"CN=\u017F");
+    EXPECT_LT(TQzDN(u"a=1"), UnicodeString(u"a=2"));
     EXPECT_NE(TQzDN(u"a=1,b=2"), u"a=1,a=1");
     EXPECT_EQ(TQzDN() + TQzRDN(u"a=b", u"c"), TQzDN() + TQzRDN(u"A", u"B=C")) << "their lines are the same";
     std::mt19937 Random(3);

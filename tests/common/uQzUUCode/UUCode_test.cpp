@@ -5,6 +5,7 @@
 #include "tests/common/support/Streams.h"
 #include "tests/support/Message.h"
 #include "tests/support/Rows.h"
+#include <qz/common/uQzTypes/QzEncoding.h>
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/lists/StringList.h>
 #include <qz/runtime/streams/Streams.h>
@@ -74,6 +75,30 @@ TEST(UUCode, ReadsWhatTheRulesAllowAndRefusesTheRest) {
         EXPECT_EQ(Content(Target),
                   ("Cat@" + std::string(60, '\0')).substr(0, static_cast<std::size_t>(First - 32) & 63));
     }
+}
+
+TEST(UUCode, EachFormCountsCharacters) {
+    const UnicodeString Text = u"begin 1 x\n#0\u00E9V%T\n`\nend";
+    TStringList Lines;
+    Lines.SetText(Text);
+    const UnicodeString Known = Decoded([&](TStream& ATarget) { return QzUUDecode(Lines, ATarget); });
+    for (const std::uint16_t Page : {cUtf8CodePage, std::uint16_t{1252}})
+        EXPECT_EQ(Decoded([&](TStream& ATarget) {
+                      AnsiString Narrow(TQzEncoding::ConvertW(Text, Page).View(), Page);
+                      return QzUUDecode(Narrow, ATarget);
+                  }),
+                  Known);
+}
+
+TEST(UUCode, OneStreamMayBeBoth) {
+    const std::string Bytes(300'000, 'x');
+    const AnsiString Text = QzUUEncode(AnsiString(Bytes), u"x", 1);
+    TQzMemoryStream Both(16);
+    Both.WriteBuffer(Text.data(), Text.Length());
+    Both.SetPosition(0);
+    QzUUDecode(Both, Both);
+    EXPECT_TRUE(Content(Both) == std::string(Text.View()) + Bytes);
+    EXPECT_THROW(QzUUEncode(Text, u"x\n#0V%T\n`\nend", 1), Exception) << "a name with data of its own";
 }
 
 TEST(UUCode, FindsAFileByItsName) {

@@ -89,6 +89,31 @@ TEST(ZStreams, GiveBackWhatWasWrittenAndKnowTheirPlace) {
     }
 }
 
+class TPipe : public TMemoryStream {
+public:
+    std::int64_t Seek(std::int64_t AOffset, TSeekOrigin AOrigin) override {
+        if (CanSeek || AOffset == 0)
+            return TMemoryStream::Seek(AOffset, AOrigin);
+        throw EAbort(u"no seek");
+    }
+    bool CanSeek = true;
+};
+
+TEST(ZStreams, ASourceThatCannotSeekLosesNoData) {
+    TPipe Source;
+    const std::string Data = Sample(300'000);
+    TZCompressionStream Packer(Source);
+    Put(Packer, Data);
+    Packer.Finish();
+    Put(Source, "tail");
+    Source.SetPosition(0);
+    Source.CanSeek = false;
+    TZDecompressionStream Unpacker(Source);
+    EXPECT_TRUE(Take(Unpacker, Data.size()) == Data);
+    char More;
+    EXPECT_THROW(Unpacker.Read(&More, 1), EAbort);
+}
+
 TEST(ZStreams, DataWithoutItsEndIsNotEnded) {
     TMemoryStream Packed;
     try {

@@ -1,5 +1,6 @@
-// Every way of converting that this machine can go, beside plain bit arithmetic. Sources are of their exact size, so
-// that a sanitizer sees a read beyond them; targets have a canary after the room that the contract asks for.
+// Every way of converting that this machine can go, beside plain bit arithmetic. Sources are of their exact
+// size, so that a sanitizer sees a read beyond them; targets have a canary after the room that the contract
+// asks for.
 #include <qz/runtime/text/detail/BinaryPaths.h>
 
 #include <gtest/gtest.h>
@@ -12,6 +13,11 @@ namespace qz {
 namespace {
 
 using detail::TBinaryPath;
+
+// The alphabets of RFC 4648.
+constexpr std::string_view cAlphabets[] = {
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/",
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_"};
 
 // What AWrite(target) gives in ARoom bytes.
 template <class T, class TWrite> std::string Written(std::size_t ARoom, TWrite AWrite) {
@@ -35,7 +41,7 @@ std::string ReferenceBase64(std::string_view ABytes, TBase64Alphabet AAlphabet) 
     std::string All = Bits(ABytes), Result;
     All.resize((All.size() + 5) / 6 * 6, '0');
     for (std::size_t I = 0; I < All.size(); I += 6)
-        Result += cBase64Chars[static_cast<std::size_t>(AAlphabet)][std::stoul(All.substr(I, 6), nullptr, 2)];
+        Result += cAlphabets[static_cast<std::size_t>(AAlphabet)][std::stoul(All.substr(I, 6), nullptr, 2)];
     if (AAlphabet == TBase64Alphabet::Standard)
         Result.resize((Result.size() + 3) / 4 * 4, '=');
     return Result;
@@ -44,7 +50,7 @@ std::string ReferenceBase64(std::string_view ABytes, TBase64Alphabet AAlphabet) 
 std::string ReferenceBytes(std::string_view AText) {
     std::string All, Result;
     for (const char Char : AText) {
-        const std::size_t Value = std::min(cBase64Chars[0].find(Char), cBase64Chars[1].find(Char));
+        const std::size_t Value = std::min(cAlphabets[0].find(Char), cAlphabets[1].find(Char));
         if (Value != std::string_view::npos)
             All += Bits(std::string(1, static_cast<char>(Value))).substr(2);
     }

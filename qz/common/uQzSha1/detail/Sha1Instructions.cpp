@@ -13,8 +13,8 @@ namespace {
 #define QZ_TARGET __attribute__((target("sha,ssse3,sse4.1")))
 #define QZ_STEP QZ_TARGET __attribute__((always_inline)) inline
 
-// A block on its way: the words a, b, c, d with a the highest, what e comes from, and the last sixteen words of
-// the message schedule.
+// A block on its way: the words a, b, c, d with a the highest, what e comes from, and the last sixteen words
+// of the message schedule.
 struct TRun {
     __m128i Abcd;
     __m128i Before;

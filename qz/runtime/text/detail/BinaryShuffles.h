@@ -1,5 +1,5 @@
-// The constants of the vector code for Base64 and hexadecimal text, sixteen bytes each. Those that are looked up
-// by a half byte have an entry for each of its values.
+// The constants of the vector code for Base64 and hexadecimal text, sixteen bytes each. Those that are looked
+// up by a half byte have an entry for each of its values.
 #pragma once
 
 #include <array>
@@ -27,7 +27,8 @@ constexpr TShuffle Repeated32(std::uint32_t AValue) noexcept {
         Result[I] = static_cast<std::uint8_t>(AValue >> 8 * (I % 4));
     return Result;
 }
-// The bits of the odd and the even characters of a spread group, and the factors that move them to their places.
+// The bits of the odd and the even characters of a spread group, and the factors that move them to their
+// places.
 alignas(16) inline constexpr TShuffle cOddBits = Repeated32(0x0FC0FC00);
 alignas(16) inline constexpr TShuffle cOddPlaces = Repeated32(0x04000040);
 alignas(16) inline constexpr TShuffle cEvenBits = Repeated32(0x003F03F0);
@@ -59,8 +60,8 @@ constexpr TShuffle EncodeOffsets(char ALast, char AVeryLast) noexcept {
 }
 alignas(16) inline constexpr TShuffle cEncodeOffsets[] = {EncodeOffsets('+', '/'), EncodeOffsets('-', '_')};
 
-// Kinds of characters: 1 "+", 2 "-", 4 "/", 8 "_", 16 digits, 32 letters from 41 and 61, 64 letters from 50 and
-// 70. By the lower half of the character and by the upper one; a character has the kind that is in both.
+// Kinds of characters: 1 "+", 2 "-", 4 "/", 8 "_", 16 digits, 32 letters from 41 and 61, 64 letters from 50
+// and 70. By the lower half of the character and by the upper one; a character has the kind that is in both.
 alignas(16) inline constexpr TShuffle cLowerKinds = {0x50, 0x70, 0x70, 0x70, 0x70, 0x70, 0x70, 0x70,
                                                      0x70, 0x70, 0x60, 0x21, 0x20, 0x22, 0x20, 0x2C};
 alignas(16) inline constexpr TShuffle cUpperKinds = {0, 0, 0x07, 0x10, 0x20, 0x48, 0x20, 0x40,
