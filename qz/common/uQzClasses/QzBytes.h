@@ -73,6 +73,8 @@ public:
     // AIndex is less than the size; nothing checks that.
     std::uint8_t Bytes(std::size_t AIndex) const noexcept { return GetByte(AIndex); }
     std::uint8_t GetByte(std::size_t AIndex) const noexcept { return FData[AIndex]; }
+    // What writes bytes is not const, although the bytes are shared.
+    // NOLINTBEGIN(readability-make-member-function-const)
     void SetByte(std::size_t AIndex, std::uint8_t AValue) noexcept { FData[AIndex] = AValue; }
 
     // As a container of C++.
@@ -86,6 +88,7 @@ public:
     std::uint8_t* end() noexcept { return FData.end(); }
     std::uint8_t operator[](std::size_t AIndex) const noexcept { return FData[AIndex]; }
     std::uint8_t& operator[](std::size_t AIndex) noexcept { return FData[AIndex]; }
+    // NOLINTEND(readability-make-member-function-const)
 
     // The array itself (TBytes Array = Bytes;), a copy of the bytes as text without a code page, a view of
     // them.

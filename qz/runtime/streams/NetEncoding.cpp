@@ -94,7 +94,7 @@ TBase64Encoding::TBase64Encoding(std::int32_t ACharsPerLine, const TStringArg& A
       FLineSeparator(ALineSeparator.ToString()) {}
 
 UnicodeString TBase64Encoding::InLines(std::span<const std::byte> ABytes) const {
-    const UnicodeString Text = Base64Text(ABytes, TBase64Alphabet::Standard);
+    UnicodeString Text = Base64Text(ABytes, TBase64Alphabet::Standard);
     const auto PerLine = static_cast<std::size_t>(std::max(FCharsPerLine, 0));
     if (PerLine == 0 || Text.size() <= PerLine)
         return Text;
