@@ -54,6 +54,7 @@ public:
 
 private:
     struct TEntry {
+        explicit TEntry(PTypeInfo AType) : Name(AType->QualifiedName()), Type(AType) {}
         UnicodeString Name;
         std::atomic<PTypeInfo> Type;
     };
@@ -67,7 +68,7 @@ private:
     void AddLocked(PTypeInfo AType) {
         if (!AType->IsPublic)
             return;
-        auto Fresh = std::make_unique<TEntry>(AType->QualifiedName(), AType);
+        auto Fresh = std::make_unique<TEntry>(AType);
         const std::uint64_t Hash = HashNameOf<TNameCase::Ignored>(Fresh->Name);
         if (TEntry* const Found = FTable.Find(Hash, TIsNamed{Fresh->Name})) {
             Found->Type.store(AType, std::memory_order_release);

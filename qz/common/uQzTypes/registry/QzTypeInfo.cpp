@@ -8,10 +8,6 @@ namespace qz {
 constinit const TClassRec TQzTypeInfo::ClassRec =
     DescribeClass<TQzTypeInfo>(u"TQzTypeInfo", {.Unit = u"uQzTypes"});
 
-TQzTypeInfo::~TQzTypeInfo() {
-    std::unique_ptr<const detail::TSchemaNames> Names(FSchemaNames.load(std::memory_order_relaxed));
-}
-
 TQzTypeInfo* TQzTypeInfo::ArrElmTypeInfo() const {
     TQzTypeInfo* Result = FArrElmTypeInfo.load(std::memory_order_acquire);
     if (Result == nullptr && FElementHandle != nullptr) {

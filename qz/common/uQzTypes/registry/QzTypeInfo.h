@@ -25,8 +25,8 @@ namespace detail {
 class TTypeStore;
 struct TTypeEntry;
 
-// The schema names of a type, the default one first. A change makes a new block; old ones are kept for
-// readers.
+// The schema names of a type, the default one first. A change makes a new block or takes an old one again;
+// all are kept for readers.
 struct TSchemaNames {
     std::vector<UnicodeString> Names; // never empty
     bool IsCustom = false;
@@ -50,7 +50,6 @@ class QZ_API TQzTypeInfo : public TObject {
 public:
     TQzTypeInfo(const TQzTypeInfo&) = delete;
     TQzTypeInfo& operator=(const TQzTypeInfo&) = delete;
-    ~TQzTypeInfo() override;
 
     TRttiType RttiInfo() const noexcept { return TRttiType(FTypeInfo); }
     PTypeInfo TypeInfo() const noexcept { return FTypeInfo; }
@@ -98,7 +97,8 @@ private:
     PTypeInfo FTypeInfo = nullptr;
     UnicodeString FShortName;
     UnicodeString FFullName;
-    std::atomic<const detail::TSchemaNames*> FSchemaNames{nullptr}; // owned
+    std::atomic<const detail::TSchemaNames*> FSchemaNames{nullptr};
+    std::unique_ptr<const detail::TSchemaNames> FAllNames; // the blocks, for the writer
     PQzTypeRec FTypeRec = nullptr;
     detail::TTypeEntry* FEntry = nullptr; // its own, also of a virtual type
     // The element, or its handle while it waits to be asked for: a list of itself is made before it is known.

@@ -6,7 +6,7 @@ TNewNames TNameIndex::Make(std::span<const UnicodeString> ANames, TTypeEntry& AE
     TNewNames Result;
     Result.reserve(ANames.size());
     for (const UnicodeString& Name : ANames)
-        Result.push_back(std::make_unique<TTypeName>(Name, AEntry.List, &AEntry));
+        Result.push_back(std::make_unique<TTypeName>(Name, AEntry));
     return Result;
 }
 

@@ -60,6 +60,10 @@ private:
 
 // One name in one list.
 struct TTypeName {
+    TTypeName(const UnicodeString& AName, TTypeEntry& AEntry) noexcept
+        : Name(AName),
+          List(AEntry.List),
+          First(&AEntry) {}
     UnicodeString Name;
     TTypeKind List;
     std::atomic<TTypeEntry*> First;        // the first entry of the list that has the name

@@ -172,7 +172,8 @@ std::unique_ptr<TTypeEntry> TTypeStore::Make(const TTypeRequest& ARequest) {
         TQzSchemaSimplexType::Contains(DefaultType) && Names->Names.front() == DefaultName;
     if (!ARequest.FinalName.empty())
         Names->Names.front() = ARequest.FinalName;
-    Info.FSchemaNames = Names.release();
+    Info.FSchemaNames = Names.get();
+    Info.FAllNames = std::move(Names);
     Info.FArrElmTypeInfo = InfoOf(Element);
     Info.FElementHandle = Element;
     if (ARequest.Parent != nullptr)

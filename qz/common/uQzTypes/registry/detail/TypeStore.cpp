@@ -77,12 +77,18 @@ void TTypeStore::PutNamesFirst(TQzTypeInfo& AInfo, std::span<const UnicodeString
         if (std::none_of(Fresh->Names.begin(), Fresh->Names.end(),
                          [&](const UnicodeString& AEach) { return SameName(AEach, Name, ACase); }))
             Fresh->Names.push_back(Name);
-    if (Old->IsCustom && Fresh->Names == Old->Names)
+    const TSchemaNames* Same = AInfo.FAllNames.get();
+    while (Same != nullptr && !(Same->IsCustom && Same->Names == Fresh->Names))
+        Same = Same->Older.get();
+    if (Same != nullptr) {
+        AInfo.FSchemaNames.store(Same, std::memory_order_release);
         return;
+    }
     TNewNames Names = TNameIndex::Make(ANames, *AInfo.FEntry);
     FNames[SchemaNames].Reserve(Names.size());
-    Fresh->Older.reset(Old);
-    AInfo.FSchemaNames.store(Fresh.release(), std::memory_order_release);
+    Fresh->Older = std::move(AInfo.FAllNames);
+    AInfo.FSchemaNames.store(Fresh.get(), std::memory_order_release);
+    AInfo.FAllNames = std::move(Fresh);
     FNames[SchemaNames].Add(std::move(Names));
 }
 
