@@ -12,12 +12,14 @@
 #include <qz/common/uQzTypes/QzNormalize.h>
 // The vocabularies of types: kinds, schema types, JSON types.
 #include <qz/common/uQzTypes/TypeKinds.h>
-// TQzTypes: conversions among them and the
+// The conversions among them and the
 // codes of variants.
-#include <qz/common/uQzTypes/QzTypes.h>
+#include <qz/common/uQzTypes/KindConversions.h>
 // Texts of XML and JSON, arrays, and pointers to the value records, as
 // types with names of their own.
 #include <qz/common/uQzTypes/NamedTypes.h>
+// TQzTypes: those conversions, and what the library knows of each type.
+#include <qz/common/uQzTypes/registry/QzTypes.h>
 // QzVarInt and its kin: variants read
 // without conversion.
 #include <qz/common/uQzTypes/VarStrict.h>

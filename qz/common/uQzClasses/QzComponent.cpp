@@ -4,8 +4,11 @@
 
 #include <qz/runtime/components/DescribeComponent.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzComponent);
 
 constinit const TClassRec TQzComponent::ClassRec = DescribeComponent<TQzComponent>(
     u"TQzComponent",

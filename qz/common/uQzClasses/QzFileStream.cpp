@@ -3,10 +3,13 @@
 #include <bit>
 
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 
 static_assert(std::endian::native == std::endian::little, "units are written as they lie in memory");
+
+QZ_REGISTER_TYPES(TQzFileStream);
 
 constinit const TClassRec TQzFileStream::ClassRec =
     DescribeClass<TQzFileStream>(u"TQzFileStream", {.Unit = u"uQzClasses"});

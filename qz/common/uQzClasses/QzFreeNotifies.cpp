@@ -5,9 +5,12 @@
 #include <qz/platform/Fork.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/threads/CriticalSection.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzFreeNotifies);
 
 constinit const TClassRec TQzFreeNotifies::ClassRec =
     DescribeClass<TQzFreeNotifies>(u"TQzFreeNotifies", {.Unit = u"uQzClasses"});

@@ -2,6 +2,7 @@
 
 #include <qz/runtime/components/DescribeComponent.h>
 #include <qz/runtime/lists/StringList.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/text/NumberText.h>
 
 namespace qz {
@@ -19,6 +20,8 @@ UnicodeString Partner(const TStrings& AFrom, const TStringArg& AText, const TStr
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzKeyDescStringList);
 
 constinit const TClassRec TQzKeyDescStringList::ClassRec = DescribeComponent<TQzKeyDescStringList>(
     u"TQzKeyDescStringList", {.Unit = u"uQzClasses", .Properties = cKeyDescProps});

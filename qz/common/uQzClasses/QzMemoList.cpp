@@ -4,6 +4,7 @@
 #include <qz/runtime/components/DescribeComponent.h>
 #include <qz/runtime/lists/StringList.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/values/BasicTypes.h>
 
 namespace qz {
@@ -18,6 +19,8 @@ constexpr TPropInfo cItemProps[] = {
 constexpr TPropInfo cListProps[] = {Property<&TQzMemoList::Items, &TQzMemoList::SetItems>(u"Items")};
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzMemoListItem, TQzMemoListItems, TQzMemoList);
 
 constinit const TClassRec TQzMemoListItem::ClassRec = DescribeClass<TQzMemoListItem>(
     u"TQzMemoListItem",

@@ -8,6 +8,7 @@
 
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -24,6 +25,8 @@ std::size_t SizeOf(std::int64_t ASize) {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzMemoryStream);
 
 constinit const TClassRec TQzMemoryStream::ClassRec =
     DescribeClass<TQzMemoryStream>(u"TQzMemoryStream", {.Unit = u"uQzClasses"});

@@ -3,6 +3,7 @@
 #include <qz/common/uQzClasses/QzComponent.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/text/Format.h>
 
 namespace qz {
@@ -17,6 +18,8 @@ TQzObject* MakeObject() {
 constexpr TMakerEntry cObjectMakers[] = {Maker<TQzObject::TVirtualCreate, &MakeObject>()};
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzObject, TQzInterfacedObject);
 
 constinit const TClassRec TQzObject::ClassRec = DescribeClass<TQzObject>(
     u"TQzObject", {.Unit = cUnit, .Interfaces = Interfaces<TQzObject, IQzObject>(), .Makers = cObjectMakers});

@@ -1,8 +1,11 @@
 #include <qz/common/uQzClasses/QzObjectAdapter.h>
 
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzObjectAdapter);
 
 constinit const TClassRec TQzObjectAdapter::ClassRec = DescribeClass<TQzObjectAdapter>(
     u"TQzObjectAdapter",

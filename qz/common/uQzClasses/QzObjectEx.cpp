@@ -6,6 +6,7 @@
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/objects/Persistent.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 
@@ -23,6 +24,8 @@ template <class I> I* Offered(TObject* AObject) noexcept {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzObjectEx);
 
 constinit const TClassRec TQzObjectEx::ClassRec = DescribeClass<TQzObjectEx>(
     u"TQzObjectEx",

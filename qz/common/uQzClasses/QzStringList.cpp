@@ -3,8 +3,11 @@
 #include <algorithm>
 
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzStringList);
 
 constinit const TClassRec TQzStringList::ClassRec =
     DescribeClass<TQzStringList>(u"TQzStringList", {.Unit = u"uQzClasses"});

@@ -8,6 +8,7 @@
 #include <qz/common/uQzTypes/QzEncoding.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/values/VariantConvert.h>
 
 namespace qz {
@@ -20,6 +21,8 @@ std::u16string_view OneUnit(const char16_t& AUnit) {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzStringStream);
 
 constinit const TClassRec TQzStringStream::ClassRec =
     DescribeClass<TQzStringStream>(u"TQzStringStream", {.Unit = u"uQzClasses"});

@@ -10,6 +10,7 @@
 #include <qz/common/uQzClasses/TextParserKinds.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/DescribeException.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/streams/MemoryStream.h>
 
 namespace qz {
@@ -40,6 +41,8 @@ bool IsInMemory(TStream* AStream, TQzTextPos& AMemory) {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(EQzTextParserEOF, TQzTextParser);
 
 const TClassRec EQzTextParserEOF::ClassRec =
     DescribeException<EQzTextParserEOF>(u"EQzTextParserEOF", u"uQzClasses");

@@ -8,6 +8,7 @@
 #include <qz/runtime/base/Utf.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -53,6 +54,8 @@ private:
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzUTF8StreamAdapter);
 
 constinit const TClassRec TQzUTF8StreamAdapter::ClassRec =
     DescribeClass<TQzUTF8StreamAdapter>(u"TQzUTF8StreamAdapter", {.Unit = u"uQzClasses"});

@@ -2,6 +2,7 @@
 
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/EnumItems.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/values/BasicTypes.h>
 
 namespace qz {
@@ -21,6 +22,9 @@ constexpr TFieldInfo cDurationFields[] = {Field<&TQzDuration::Negative>(u"Negati
                                           Field<&TQzDuration::Seconds>(u"Seconds")};
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzWeekFormat, TQzDatePeriod, TQzWorkDayAdjustment, TQzDecodeType, TQzTimeZoneFormat,
+                  TQzUTCDate, TQzUTCTime, TQzUTCDateTime, TQzDuration);
 
 template <class T> using TInfo = TTypeDescription<T>;
 

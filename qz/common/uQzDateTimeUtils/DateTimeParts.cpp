@@ -4,6 +4,7 @@
 #include <qz/common/uQzDateTimeUtils/detail/DateNumbers.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/values/BasicTypes.h>
 
 namespace qz {
@@ -138,6 +139,8 @@ TDateTime Signed(TDateTime AValue, bool AIsBC) noexcept {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzDateTimeParts);
 
 constinit const TTypeInfo TTypeDescription<TQzDateTimeParts>::Info =
     DescribeRecord<TQzDateTimeParts>(u"TQzDateTimeParts", u"uQzDateTimeUtils", cFields);

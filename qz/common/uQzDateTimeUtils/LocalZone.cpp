@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/text/Format.h>
 #include <qz/runtime/time/TimeZone.h>
 #include <qz/runtime/values/BasicTypes.h>
@@ -56,6 +57,8 @@ std::int32_t SignedMinutes(TDateTime ADifference) {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzTimeZoneInfo);
 
 constinit const TTypeInfo TTypeDescription<TQzTimeZoneInfo>::Info =
     DescribeRecord<TQzTimeZoneInfo>(u"TQzTimeZoneInfo", u"uQzDateTimeUtils", cInfoFields);

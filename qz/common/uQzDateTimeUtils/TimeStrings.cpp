@@ -8,6 +8,7 @@
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/EnumItems.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/text/FormatSettings.h>
 #include <qz/runtime/text/NumberText.h>
 #include <qz/runtime/time/DateTimeText.h>
@@ -73,6 +74,8 @@ std::int64_t ReadHoursToSeconds(std::u16string_view AText, char16_t ASeparator, 
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzTimeRange, TQzTimeFormat);
 
 constinit const TTypeInfo TTypeDescription<TQzTimeRange>::Info =
     DescribeEnum<TQzTimeRange>(u"TQzTimeRange", cUnit, cRanges);

@@ -8,6 +8,7 @@
 #include <qz/common/uQzSysUtils/Compare.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/values/BasicTypes.h>
 
 namespace qz {
@@ -128,6 +129,8 @@ const TQzTimeZone& ZoneOfRow(int ARow) {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzTimeZones, TQzTimeZone);
 
 constinit const TTypeInfo TTypeDescription<TQzTimeZone>::Info =
     DescribeRecord<TQzTimeZone>(u"TQzTimeZone", cUnit, cZoneFields);

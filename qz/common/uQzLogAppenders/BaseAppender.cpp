@@ -5,8 +5,11 @@
 #include <qz/common/uQzLogger/LoggerClass.h>
 #include <qz/common/uQzLogger/detail/LogThread.h>
 #include <qz/common/uQzTypes/VarTolerant.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzBaseAppender);
 
 constinit const TClassRec TQzBaseAppender::ClassRec = DescribeLogBase<TQzBaseAppender>(
     u"TQzBaseAppender",

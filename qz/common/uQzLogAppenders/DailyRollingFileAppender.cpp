@@ -8,10 +8,13 @@
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/files/FileNames.h>
 #include <qz/runtime/files/FileSystem.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/time/DateTimeText.h>
 #include <qz/runtime/time/LocalClock.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzDailyRollingFileAppender);
 
 constinit const TClassRec TQzDailyRollingFileAppender::ClassRec =
     DescribeLogBase<TQzDailyRollingFileAppender>(

@@ -8,9 +8,12 @@
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/files/FileNames.h>
 #include <qz/runtime/files/FileSystem.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/time/TimeZone.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzEventLogAppender);
 
 constinit const TClassRec TQzEventLogAppender::ClassRec =
     DescribeLogBase<TQzEventLogAppender>(u"TQzEventLogAppender", {.Unit = u"uQzLogAppenders"});

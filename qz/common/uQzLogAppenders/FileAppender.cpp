@@ -7,8 +7,11 @@
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/files/FileNames.h>
 #include <qz/runtime/files/FileSystem.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzFileAppender);
 
 constinit const TClassRec TQzFileAppender::ClassRec = DescribeLogBase<TQzFileAppender>(
     u"TQzFileAppender",

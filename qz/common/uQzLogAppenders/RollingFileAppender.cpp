@@ -9,10 +9,13 @@
 #include <qz/platform/Threads.h>
 #include <qz/runtime/files/FileNames.h>
 #include <qz/runtime/files/FileSystem.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/text/NumberText.h>
 #include <qz/runtime/values/VariantConvert.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzRollingFileAppender, TQzFileInfo);
 
 constinit const TClassRec TQzRollingFileAppender::ClassRec = DescribeLogBase<TQzRollingFileAppender>(
     u"TQzRollingFileAppender",

@@ -15,10 +15,13 @@
 #include <qz/runtime/files/FileSystem.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/streams/FileStream.h>
 #include <qz/runtime/time/DateTime.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzTextFile);
 
 constinit const TClassRec TQzTextFile::ClassRec =
     DescribeClass<TQzTextFile>(u"TQzTextFile", {.Unit = u"uQzLogAppenders"});

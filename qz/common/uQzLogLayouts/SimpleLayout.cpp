@@ -2,12 +2,15 @@
 
 #include <qz/common/uQzLogLayouts/detail/LinePen.h>
 #include <qz/common/uQzLogger/DataRec.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/time/DateTimeText.h>
 #include <qz/runtime/time/LocalClock.h>
 
 namespace qz {
 
 using detail::TLinePen;
+
+QZ_REGISTER_TYPES(TQzSimpleLayout);
 
 constinit const TClassRec TQzSimpleLayout::ClassRec = DescribeLogBase<TQzSimpleLayout>(
     u"TQzSimpleLayout",

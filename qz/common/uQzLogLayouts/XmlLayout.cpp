@@ -8,10 +8,13 @@
 #include <qz/runtime/files/FileNames.h>
 #include <qz/runtime/files/FileSystem.h>
 #include <qz/runtime/lists/StringList.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/text/NumberText.h>
 #include <qz/runtime/time/DateTime.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzXmlLayout);
 
 constinit const TClassRec TQzXmlLayout::ClassRec = DescribeLogBase<TQzXmlLayout>(
     u"TQzXmlLayout",

@@ -4,8 +4,11 @@
 #include <qz/common/uQzLogger/LoggerClass.h>
 #include <qz/common/uQzLogger/detail/AppenderSet.h>
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzLogAppenderList);
 
 constinit const TClassRec TQzLogAppenderList::ClassRec =
     DescribeClass<TQzLogAppenderList>(u"TQzLogAppenderList", {.Unit = u"uQzLogger"});

@@ -7,10 +7,13 @@
 #include <qz/common/uQzLogger/detail/BuiltIns.h>
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/objects/ClassRegistry.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 
 using detail::TStateHold;
+
+QZ_REGISTER_TYPES(TQzLogBase, TQzLogBaseClassList);
 
 constinit const TClassRec TQzLogBase::ClassRec = DescribeClass<TQzLogBase>(
     u"TQzLogBase", {.Unit = u"uQzLogger", .Interfaces = Interfaces<TQzLogBase, IQzLogBase>()});

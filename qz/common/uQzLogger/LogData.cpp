@@ -6,9 +6,12 @@
 #include <qz/common/uQzWindows/SystemVersion.h>
 #include <qz/platform/SystemVersion.h>
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/text/Format.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzLogData);
 
 constinit const TClassRec TQzLogData::ClassRec = DescribeClass<TQzLogData>(
     u"TQzLogData", {.Unit = u"uQzLogger", .Interfaces = Interfaces<TQzLogData, IQzLogData>()});

@@ -12,6 +12,7 @@
 #include <qz/common/uQzLogger/detail/LogDispatch.h>
 #include <qz/common/uQzLogger/detail/LogFork.h>
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/text/Format.h>
 
 namespace qz {
@@ -19,6 +20,8 @@ namespace qz {
 using detail::TStateHold;
 using detail::TTreeHold;
 using detail::TTreeLock;
+
+QZ_REGISTER_TYPES(TQzLogger);
 
 constinit const TClassRec TQzLogger::ClassRec = DescribeClass<TQzLogger>(
     u"TQzLogger", {.Unit = u"uQzLogger", .Interfaces = Interfaces<TQzLogger, IQzLogger>()});

@@ -3,8 +3,11 @@
 #include <qz/common/uQzLogger/LoggerClass.h>
 #include <qz/common/uQzLogger/detail/LogThread.h>
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzLoggerList);
 
 constinit const TClassRec TQzLoggerList::ClassRec =
     DescribeClass<TQzLoggerList>(u"TQzLoggerList", {.Unit = u"uQzLogger"});

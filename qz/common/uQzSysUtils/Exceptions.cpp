@@ -7,9 +7,12 @@
 #include <qz/platform/Debugger.h>
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/objects/DescribeException.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/text/Format.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(EQzException, EQzAbort);
 
 constinit const TClassRec EQzException::ClassRec =
     DescribeException<EQzException>(u"EQzException", u"uQzSysUtils");

@@ -2,8 +2,11 @@
 
 #include <qz/platform/Threads.h>
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzCriticalSection);
 
 constinit const TClassRec TQzCriticalSection::ClassRec =
     DescribeClass<TQzCriticalSection>(u"TQzCriticalSection", {.Unit = u"uQzThreads"});

@@ -4,8 +4,11 @@
 
 #include <qz/platform/Threads.h>
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzMultiReadSingleWrite);
 
 constinit const TClassRec _TMultiReadExclusiveWriteSynchronizer::ClassRec =
     DescribeClass<_TMultiReadExclusiveWriteSynchronizer>(u"_TMultiReadExclusiveWriteSynchronizer",

@@ -1,8 +1,11 @@
 #include <qz/common/uQzThreads/SimpleEvent.h>
 
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TQzSimpleEvent);
 
 constinit const TClassRec TQzSimpleEvent::ClassRec = DescribeClass<TQzSimpleEvent>(
     u"TQzSimpleEvent", {.Unit = u"uQzThreads", .Interfaces = Interfaces<TQzSimpleEvent, IQzSimpleEvent>()});

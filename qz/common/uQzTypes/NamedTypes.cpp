@@ -2,6 +2,7 @@
 
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/EnumItems.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -15,6 +16,9 @@ constexpr auto cTypeKinds =
                u"tkUString", u"tkClassRef", u"tkPointer", u"tkProcedure"});
 
 } // namespace
+
+QZ_REGISTER_TYPES(QzXMLString, QzJSONString, TValArray, TExtendedDynArray, TVariantDynArray,
+                  TDateTimeDynArray, TUInt64DynArray, TTypeKind, TTypeKindArray);
 
 template <class T> using TInfo = TTypeDescription<T>;
 

@@ -5,6 +5,7 @@
 
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -66,6 +67,8 @@ RawByteString Encoded(std::u16string_view AText, std::uint16_t ACodePage) {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzEncoding);
 
 constinit const TClassRec TQzEncoding::ClassRec =
     DescribeClass<TQzEncoding>(u"TQzEncoding", {.Unit = u"uQzTypes"});

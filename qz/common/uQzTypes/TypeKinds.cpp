@@ -2,6 +2,7 @@
 
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/EnumItems.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -46,6 +47,9 @@ constexpr auto cDataSerializationFormatTypes = EnumItems(QzDataSerializationForm
 constexpr auto cTypeNameTypes = EnumItems({u"tntTypeName", u"tntQualifiedName", u"tntSchemaName"});
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzMainTypeKind, TQzTypeKind, TQzSchemaDataType, TQzJSONDataType, TQzNullableBool,
+                  TQzDataSerializationFormatType, TQzTypeNameType);
 
 constinit const TTypeInfo TTypeDescription<TQzMainTypeKind>::Info =
     DescribeEnum<TQzMainTypeKind>(u"TQzMainTypeKind", cUnit, cMainTypeKinds);

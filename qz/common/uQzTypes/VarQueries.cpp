@@ -1,6 +1,6 @@
 #include <qz/common/uQzTypes/VarQueries.h>
 
-#include <qz/common/uQzTypes/QzTypes.h>
+#include <qz/common/uQzTypes/KindConversions.h>
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/values/VariantArray.h>
 #include <qz/runtime/values/VariantConvert.h>
@@ -8,7 +8,7 @@
 namespace qz {
 
 bool QzVarIsEmpty(const Variant& AValue) {
-    switch (TQzTypes::ToMainTypeKind(VarType(AValue))) {
+    switch (TQzKindConversions::ToMainTypeKind(VarType(AValue))) {
     case mtkInteger:
     case mtkFloat:
     case mtkDateTime: return AValue == 0;
@@ -24,7 +24,7 @@ std::int32_t QzVarArrayCount(const Variant& AValue) {
 }
 
 TQzNullableBool QzNullableBool(const Variant& AValue) {
-    if (TQzTypes::ToMainTypeKind(VarType(AValue)) != mtkBoolean)
+    if (TQzKindConversions::ToMainTypeKind(VarType(AValue)) != mtkBoolean)
         return nbNull;
     return VarToBool(AValue) ? nbYes : nbNo;
 }

@@ -2,8 +2,8 @@
 
 #include <limits>
 
+#include <qz/common/uQzTypes/KindConversions.h>
 #include <qz/common/uQzTypes/QzEncoding.h>
-#include <qz/common/uQzTypes/QzTypes.h>
 #include <qz/common/uQzTypes/TextValues.h>
 #include <qz/runtime/values/VariantConvert.h>
 
@@ -53,7 +53,7 @@ template <class T> T Read(const Variant& AValue) {
 
 template <class T, class TDefault>
 T Number(const Variant& AValue, TDefault ADefault, const TMember& AMember) {
-    const TQzTypeKind Kind = TQzTypes::VarTypeKind(AValue);
+    const TQzTypeKind Kind = TQzKindConversions::VarTypeKind(AValue);
     if (Kind == rtkUnknown)
         return static_cast<T>(ADefault);
     if (!AMember.Kinds.Contains(Kind) || (Kind == rtkLongInt && VarToInteger(AValue) > AMember.MaxLongInt))
@@ -63,7 +63,7 @@ T Number(const Variant& AValue, TDefault ADefault, const TMember& AMember) {
 
 // Whether there is a text; the default is wanted where there is none.
 bool HasText(const Variant& AValue) {
-    switch (TQzTypes::ToMainTypeKind(VarType(AValue))) {
+    switch (TQzKindConversions::ToMainTypeKind(VarType(AValue))) {
     case mtkString: return true;
     case mtkUnknown: return false;
     default: throw EConvertError(cString);
@@ -133,7 +133,7 @@ WideString QzVarStrW(const Variant& AValue, const WideString& ADefault) {
 }
 
 bool QzVarBool(const Variant& AValue, bool ADefault) {
-    switch (TQzTypes::ToMainTypeKind(VarType(AValue))) {
+    switch (TQzKindConversions::ToMainTypeKind(VarType(AValue))) {
     case mtkInteger: return AValue != 0;
     case mtkString: return QzStrToBool(VarToStr(AValue));
     case mtkBoolean: return VarToBool(AValue);

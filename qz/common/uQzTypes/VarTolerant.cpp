@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include <qz/common/uQzTypes/QzTypes.h>
+#include <qz/common/uQzTypes/KindConversions.h>
 #include <qz/common/uQzTypes/TextValues.h>
 #include <qz/common/uQzTypes/VarStrict.h>
 #include <qz/runtime/text/FloatText.h>
@@ -95,7 +95,7 @@ constexpr std::u16string_view cWStr = u"The given value is not a valid WideStrin
 constexpr std::u16string_view cArray = u"The given array is not a to-string convertable value!";
 
 TQzMainTypeKind MainKind(const Variant& AValue) noexcept {
-    return TQzTypes::ToMainTypeKind(VarType(AValue));
+    return TQzKindConversions::ToMainTypeKind(VarType(AValue));
 }
 
 // What AConvert gives; the default for any failure of it unless failures are to be raised.

@@ -4,6 +4,7 @@
 #include <qz/platform/Threads.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/EnumItems.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -11,6 +12,8 @@ namespace {
 constexpr auto cLevels = EnumItems({u"elDefault", u"elFull", u"elLimited"});
 
 } // namespace
+
+QZ_REGISTER_TYPES(TQzElevationLevel);
 
 constinit const TTypeInfo TTypeDescription<TQzElevationLevel>::Info =
     DescribeEnum<TQzElevationLevel>(u"TQzElevationLevel", u"uQzWindows", cLevels);

@@ -3,11 +3,33 @@
 #include <optional>
 
 #include <dlfcn.h>
+#include <link.h>
 #include <unistd.h>
 
 #include <qz/platform/linux/NativeText.h>
 
 namespace qz::platform {
+namespace {
+
+struct TModuleSearch {
+    std::uintptr_t Address;
+    std::string Name;
+};
+
+// Stops at the module with the address and notes its name.
+int FindModuleName(dl_phdr_info* AInfo, std::size_t, void* ASearch) {
+    auto& Search = *static_cast<TModuleSearch*>(ASearch);
+    for (int Index = 0; Index < AInfo->dlpi_phnum; ++Index) {
+        const ElfW(Phdr)& Part = AInfo->dlpi_phdr[Index];
+        if (Part.p_type == PT_LOAD && Search.Address - (AInfo->dlpi_addr + Part.p_vaddr) < Part.p_memsz) {
+            Search.Name = AInfo->dlpi_name;
+            return 1;
+        }
+    }
+    return 0;
+}
+
+} // namespace
 
 std::u16string ExecutablePath() {
     std::string Path(256, '\0');
@@ -33,6 +55,15 @@ void* FindModuleFunction(std::u16string_view AModule, const char* AName) {
     void* Result = dlsym(Module, AName);
     dlclose(Module);
     return Result;
+}
+
+bool PinModule(const void* AAddress) {
+    TModuleSearch Search{reinterpret_cast<std::uintptr_t>(AAddress), {}};
+    dl_iterate_phdr(FindModuleName, &Search);
+    if (Search.Name.empty()) // the program has no name
+        return true;
+    // The handle is never closed.
+    return dlopen(Search.Name.c_str(), RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE) != nullptr;
 }
 
 } // namespace qz::platform

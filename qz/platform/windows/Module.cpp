@@ -29,4 +29,11 @@ void* FindModuleFunction(std::u16string_view AModule, const char* AName) {
     return reinterpret_cast<void*>(GetProcAddress(Module, AName));
 }
 
+bool PinModule(const void* AAddress) {
+    HMODULE Module = nullptr;
+    constexpr DWORD cFlags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN;
+    return GetModuleHandleExW(cFlags, static_cast<LPCWSTR>(AAddress), &Module) != 0 ||
+        GetLastError() == ERROR_MOD_NOT_FOUND;
+}
+
 } // namespace qz::platform

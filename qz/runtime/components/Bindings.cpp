@@ -8,8 +8,11 @@
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/components/Component.h>
 #include <qz/runtime/objects/DescribeException.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(EEvaluatorError, TBindingExpression);
 
 constinit const TClassRec EEvaluatorError::ClassRec =
     DescribeException<EEvaluatorError>(u"EEvaluatorError", u"System");

@@ -3,9 +3,12 @@
 #include <algorithm>
 
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/text/NumberText.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TCollectionItem, TCollection, TOwnedCollection);
 
 constinit const TClassRec TCollectionItem::ClassRec = DescribeClass<TCollectionItem>(
     u"TCollectionItem", {.Unit = u"System", .Makers = CollectionItemMaker<TCollectionItem>()});

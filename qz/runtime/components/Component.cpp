@@ -5,6 +5,7 @@
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/components/DescribeComponent.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/values/BasicTypes.h>
 
 namespace qz {
@@ -41,6 +42,8 @@ void Grow(std::vector<TComponent*>& AList) {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TComponent);
 
 constinit const TClassRec TComponent::ClassRec = DescribeComponent<TComponent>(
     u"TComponent",

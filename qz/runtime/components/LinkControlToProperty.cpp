@@ -2,6 +2,7 @@
 
 #include <qz/runtime/components/Bindings.h>
 #include <qz/runtime/components/DescribeComponent.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/values/BasicTypes.h>
 
 namespace qz {
@@ -38,6 +39,8 @@ private:
 };
 
 } // namespace
+
+QZ_REGISTER_TYPES(TLinkControlToProperty);
 
 constinit const TClassRec TLinkControlToProperty::ClassRec = DescribeComponent<TLinkControlToProperty>(
     u"TLinkControlToProperty",

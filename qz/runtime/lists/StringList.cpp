@@ -7,6 +7,7 @@
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -21,6 +22,8 @@ int LocaleText(TView ALeft, TView ARight) {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TStringList);
 
 constinit const TClassRec TStringList::ClassRec =
     DescribeClass<TStringList>(u"TStringList", {.Unit = u"System"});

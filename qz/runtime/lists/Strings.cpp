@@ -6,6 +6,7 @@
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/streams/FileStream.h>
 
 namespace qz {
@@ -65,6 +66,8 @@ void SkipBlanks(TView& AText) noexcept {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TStrings);
 
 constinit const TClassRec TStrings::ClassRec = DescribeClass<TStrings>(u"TStrings", {.Unit = u"System"});
 

@@ -12,26 +12,23 @@
 namespace qz {
 namespace {
 
-// Descriptions by name in lower case.
-template <class TItem> class TNameTable {
+// Classes by name in lower case.
+class TClassTable {
 public:
-    // Gives the item that has the name from now on: AItem, or with AKeep one that was there before.
-    TItem Add(std::u16string_view AName, TItem AItem, bool AKeep) {
-        UnicodeString Key = LowerCase(AName);
+    // Gives the class that has the name from now on: AClass, or one that was there before.
+    TClass Add(TClass AClass) {
+        UnicodeString Key = LowerCase(AClass->Name());
         const std::unique_lock Hold(FMutex);
-        const auto [Place, IsNew] = FItems.try_emplace(std::move(Key), AItem);
-        if (!IsNew && !AKeep)
-            Place->second = AItem;
-        return Place->second;
+        return FItems.try_emplace(std::move(Key), AClass).first->second;
     }
-    void Remove(std::u16string_view AName, TItem AItem) {
-        const UnicodeString Key = LowerCase(AName);
+    void Remove(TClass AClass) {
+        const UnicodeString Key = LowerCase(AClass->Name());
         const std::unique_lock Hold(FMutex);
         const auto Found = FItems.find(Key);
-        if (Found != FItems.end() && Found->second == AItem)
+        if (Found != FItems.end() && Found->second == AClass)
             FItems.erase(Found);
     }
-    TItem Find(std::u16string_view AName) const {
+    TClass Find(std::u16string_view AName) const {
         const UnicodeString Key = LowerCase(AName);
         const std::shared_lock Hold(FMutex);
         const auto Found = FItems.find(Key);
@@ -45,47 +42,31 @@ public:
 
 private:
     mutable std::shared_mutex FMutex;
-    std::unordered_map<UnicodeString, TItem> FItems;
+    std::unordered_map<UnicodeString, TClass> FItems;
 };
 
 // Created at first use and never destroyed: registrations may run before main, look-ups after it.
-TNameTable<TClass>& Classes() {
-    static auto* const Table = new TNameTable<TClass>;
-    return *Table;
-}
-
-TNameTable<PTypeInfo>& Types() {
-    static auto* const Table = new TNameTable<PTypeInfo>;
+TClassTable& Classes() {
+    static auto* const Table = new TClassTable;
     return *Table;
 }
 
 [[maybe_unused]] const bool GIsWatched = [] {
     platform::AroundFork(
-        platform::TForkRank::Classes,
-        [] {
-            Classes().BeginFork();
-            Types().BeginFork();
-        },
-        [] {
-            Types().EndFork();
-            Classes().EndFork();
-        },
-        [] {
-            Types().BeginChild();
-            Classes().BeginChild();
-        });
+        platform::TForkRank::Classes, [] { Classes().BeginFork(); }, [] { Classes().EndFork(); },
+        [] { Classes().BeginChild(); });
     return true;
 }();
 
 } // namespace
 
 void RegisterClass(TClass AClass) {
-    if (Classes().Add(AClass->Name(), AClass, true) != AClass)
+    if (Classes().Add(AClass) != AClass)
         throw EInvalidOperation(SDuplicateClass, {AClass->Name()});
 }
 
 void UnRegisterClass(TClass AClass) {
-    Classes().Remove(AClass->Name(), AClass);
+    Classes().Remove(AClass);
 }
 
 TClass GetClass(std::u16string_view AName) {
@@ -97,15 +78,6 @@ TClass FindClass(std::u16string_view AName) {
     if (Found == nullptr)
         throw EClassNotFound(SClassNotFound, {AName});
     return Found;
-}
-
-void RegisterType(PTypeInfo AType) {
-    if (AType->IsPublic)
-        Types().Add(AType->QualifiedName(), AType, false);
-}
-
-PTypeInfo FindType(std::u16string_view AQualifiedName) {
-    return Types().Find(AQualifiedName);
 }
 
 } // namespace qz

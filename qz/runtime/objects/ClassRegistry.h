@@ -1,4 +1,4 @@
-// The classes and types of the program that can be found by name.
+// The classes of the program that can be found by name.
 //
 //     RegisterClass(ClassOf<TServer>());
 //     TClass Class = FindClass(u"tserver");          // names in either case of letters
@@ -23,11 +23,5 @@ QZ_API void UnRegisterClass(TClass AClass);
 QZ_API TClass GetClass(std::u16string_view AName);
 // Raises EClassNotFound instead.
 QZ_API TClass FindClass(std::u16string_view AName);
-
-// Makes a type known by its qualified name; of two types of one name the last counts. A type that is not
-// public is ignored, for it has no such name.
-QZ_API void RegisterType(PTypeInfo AType);
-// The type of that qualified name, as "System.Integer"; null when none is registered.
-QZ_API PTypeInfo FindType(std::u16string_view AQualifiedName);
 
 } // namespace qz

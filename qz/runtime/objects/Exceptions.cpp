@@ -3,6 +3,7 @@
 #include <functional>
 #include <qz/platform/Error.h>
 #include <qz/runtime/objects/DescribeException.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -10,6 +11,13 @@ namespace {
 constexpr std::u16string_view cUnit = u"System";
 
 } // namespace
+
+QZ_REGISTER_TYPES(Exception, EAbort, EAssertionFailed, EConvertError, EDivByZero, EInvalidCast,
+                  EIntfCastError, EInvalidPointer, EInvalidOperation, ERangeError, ENotSupportedException,
+                  EArgumentException, EArgumentNilException, EArgumentOutOfRangeException, EListError,
+                  EStringListError, EComponentError, EClassNotFound, EPropertyError, EPropertyConvertError,
+                  EThread, EStreamError, EFCreateError, EFOpenError, EReadError, EWriteError, EOSError,
+                  EInOutError);
 
 constinit const TClassRec Exception::ClassRec = DescribeException<Exception>(u"Exception", cUnit);
 constinit const TClassRec EAbort::ClassRec = DescribeException<EAbort>(u"EAbort", cUnit);

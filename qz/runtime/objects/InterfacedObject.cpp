@@ -2,8 +2,11 @@
 
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TInterfacedObject);
 
 constinit const TClassRec TInterfacedObject::ClassRec = DescribeClass<TInterfacedObject>(
     u"TInterfacedObject", {.Unit = u"System", .Interfaces = Interfaces<TInterfacedObject, IInterface>()});

@@ -5,8 +5,11 @@
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
 #include <qz/runtime/objects/Interface.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TObject);
 
 constinit const TClassRec TObject::ClassRec = DescribeClass<TObject>(u"TObject", {.Unit = u"System"});
 

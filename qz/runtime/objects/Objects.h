@@ -13,3 +13,4 @@
 #include <qz/runtime/objects/Persistent.h>
 #include <qz/runtime/objects/Transport.h>
 #include <qz/runtime/objects/TypeInfo.h>
+#include <qz/runtime/objects/TypeNames.h>

@@ -2,8 +2,11 @@
 
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TPersistent);
 
 constinit const TClassRec TPersistent::ClassRec =
     DescribeClass<TPersistent>(u"TPersistent", {.Unit = u"System"});

@@ -6,6 +6,7 @@
 
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -34,6 +35,8 @@ TFileAccess AccessOf(std::uint16_t AMode) {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TFileStream);
 
 constinit const TClassRec TFileStream::ClassRec =
     DescribeClass<TFileStream>(u"TFileStream", {.Unit = u"System"});

@@ -10,9 +10,12 @@
 #include <qz/platform/Files.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/streams/FileStream.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TCustomMemoryStream, TMemoryStream);
 
 constinit const TClassRec TCustomMemoryStream::ClassRec =
     DescribeClass<TCustomMemoryStream>(u"TCustomMemoryStream", {.Unit = u"System"});

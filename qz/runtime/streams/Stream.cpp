@@ -5,6 +5,7 @@
 
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -17,6 +18,8 @@ std::int32_t StepOf(std::int64_t ACount, std::int64_t ALargest) {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TStream);
 
 constinit const TClassRec TStream::ClassRec = DescribeClass<TStream>(u"TStream", {.Unit = u"System"});
 

@@ -3,8 +3,11 @@
 #include <algorithm>
 
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TStringStream);
 
 constinit const TClassRec TStringStream::ClassRec =
     DescribeClass<TStringStream>(u"TStringStream", {.Unit = u"System"});

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -16,6 +17,8 @@ std::span<char> Chars(const TBytes& ABytes) {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(TEncoding);
 
 constinit const TClassRec TEncoding::ClassRec = DescribeClass<TEncoding>(u"TEncoding", {.Unit = u"System"});
 

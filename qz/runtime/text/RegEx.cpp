@@ -6,6 +6,7 @@
 
 #include <qz/runtime/base/Utf.h>
 #include <qz/runtime/objects/DescribeException.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -136,6 +137,8 @@ private:
 };
 
 } // namespace
+
+QZ_REGISTER_TYPES(ERegularExpressionError);
 
 const TClassRec ERegularExpressionError::ClassRec =
     DescribeException<ERegularExpressionError>(u"ERegularExpressionError", u"System");

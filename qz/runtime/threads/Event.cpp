@@ -3,6 +3,7 @@
 #include <chrono>
 
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/threads/CriticalSection.h>
 
 namespace qz {
@@ -11,6 +12,8 @@ namespace {
 constexpr std::u16string_view cUnit = u"System";
 
 } // namespace
+
+QZ_REGISTER_TYPES(TCriticalSection, TEvent, TSimpleEvent);
 
 constinit const TClassRec TCriticalSection::ClassRec =
     DescribeClass<TCriticalSection>(u"TCriticalSection", {.Unit = cUnit});

@@ -4,8 +4,11 @@
 
 #include <qz/platform/Threads.h>
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TMultiReadExclusiveWriteSynchronizer);
 
 constinit const TClassRec TMultiReadExclusiveWriteSynchronizer::ClassRec =
     DescribeClass<TMultiReadExclusiveWriteSynchronizer>(u"TMultiReadExclusiveWriteSynchronizer",

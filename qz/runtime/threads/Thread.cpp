@@ -5,6 +5,7 @@
 #include <qz/platform/Threads.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/threads/detail/MainQueue.h>
 
 namespace qz {
@@ -23,6 +24,8 @@ protected:
 private:
     TThreadProc FProc;
 };
+
+QZ_REGISTER_TYPES(TThread);
 
 constinit const TClassRec TAnonymousThread::ClassRec =
     DescribeClass<TAnonymousThread>(u"TAnonymousThread", {.Unit = u"System", .IsPublic = false});

@@ -9,9 +9,12 @@
 #include <qz/platform/Clock.h>
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/time/LocalClock.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TDateTime, TDate, TTime);
 
 constinit const TTypeInfo TTypeDescription<TDateTime>::Info =
     DescribeType<TDateTime>(tkFloat, u"TDateTime", u"System");

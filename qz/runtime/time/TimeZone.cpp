@@ -2,6 +2,7 @@
 
 #include <qz/runtime/objects/DescribeException.h>
 #include <qz/runtime/objects/EnumItems.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/time/DateTimeText.h>
 #include <qz/runtime/time/detail/ZoneState.h>
 
@@ -50,6 +51,8 @@ TTimeSpan SpanOf(const detail::TZonePeriod& APeriod) noexcept {
 }
 
 } // namespace
+
+QZ_REGISTER_TYPES(ELocalTimeInvalid, TLocalTimeType);
 
 const TClassRec ELocalTimeInvalid::ClassRec =
     DescribeException<ELocalTimeInvalid>(u"ELocalTimeInvalid", cUnit);

@@ -2,6 +2,7 @@
 
 #include <qz/runtime/base/Set.h>
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz {
 namespace {
@@ -27,6 +28,11 @@ constexpr TFieldInfo cGuidFields[] = {Field<&TGUID::D1>(u"D1"), Field<&TGUID::D2
                                       Field<&TGUID::D3>(u"D3"), Field<&TGUID::D4>(u"D4")};
 
 } // namespace
+
+QZ_REGISTER_TYPES(std::int8_t, std::uint8_t, std::int16_t, std::uint16_t, std::int32_t, std::uint32_t,
+                  std::int64_t, std::uint64_t, float, double, Extended, bool, char, char16_t, UnicodeString,
+                  WideString, AnsiString, UTF8String, RawByteString, TBytes, decltype(TGUID::D4), TGUID,
+                  TCharSet, void*, TClass, IInterface);
 
 template <class T> using TInfo = TTypeDescription<T>;
 

@@ -2,9 +2,12 @@
 
 #include <qz/runtime/objects/Describe.h>
 #include <qz/runtime/objects/Exceptions.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/values/SystemDecimal.h>
 
 namespace qz {
+QZ_REGISTER_TYPES(Currency);
+
 constinit const TTypeInfo TTypeDescription<Currency>::Info =
     DescribeType<Currency>(tkFloat, u"Currency", u"System");
 

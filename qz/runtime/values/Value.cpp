@@ -5,11 +5,14 @@
 
 #include <qz/runtime/lists/ListTypes.h>
 #include <qz/runtime/objects/Describe.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/values/RawValues.h>
 #include <qz/runtime/values/VariantConvert.h>
 #include <qz/runtime/values/detail/ValueAccess.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(TValue);
 
 constinit const TTypeInfo TTypeDescription<TValue>::Info = DescribeRecord<TValue>(u"TValue", u"System");
 

@@ -1,6 +1,7 @@
 // Values whose type is known at run time only.
 #pragma once
 
+#include <qz/runtime/values/ArrayTypes.h>
 #include <qz/runtime/values/BasicTypes.h>
 #include <qz/runtime/values/Currency.h>
 #include <qz/runtime/values/EnumNames.h>
@@ -13,3 +14,4 @@
 #include <qz/runtime/values/Variant.h>
 #include <qz/runtime/values/VariantArray.h>
 #include <qz/runtime/values/VariantConvert.h>
+#include <qz/runtime/values/WordBool.h>

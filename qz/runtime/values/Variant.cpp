@@ -1,9 +1,13 @@
 #include <qz/runtime/values/Variant.h>
 
 #include <qz/runtime/objects/DescribeException.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/values/detail/VariantItems.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(EVariantError, EVariantInvalidOpError, EVariantTypeCastError, EVariantOverflowError,
+                  Variant);
 
 const TClassRec EVariantError::ClassRec = DescribeException<EVariantError>(u"EVariantError", u"System");
 const TClassRec EVariantInvalidOpError::ClassRec =

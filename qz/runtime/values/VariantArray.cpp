@@ -4,10 +4,13 @@
 #include <limits>
 
 #include <qz/runtime/objects/DescribeException.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/values/VariantConvert.h>
 #include <qz/runtime/values/detail/VariantItems.h>
 
 namespace qz {
+
+QZ_REGISTER_TYPES(EVariantArrayCreateError, EVariantBadIndexError);
 
 const TClassRec EVariantArrayCreateError::ClassRec =
     DescribeException<EVariantArrayCreateError>(u"EVariantArrayCreateError", u"System");

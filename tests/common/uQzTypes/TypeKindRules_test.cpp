@@ -1,7 +1,7 @@
 // The tables of kinds and codes, held to rules and to each other.
 #include <gtest/gtest.h>
 
-#include <qz/common/uQzTypes/QzTypes.h>
+#include <qz/common/uQzTypes/registry/QzTypes.h>
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/values/VariantConvert.h>
 

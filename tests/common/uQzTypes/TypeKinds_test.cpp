@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/Message.h"
-#include <qz/common/uQzTypes/QzTypes.h>
+#include <qz/common/uQzTypes/registry/QzTypes.h>
 #include <qz/runtime/text/NumberText.h>
 #include <qz/runtime/values/VariantArray.h>
 

@@ -6,6 +6,7 @@
 #include <qz/runtime/components/Collection.h>
 #include <qz/runtime/components/LinkControlToProperty.h>
 #include <qz/runtime/objects/ClassRegistry.h>
+#include <qz/runtime/objects/TypeNames.h>
 #include <qz/runtime/text/NumberText.h>
 
 namespace qz {

@@ -10,11 +10,12 @@
 #include <qz/runtime/text/FloatText.h>
 #include <qz/runtime/text/Format.h>
 #include <qz/runtime/text/NumberText.h>
+#include <qz/runtime/values/ArrayTypes.h>
 
 namespace qz {
 namespace {
 
-using TNumbers = TDynArray<int>;
+using TNumbers = TIntegerDynArray;
 using TQuad = std::array<std::int64_t, 4>;
 using TEvent = std::function<void()>;
 
@@ -62,7 +63,6 @@ struct alignas(64) TAligned { // a value also while what it holds is nothing
 } // namespace
 } // namespace qz
 
-QZ_TYPE_INFO(qz::TNumbers);
 QZ_TYPE_INFO(qz::TQuad);
 QZ_TYPE_INFO(qz::TEvent);
 QZ_TYPE_INFO(qz::IRound);
@@ -73,7 +73,6 @@ QZ_TYPE_INFO(qz::ExceptionClass);
 
 namespace qz {
 
-constinit const TTypeInfo TInfo<TNumbers>::Info = DescribeOf<TNumbers, int>(tkDynArray, u"TNumbers", u"Test");
 constinit const TTypeInfo TInfo<TQuad>::Info = DescribeOf<TQuad, std::int64_t>(tkArray, u"TQuad", u"Test");
 constinit const TTypeInfo TInfo<TEvent>::Info = DescribeType<TEvent>(tkMethod, u"TEvent", u"Test");
 constinit const TTypeInfo TInfo<IRound>::Info = DescribeInterface<IRound, INamed>(u"IRound", u"Test");

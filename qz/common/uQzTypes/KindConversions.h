@@ -1,9 +1,9 @@
-// TQzTypes: conversions among the vocabularies of types.
+// TQzKindConversions: conversions among the vocabularies of types. TQzTypes has them too.
 //
-//     TQzTypes::ToTypeKind(varSmallint);               // rtkSmallInt
-//     TQzTypes::ToMainTypeKind(tkUString);             // mtkString
+//     TQzKindConversions::ToTypeKind(varSmallint);               // rtkSmallInt
+//     TQzKindConversions::ToMainTypeKind(tkUString);             // mtkString
 //     TQzSchemaDataType Schema;
-//     TQzTypes::ToSchemaType(rtkDatetime, &Schema);    // "dateTime", xsdDateTime
+//     TQzKindConversions::ToSchemaType(rtkDatetime, &Schema);    // "dateTime", xsdDateTime
 //
 // Each conversion is one look-up in a constant table, most of them also at compile time. A value outside its
 // enumeration counts as the unknown kind where nothing else is said. Any number of threads may convert.
@@ -15,9 +15,9 @@
 
 namespace qz {
 
-class QZ_API TQzTypes {
+class QZ_API TQzKindConversions {
 public:
-    TQzTypes() = delete;
+    TQzKindConversions() = delete;
 
     // TVarType here is any 16-bit number, also one that no variant bears; with the flag varArray it is an
     // array whatever its elements.

@@ -1,4 +1,4 @@
-#include <qz/common/uQzTypes/QzTypes.h>
+#include <qz/common/uQzTypes/KindConversions.h>
 
 #include <qz/runtime/base/StringUtils.h>
 #include <qz/runtime/text/NumberText.h>
@@ -68,16 +68,16 @@ void Store(PQzSchemaDataType ATarget, TQzSchemaDataType AType) noexcept {
 
 } // namespace
 
-void TQzTypes::RaiseUnknown(TTypeKind AKind) {
+void TQzKindConversions::RaiseUnknown(TTypeKind AKind) {
     detail::RaiseAssertion(u"The type " + IntToStr(static_cast<int>(AKind)) +
                            u" cannot be converted to a TQzTypeKind!");
 }
 
-void TQzTypes::RaiseNoVarType() {
+void TQzKindConversions::RaiseNoVarType() {
     throw Exception(u"The given datatype cannot be converted to a Variant Type!");
 }
 
-UnicodeString TQzTypes::ToSchemaType(TVarType AType, PQzSchemaDataType ASchemaType) {
+UnicodeString TQzKindConversions::ToSchemaType(TVarType AType, PQzSchemaDataType ASchemaType) {
     const auto Code = static_cast<TVarType>(AType & ~varArray);
     const detail::TSchemaName Name = detail::RowOf(Code).Schema;
     if (Name == detail::TSchemaName::None)
@@ -96,7 +96,7 @@ UnicodeString TQzTypes::ToSchemaType(TVarType AType, PQzSchemaDataType ASchemaTy
     return Result;
 }
 
-UnicodeString TQzTypes::ToSchemaType(TQzTypeKind AKind, PQzSchemaDataType ASchemaType) {
+UnicodeString TQzKindConversions::ToSchemaType(TQzTypeKind AKind, PQzSchemaDataType ASchemaType) {
     const TSchemaEntry& Entry = EntryOf(detail::RowOf(AKind).Schema);
     Store(ASchemaType, Entry.Type);
     return Entry.Name();

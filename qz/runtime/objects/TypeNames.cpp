@@ -1,0 +1,138 @@
+#include <qz/runtime/objects/TypeNames.h>
+
+#include <algorithm>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+#include <qz/platform/Fork.h>
+#include <qz/platform/Module.h>
+#include <qz/runtime/base/SharedTable.h>
+
+namespace qz {
+namespace detail {
+
+class TTypeNames {
+public:
+    // Created at first use and never destroyed: registrations may run before main, look-ups after it.
+    static TTypeNames& Instance() {
+        static auto* const Names = new TTypeNames;
+        return *Names;
+    }
+
+    void Link(TTypeModule& AModule) {
+        const std::scoped_lock Hold(Lock);
+        TTypeModule** Place = &FPending;
+        while (*Place != nullptr)
+            Place = &(*Place)->FNext;
+        *Place = &AModule;
+        FHasPending.store(true, std::memory_order_release);
+    }
+    // A module that a search has taken over stays in memory, and so do its types.
+    void Unlink(const TTypeModule& AModule) noexcept {
+        const std::scoped_lock Hold(Lock);
+        for (TTypeModule** Place = &FPending; *Place != nullptr; Place = &(*Place)->FNext)
+            if (*Place == &AModule) {
+                *Place = AModule.FNext;
+                return;
+            }
+    }
+    void Add(PTypeInfo AType) {
+        if (FHasPending.load(std::memory_order_acquire))
+            TakePending();
+        const std::scoped_lock Hold(Lock);
+        AddLocked(AType);
+    }
+    PTypeInfo Find(std::u16string_view AName) {
+        if (FHasPending.load(std::memory_order_acquire)) [[unlikely]]
+            TakePending();
+        const TEntry* const Found = FTable.Find(HashNameOf<TNameCase::Ignored>(AName), TIsNamed{AName});
+        return Found == nullptr ? nullptr : Found->Type.load(std::memory_order_acquire);
+    }
+
+    std::mutex Lock;
+
+private:
+    struct TEntry {
+        explicit TEntry(PTypeInfo AType) : Name(AType->QualifiedName()), Type(AType) {}
+        UnicodeString Name;
+        std::atomic<PTypeInfo> Type;
+    };
+    struct TIsNamed {
+        std::u16string_view Name;
+        bool operator()(const TEntry& AEntry) const noexcept {
+            return SameNameOf<TNameCase::Ignored>(AEntry.Name, Name);
+        }
+    };
+
+    void AddLocked(PTypeInfo AType) {
+        if (!AType->IsPublic)
+            return;
+        auto Fresh = std::make_unique<TEntry>(AType);
+        const std::uint64_t Hash = HashNameOf<TNameCase::Ignored>(Fresh->Name);
+        if (TEntry* const Found = FTable.Find(Hash, TIsNamed{Fresh->Name})) {
+            Found->Type.store(AType, std::memory_order_release);
+            return;
+        }
+        FTable.Reserve(1);
+        FEntries.push_back(std::move(Fresh));
+        FTable.Add(Hash, *FEntries.back());
+    }
+
+    // Libraries are pinned without the lock, which their start code takes too. One that is unloaded meanwhile
+    // takes its modules out of the list.
+    void TakePending() {
+        std::vector<const TTypeModule*> Pinned;
+        {
+            const std::scoped_lock Hold(Lock);
+            for (const TTypeModule* Each = FPending; Each != nullptr; Each = Each->FNext)
+                Pinned.push_back(Each);
+        }
+        std::erase_if(Pinned, [](const TTypeModule* AModule) { return !platform::PinModule(AModule); });
+        const std::scoped_lock Hold(Lock);
+        for (TTypeModule** Place = &FPending; *Place != nullptr;) {
+            const TTypeModule& Module = **Place;
+            if (std::find(Pinned.begin(), Pinned.end(), &Module) == Pinned.end()) {
+                Place = &(*Place)->FNext;
+                continue;
+            }
+            for (const PTypeInfo Type : Module.FTypes)
+                AddLocked(Type);
+            *Place = Module.FNext;
+        }
+        FHasPending.store(FPending != nullptr, std::memory_order_release);
+    }
+
+    TSharedTable<TEntry> FTable;
+    std::vector<std::unique_ptr<TEntry>> FEntries;
+    TTypeModule* FPending = nullptr; // in the order of linking
+    std::atomic<bool> FHasPending{false};
+};
+
+TTypeModule::TTypeModule(std::span<const PTypeInfo> ATypes) : FTypes(ATypes) {
+    TTypeNames::Instance().Link(*this);
+}
+
+TTypeModule::~TTypeModule() {
+    TTypeNames::Instance().Unlink(*this);
+}
+
+} // namespace detail
+
+namespace {
+
+[[maybe_unused]] const bool GIsWatched = platform::HoldAroundFork(
+    platform::TForkRank::TypeNames, [] { return &detail::TTypeNames::Instance().Lock; });
+
+} // namespace
+
+void RegisterType(PTypeInfo AType) {
+    platform::PinModule(AType);
+    detail::TTypeNames::Instance().Add(AType);
+}
+
+PTypeInfo FindType(std::u16string_view AQualifiedName) {
+    return detail::TTypeNames::Instance().Find(AQualifiedName);
+}
+
+} // namespace qz

@@ -1,0 +1,3 @@
+#pragma once
+
+#include <qz/common/uQzTypes/registry/QzTypes.h>

@@ -1,0 +1,3 @@
+#pragma once
+
+#include "tests/header_examples/Shapes.h"
