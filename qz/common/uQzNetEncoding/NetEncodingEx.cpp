@@ -82,7 +82,7 @@ void WriteZeros(TStream& AOutput, std::int64_t APosition, std::int64_t AEnd) {
 // output, counted from its position before. Two bytes of digits stand for one. If it raises, the output keeps
 // what was written, and no byte after it that was not set.
 template <class TConvert>
-std::int64_t ConvertDigits(TStream& AInput, TStream& AOutput, bool ToDigits, TConvert AConvert) {
+std::int64_t ConvertDigits(TStream& AInput, TStream& AOutput, bool AToDigits, TConvert AConvert) {
     constexpr std::int64_t cBlock = 8192;
     std::byte Source[cBlock], Target[2 * cBlock];
     const std::int64_t Start = AOutput.Position();
@@ -90,7 +90,7 @@ std::int64_t ConvertDigits(TStream& AInput, TStream& AOutput, bool ToDigits, TCo
     const std::int64_t OldSize = AOutput.Size();
     std::int64_t Written = 0;
     try {
-        AOutput.SetSize(OldSize + (ToDigits ? 2 * Rest : Rest / 2));
+        AOutput.SetSize(OldSize + (AToDigits ? 2 * Rest : Rest / 2));
         while (const std::int64_t Count = AInput.ReadUpTo(Source, cBlock)) {
             const std::int64_t Made = AConvert(Source, static_cast<std::size_t>(Count), Target) - Target;
             AOutput.WriteBuffer(Target, Made);
