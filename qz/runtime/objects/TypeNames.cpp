@@ -8,12 +8,48 @@
 #include <qz/platform/Fork.h>
 #include <qz/platform/Module.h>
 #include <qz/runtime/base/SharedTable.h>
+#include <qz/runtime/base/StringUtils.h>
 
 namespace qz {
 namespace detail {
 
 class TTypeNames {
 public:
+    struct TEntry {
+        explicit TEntry(PTypeInfo AType) : Name(AType->QualifiedName()), Type(AType) {}
+        UnicodeString Name;
+        std::atomic<PTypeInfo> Type;
+    };
+
+    // A name taken apart behind its last point, and behind the letter that follows. In this form a schema name
+    // is looked up without a copy.
+    struct TParts {
+        TParts(const THashedName& AUnit, char16_t AFirst, const THashedName& ARest) noexcept
+            : Unit(AUnit),
+              First(LowCase(AFirst)),
+              Rest(ARest) {}
+        // AName is not empty.
+        explicit TParts(std::u16string_view AName) noexcept : TParts(AName, AName.rfind(u'.')) {}
+        TParts(std::u16string_view AName, std::size_t APoint) noexcept
+            : TParts(THashedName(APoint == AName.npos ? std::u16string_view() : AName.substr(0, APoint)),
+                     APoint + 1 < AName.size() ? AName[APoint + 1] : u'\0',
+                     THashedName(AName.substr(std::min(APoint + 2, AName.size())))) {}
+
+        std::uint64_t Key() const noexcept { return MixHash(MixHash(First, Unit.Hash), Rest.Hash); }
+        bool operator()(const TEntry& AEntry) const noexcept {
+            const std::u16string_view Name = AEntry.Name;
+            const std::size_t Start = Unit.Name.empty() ? 0 : Unit.Name.size() + 1;
+            return Name.size() == Start + 1 + Rest.Name.size() && LowCase(Name[Start]) == First &&
+                (Start == 0 || Name[Start - 1] == u'.') &&
+                SameNameOf<TNameCase::Ignored>(Name.substr(Start + 1), Rest.Name) &&
+                SameNameOf<TNameCase::Ignored>(Name.substr(0, Unit.Name.size()), Unit.Name);
+        }
+
+        THashedName Unit;
+        char16_t First;
+        THashedName Rest;
+    };
+
     // Created at first use and never destroyed: registrations may run before main, look-ups after it.
     static TTypeNames& Instance() {
         static auto* const Names = new TTypeNames;
@@ -43,40 +79,28 @@ public:
         const std::scoped_lock Hold(Lock);
         AddLocked(AType);
     }
-    PTypeInfo Find(std::u16string_view AName) {
+    PTypeInfo Find(const TParts& AParts) {
         if (FHasPending.load(std::memory_order_acquire)) [[unlikely]]
             TakePending();
-        const TEntry* const Found = FTable.Find(HashNameOf<TNameCase::Ignored>(AName), TIsNamed{AName});
+        const TEntry* const Found = FTable.Find(AParts.Key(), AParts);
         return Found == nullptr ? nullptr : Found->Type.load(std::memory_order_acquire);
     }
 
     std::mutex Lock;
 
 private:
-    struct TEntry {
-        explicit TEntry(PTypeInfo AType) : Name(AType->QualifiedName()), Type(AType) {}
-        UnicodeString Name;
-        std::atomic<PTypeInfo> Type;
-    };
-    struct TIsNamed {
-        std::u16string_view Name;
-        bool operator()(const TEntry& AEntry) const noexcept {
-            return SameNameOf<TNameCase::Ignored>(AEntry.Name, Name);
-        }
-    };
-
     void AddLocked(PTypeInfo AType) {
-        if (!AType->IsPublic)
+        if (!AType->IsPublic || AType->Name.empty())
             return;
         auto Fresh = std::make_unique<TEntry>(AType);
-        const std::uint64_t Hash = HashNameOf<TNameCase::Ignored>(Fresh->Name);
-        if (TEntry* const Found = FTable.Find(Hash, TIsNamed{Fresh->Name})) {
+        const TParts Parts(Fresh->Name.View());
+        if (TEntry* const Found = FTable.Find(Parts.Key(), Parts)) {
             Found->Type.store(AType, std::memory_order_release);
             return;
         }
         FTable.Reserve(1);
         FEntries.push_back(std::move(Fresh));
-        FTable.Add(Hash, *FEntries.back());
+        FTable.Add(Parts.Key(), *FEntries.back());
     }
 
     // Libraries are pinned without the lock, which their start code takes too. One that is unloaded meanwhile
@@ -132,7 +156,13 @@ void RegisterType(PTypeInfo AType) {
 }
 
 PTypeInfo FindType(std::u16string_view AQualifiedName) {
-    return detail::TTypeNames::Instance().Find(AQualifiedName);
+    if (AQualifiedName.empty())
+        return nullptr;
+    return detail::TTypeNames::Instance().Find(detail::TTypeNames::TParts(AQualifiedName));
+}
+
+PTypeInfo detail::FindType(const THashedName& AUnit, char16_t AFirst, const THashedName& ARest) {
+    return TTypeNames::Instance().Find(TTypeNames::TParts(AUnit, AFirst, ARest));
 }
 
 } // namespace qz

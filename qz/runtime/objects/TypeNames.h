@@ -10,6 +10,7 @@
 #include <array>
 #include <span>
 
+#include <qz/runtime/base/NameHash.h>
 #include <qz/runtime/objects/TypeInfo.h>
 
 namespace qz {
@@ -21,6 +22,18 @@ QZ_API void RegisterType(PTypeInfo AType);
 QZ_API PTypeInfo FindType(std::u16string_view AQualifiedName);
 
 namespace detail {
+
+// A name and its HashName without case.
+struct THashedName {
+    explicit THashedName(std::u16string_view AName) noexcept
+        : Name(AName),
+          Hash(HashNameOf<TNameCase::Ignored>(AName)) {}
+    std::u16string_view Name;
+    std::uint64_t Hash;
+};
+// The type whose name is AUnit, a point, AFirst and ARest; without the point if AUnit is empty. There is no
+// point in ARest.
+QZ_API PTypeInfo FindType(const THashedName& AUnit, char16_t AFirst, const THashedName& ARest);
 
 // The types of one QZ_REGISTER_TYPES. They enter the table at the first search after they were linked.
 class QZ_API TTypeModule {

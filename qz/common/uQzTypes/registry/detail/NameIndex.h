@@ -17,6 +17,7 @@
 
 #include <qz/common/uQzTypes/registry/QzTypeInfo.h>
 #include <qz/runtime/base/SharedTable.h>
+#include <qz/runtime/objects/TypeNames.h>
 
 namespace qz::detail {
 
@@ -29,6 +30,9 @@ struct TTypeEntry : TQzTypeRec {
         FInfo.FEntry = this;
         FInfo.FTypeRec = this;
     }
+    // As Info, without a load.
+    TQzTypeInfo* Own() noexcept { return &FInfo; }
+
     TTypeKind List = tkUnknown;
     std::uint64_t Order = 0; // ascends along each list
 
@@ -77,15 +81,11 @@ public:
 
     // The first entry in the first list. Any thread.
     TTypeEntry* Find(std::u16string_view AName, const TKindRanks& ARanks) const noexcept {
-        TTypeEntry* Result = nullptr;
-        std::uint8_t Best = TKindRanks::cNever;
-        for (const TTypeName* Each = FindName(AName); Each != nullptr;
-             Each = Each->Next.load(std::memory_order_acquire))
-            if (ARanks[Each->List] < Best) {
-                Best = ARanks[Each->List];
-                Result = Each->First.load(std::memory_order_acquire);
-            }
-        return Result;
+        return FirstOf(FindName(AName), ARanks);
+    }
+    // The same in an index that ignores case.
+    TTypeEntry* Find(const THashedName& AName, const TKindRanks& ARanks) const noexcept {
+        return FirstOf(FindHashed<TNameCase::Ignored>(AName.Hash, AName.Name), ARanks);
     }
 
     // What Add will need.
@@ -95,12 +95,24 @@ public:
     void Add(TNewNames ANames) noexcept;
 
 private:
-    TTypeName* FindName(std::u16string_view AName) const noexcept {
-        return FCase == TNameCase::Ignored ? FindNameOf<TNameCase::Ignored>(AName)
-                                           : FindNameOf<TNameCase::Counts>(AName);
+    static TTypeEntry* FirstOf(const TTypeName* AName, const TKindRanks& ARanks) noexcept {
+        TTypeEntry* Result = nullptr;
+        std::uint8_t Best = TKindRanks::cNever;
+        for (; AName != nullptr; AName = AName->Next.load(std::memory_order_acquire))
+            if (ARanks[AName->List] < Best) {
+                Best = ARanks[AName->List];
+                Result = AName->First.load(std::memory_order_acquire);
+            }
+        return Result;
     }
-    template <TNameCase Case> TTypeName* FindNameOf(std::u16string_view AName) const noexcept {
-        return FTable.Find(HashNameOf<Case>(AName),
+    TTypeName* FindName(std::u16string_view AName) const noexcept {
+        return FCase == TNameCase::Ignored
+            ? FindHashed<TNameCase::Ignored>(HashNameOf<TNameCase::Ignored>(AName), AName)
+            : FindHashed<TNameCase::Counts>(HashNameOf<TNameCase::Counts>(AName), AName);
+    }
+    template <TNameCase Case>
+    TTypeName* FindHashed(std::uint64_t AHash, std::u16string_view AName) const noexcept {
+        return FTable.Find(AHash,
                            [AName](const TTypeName& AEach) { return SameNameOf<Case>(AEach.Name, AName); });
     }
 

@@ -18,19 +18,20 @@ constexpr std::u16string_view WithoutPrefix(std::u16string_view AName) noexcept 
 class TTypeNameOfSchema {
 public:
     // AName has no prefix.
-    TTypeNameOfSchema(std::u16string_view AName, char16_t ASeparator) {
-        FShortAt = AName.rfind(ASeparator) + 1; // 0 when there is none
-        FSize = AName.size() + 1;
+    TTypeNameOfSchema(std::u16string_view AName, char16_t ASeparator)
+        : FSize(AName.size() + 1),
+          FShortAt(AName.rfind(ASeparator) + 1) { // 0 when there is none
         char16_t* Target = FSmall.data();
-        if (FSize > FSmall.size()) {
+        if (FSize > FSmall.size()) [[unlikely]] {
             FLarge.resize(FSize);
             Target = FLarge.data();
         }
         FName = Target;
-        Target = std::replace_copy(AName.begin(), AName.begin() + static_cast<std::ptrdiff_t>(FShortAt),
-                                   Target, ASeparator, u'.');
-        *Target++ = u'T';
-        std::copy(AName.begin() + static_cast<std::ptrdiff_t>(FShortAt), AName.end(), Target);
+        using TTraits = std::char_traits<char16_t>;
+        TTraits::copy(Target, AName.data(), FShortAt);
+        std::replace(Target, Target + FShortAt, ASeparator, u'.');
+        Target[FShortAt] = u'T';
+        TTraits::copy(Target + FShortAt + 1, AName.data() + FShortAt, AName.size() - FShortAt);
     }
     TTypeNameOfSchema(const TTypeNameOfSchema&) = delete;
     TTypeNameOfSchema& operator=(const TTypeNameOfSchema&) = delete;
@@ -41,7 +42,7 @@ public:
 private:
     std::array<char16_t, 100> FSmall;
     std::u16string FLarge;
-    const char16_t* FName;
+    const char16_t* FName = nullptr;
     std::size_t FSize;
     std::size_t FShortAt;
 };

@@ -217,9 +217,9 @@ TTypeEntry& TTypeStore::AddByKinds(TTypeRequest ARequest) {
 TQzTypeInfo* TTypeStore::InfoOf(PTypeInfo AType) {
     if (AType == nullptr)
         return nullptr;
-    if (const TTypeEntry* const Found = FindHandle(AType)) [[likely]]
-        return Found->Info;
-    return TMaking::Has(AType) ? nullptr : AddByKinds(RequestOf(AType)).Info;
+    if (TTypeEntry* const Found = FindHandle(AType)) [[likely]]
+        return Found->Own();
+    return TMaking::Has(AType) ? nullptr : AddByKinds(RequestOf(AType)).Own();
 }
 
 TTypeKind TTypeStore::VirtualKindOf(TQzSchemaDataType AType) noexcept {

@@ -10,7 +10,6 @@ namespace qz::detail {
 namespace {
 
 constexpr char16_t cSeparator = cQzQSeperators[0];
-constexpr std::u16string_view cSeparators(cQzQSeperators, std::size(cQzQSeperators));
 
 constexpr TKindRanks RanksOf(std::initializer_list<TTypeKind> AKinds) noexcept {
     return TKindRanks({AKinds.begin(), AKinds.size()});
@@ -35,13 +34,65 @@ const TKindRanks& KindsSearched(TQzMainTypeKind AMain) noexcept {
     return cKindsSearched[Index < std::size(cKindsSearched) ? Index : 0];
 }
 
+// A schema name and where its parts end, found in one pass.
+struct TSchemaNameParts {
+    explicit TSchemaNameParts(std::u16string_view AName) noexcept : Name(AName) {
+        constexpr auto cHighest = u'_'; // of the units that matter
+        std::size_t Start = 0;
+        for (std::size_t Index = 0; Index < AName.size(); ++Index) {
+            const char16_t Unit = AName[Index];
+            if (Unit > cHighest)
+                continue;
+            if (Unit == cQzQSeperators[0])
+                Separators[0].Note(Index + 1 - Start);
+            else if (Unit == cQzQSeperators[1])
+                Separators[1].Note(Index + 1 - Start);
+            else if (Unit == u'.')
+                HasPoint = true;
+            else if (Unit == u':' && Start == 0) {
+                Start = Index + 1;
+                *this = TSchemaNameParts();
+                Name = AName.substr(Start);
+            }
+        }
+    }
+
+    struct TSeparator {
+        char16_t Unit;
+        std::size_t ShortAt = 0; // after the last one; 0 for none
+        int Count = 0;
+
+        void Note(std::size_t AShortAt) noexcept {
+            ShortAt = AShortAt;
+            ++Count;
+        }
+    };
+    std::u16string_view Name; // without the prefix
+    bool HasPoint = false;
+    TSeparator Separators[2]{{cQzQSeperators[0]}, {cQzQSeperators[1]}};
+
+private:
+    TSchemaNameParts() noexcept = default;
+};
+
+// The registered type that has the name with the separators as points.
+PTypeInfo FindDecoded(const TSchemaNameParts& AParts, const TSchemaNameParts::TSeparator& ASeparator,
+                      const THashedName& AWhole) {
+    if (AParts.HasPoint || ASeparator.Count > 1) [[unlikely]]
+        return qz::FindType(TTypeNameOfSchema(AParts.Name, ASeparator.Unit).Qualified());
+    if (ASeparator.Count == 0)
+        return FindType(THashedName({}), u'T', AWhole);
+    return FindType(THashedName(AParts.Name.substr(0, ASeparator.ShortAt - 1)), u'T',
+                    THashedName(AParts.Name.substr(ASeparator.ShortAt)));
+}
+
 // The registered type whose schema name this may be.
-PTypeInfo FindBySchemaName(std::u16string_view AName) {
-    const std::u16string_view Name = WithoutPrefix(AName);
-    PTypeInfo Result = qz::FindType(TTypeNameOfSchema(Name, cQzQSeperators[0]).Qualified());
-    if (Result == nullptr && Name.find_first_of(cSeparators) != std::u16string_view::npos)
-        Result = qz::FindType(TTypeNameOfSchema(Name, cQzQSeperators[1]).Qualified());
-    if (Result == nullptr && AName.starts_with(u'T'))
+PTypeInfo FindTypeOfSchema(std::u16string_view AName, const TSchemaNameParts& AParts,
+                           const THashedName& AWhole) {
+    PTypeInfo Result = FindDecoded(AParts, AParts.Separators[0], AWhole);
+    if (Result == nullptr && AParts.Separators[0].Count + AParts.Separators[1].Count != 0)
+        Result = FindDecoded(AParts, AParts.Separators[1], AWhole);
+    if (Result == nullptr && AName.front() == u'T')
         Result = qz::FindType(AName);
     return Result;
 }
@@ -67,20 +118,17 @@ TQzTypeInfo* TTypeStore::FindType(std::u16string_view AName, TQzTypeNameType ANa
                                   TQzMainTypeKind AMain) {
     if (AName.empty())
         return nullptr;
-    PTypeInfo Known = nullptr;
-    if (ANameType == tntQualifiedName)
-        Known = qz::FindType(AName);
-    else if (ANameType == tntSchemaName)
-        Known = FindBySchemaName(AName);
-    if (Known != nullptr)
-        if (TQzTypeInfo* const Result = InfoOf(Known))
-            return Result;
     const TKindRanks& Ranks = KindsSearched(AMain);
-    switch (ANameType) {
-    case tntQualifiedName: return FindName(FullNames, AName, Ranks);
-    case tntSchemaName: return FindName(SchemaNames, WithoutPrefix(AName), Ranks);
-    default: return FindName(ShortNames, AName, Ranks);
+    if (ANameType == tntSchemaName) {
+        const TSchemaNameParts Parts(AName);
+        const THashedName Whole(Parts.Name);
+        TQzTypeInfo* const Known = InfoOf(FindTypeOfSchema(AName, Parts, Whole));
+        return Known != nullptr ? Known : FindSchemaName(Whole, Ranks);
     }
+    if (ANameType != tntQualifiedName)
+        return FindName(ShortNames, AName, Ranks);
+    TQzTypeInfo* const Known = InfoOf(qz::FindType(AName));
+    return Known != nullptr ? Known : FindName(FullNames, AName, Ranks);
 }
 
 UnicodeString TTypeStore::CalculateSchemaName(PTypeInfo AType, const UnicodeString& AName) {
@@ -105,7 +153,8 @@ UnicodeString TTypeStore::CalculateSchemaName(PTypeInfo AType, const UnicodeStri
             Name = Parts[0];
             Parts.Delete(0);
         }
-        Generics = StringReplace(Parts.CommaText(), u",", cSeparators.substr(0, 1), {rfReplaceAll});
+        Generics =
+            StringReplace(Parts.CommaText(), u",", std::u16string_view(&cSeparator, 1), {rfReplaceAll});
     }
     Parts.Clear();
     QzTokenize(Name, Parts, u".");

@@ -54,8 +54,13 @@ public:
     }
     static TTypeEntry& EntryOf(const TQzTypeInfo& AInfo) noexcept { return *AInfo.FEntry; }
     TQzTypeInfo* FindName(TIndex AIndex, std::u16string_view AName, const TKindRanks& ARanks) const noexcept {
-        const TTypeEntry* const Found = FNames[AIndex].Find(AName, ARanks);
-        return Found == nullptr ? nullptr : Found->Info;
+        TTypeEntry* const Found = FNames[AIndex].Find(AName, ARanks);
+        return Found == nullptr ? nullptr : Found->Own();
+    }
+
+    TQzTypeInfo* FindSchemaName(const THashedName& AName, const TKindRanks& ARanks) const noexcept {
+        TTypeEntry* const Found = FNames[SchemaNames].Find(AName, ARanks);
+        return Found == nullptr ? nullptr : Found->Own();
     }
 
     // The entry of a type, made if it is new. Null while this thread is making it, and for null.
