@@ -1,0 +1,149 @@
+// Texts, variants, bytes and descriptions of value records.
+#include <cstring>
+
+#include <gtest/gtest.h>
+#include <qz/common/uQzXSTypes.h>
+#include <qz/runtime/streams/Streams.h>
+#include <qz/runtime/text/FormatSettings.h>
+#include <qz/runtime/text/NumberText.h>
+
+#include "tests/support/Message.h"
+#include "tests/support/Rows.h"
+
+namespace qz {
+namespace {
+
+// The text of what was read: input => ToString => ToVariant.
+template <class R> void ExpectTexts(const std::vector<std::vector<UnicodeString>>& ARows) {
+    for (const auto& Row : ARows) {
+        R X = {};
+        const UnicodeString Error = Raised([&] { X.FromString(Row[0]); });
+        EXPECT_EQ(Error == u"nothing" ? X.ToString() : Error, Row[1]) << Row[0];
+        EXPECT_EQ(VarType(X.ToVariant()) == varNull ? u"Null" : VarToStr(X.ToVariant()), Row[2]) << Row[0];
+        EXPECT_EQ(Variant(X), X.ToVariant());
+    }
+}
+
+TEST(XsLexical, TextsOfNumbersAndBooleans) {
+    ExpectTexts<TXsBoolean>(Rows(u"true => true => True", u"T => true => True", u"1 => true => True",
+                                 u"yes => false => False", u"0 => false => False", u" => false => Null"));
+    ExpectTexts<TXsInteger<std::int32_t>>(
+        Rows(u"12 => 12 => 12", u" => NaN => Null", u"-2147483648 => -2147483648 => -2147483648",
+             u"x => EConvertError: 'x' is not a valid integer value => Null"));
+    ExpectTexts<TXsInteger<std::int64_t>>(
+        Rows(u"5000000000 => EConvertError: '5000000000' is not a valid integer value => Null"));
+    ExpectTexts<TXsInteger<std::uint8_t>>(Rows(u"260 => 4 => 4", u"-1 => 255 => 255"));
+    TFormatSettings Comma = TFormatSettings::Neutral();
+    Comma.DecimalSeparator = u',';
+    const TFormatSettings Before = DefaultFormatSettings();
+    SetDefaultFormatSettings(Comma);
+    ExpectTexts<TXsRational<double>>(
+        Rows(u"1.5 => 1.5 => 1,5", u" => NaN => Null", u"-2E-7 => -2E-7 => -2E-7"));
+    ExpectTexts<TXsRational<Extended>>(
+        Rows(u"1,5 => EConvertError: '1,5' is not a valid floating point value => Null"));
+    SetDefaultFormatSettings(Before);
+    EXPECT_EQ(TXsInteger<std::uint64_t>(~0ULL).ToString(), u"18446744073709551615");
+    EXPECT_EQ(VarToStr(TXsString(u"ab").ToVariant()), u"ab");
+    EXPECT_EQ(VarType(TXsString().ToVariant()), varNull);
+}
+
+TEST(XsLexical, NullTexts) {
+    const TXsString Null;
+    EXPECT_TRUE((Null + u"a").IsNull() && (TXsString(u"a") + Null).IsNull() && Null != u"" && !(Null == u""));
+    EXPECT_EQ(static_cast<UnicodeString>(Null), u"");
+    EXPECT_EQ(u"a" + Null, u"a");
+}
+
+// FValue holds the text of RFC 4648.
+template <class E> void ExpectEncoded(std::string_view AText) {
+    TMemoryStream Source, Target;
+    Source.WriteBuffer("-\0\xFF"
+                       "foobar",
+                       9);
+    Source.SetPosition(3);
+    TXsBinaryString<E> X;
+    X.SaveBinaryData(Target);
+    EXPECT_EQ(Target.GetSize(), 0);
+    X.LoadBinaryData(Source);
+    EXPECT_EQ(X.FValue.View(), AText);
+    X.SaveBinaryData(Target);
+    ASSERT_EQ(Target.GetSize(), 6);
+    EXPECT_EQ(std::memcmp(Target.Memory(), "foobar", 6), 0);
+    EXPECT_EQ(VarType(X.ToVariant()), varString);
+    EXPECT_EQ((X + RawByteString("00")).FValue.View(), std::string(AText) + "00");
+    EXPECT_TRUE((TXsBinaryString<E>() + X).IsNull());
+    Source.SetPosition(9);
+    X.LoadBinaryData(Source);
+    EXPECT_TRUE(!X.IsNull() && X.FValue.IsEmpty());
+}
+
+TEST(XsLexical, BytesAsText) {
+    ExpectEncoded<TXsBinaryStringB64Encoding>("Zm9vYmFy");
+    ExpectEncoded<TXsBinaryStringHexEncoding>("666F6F626172");
+}
+
+// Zero bytes are a null record: a reader of fields sees what the record holds.
+template <class R> void ExpectZeroIsNull() {
+    alignas(R) const std::byte Zeros[sizeof(R)]{};
+    EXPECT_TRUE(reinterpret_cast<const R*>(Zeros)->IsNull());
+    const R X(typename R::TXsValue{});
+    const PTypeInfo Info = TypeInfo<R>();
+    for (const TFieldInfo& Field : Info->Fields)
+        if (Field.Name == u"FHasValue") {
+            const void* Place = reinterpret_cast<const std::byte*>(&X) + Field.Offset();
+            EXPECT_EQ(*static_cast<const UnicodeString*>(Place), u"1");
+            EXPECT_EQ(static_cast<const UnicodeString*>(Place)->RefCount(), -1); // never counted
+        }
+    EXPECT_EQ(TValue(X).AsType<R>(), X);
+    EXPECT_EQ(Info->Kind, tkRecord);
+    EXPECT_EQ(R::GetTypeInfo(), TypeInfo<typename R::TXsValue>());
+    EXPECT_TRUE(R::GetNull().IsNull());
+}
+
+TEST(XsLexical, RecordsAreDescribed) {
+    ExpectZeroIsNull<TXsBoolean>();
+    ExpectZeroIsNull<TXsString>();
+    ExpectZeroIsNull<TXsInteger<std::int8_t>>();
+    ExpectZeroIsNull<TXsInteger<std::uint64_t>>();
+    ExpectZeroIsNull<TXsRational<float>>();
+    ExpectZeroIsNull<TXsRational<Extended>>();
+    ExpectZeroIsNull<TXsBinaryString<TXsBinaryStringHexEncoding>>();
+    EXPECT_EQ(TXsString::GetTypeKind(), tkString);
+    EXPECT_EQ(TXsInteger<std::int64_t>::GetTypeKind(), tkInt64);
+    UnicodeString Names;
+    for (const TFieldInfo& Field : TypeInfo<TXsRationalRestrictions<float>>()->Fields)
+        Names += Field.Name + UnicodeString(u":") + Field.FieldType()->Name + u" ";
+    EXPECT_EQ(Names,
+              u"TotalDigits:TXsAnySimpleType<System.Byte> FractionDigits:TXsAnySimpleType<System.Byte> "
+              u"MinExclusive:TXsAnySimpleType<System.Single> MaxExclusive:TXsAnySimpleType<System.Single> "
+              u"MinInclusive:TXsAnySimpleType<System.Single> MaxInclusive:TXsAnySimpleType<System.Single> "
+              u"Pattern:string ");
+}
+
+// The kind of each row names the integer or float that the type of the row stands for.
+TEST(XsLexical, RowsForTheRegistry) {
+    UnicodeString Table;
+    for (const TXsTypeRow& Row : XsTypeRows())
+        Table += UnicodeString(Row.Type->Name) + u"=" + UnicodeString(Row.SchemaName) + u"," +
+            IntToStr(static_cast<int>(Row.Kind)) + u"," + IntToStr(Row.VarType) + u"," +
+            IntToStr(static_cast<int>(Row.SchemaType)) + u"\n";
+    EXPECT_EQ(Table,
+              u"TXsBoolean=boolean,18,11,17\n"
+              u"TXsInteger<System.ShortInt>=byte,5,16,3\n"
+              u"TXsInteger<System.SmallInt>=short,6,2,4\n"
+              u"TXsInteger<System.Integer>=int,7,3,5\n"
+              u"TXsInteger<System.Int64>=long,8,20,6\n"
+              u"TXsInteger<System.Byte>=unsignedByte,1,17,7\n"
+              u"TXsInteger<System.Word>=unsignedShort,2,18,8\n"
+              u"TXsInteger<System.Cardinal>=unsignedInt,3,19,9\n"
+              u"TXsInteger<System.UInt64>=unsignedLong,4,21,10\n"
+              u"TXsRational<System.Single>=float,9,5,11\n"
+              u"TXsRational<System.Double>=double,10,5,12\n"
+              u"TXsRational<System.Extended>=decimal,11,5,13\n"
+              u"TXsString=string,17,8,14\n"
+              u"TXsBinaryString<uQzXSTypes.TXsBinaryStringB64Encoding>=base64Binary,16,256,15\n"
+              u"TXsBinaryString<uQzXSTypes.TXsBinaryStringHexEncoding>=hexBinary,16,256,16\n");
+}
+
+} // namespace
+} // namespace qz
