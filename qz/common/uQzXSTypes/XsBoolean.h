@@ -1,6 +1,6 @@
 // TXsBoolean: xs:boolean, a Boolean that may be null, and the result of the comparisons of value records.
 //
-//     TXsBoolean Done;                    // null
+//     TXsBoolean Done, Failed = false;    // Done is null
 //     Done.FromString("1");
 //     if (Done) ...                       // false for null
 //     (Done & !Failed).IsNull();          // & | ^ ! give null where an operand is null
