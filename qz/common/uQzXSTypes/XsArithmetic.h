@@ -1,5 +1,6 @@
 // The arithmetic of the value records, as sets of operators that a record inherits.
 //
+//     #include <qz/common/uQzXSTypes.h>
 //     TXsInteger<std::uint8_t> X = 250;
 //     X + 10;                            // 4: it wraps at the width of the type
 //     10 + X;                            // a plain left operand has no restrictions

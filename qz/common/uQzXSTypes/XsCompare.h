@@ -1,5 +1,6 @@
 // The comparisons of the value records, as sets of operators that a record inherits.
 //
+//     #include <qz/common/uQzXSTypes.h>
 //     TXsInteger<int> X = 5, Y;
 //     if (X > 3) ...                  // with a plain value: a TXsBoolean, null for a null record
 //     if (Y < X) ...                  // two records: a plain bool; null equals null and comes first

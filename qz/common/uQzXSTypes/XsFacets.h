@@ -1,5 +1,6 @@
 // TXsFacets: the restrictions of a value record, shared by all of its copies.
 //
+//     #include <qz/common/uQzXSTypes.h>
 //     TXsString Code;
 //     Code.Restrictions = {.MaxLength = 3, .Pattern = u"^[A-Z]+$"};
 //     Code.Restrictions.Change([](auto& R) { R.MinLength = 1; });

@@ -1,5 +1,6 @@
 // What all value records of XML Schema share: the marker of a value, and what converts to a record.
 //
+//     #include <qz/common/uQzXSTypes.h>
 //     static_assert(detail::CXsRecord<TXsInteger<int>>);
 //
 // A record holds its value and the text FHasValue, "1" or empty. Zero bytes are a null record. The marker is
