@@ -45,8 +45,14 @@ struct TVariantItems;
 struct TVariantAccess;
 template <class T>
 concept CVariantInteger = std::integral<T> && CVariantNumber<T>;
+// A type with ToVariant may have a null value, which its text would lose.
 template <class T>
-concept CVariantText = std::convertible_to<const T&, UnicodeString> && !std::derived_from<T, WideString>;
+concept CHasToVariant = requires(const T& AValue) {
+    AValue.ToVariant();
+};
+template <class T>
+concept CVariantText =
+    std::convertible_to<const T&, UnicodeString> && !std::derived_from<T, WideString> && !CHasToVariant<T>;
 template <class I>
 concept CVariantInterface = std::constructible_from<Ref<IInterface>, I*>;
 template <class T>
@@ -75,6 +81,8 @@ public:
           FHigh(AValue.High) {
         FData.Integer = static_cast<std::int64_t>(AValue.Low);
     }
+    // What AValue.ToVariant() gives.
+    template <detail::CHasToVariant T> explicit Variant(const T& AValue) : Variant(AValue.ToVariant()) {}
     // A text of any form that UnicodeString takes.
     template <detail::CVariantText T> Variant(const T& AText) : FType(varUString) {
         new (&FData.Wide) UnicodeString(AText);
