@@ -1,4 +1,5 @@
-// A value record that reads a text gives a text that it reads as the same value; one that does not stays null.
+// A value record that reads a text gives a text that it reads as the same value; one that does not stays
+// null.
 #include "fuzz/Fuzz.h"
 #include <qz/common/uQzXSTypes.h>
 

@@ -66,13 +66,16 @@ public:
     bool IsNull() const noexcept { return !detail::XsHasValue(FHasValue); }
     // The encoded text; empty for null.
     template <std::same_as<RawByteString> U> operator U() const { return IsNull() ? U() : FValue; }
-    // Nothing for null. An assignment to an optional, and its constructor, take null for the empty text: use ToOptional.
+    // Nothing for null. An assignment to an optional, and its constructor, take null for the empty text: use
+    // ToOptional.
     std::optional<RawByteString> ToOptional() const {
         return IsNull() ? std::nullopt : std::optional<RawByteString>(FValue);
     }
+    // NOLINTBEGIN(readability-make-member-function-const): an optional prefers the exact form
     operator std::optional<RawByteString>() & { return ToOptional(); }
     operator std::optional<RawByteString>() const& { return ToOptional(); }
     operator std::optional<RawByteString>() && { return ToOptional(); }
+    // NOLINTEND(readability-make-member-function-const)
     Variant ToVariant() const; // the encoded text, of 8 bits, or Null
     void PrintOn(std::ostream& AStream) const;
 

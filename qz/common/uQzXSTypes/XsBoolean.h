@@ -39,11 +39,14 @@ public:
 
     bool IsNull() const noexcept { return !detail::XsHasValue(FHasValue); }
     template <std::same_as<bool> U> operator U() const noexcept { return FValue && !IsNull(); }
-    // Nothing for null. An assignment to an optional, and its constructor, take null for false: use ToOptional.
+    // Nothing for null. An assignment to an optional, and its constructor, take null for false: use
+    // ToOptional.
     std::optional<bool> ToOptional() const { return IsNull() ? std::nullopt : std::optional<bool>(FValue); }
+    // NOLINTBEGIN(readability-make-member-function-const): an optional prefers the exact form
     operator std::optional<bool>() & { return ToOptional(); }
     operator std::optional<bool>() const& { return ToOptional(); }
     operator std::optional<bool>() && { return ToOptional(); }
+    // NOLINTEND(readability-make-member-function-const)
     Variant ToVariant() const;      // a Boolean, or Null
     UnicodeString ToString() const; // "true", or "false", also for null
     void PrintOn(std::ostream& AStream) const;

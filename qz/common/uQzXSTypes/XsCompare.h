@@ -42,7 +42,8 @@ TResult XsCompare(const A& ALeft, const B& ARight, TTest ATest) {
         return ARight.IsNull() ? TResult() : TResult(ATest(R::Operand(R::ToValue(ALeft)), ARight.FValue));
 }
 
-// Two records of one type, or of a narrower one on either side. Also writes the value, or "null", to a stream.
+// Two records of one type, or of a narrower one on either side. Also writes the value, or "null", to a
+// stream.
 template <class R> struct TXsRecordOrder {
     friend bool operator==(const R& ALeft, const R& ARight) noexcept {
         return ALeft.IsNull() ? ARight.IsNull() : !ARight.IsNull() && ALeft.FValue == ARight.FValue;

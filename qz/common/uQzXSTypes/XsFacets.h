@@ -36,6 +36,7 @@ public:
         return *this;
     }
     template <std::same_as<TRestrictions> R = TRestrictions> TXsFacets& operator=(const R& ARestrictions) {
+        // NOLINTNEXTLINE(misc-unconventional-assign-operator): it is *this
         return *this = TXsFacets(ARestrictions);
     }
     ~TXsFacets() {

@@ -97,9 +97,11 @@ public:
     operator U() const noexcept { return IsNull() ? U() : static_cast<U>(FValue); }
     // Nothing for null. An assignment to an optional, and its constructor, take null for 0: use ToOptional.
     std::optional<T> ToOptional() const { return IsNull() ? std::nullopt : std::optional<T>(FValue); }
+    // NOLINTBEGIN(readability-make-member-function-const): an optional prefers the exact form
     operator std::optional<T>() & { return ToOptional(); }
     operator std::optional<T>() const& { return ToOptional(); }
     operator std::optional<T>() && { return ToOptional(); }
+    // NOLINTEND(readability-make-member-function-const)
     UnicodeString ToString() const; // decimal; "NaN" for null
     Variant ToVariant() const;      // the decimal text, or Null
     void PrintOn(std::ostream& AStream) const;

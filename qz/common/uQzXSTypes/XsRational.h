@@ -87,9 +87,11 @@ public:
     operator U() const noexcept { return IsNull() ? U() : static_cast<U>(FValue); }
     // Nothing for null. An assignment to an optional, and its constructor, take null for 0: use ToOptional.
     std::optional<T> ToOptional() const { return IsNull() ? std::nullopt : std::optional<T>(FValue); }
+    // NOLINTBEGIN(readability-make-member-function-const): an optional prefers the exact form
     operator std::optional<T>() & { return ToOptional(); }
     operator std::optional<T>() const& { return ToOptional(); }
     operator std::optional<T>() && { return ToOptional(); }
+    // NOLINTEND(readability-make-member-function-const)
     // As FloatToStr with a decimal point in each locale; "NaN" for null.
     UnicodeString ToString() const;
     Variant ToVariant() const; // the text of FloatToStr in the process's format, or Null

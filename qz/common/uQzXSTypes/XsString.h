@@ -75,13 +75,16 @@ public:
     bool IsNull() const noexcept { return !detail::XsHasValue(FHasValue); }
     // Empty for null.
     template <std::same_as<UnicodeString> U> operator U() const { return IsNull() ? U() : FValue; }
-    // Nothing for null. An assignment to an optional, and its constructor, take null for the empty text: use ToOptional.
+    // Nothing for null. An assignment to an optional, and its constructor, take null for the empty text: use
+    // ToOptional.
     std::optional<UnicodeString> ToOptional() const {
         return IsNull() ? std::nullopt : std::optional<UnicodeString>(FValue);
     }
+    // NOLINTBEGIN(readability-make-member-function-const): an optional prefers the exact form
     operator std::optional<UnicodeString>() & { return ToOptional(); }
     operator std::optional<UnicodeString>() const& { return ToOptional(); }
     operator std::optional<UnicodeString>() && { return ToOptional(); }
+    // NOLINTEND(readability-make-member-function-const)
     Variant ToVariant() const; // a text, or Null
     void PrintOn(std::ostream& AStream) const;
 

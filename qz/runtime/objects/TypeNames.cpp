@@ -21,8 +21,8 @@ public:
         std::atomic<PTypeInfo> Type;
     };
 
-    // A name taken apart behind its last point, and behind the letter that follows. In this form a schema name
-    // is looked up without a copy.
+    // A name taken apart behind its last point, and behind the letter that follows. In this form a schema
+    // name is looked up without a copy.
     struct TParts {
         TParts(const THashedName& AUnit, char16_t AFirst, const THashedName& ARest) noexcept
             : Unit(AUnit),

@@ -33,6 +33,7 @@ void TQzTypeInfo::SetDefaultSchemaName(const TStringArg& AName) {
     detail::TTypeStore::Instance().PutNamesFirst(*this, {&Name, 1}, TNameCase::Counts);
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it adds to the registry
 TQzTypeInfo* TQzTypeInfo::VirtualType(TQzSchemaDataType ASchemaType) {
     return detail::TTypeStore::Instance().VirtualType(*this, ASchemaType);
 }

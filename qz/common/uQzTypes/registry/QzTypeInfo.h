@@ -34,8 +34,8 @@ struct TSchemaNames {
 };
 } // namespace detail
 
-// An entry of the registry; it belongs to the registry. Serialisers are blocks that only their users know; see
-// TQzTypes::RegisterTypeSerializers.
+// An entry of the registry; it belongs to the registry. Serialisers are blocks that only their users know;
+// see TQzTypes::RegisterTypeSerializers.
 struct TQzTypeRec {
     std::atomic<TQzTypeRec*> Next{nullptr}; // in the list of a kind, in the order of registration
     TQzTypeInfo* Info = nullptr;

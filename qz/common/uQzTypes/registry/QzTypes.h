@@ -88,8 +88,8 @@ public:
     static void RegisterTypeAlias(PTypeInfo ATypeInfo, const TStringArg& AName);
     static void RegisterTypeAlias(PTypeInfo ATypeInfo, const TStringDynArray& ANames);
 
-    // Hands over a block from std::malloc, which std::free releases when another replaces it; the caller makes
-    // sure that no thread uses that one any more. A null block changes nothing. Null for the type means
+    // Hands over a block from std::malloc, which std::free releases when another replaces it; the caller
+    // makes sure that no thread uses that one any more. A null block changes nothing. Null for the type means
     // TQzNilType. Raises EAssertionFailed for a format outside the enumeration.
     static void RegisterTypeSerializers(PTypeInfo ATypeInfo, TQzDataSerializationFormatType AFormat,
                                         void* ASerializers);

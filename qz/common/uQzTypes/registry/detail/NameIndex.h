@@ -5,8 +5,8 @@
 //     Index.Add(std::move(Fresh));
 //     Index.Find(u"int", TKindRanks({tkInteger, tkInt64}));
 //
-// For each name and list it keeps the first entry in the order of the list, so that a search gives what a walk
-// of the lists would give.
+// For each name and list it keeps the first entry in the order of the list, so that a search gives what a
+// walk of the lists would give.
 #pragma once
 
 #include <array>

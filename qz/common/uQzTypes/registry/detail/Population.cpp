@@ -73,7 +73,8 @@ TTypeEntry& AddRow(TTypeStore& AStore, const TPopulationRow& ARow) {
     return AStore.AddByKinds(std::move(Request));
 }
 
-// In each list the schema type is that of the first kind that goes there, name and code are those of the last.
+// In each list the schema type is that of the first kind that goes there, name and code are those of the
+// last.
 void AddVirtualTypes(TTypeStore& AStore, TTypeEntry& AEntry) {
     std::array<TTypeRequest, cTypeKindCount> Requests{};
     for (auto Index = static_cast<std::uint8_t>(rtkByte); Index < static_cast<std::uint8_t>(rtkVariant);

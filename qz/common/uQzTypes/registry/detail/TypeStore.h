@@ -4,8 +4,8 @@
 //     TQzTypeInfo* Info = Store.InfoOf(TypeInfo<int>());
 //     Store.FindName(TTypeStore::SchemaNames, u"int", Ranks);
 //
-// Readers take no lock. Names and elements of a new type are worked out without the lock, under which only the
-// store's own code runs.
+// Readers take no lock. Names and elements of a new type are worked out without the lock, under which only
+// the store's own code runs.
 #pragma once
 
 #include <mutex>
