@@ -15,7 +15,7 @@ template <class TSource> std::string Decoded(const TSource& ASource) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* AData, std::size_t ASize) {
-    const qz::AnsiString Text(TextOf(AData, ASize));
+    const qz::AnsiString Text(TextOf(AData, ASize), qz::cUtf8CodePage);
     qz::TStringList Lines;
     Lines.SetText(TextOf(AData, ASize));
     Require(Decoded(Text) == Decoded<qz::TStrings>(Lines));

@@ -178,7 +178,7 @@ TQzDateTimeParts QzDecodeISODateTime(const TStringArg& AText) {
 TQzDateTimeParts QzDecodeISODateTimeDef(const TStringArg& AText, TDateTime ADefault) {
     try {
         return QzDecodeISODateTime(AText);
-    } catch (const EConvertError&) {
+    } catch (const std::exception&) {
         TParts Result;
         DecodeDateTime(ADefault, Result.Year, Result.Month, Result.Day, Result.Hour, Result.Min, Result.Sec,
                        Result.MSec);

@@ -42,7 +42,8 @@ struct TQzDateTimeParts {
 //   "+" or "-" follows, one character is passed, and any number of digits are the seconds. "." or "," and digits
 //   are a fraction, cut to milliseconds. A "Z" right after the minutes is passed too, and so is lost.
 // - A zone is "Z", or a sign, two digits, one character of any kind and the minutes.
-// - Control characters (below 32) between characters are passed, and what follows is ignored.
+// - Control characters (below 32) after a separator, a sign or the "T" are passed. Elsewhere they stay part of the
+//   number before them. What follows a complete text is ignored.
 //
 // The empty text and "0" give parts that hold nothing. Raises EConvertError, "'%s' is not a valid integer
 // value", where a number is missing, is no integer as StrToInt reads it, or does not fit into 16 bits. The

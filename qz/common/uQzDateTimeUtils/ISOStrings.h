@@ -14,11 +14,12 @@
 
 namespace qz {
 
-// "2021-03-07". Each writer raises EConvertError, "Invalid date and time", for a value that is no date.
+// "2021-03-07". It and the next raise EConvertError, "Invalid date and time", for a value that is no date.
 QZ_API UnicodeString QzDateToISOStr(TDateTime AValue);
 // "2021-03-07T10:30:15", and ".045" with milliseconds; without them they are cut off. There is no zone in it.
 QZ_API UnicodeString QzDateTimeToISOStr(TDateTime AValue, bool AWithMSecs = false);
-// The time of day with the date of day 0: "1899-12-30T10:30:15". QzISOStrToTime reads it back.
+// The fraction of the value with the date of day 0: "1899-12-30T10:30:15". QzISOStrToTime reads it back. Less
+// than half a millisecond before midnight is the next day. Raises the same for what is no number.
 QZ_API UnicodeString QzTimeToISOStr(TDateTime AValue, bool AWithMSecs = false);
 
 // Year, month and day from the first eight characters that are no "-"; what follows is ignored. The empty
@@ -27,9 +28,9 @@ QZ_API UnicodeString QzTimeToISOStr(TDateTime AValue, bool AWithMSecs = false);
 // out of range.
 QZ_API TDateTime QzISOStrToDate(const TStringArg& AText);
 // Hour, minute and second from two characters each, with one character of any kind between them; they start
-// after the first "T" if there is one. A "." may follow, and milliseconds up to a "-" or "+". A "Z" at the
-// end, which is allowed without milliseconds only, converts from UTC to local time as of day 0. Empty gives
-// 0.
+// after the first "T" if there is one. A "." may follow, and milliseconds up to a "-" or "+", or else to the
+// end of the text. A "Z" at the end converts from UTC to local time as of day 0; right after milliseconds it
+// raises. Empty gives 0.
 QZ_API TDateTime QzISOStrToTime(const TStringArg& AText);
 // A date as QzISOStrToDate reads it, and after a "T" a time as QzISOStrToTime does. A "Z" at the end or an
 // offset converts to local time; without them the value is kept as it is. The empty text and "0" give 0.

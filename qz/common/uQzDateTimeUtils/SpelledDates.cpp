@@ -1,5 +1,7 @@
 #include <qz/common/uQzDateTimeUtils/SpelledDates.h>
 
+#include <algorithm>
+
 #include <qz/common/uQzDateTimeUtils/detail/DateNumbers.h>
 #include <qz/common/uQzSysUtils/Tokenize.h>
 #include <qz/runtime/base/StringUtils.h>
@@ -42,7 +44,7 @@ TDateTime ConvertLUOToDateTime(const TStringArg& AText) {
     const int Month = MonthOf(UpperCase(Tokens[0]));
     const UnicodeString Last = UpperCase(Tokens[6]);
     if (Last.View().find(u"PM") != cNowhere && Hour != 12)
-        Hour += 12;
+        Hour = std::min(Hour, 24) + 12;
     else if (Last.View().find(u"AM") != cNowhere && Hour == 12)
         Hour = 0;
     const int MSec = detail::DateNumber(detail::PieceOf(Last, 0, 3));

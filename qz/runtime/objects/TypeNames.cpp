@@ -21,7 +21,7 @@ public:
         std::atomic<PTypeInfo> Type;
     };
 
-    // A name taken apart behind its last point, and behind the letter that follows. In this form a schema
+    // A name split after its last point, and after the letter that follows. In this form a schema
     // name is looked up without a copy.
     struct TParts {
         TParts(const THashedName& AUnit, char16_t AFirst, const THashedName& ARest) noexcept
@@ -32,7 +32,8 @@ public:
         explicit TParts(std::u16string_view AName) noexcept : TParts(AName, AName.rfind(u'.')) {}
         TParts(std::u16string_view AName, std::size_t APoint) noexcept
             : TParts(THashedName(APoint == AName.npos ? std::u16string_view() : AName.substr(0, APoint)),
-                     APoint + 1 < AName.size() ? AName[APoint + 1] : u'\0',
+                     // no type has a name that starts with a point
+                     APoint != 0 && APoint + 1 < AName.size() ? AName[APoint + 1] : u'\0',
                      THashedName(AName.substr(std::min(APoint + 2, AName.size())))) {}
 
         std::uint64_t Key() const noexcept { return MixHash(MixHash(First, Unit.Hash), Rest.Hash); }

@@ -121,7 +121,8 @@ TEST(DateStrings, SpelledAndDayFirst) {
     EXPECT_EQ(ConvertLUOToDateTime(u"mar/07-2021 01.05.09 045pm"), EncodeDateTime(2021, 3, 7, 13, 5, 9, 45));
     EXPECT_THROW(ConvertLUOToDateTime(u"MAR 7 2021 1:05:09"), EStringListError);
     EXPECT_THROW(ConvertLUOToDateTime(u"MAZ  7 2021  1:05:09:045PM"), EConvertError);
-    EXPECT_THROW(ConvertLUOToDateTime(u"MAR  7 2021 13:05:09:045PM"), EConvertError);
+    for (const char16_t* Hour : {u"13", u"2147483647"})
+        EXPECT_THROW(ConvertLUOToDateTime(Format(u"MAR  7 2021 %s:05:09:045PM", {Hour})), EConvertError);
     EXPECT_EQ(QzStrToDateTime(u"07-03-2021"), EncodeDate(2021, 3, 7));
     EXPECT_THROW(QzStrToDateTime(u"2021-03-07"), EConvertError);
 }

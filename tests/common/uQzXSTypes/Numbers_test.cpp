@@ -11,6 +11,7 @@ namespace qz {
 namespace {
 
 using TWide = __int128;
+using TWideBits = unsigned __int128;
 
 template <class T> class XsIntegers : public testing::Test {};
 using TIntegers = testing::Types<std::int8_t, std::int16_t, std::int32_t, std::int64_t, std::uint8_t,
@@ -51,7 +52,7 @@ TYPED_TEST(XsIntegers, AgreeWithWideArithmetic) {
             const TWide P = A, Q = B;
             EXPECT_EQ((X + B).FValue, static_cast<T>(P + Q));
             EXPECT_EQ((A - Y).FValue, static_cast<T>(P - Q));
-            EXPECT_EQ((X * Y).FValue, static_cast<T>(P * Q));
+            EXPECT_EQ((X * Y).FValue, static_cast<T>(static_cast<TWideBits>(P) * static_cast<TWideBits>(Q)));
             ExpectDivision(B == 0 ? 0 : P / Q, B, [&] { return X.Div(B); });
             ExpectDivision(B == 0 ? 0 : P % Q, B, [&] { return X % B; });
             const int Count = static_cast<int>(InRegister<T>(Q) % (sizeof(T) <= 4 ? 32 : 64));

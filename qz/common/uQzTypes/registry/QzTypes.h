@@ -94,7 +94,7 @@ public:
     static void RegisterTypeSerializers(PTypeInfo ATypeInfo, TQzDataSerializationFormatType AFormat,
                                         void* ASerializers);
     // The block of the type, else of the nearest parent class that has one, else of TQzNilType; null when
-    // there is none.
+    // there is none. A class that another thread registers at this moment may have no parent yet.
     static void* FindSerializers(TQzTypeInfo* AInfo, TQzDataSerializationFormatType AFormat);
 };
 

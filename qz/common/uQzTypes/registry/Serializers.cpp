@@ -32,8 +32,11 @@ void TQzTypes::RegisterTypeSerializers(PTypeInfo ATypeInfo, TQzDataSerialization
                                        void* ASerializers) {
     const std::size_t Slot = SlotOf(AFormat);
     const TQzTypeInfo* const Info = GetTypeInfo(ATypeInfo == nullptr ? TypeInfo<TQzNilType>() : ATypeInfo);
-    if (ASerializers != nullptr)
-        std::free(detail::TTypeStore::EntryOf(*Info).Serializer[Slot].exchange(ASerializers));
+    if (ASerializers == nullptr)
+        return;
+    void* const Old = detail::TTypeStore::EntryOf(*Info).Serializer[Slot].exchange(ASerializers);
+    if (Old != ASerializers)
+        std::free(Old);
 }
 
 void* TQzTypes::FindSerializers(TQzTypeInfo* AInfo, TQzDataSerializationFormatType AFormat) {

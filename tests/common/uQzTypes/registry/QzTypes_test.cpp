@@ -236,7 +236,9 @@ TEST(TypeRegistry, SerializersComeFromTheNearestClass) {
     TQzTypes::RegisterTypeSerializers(TypeInfo<TBasket>(), XML, Block());
     void* const OfBasket = Block();
     TQzTypes::RegisterTypeSerializers(TypeInfo<TBasket>(), XML, OfBasket); // releases the first
-    TQzTypes::RegisterTypeSerializers(TypeInfo<TBasket>(), XML, nullptr);
+    for (void* const Same : {OfBasket, static_cast<void*>(nullptr)})       // releases nothing
+        TQzTypes::RegisterTypeSerializers(TypeInfo<TBasket>(), XML, Same);
+    EXPECT_EQ(FindType(u".TBasket"), nullptr);
     EXPECT_EQ(TQzTypes::FindSerializers(Fruits->VirtualType(xsdInt), XML), OfBasket);
     EXPECT_EQ(TQzTypes::FindSerializers(TQzTypes::GetTypeInfo(TypeInfo<TFruit>()), XML), Default);
     EXPECT_THROW(TQzTypes::FindSerializers(Fruits, static_cast<TQzDataSerializationFormatType>(5)),

@@ -58,7 +58,7 @@ constexpr TPopulationRow cOfAnyType[] = {
     {TypeInfo<TValue>, rtkRecord, varRecord, xsdComplexType, {u"any"}}};
 
 // Constant-initialised, so that parts of other source files may arrive at any time.
-constinit std::span<const TPopulationRow> GParts[2];
+constinit TTypeStore::TParts GParts{};
 
 TTypeEntry& AddRow(TTypeStore& AStore, const TPopulationRow& ARow) {
     std::vector<UnicodeString> Names;
@@ -103,30 +103,53 @@ void AddVirtualTypes(TTypeStore& AStore, TTypeEntry& AEntry) {
 
 constinit std::atomic<TTypeStore*> TTypeStore::GInstance{nullptr};
 
-// Held while the store is made, so that a fork does not copy half of it.
+// Guards the parts and the publication of the store.
 std::mutex& TTypeStore::CreationLock() {
     static auto* const Lock = new std::mutex;
     return *Lock;
 }
 
+// No lock is held while the store is filled, since that loads libraries, whose start code may look up types.
+// Two threads may both fill one; the first to be published stays.
 TTypeStore& TTypeStore::Create() {
-    const std::scoped_lock Hold(CreationLock());
-    TTypeStore* Store = GInstance.load(std::memory_order_acquire);
-    if (Store == nullptr) {
-        std::unique_ptr<TTypeStore> Fresh(new TTypeStore);
-        Fresh->Populate();
+    std::unique_ptr<TTypeStore> Fresh(new TTypeStore);
+    TParts Known;
+    {
+        const std::scoped_lock Hold(CreationLock());
+        Known = GParts;
+    }
+    Fresh->Populate(Known);
+    TTypeStore* Store;
+    {
+        const std::scoped_lock Hold(CreationLock());
+        Store = GInstance.load(std::memory_order_acquire);
+        if (Store != nullptr)
+            return *Store;
         Store = Fresh.release();
         GInstance.store(Store, std::memory_order_release);
+        for (std::size_t Place = 0; Place < Known.size(); ++Place)
+            Known[Place] = GParts[Place].data() != Known[Place].data() ? GParts[Place]
+                                                                       : std::span<const TPopulationRow>();
     }
+    for (const std::span<const TPopulationRow> Late : Known)
+        for (const TPopulationRow& Row : Late)
+            AddRow(*Store, Row);
     return *Store;
 }
 
-void TTypeStore::Populate() {
+// Of a store that was not published. References to its types exist nowhere.
+TTypeStore::~TTypeStore() {
+    for (TTypeEntry* Entry : FTypesFirst)
+        while (Entry != nullptr)
+            delete std::exchange(Entry, static_cast<TTypeEntry*>(Entry->Next.load()));
+}
+
+void TTypeStore::Populate(const TParts& AParts) {
     for (const TPopulationRow& Row : cBeforeVariant)
         AddRow(*this, Row);
     for (const TPopulationRow& Row : cOfAnyType)
         AddVirtualTypes(*this, AddRow(*this, Row));
-    for (const std::span<const TPopulationRow> Part : GParts)
+    for (const std::span<const TPopulationRow> Part : AParts)
         for (const TPopulationRow& Row : Part)
             AddRow(*this, Row);
 }

@@ -12,6 +12,7 @@
 #include <optional>
 
 #include <qz/common/uQzTypes/registry/detail/NameIndex.h>
+#include <qz/common/uQzTypes/registry/detail/Population.h>
 
 namespace qz::detail {
 
@@ -36,6 +37,10 @@ TTypeRequest RequestOf(PTypeInfo AType);
 
 class TTypeStore {
 public:
+    // The rows that units above add, by place.
+    using TParts = std::array<std::span<const TPopulationRow>, 2>;
+    ~TTypeStore();
+
     enum TIndex { FullNames, ShortNames, SchemaNames };
 
     // Created and populated at first use and never destroyed.
@@ -86,7 +91,7 @@ private:
     TTypeStore() = default;
     static TTypeStore& Create();
     static std::mutex& CreationLock();
-    void Populate();
+    void Populate(const TParts& AParts);
 
     PTypeInfo ElementOf(const TTypeRequest& ARequest, TQzTypeKind AKind) const;
     std::vector<UnicodeString> NamesOf(const TTypeRequest& ARequest, TQzTypeKind AKind, PTypeInfo AElement,
