@@ -24,7 +24,8 @@ QZ_API TBytes QzBufToByteArr(const void* ABuffer, std::size_t ASize);
 // In place.
 QZ_API void QzReverseBuffer(void* ABuffer, std::size_t ASize) noexcept;
 
-// Upper case digits, two for each byte.
+// Upper case digits, two for each byte. The position of a memory stream stays; any other stream is at its
+// end.
 QZ_API RawByteString QzBufToHex(const void* ABuffer, std::size_t ASize);
 QZ_API RawByteString QzBufToHex(const TBytes& ABytes);
 QZ_API RawByteString QzBufToHex(TStream& AStream);

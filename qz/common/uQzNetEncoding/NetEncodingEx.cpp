@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include <qz/common/uQzClasses/QzBytes.h>
 #include <qz/common/uQzClasses/QzMemoryStream.h>
 #include <qz/common/uQzClasses/StreamBuf.h>
 #include <qz/runtime/base/UtfForms.h>
@@ -116,6 +117,14 @@ constinit const TClassRec TQzBase64UrlEncoding::ClassRec =
     DescribeClass<TQzBase64UrlEncoding>(u"TQzBase64UrlEncoding", {.Unit = cUnit});
 constinit const TClassRec TQzHexEncoding::ClassRec =
     DescribeClass<TQzHexEncoding>(u"TQzHexEncoding", {.Unit = cUnit});
+
+TBytes TNetEncodingEx::Encode(const TQzBytes& ABytes) const {
+    return DoEncode(ABytes.data(), ABytes.size());
+}
+
+TBytes TNetEncodingEx::Decode(const TQzBytes& AText) const {
+    return DoDecode(AText.data(), AText.size());
+}
 
 RawByteString TNetEncodingEx::EncodeA(const void* AData, std::size_t ASize) const {
     const TBytes Text = DoEncode(AData, ASize);

@@ -19,6 +19,8 @@
 
 namespace qz {
 
+class TQzBytes;
+
 class QZ_API TNetEncodingEx : public TNetEncoding {
     QZ_CLASS(TNetEncodingEx, TNetEncoding)
 
@@ -31,6 +33,8 @@ public:
     TBytes Decode(TStream& AStream) const { return DoDecode(AStream); }
     TBytes Encode(const void* AData, std::size_t ASize) const { return DoEncode(AData, ASize); }
     TBytes Decode(const void* AText, std::size_t ASize) const { return DoDecode(AText, ASize); }
+    TBytes Encode(const TQzBytes& ABytes) const;
+    TBytes Decode(const TQzBytes& AText) const;
     // The same as text, in code page 0.
     RawByteString EncodeA(const void* AData, std::size_t ASize) const;
 

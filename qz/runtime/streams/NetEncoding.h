@@ -23,7 +23,9 @@ class QZ_API TNetEncoding : public TObject {
 
 public:
     // What lies between the position of AInput and its end, written at the position of AOutput; the number of
-    // bytes written. Both may be one stream, but for hexadecimal text.
+    // bytes written. Both may be one stream, but for hexadecimal text. Raise what the streams raise; an input
+    // that ends before its Size raises EStreamError here, while the binary encodings of uQzNetEncoding take
+    // what it has.
     std::int64_t Decode(TStream& AInput, TStream& AOutput) const { return DoDecode(AInput, AOutput); }
     std::int64_t Encode(TStream& AInput, TStream& AOutput) const { return DoEncode(AInput, AOutput); }
     // The bytes of the text, and back.

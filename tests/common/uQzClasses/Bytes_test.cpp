@@ -1,4 +1,5 @@
 #include <qz/common/uQzClasses.h>
+#include <qz/common/uQzNetEncoding.h>
 
 #include <gtest/gtest.h>
 
@@ -141,6 +142,16 @@ TEST(QzBytes, Constructors) {
     EXPECT_EQ(Narrow.ToString(true), u"a\u00E9");
     EXPECT_EQ(Narrow.Encode(beHexEncoded), u"61C3A9");
     EXPECT_EQ(Message([] { TQzBytes(u"TWFuT", beBase64); }), u"Invalid Base64 data!");
+}
+
+TEST(QzBytes, MixesWithTheOtherKindsOfBytes) {
+    const TQzBytes Bytes{0, 2};
+    EXPECT_EQ(Bytes + RawByteString("a") + TBytes{3}, (TQzBytes{0, 2, 'a', 3}));
+    EXPECT_EQ(RawByteString("a") + Bytes, (TBytes{'a', 0, 2}));
+    EXPECT_THROW(TQzBytes(nullptr, 2), EAssertionFailed);
+    EXPECT_EQ(
+        TQzNetEncoding::GetHexEncoding().Decode(TQzBytes(TQzNetEncoding::GetHexEncoding().Encode(Bytes))),
+        static_cast<const TBytes&>(Bytes));
 }
 
 TEST(QzBytes, SharedUntilCopiedOrResized) {

@@ -210,6 +210,12 @@ TEST(TypeRegistry, PrefixesAndAliases) {
     EXPECT_EQ(TQzTypes::GetTypeInfo(rtkAString)->SchemaName(u"xs"), u"string");
     const PTypeInfo Type = TypeInfo<TBasket>();
     TQzTypes::RegisterTypeAlias(Type, {u"my.Crate", u"TBASKET"});
+    TQzTypes::RegisterTypeAlias(TypeInfo<TFruit>(), u"\u00C4pfel");
+    TQzTypes::RegisterTypeAlias(TypeInfo<TFruit>(), u"\u00E4pfel"); // takes the place of the first
+    EXPECT_EQ(
+        std::ranges::count_if(TQzTypes::GetTypeInfo(TypeInfo<TFruit>())->SchemaNames(),
+                              [](const UnicodeString& AName) { return AName.View().ends_with(u"pfel"); }),
+        1);
     TQzTypeInfo* const Info = TQzTypes::GetTypeInfo(Type);
     EXPECT_EQ(RowOf(*Info), u"28 13 _complexType_: my_Crate TBASKET uFoo_Basket");
     EXPECT_TRUE(Info->HasCustomSchemaName());

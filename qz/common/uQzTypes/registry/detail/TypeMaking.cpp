@@ -36,9 +36,8 @@ class TNameList {
 public:
     explicit TNameList(std::span<const UnicodeString> ANames) : FNames(ANames.begin(), ANames.end()) {}
     void Add(UnicodeString AName) {
-        if (std::none_of(FNames.begin(), FNames.end(), [&](const UnicodeString& AEach) {
-                return SameName(AEach, AName, TNameCase::Ignored);
-            }))
+        if (std::none_of(FNames.begin(), FNames.end(),
+                         [&](const UnicodeString& AEach) { return SameInNameList(AEach, AName); }))
             FNames.push_back(std::move(AName));
     }
     std::vector<UnicodeString> Take() noexcept { return std::move(FNames); }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <qz/platform/Module.h>
+#include <qz/runtime/base/StringUtils.h>
 
 namespace qz::detail {
 namespace {
@@ -12,6 +13,15 @@ constexpr std::size_t IndexOf(TTypeKind AKind) noexcept {
 }
 
 } // namespace
+
+// Names of ASCII, which almost all are, need no collation.
+bool SameInNameList(const UnicodeString& ALeft, const UnicodeString& ARight) {
+    const auto IsAscii = [](const UnicodeString& AText) {
+        return std::ranges::all_of(AText.View(), [](char16_t AChar) { return AChar < 0x80; });
+    };
+    return IsAscii(ALeft) && IsAscii(ARight) ? SameName(ALeft, ARight, TNameCase::Ignored)
+                                             : AnsiSameText(ALeft, ARight);
+}
 
 // The same handle or the same full name in the same list, whichever comes first.
 TTypeEntry* TTypeStore::FindSame(const TTypeEntry& AEntry) const noexcept {
@@ -74,8 +84,9 @@ void TTypeStore::PutNamesFirst(TQzTypeInfo& AInfo, std::span<const UnicodeString
     const TSchemaNames* const Old = AInfo.FSchemaNames.load(std::memory_order_relaxed);
     auto Fresh = std::make_unique<TSchemaNames>(TSchemaNames{{ANames.begin(), ANames.end()}, true});
     for (const UnicodeString& Name : Old->Names)
-        if (std::none_of(Fresh->Names.begin(), Fresh->Names.end(),
-                         [&](const UnicodeString& AEach) { return SameName(AEach, Name, ACase); }))
+        if (std::none_of(Fresh->Names.begin(), Fresh->Names.end(), [&](const UnicodeString& AEach) {
+                return ACase == TNameCase::Ignored ? SameInNameList(AEach, Name) : AEach == Name;
+            }))
             Fresh->Names.push_back(Name);
     const TSchemaNames* Same = AInfo.FAllNames.get();
     while (Same != nullptr && !(Same->IsCustom && Same->Names == Fresh->Names))

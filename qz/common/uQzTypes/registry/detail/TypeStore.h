@@ -35,6 +35,9 @@ struct TTypeRequest {
 // The type and its names as reflection has them.
 TTypeRequest RequestOf(PTypeInfo AType);
 
+// Whether a list of schema names takes the two for one, as a string list does by default.
+bool SameInNameList(const UnicodeString& ALeft, const UnicodeString& ARight);
+
 class TTypeStore {
 public:
     // The rows that units above add, by place.
