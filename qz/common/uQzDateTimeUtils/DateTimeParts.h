@@ -36,14 +36,16 @@ struct TQzDateTimeParts {
 
 // Reads "2021-03-07T10:30:15.25+05:30" and its shorter forms. Nothing is converted between zones.
 //
-// - A minus sign may stand first. The year has four digits, month and day have two. Each "-" between them may be
-//   missing. An upper-case "T" starts the time, and a ":" after the first two digits makes the text a time alone.
-// - Hours and minutes have two digits, with one character of any kind between them. Unless the text ends there or
-//   "+" or "-" follows, one character is passed, and any number of digits are the seconds. "." or "," and digits
-//   are a fraction, cut to milliseconds. A "Z" right after the minutes is passed too, and so is lost.
+// - A minus sign may stand first. The year has four digits, month and day have two. Each "-" between them
+//   may be missing. An upper-case "T" starts the time, and a ":" after the first two digits makes the text a
+//   time alone.
+// - Hours and minutes have two digits, with one character of any kind between them. Unless the text ends
+//   there or "+" or "-" follows, one character is passed, and any number of digits are the seconds. "." or
+//   "," and digits are a fraction, cut to milliseconds. A "Z" right after the minutes is passed too, and so
+//   is lost.
 // - A zone is "Z", or a sign, two digits, one character of any kind and the minutes.
-// - Control characters (below 32) after a separator, a sign or the "T" are passed. Elsewhere they stay part of the
-//   number before them. What follows a complete text is ignored.
+// - Control characters (below 32) after a separator, a sign or the "T" are passed. Elsewhere they stay part
+//   of the number before them. What follows a complete text is ignored.
 //
 // The empty text and "0" give parts that hold nothing. Raises EConvertError, "'%s' is not a valid integer
 // value", where a number is missing, is no integer as StrToInt reads it, or does not fit into 16 bits. The

@@ -44,11 +44,11 @@ QZ_API UnicodeString QzTimeToStr(double ASeconds, bool AWithSeconds);
 // - trEndTime: a text that starts with "24" is 86400; anything else is read as trPointOfTime.
 // - trPointOfTime: a time of day as StrToTime reads it, where a separator at the end is ignored and the empty
 //   text is midnight. Its seconds count if AWithSeconds. Raises Exception, STimeDecodeError.
-// - trDuration: the empty text is 0, and so is any text for the other formats than these two.
-//   tfHourMin: hours without limit, and minutes; missing ones are 0. Raises Exception, SInvalidTime, for more than
-//   59 minutes, and EConvertError, "'%s' is not a valid integer value".
-//   tfHourMinSec: hours, minutes and seconds; missing ones are 0. Raises EConvertError, STimeConvertError, for
-//   hours above AMaximum / 3600 - 1 and for minutes and seconds beyond 0 to 59.
+// - trDuration: the empty text is 0, and so is any text for the other formats than these two. tfHourMin:
+//   hours without limit, and minutes; missing ones are 0. Raises Exception, SInvalidTime, for more than 59
+//   minutes, and EConvertError, "'%s' is not a valid integer value". tfHourMinSec: hours, minutes and
+//   seconds; missing ones are 0. Raises EConvertError, STimeConvertError, for hours above AMaximum / 3600 - 1
+//   and for minutes and seconds beyond 0 to 59.
 //
 // A result beyond 32 bits raises EConvertError, STimeConvertError.
 QZ_API std::int32_t QzStrToTimeToInt(const TStringArg& AText, bool AWithSeconds, TQzTimeRange ARange,

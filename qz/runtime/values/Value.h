@@ -141,10 +141,11 @@ public:
 
     // The value as a T, where no number loses a digit:
     // - any value as its own type
-    // - an integer or float as any integer or float type that holds the number exactly; floats never as integers. A
-    //   Currency is exact in a float that gives the same amount back
-    // - a text or a character as any text type, where what the code page of an 8-bit text lacks becomes its best fit or
-    //   "?"; a text of one character as a character. A char is of Latin-1, U+0000 to U+00FF, on every system
+    // - an integer or float as any integer or float type that holds the number exactly; floats never as
+    //   integers. A Currency is exact in a float that gives the same amount back
+    // - a text or a character as any text type, where what the code page of an 8-bit text lacks becomes its
+    //   best fit or "?"; a text of one character as a character. A char is of Latin-1, U+0000 to U+00FF, on
+    //   every system
     // - an object as a class that it belongs to, a class reference as one of an ancestor
     // - an interface or object as any interface that it offers; T is a Ref
     // - what AsVariant takes as a Variant

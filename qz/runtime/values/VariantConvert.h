@@ -6,13 +6,14 @@
 //     if (V > 32767) ...                          // Variant.h defines how variants compare
 //
 // The rules for all conversions:
-// - An empty variant is 0, False or the empty text. Null is the empty text, and raises EVariantTypeCastError as anything
-//   else.
-// - A number that the result cannot hold raises EVariantOverflowError; it never wraps. Floats, dates, currencies and
-//   decimals become integers by rounding, halves to the even one; infinity and NaN are out of range.
+// - An empty variant is 0, False or the empty text. Null is the empty text, and raises EVariantTypeCastError
+//   as anything else.
+// - A number that the result cannot hold raises EVariantOverflowError; it never wraps. Floats, dates,
+//   currencies and decimals become integers by rounding, halves to the even one; infinity and NaN are out of
+//   range.
 // - True is -1 as a number, as in OLE Automation, which an unsigned integer cannot hold.
-// - A text is read as StrToInt, StrToFloat, StrToDateTime, StrToCurr or StrToBool reads it, where an integer may also be
-//   written as a float. Any other text raises EVariantTypeCastError.
+// - A text is read as StrToInt, StrToFloat, StrToDateTime, StrToCurr or StrToBool reads it, where an integer
+//   may also be written as a float. Any other text raises EVariantTypeCastError.
 // - An error is the number of its code. Interfaces, objects and arrays raise EVariantTypeCastError.
 // All functions are pure and may run on any number of threads.
 #pragma once

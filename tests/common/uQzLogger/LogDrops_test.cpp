@@ -61,7 +61,7 @@ TEST(LogDrops, QueueAndBufferAreReported) {
     EXPECT_EQ(Hook.Notes, u"root/: More than 1000 messages arose while one was delivered|");
 }
 
-// The only report of a fault that is told once must not be lost.
+// A report that is made only once must not be lost.
 TEST(LogDrops, WhatAnotherThreadReportsWaitsForTheHook) {
     const TLogTree Tree;
     UnicodeString Notes;
